@@ -1,0 +1,38 @@
+# A room of the house: one folder, one static library named after it, made of every class in the folder.
+#   add_room(<name> [PUBLIC <libraries of its headers>] [PRIVATE <libraries of its sources>])
+
+option(VORN_WERROR "Treat warnings in the tool's own code as errors" ON)
+
+add_library(vorn_options INTERFACE)
+target_include_directories(vorn_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+if(MSVC)
+  target_compile_options(vorn_options INTERFACE /W4 /permissive- /utf-8 $<$<BOOL:${VORN_WERROR}>:/WX>)
+else()
+  target_compile_options(vorn_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion
+                                                $<$<BOOL:${VORN_WERROR}>:-Werror>)
+endif()
+
+function(add_room name)
+  cmake_parse_arguments(ROOM "" "" "PUBLIC;PRIVATE" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS *.h *.cpp)
+  if(NOT sources MATCHES "\\.cpp")
+    add_library(${name} INTERFACE) # TODO: remove once every room is built
+    return()
+  endif()
+  add_library(${name} STATIC ${sources})
+  target_link_libraries(${name} PUBLIC vorn_options ${ROOM_PUBLIC} PRIVATE ${ROOM_PRIVATE})
+endfunction()
+
+# The test program of a room: tests/<folder>/*.cpp, run offscreen by CTest under the name <name>.
+#   add_room_test(<name> <libraries>...)
+function(add_room_test name)
+  file(GLOB sources CONFIGURE_DEPENDS *.h *.cpp)
+  add_executable(${name} ${sources})
+  target_link_libraries(${name} PRIVATE vorn_options ${ARGN} Qt5::Test)
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_CURRENT_SOURCE_DIR}")
+  # Beside bin/, so that $(APP_DIR)/../etc and ../lib are the build tree's own.
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endfunction()

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QTabWidget>
+
+class ICoordSystem;
+class IDictionary;
+
+/// Shows and edits one coordinate system's parameter record.
+class DlgCoordParam : public QTabWidget {
+    Q_OBJECT
+
+public:
+    /// `readOnly` shows the record without letting the user edit it.
+    DlgCoordParam(ICoordSystem* coordSystem, QWidget* parent, bool readOnly);
+    ~DlgCoordParam() override;
+
+    /// Shows a copy of `record`. Never emits dataChanged().
+    void setCoordParam(const IDictionary& record);
+
+    /// The record as currently edited, owned by the panel. Unedited, it is exactly the record that was set: same keys,
+    /// same texts, same numbers, unknown keys included.
+    const IDictionary& getMetaData() const;
+
+Q_SIGNALS:
+    /// The user changed a value.
+    void dataChanged();
+};
