@@ -1,0 +1,43 @@
+#include "platform/utility/FormatText.h"
+
+#include <QtGlobal>
+
+#include <clocale>
+#include <cstdio>
+
+// The one place that must name its system: ISO C offers only setlocale(), which changes the locale under every thread.
+#ifdef Q_OS_WIN
+
+static int printInCLocale(char* buffer, size_t size, const char* format, va_list arguments) {
+    static const _locale_t cLocale = _create_locale(LC_ALL, "C");
+    if (size == 0)
+        return _vscprintf_l(format, cLocale, arguments);
+    return _vsnprintf_l(buffer, size, format, cLocale, arguments);
+}
+
+#else
+
+static int printInCLocale(char* buffer, size_t size, const char* format, va_list arguments) {
+    static const locale_t cLocale = newlocale(LC_ALL_MASK, "C", nullptr);
+    const locale_t current = uselocale(cLocale);
+    const int length = std::vsnprintf(buffer, size, format, arguments);
+    uselocale(current);
+    return length;
+}
+
+#endif
+
+QByteArray formatText(const char* format, va_list arguments) {
+    if (!format)
+        return {};
+    va_list measured;
+    va_copy(measured, arguments);
+    const int length = printInCLocale(nullptr, 0, format, measured);
+    va_end(measured);
+    if (length <= 0)
+        return {};
+    QByteArray text(length, Qt::Uninitialized);
+    // A QByteArray has room for the terminating NUL behind its size.
+    printInCLocale(text.data(), size_t(length) + 1, format, arguments);
+    return text;
+}
