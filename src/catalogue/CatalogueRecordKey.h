@@ -3,8 +3,8 @@
 /// The keys of an ellipsoid record. All values are texts.
 namespace EllipsoidKey {
 constexpr const char* name = "ellipsoid_name";
-constexpr const char* a = "ellipsoid_a"; ///< semi-major axis in metres
-constexpr const char* f = "ellipsoid_f"; ///< inverse flattening
+constexpr const char* a = "ellipsoid_a";       ///< semi-major axis in metres
+constexpr const char* f = "ellipsoid_f";       ///< inverse flattening
 constexpr const char* flag = "ellipsoid_flag"; ///< "0" the user's own; anything else, or missing, shipped and read-only
 } // namespace EllipsoidKey
 

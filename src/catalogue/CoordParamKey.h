@@ -1,41 +1,42 @@
 #pragma once
 
-/// The keys of one coordinate system's parameter record (an IDictionary). Lengths are in metres, angles in decimal degrees.
+/// The keys of one coordinate system's parameter record (an IDictionary). Lengths are in metres, angles in decimal
+/// degrees.
 namespace CoordParamKey {
 
 constexpr const char* name = "name";
 constexpr const char* ellipsoidName = "ellipsoid_name";
-constexpr const char* ellipsoidA = "ellipsoid_a"; ///< semi-major axis
-constexpr const char* ellipsoidF = "ellipsoid_f"; ///< inverse flattening a / (a - b); 0 for a sphere
+constexpr const char* ellipsoidA = "ellipsoid_a";   ///< semi-major axis
+constexpr const char* ellipsoidF = "ellipsoid_f";   ///< inverse flattening a / (a - b); 0 for a sphere
 constexpr const char* projectType = "project_type"; ///< a ProjectionKind
-constexpr const char* orgLon = "org_lon"; ///< longitude of the projection origin (central meridian)
-constexpr const char* orgLat = "org_lat"; ///< latitude of the projection origin
+constexpr const char* orgLon = "org_lon";           ///< longitude of the projection origin (central meridian)
+constexpr const char* orgLat = "org_lat";           ///< latitude of the projection origin
 constexpr const char* falseNorth = "false_north";
 constexpr const char* falseEast = "false_east";
-constexpr const char* factor = "factor"; ///< scale factor
+constexpr const char* factor = "factor";                ///< scale factor
 constexpr const char* cuttingRadius = "cutting_radius"; ///< a cos(phi) of the parallel of true scale phi
 constexpr const char* parallel1Lat = "parallel_1_lat";
 constexpr const char* parallel2Lat = "parallel_2_lat";
 constexpr const char* azimuth = "p_r"; ///< azimuth of the central line of an oblique projection
-constexpr const char* lon1 = "lon1"; ///< the two points of a projection given by two points
+constexpr const char* lon1 = "lon1";   ///< the two points of a projection given by two points
 constexpr const char* lat1 = "lat1";
 constexpr const char* lon2 = "lon2";
 constexpr const char* lat2 = "lat2";
 constexpr const char* shiftType = "_7type"; ///< 0 no datum shift, 2 seven parameters
-constexpr const char* shiftDx = "_7dx"; ///< translations
+constexpr const char* shiftDx = "_7dx";     ///< translations
 constexpr const char* shiftDy = "_7dy";
 constexpr const char* shiftDz = "_7dz";
 constexpr const char* shiftRx = "_7rx"; ///< rotations in degrees, position-vector convention
 constexpr const char* shiftRy = "_7ry";
 constexpr const char* shiftRz = "_7rz";
-constexpr const char* shiftPpm = "_7ppm"; ///< scale difference in parts per million
+constexpr const char* shiftPpm = "_7ppm";       ///< scale difference in parts per million
 constexpr const char* geoidName = "geoid_name"; ///< geoid model of the system's heights
 
 } // namespace CoordParamKey
 
 /// The values of "project_type". There is no 5.
 enum class ProjectionKind {
-    TransverseMercator = 0, ///< with the scale factor 1 (Gauss-Kruger); with factor 0 no projection is defined
+    TransverseMercator = 0,       ///< with the scale factor 1 (Gauss-Kruger); with factor 0 no projection is defined
     TransverseMercatorScaled = 1, ///< with any other scale factor (UTM)
     Mercator = 2,
     MercatorStandardParallel = 3, ///< with a parallel of true scale

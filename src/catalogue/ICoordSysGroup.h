@@ -2,8 +2,8 @@
 
 class IDictionary;
 
-/// One group of coordinate systems, handed out by ICoordSystem::getGroup() and owned by the catalogue: use it at once and
-/// keep no pointer to it across a change of the catalogue.
+/// One group of coordinate systems, handed out by ICoordSystem::getGroup() and owned by the catalogue: use it at once
+/// and keep no pointer to it across a change of the catalogue.
 ///
 /// Names are compared exactly and are unique within the group. Records that come back belong to the catalogue.
 class ICoordSysGroup {

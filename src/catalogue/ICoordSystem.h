@@ -3,12 +3,13 @@
 class ICoordSysGroup;
 class IDictionary;
 
-/// The catalogue: groups of coordinate systems, ellipsoids and geoid models. One object for the whole process, used from
-/// the GUI thread only.
+/// The catalogue: groups of coordinate systems, ellipsoids and geoid models. One object for the whole process, used
+/// from the GUI thread only.
 ///
-/// Texts are NUL-terminated 8-bit strings in the local encoding. Lists of names come back as one text, the names joined by
-/// "," in catalogue order; they stay valid until the next call. Names are compared exactly. Groups and records that come
-/// back belong to the catalogue; records that are handed in stay the caller's, the catalogue keeps a copy.
+/// Texts are NUL-terminated 8-bit strings in the local encoding. Lists of names come back as one text, the names joined
+/// by
+/// "," in catalogue order; they stay valid until the next call. Names are compared exactly. Groups and records that
+/// come back belong to the catalogue; records that are handed in stay the caller's, the catalogue keeps a copy.
 class ICoordSystem {
 public:
     virtual ~ICoordSystem() = default;

@@ -6,8 +6,8 @@
 /// and six decimals of a degree are 0.11 m on the ground. The text is what is shown; the number is what computing,
 /// copying and storing use. Setting a text drops the number.
 ///
-/// Keys and texts are NUL-terminated 8-bit strings in the local encoding. Texts that are handed out stay valid until the
-/// key is set or removed, or the dictionary is cleared or released.
+/// Keys and texts are NUL-terminated 8-bit strings in the local encoding. Texts that are handed out stay valid until
+/// the key is set or removed, or the dictionary is cleared or released.
 ///
 /// Dictionaries come from dictionary_get_instance() and go with dictionary_release_instance() (see Dictionary.h).
 class IDictionary {

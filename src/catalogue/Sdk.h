@@ -1,7 +1,7 @@
 #pragma once
 
-/// Whether an instance of this tool already runs for this user: non-zero when one does, whatever path it was started from.
-/// With `bringToFront` its window also comes to the front. An instance that crashed or was killed never counts.
+/// Whether an instance of this tool already runs for this user: non-zero when one does, whatever path it was started
+/// from. With `bringToFront` its window also comes to the front. An instance that crashed or was killed never counts.
 /// 0 makes this process the running instance until it ends.
 int instance_is_run(const char* executablePath, bool bringToFront);
 
