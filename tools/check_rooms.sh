@@ -1,0 +1,76 @@
+#!/usr/bin/env bash
+# Checks by their includes that the rooms of src/ depend on each other in one direction only.
+# Prints each include that is not allowed; exit code 1 when there is one.
+source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+cd "$root/src"
+
+# What every room of the tool may use of platform/: interfaces, never the classes behind them.
+interfaces='platform/desktop platform/projection'
+
+# Room: what it may include beside itself.
+declare -A allowed=(
+    [catalogue]=''
+    [platform/utility]='catalogue'
+    [platform/sdk]='catalogue platform/utility'
+    [platform/projection]='catalogue platform/utility'
+    [platform/projection/engine]='catalogue platform/utility platform/projection'
+    [platform/desktop]='catalogue platform/utility'
+    [import]="catalogue $interfaces"
+    [geodesy]="catalogue $interfaces"
+    [panel]="catalogue import $interfaces"
+    [tree]="catalogue import geodesy $interfaces"
+    [app]="catalogue tree panel $interfaces"
+)
+without_widgets='catalogue platform/utility platform/sdk platform/projection platform/projection/engine'
+widget_headers=$(pkg-config --variable=includedir Qt5Widgets)/QtWidgets
+
+# includes FOLDER: "file:line:included" for each include of its files.
+includes() {
+    grep -nHE '^ *# *include' "$1"/*.h "$1"/*.cpp 2>/dev/null |
+        sed -E 's/: *# *include *([<"][^>"]+[>"]).*/:\1/'
+}
+
+complaints=0
+complain() {
+    echo "src/$1: $2"
+    complaints=$((complaints + 1))
+}
+
+seen=0
+for room in $(find . -name '*.h' -printf '%P\n' -o -name '*.cpp' -printf '%P\n' | xargs -n 1 dirname | sort -u); do
+    if [ -z "${allowed[$room]+known}" ]; then
+        complain "$room" "this room is unknown to tools/check_rooms.sh"
+        continue
+    fi
+    while IFS= read -r found; do
+        seen=$((seen + 1))
+        place=${found%:*}
+        header=${found##*:}
+        name=${header:1:-1}
+        case $header in
+        \"*.moc\" | \"moc_*.cpp\") ;;
+        \"*)
+            target=$(dirname "$name")
+            case " $room ${allowed[$room]} " in
+            *" $target "*) ;;
+            *) complain "$place" "$room must not include $header" ;;
+            esac
+            ;;
+        \<gdal* | \<ogr* | \<cpl* | \<proj* | \<geodesic*)
+            [ "$room" = platform/projection/engine ] || complain "$place" "only platform/projection/engine uses $header"
+            ;;
+        *)
+            case " $without_widgets " in
+            *" $room "*)
+                if [[ $name == QtWidgets* ]] || [ -e "$widget_headers/$name" ]; then
+                    complain "$place" "$room must not use widgets: $header"
+                fi
+                ;;
+            esac
+            ;;
+        esac
+    done < <(includes "$room")
+done
+
+[ "$seen" -gt 0 ] || fail "No include was found: the check does not see the sources."
+[ "$complaints" -eq 0 ]
