@@ -5,8 +5,8 @@ using ProjHandle = const void*;
 
 struct ProjEllipsoid {
     const char* id;
-    double a; ///< semi-major axis in metres
-    double b; ///< semi-minor axis in metres
+    double a;         ///< semi-major axis in metres
+    double b;         ///< semi-minor axis in metres
     const char* name; ///< as the EPSG registry names it, or null
 };
 
@@ -14,17 +14,17 @@ struct ProjEllipsoid {
 struct ProjTowgs84 {
     double dx, dy, dz; ///< metres
     double rx, ry, rz; ///< arc-seconds
-    double ppm; ///< parts per million
+    double ppm;        ///< parts per million
 };
 
 /// Takes a PROJ.4 definition text apart. Null, an empty or an unreadable text give a handle whose definition is empty,
 /// whose ellipsoid is GRS 1980 and whose shift is zero. The handle is never released by the caller.
 ProjHandle InitializeProj(const char* definition);
 
-/// The normalised definition, items "+key=value" separated by blanks: lon_0, k_0, x_0, y_0 for a utm zone, longitudes from
-/// Greenwich, lengths in metres, k_0=1 where the kind has a scale and none is given; numbers with all their digits and
-/// without "+" inside. A definition that no kind of the parameter record holds exactly comes back without its projection
-/// and scale. Owned by the library.
+/// The normalised definition, items "+key=value" separated by blanks: lon_0, k_0, x_0, y_0 for a utm zone, longitudes
+/// from Greenwich, lengths in metres, k_0=1 where the kind has a scale and none is given; numbers with all their digits
+/// and without "+" inside. A definition that no kind of the parameter record holds exactly comes back without its
+/// projection and scale. Owned by the library.
 const char* GetProjDefine(ProjHandle handle);
 
 ProjEllipsoid GetProjEllipsoid(ProjHandle handle);
