@@ -1,9 +1,13 @@
 #pragma once
 
+#include "panel/CoordParamEditor.h"
+
 #include <QTabWidget>
+#include <QVector>
 
 class ICoordSystem;
 class IDictionary;
+class ParamTab;
 
 /// Shows and edits one coordinate system's parameter record.
 class DlgCoordParam : public QTabWidget {
@@ -24,4 +28,15 @@ public:
 Q_SIGNALS:
     /// The user changed a value.
     void dataChanged();
+
+private Q_SLOTS:
+    void _onRecordEdited();
+    void _onAngleNotationChanged();
+
+private:
+    void addParamTab(ParamTab* tab);
+    void refreshTabs(const QObject* except);
+
+    CoordParamEditor editor;
+    QVector<ParamTab*> tabs;
 };

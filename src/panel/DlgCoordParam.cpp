@@ -1,0 +1,50 @@
+#include "panel/DlgCoordParam.h"
+
+#include "panel/ParamTab.h"
+
+#include <QScrollArea>
+
+DlgCoordParam::DlgCoordParam(ICoordSystem* coordSystem, QWidget* parent, bool readOnly) : QTabWidget(parent) {
+    Q_UNUSED(coordSystem)
+    Q_UNUSED(readOnly)
+}
+
+DlgCoordParam::~DlgCoordParam() = default;
+
+void DlgCoordParam::setCoordParam(const IDictionary& record) {
+    editor.setRecord(record);
+    refreshTabs(nullptr);
+}
+
+const IDictionary& DlgCoordParam::getMetaData() const {
+    return editor.record();
+}
+
+void DlgCoordParam::addParamTab(ParamTab* tab) {
+    tabs.append(tab);
+    connect(tab, SIGNAL(recordEdited()), this, SLOT(_onRecordEdited()));
+    connect(tab, SIGNAL(angleNotationChanged()), this, SLOT(_onAngleNotationChanged()));
+
+    // Scrolls only where the window is too small for the tab.
+    auto* area = new QScrollArea;
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidget(tab);
+    addTab(area, tab->title());
+}
+
+void DlgCoordParam::refreshTabs(const QObject* except) {
+    for (ParamTab* tab : qAsConst(tabs)) {
+        if (tab != except)
+            tab->refresh();
+    }
+}
+
+void DlgCoordParam::_onRecordEdited() {
+    refreshTabs(sender());
+    Q_EMIT dataChanged();
+}
+
+void DlgCoordParam::_onAngleNotationChanged() {
+    refreshTabs(sender());
+}

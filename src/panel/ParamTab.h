@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QWidget>
+
+class CoordParamEditor;
+class IDictionary;
+
+/// One tab of the parameter panel: shows one side of the record and edits it in place.
+///
+/// A tab changes the record through editor() and then calls recordChanged(); the panel tells the other tabs and the
+/// window. Texts of tabs are translated in the panel's context: DlgCoordParam::tr().
+class ParamTab : public QWidget {
+    Q_OBJECT
+
+public:
+    /// `editor` outlives the tab.
+    ParamTab(CoordParamEditor& editor, bool readOnly, QWidget* parent);
+
+    /// The text on the tab, translated.
+    virtual QString title() const = 0;
+
+    /// The record, or the way in which angles are shown, changed elsewhere: shows it anew, now when the tab is visible,
+    /// else when it comes to the front.
+    void refresh();
+
+Q_SIGNALS:
+    /// The user changed the record on this tab.
+    void recordEdited();
+
+    /// The user chose the other way of showing angles on this tab.
+    void angleNotationChanged();
+
+protected:
+    /// Shows the whole record in the tab's widgets. Never changes it.
+    virtual void showRecord() = 0;
+
+    /// Tells the panel that the user changed the record on this tab.
+    void recordChanged() { Q_EMIT recordEdited(); }
+
+    CoordParamEditor& editor() const { return paramEditor; }
+    const IDictionary& record() const;
+    bool isReadOnly() const { return readOnly; }
+
+    void showEvent(QShowEvent* event) override;
+
+private:
+    CoordParamEditor& paramEditor;
+    bool readOnly;
+    bool stale = true;
+};
