@@ -1,0 +1,71 @@
+#include "support/ModalDriver.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QMenu>
+#include <QSet>
+#include <QTimer>
+
+namespace {
+
+int waiting = 0;
+
+// Polls until `act` could do its work; a test that never opens what it queued for ends by its own time limit.
+void whenever(const std::function<bool()>& act) {
+    ++waiting;
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, [timer, act] {
+        timer->stop();
+        if (act()) {
+            --waiting;
+            timer->deleteLater();
+        } else {
+            timer->start(1);
+        }
+    });
+    timer->start(0);
+}
+
+QSet<QWidget*>& driven() {
+    static QSet<QWidget*> dialogs;
+    return dialogs;
+}
+
+} // namespace
+
+void ModalDriver::onNextDialog(const std::function<void(QDialog*)>& act) {
+    whenever([act] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isVisible() || driven().contains(dialog))
+            return false;
+        driven().insert(dialog);
+        QObject::connect(dialog, &QDialog::finished, [dialog] { driven().remove(dialog); });
+        // Its own turn of the event loop: what is done may run nested dialogs, which other actions drive.
+        QTimer::singleShot(0, dialog, [act, dialog] { act(dialog); });
+        return true;
+    });
+}
+
+void ModalDriver::onNextMenu(const QString& choose, QStringList* entries) {
+    whenever([choose, entries] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu)
+            return false;
+        QAction* chosen = nullptr;
+        for (QAction* action : menu->actions()) {
+            if (entries)
+                entries->append(action->text());
+            if (action->text() == choose)
+                chosen = action;
+        }
+        menu->close();
+        if (chosen)
+            QTimer::singleShot(0, chosen, [chosen] { chosen->trigger(); });
+        return true;
+    });
+}
+
+int ModalDriver::pending() {
+    return waiting;
+}
