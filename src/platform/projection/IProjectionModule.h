@@ -1,5 +1,7 @@
 #pragma once
 
+class IEpsgRegistry;
+class IGeodesy;
 class IProjectionLibrary;
 class IWktReader;
 
@@ -11,6 +13,8 @@ public:
 
     virtual IProjectionLibrary& library() = 0;
     virtual IWktReader& wktReader() = 0;
+    virtual IGeodesy& geodesy() = 0;
+    virtual IEpsgRegistry& registry() = 0;
 };
 
 /// The module, loaded from "$(APP_DIR)/../lib" by the first call; null when it can't be loaded.

@@ -1,6 +1,6 @@
 #include "platform/projection/engine/ProjectionModule.h"
 
-ProjectionModule::ProjectionModule() : definitionLibrary(context) {
+ProjectionModule::ProjectionModule() : definitionLibrary(context), projGeodesy(context), epsgRegistry(context) {
 }
 
 IProjectionLibrary& ProjectionModule::library() {
@@ -9,4 +9,12 @@ IProjectionLibrary& ProjectionModule::library() {
 
 IWktReader& ProjectionModule::wktReader() {
     return reader;
+}
+
+IGeodesy& ProjectionModule::geodesy() {
+    return projGeodesy;
+}
+
+IEpsgRegistry& ProjectionModule::registry() {
+    return epsgRegistry;
 }

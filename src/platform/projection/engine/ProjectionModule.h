@@ -2,6 +2,8 @@
 
 #include "platform/projection/IProjectionModule.h"
 #include "platform/projection/engine/DefinitionLibrary.h"
+#include "platform/projection/engine/EpsgRegistry.h"
+#include "platform/projection/engine/Geodesy.h"
 #include "platform/projection/engine/ProjContext.h"
 #include "platform/projection/engine/WktReader.h"
 
@@ -12,9 +14,13 @@ public:
 
     IProjectionLibrary& library() override;
     IWktReader& wktReader() override;
+    IGeodesy& geodesy() override;
+    IEpsgRegistry& registry() override;
 
 private:
     ProjContext context;
     DefinitionLibrary definitionLibrary;
     WktReader reader;
+    Geodesy projGeodesy;
+    EpsgRegistry epsgRegistry;
 };

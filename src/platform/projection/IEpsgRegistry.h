@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QByteArray>
+
+#include <vector>
+
+/// One projected system of the registry. Texts are UTF-8.
+struct RegistrySystem {
+    QByteArray code; ///< EPSG code
+    QByteArray name;
+    QByteArray area;   ///< where it is used, in words
+    QByteArray method; ///< projection method as EPSG names it
+    bool deprecated;
+    bool hasExtent; ///< whether the four below are known
+    double west;    ///< bounding box of the area in degrees; west > east when it crosses the antimeridian
+    double south;
+    double east;
+    double north;
+};
+
+/// One shift of three or seven parameters from a system's datum to WGS 84.
+struct RegistryShift {
+    QByteArray name;
+    QByteArray area;
+    double accuracy;  ///< metres, or negative when unknown
+    double values[7]; ///< as PROJ's +towgs84: metres, arc-seconds (position vector), ppm
+};
+
+/// The EPSG registry in PROJ's database.
+class IEpsgRegistry {
+public:
+    virtual ~IEpsgRegistry() = default;
+
+    /// All projected systems, deprecated ones included, in order of their codes. Read by the first call (about 0.1 s);
+    /// empty when PROJ's database can't be found.
+    virtual const std::vector<RegistrySystem>& projectedSystems() = 0;
+
+    /// The shifts to WGS 84 that the registry has for the datum of `code` and that meet its area, PROJ's first choice
+    /// first (larger part of the area, then higher accuracy). Empty for an unknown code.
+    virtual std::vector<RegistryShift> datumShifts(const QByteArray& code) = 0;
+
+    /// The system `code` as WKT 2:2019, with `shift` (may be null) as its shift to WGS 84. Empty for an unknown code.
+    virtual QByteArray wkt(const QByteArray& code, const RegistryShift* shift) = 0;
+
+    /// The unit of the system's axes as EPSG names it ("metre", "US survey foot"); empty for an unknown code.
+    virtual QByteArray unitName(const QByteArray& code) = 0;
+};
