@@ -1,0 +1,64 @@
+#include "import/WktFile.h"
+
+#include "platform/projection/IProjectionModule.h"
+#include "platform/projection/IWktReader.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTextCodec>
+
+namespace {
+
+/// GDAL takes no WKT of more than 100,000 bytes, so no more is read, however large the file. The rest are blanks around
+/// it.
+constexpr qint64 longestText = 1024 * 1024;
+
+QByteArray readText(QFile& file) {
+    QByteArray text = file.read(longestText);
+    const int nul = text.indexOf('\0');
+    if (nul >= 0)
+        text.truncate(nul);
+    if (text.startsWith("\xEF\xBB\xBF"))
+        text.remove(0, 3);
+    return text.trimmed();
+}
+
+QByteArray toUtf8(const QByteArray& text) {
+    constexpr int utf8Mib = 106;
+    QTextCodec::ConverterState state;
+    QTextCodec::codecForMib(utf8Mib)->toUnicode(text.constData(), text.size(), &state);
+    if (state.invalidChars == 0 && state.remainingChars == 0)
+        return text;
+    const QTextCodec* const local = QTextCodec::codecForLocale();
+    const QTextCodec* const codec = local->mibEnum() == utf8Mib ? QTextCodec::codecForName("Windows-1252") : local;
+    return codec->toUnicode(text).toUtf8();
+}
+
+WktFile::Content contentOf(WktSystem::Content content) {
+    switch (content) {
+    case WktSystem::Content::Projected:
+        return WktFile::Content::Projected;
+    case WktSystem::Content::NotProjected:
+        return WktFile::Content::NotProjected;
+    case WktSystem::Content::Unreadable:
+        break;
+    }
+    return WktFile::Content::Unreadable;
+}
+
+} // namespace
+
+WktFile::WktFile(const QString& path) {
+    QFile file(path);
+    // Opening a pipe or a device could wait for ever.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return;
+    kind = Content::Unreadable;
+    IProjectionModule* const module = projectionModule();
+    if (!module)
+        return;
+    const WktSystem system = module->wktReader().read(toUtf8(readText(file)));
+    kind = contentOf(system.content);
+    projDefinition = system.definition;
+    systemName = QString::fromUtf8(system.name).replace(QLatin1Char(','), QLatin1Char('-'));
+}
