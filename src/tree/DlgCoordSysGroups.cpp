@@ -6,11 +6,15 @@
 #include "catalogue/ICoordSystem.h"
 #include "geodesy/DlgEllipsoid.h"
 #include "geodesy/DlgGeoid.h"
+#include "import/ProjDefineToCoordParam.h"
+#include "import/WktFile.h"
 #include "platform/desktop/VornMessageBox.h"
 #include "tree/DlgInputName.h"
+#include "tree/ImportProgress.h"
 
 #include <QAction>
 #include <QCursor>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTreeWidgetItemIterator>
@@ -302,4 +306,73 @@ void DlgCoordSysGroups::_onAddGeoidClicked() {
     DlgGeoid dialog(this, coordSystem, 0);
     dialog.exec();
     _onItemClicked(selectItemByText(currentCoordName), 0);
+}
+
+void DlgCoordSysGroups::_onImpCoordSystem() {
+    const QStringList paths =
+        QFileDialog::getOpenFileNames(this, tr("Selecte WKT file"), QString(), QStringLiteral("*.txt;;*.prj"));
+    if (paths.isEmpty())
+        return;
+
+    int addedCount = 0;
+    ImportProgress progress(this, paths.count());
+    for (const QString& path : paths) {
+        if (!progress.beginFile(path))
+            break;
+        const ImportResult result = importFile(path);
+        progress.endFile();
+        if (result == ImportResult::NoGroup)
+            break;
+        if (result == ImportResult::Added)
+            ++addedCount;
+        const QString message = importMessage(result);
+        if (!message.isNull())
+            VornMessageBox::information_ok(this, tr("Warning"), message);
+    }
+
+    if (addedCount > 0) {
+        loadTree();
+        Q_EMIT dataChanged();
+    }
+}
+
+DlgCoordSysGroups::ImportResult DlgCoordSysGroups::importFile(const QString& path) {
+    const WktFile file(path);
+    switch (file.content()) {
+    case WktFile::Content::NotOpened:
+        return ImportResult::Skipped;
+    case WktFile::Content::Unreadable:
+        return ImportResult::Failed;
+    case WktFile::Content::NotProjected:
+        return ImportResult::NotProjected;
+    case WktFile::Content::Projected:
+        break;
+    }
+
+    const DictionaryGuard record;
+    projDefineToCoordParam(InitializeProj(file.definition().constData()), record.get());
+    ICoordSysGroup* group = coordSystem->getGroup(currentGroupName.toLocal8Bit().constData());
+    if (!group)
+        return ImportResult::NoGroup;
+    const QByteArray name = file.name().toLocal8Bit();
+    dic_set_value(record.get(), CoordParamKey::name, "%s", name.constData());
+    if (group->hasCoordSystem(name.constData()))
+        return ImportResult::Exists;
+    return group->addCoordSystem(record.get()) ? ImportResult::Added : ImportResult::Skipped;
+}
+
+QString DlgCoordSysGroups::importMessage(ImportResult result) {
+    switch (result) {
+    case ImportResult::Failed:
+        return tr("Import file failed!");
+    case ImportResult::NotProjected:
+        return tr("Import file isn't projection coordinates!");
+    case ImportResult::Exists:
+        return tr("The Imported projection coordinates already exist in the group!");
+    case ImportResult::Added:
+    case ImportResult::Skipped:
+    case ImportResult::NoGroup:
+        break;
+    }
+    return QString();
 }

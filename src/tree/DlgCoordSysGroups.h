@@ -45,6 +45,8 @@ private:
     /// What an item stands for, stored under Qt::UserRole.
     enum Level { Root = 0, Group = 1, System = 2 };
 
+    enum class ImportResult { Added, Skipped, Failed, NotProjected, Exists, NoGroup };
+
     static int levelOf(const QTreeWidgetItem* item);
     static QTreeWidgetItem* newItem(Level level, const QString& name);
 
@@ -66,6 +68,10 @@ private:
     void addCoordSys(const QString& name);
     void updateSysGroupName(const QString& oldName, const QString& newName);
     void updateCoordSysName(const QString& oldName, const QString& newName);
+
+    ImportResult importFile(const QString& path);
+    /// The warning that a result calls for; null for none.
+    static QString importMessage(ImportResult result);
 
     ICoordSystem* coordSystem;
     std::unique_ptr<QMenu> rootMenu;
