@@ -52,7 +52,8 @@ std::optional<GeographicPoint> ProjectedSystem::toGeographic(const GridPoint& po
 }
 
 std::optional<LocalScale> ProjectedSystem::localScale(const GeographicPoint& point) const {
-    if (!isPlace(point))
+    // The differentiation steps aside from a point at infinity; the point itself has no scale.
+    if (!toGrid(point))
         return std::nullopt;
     proj_errno_reset(projection.get());
     const PJ_FACTORS factors = proj_factors(projection.get(), toRadians(point));
