@@ -14,6 +14,7 @@ declare -A allowed=(
     [platform/sdk]='catalogue platform/utility'
     [platform/projection]='catalogue platform/utility'
     [platform/projection/engine]='catalogue platform/utility platform/projection'
+    [platform/projection/module]='catalogue platform/utility platform/projection platform/projection/engine'
     [platform/desktop]='catalogue platform/utility'
     [import]="catalogue $interfaces"
     [geodesy]="catalogue $interfaces"
@@ -21,7 +22,8 @@ declare -A allowed=(
     [tree]="catalogue import geodesy $interfaces"
     [app]="catalogue tree panel $interfaces"
 )
-without_widgets='catalogue platform/utility platform/sdk platform/projection platform/projection/engine'
+without_widgets='catalogue platform/utility platform/sdk'
+without_widgets+=' platform/projection platform/projection/engine platform/projection/module'
 widget_headers=$(pkg-config --variable=includedir Qt5Widgets)/QtWidgets
 
 # includes FOLDER: "file:line:included" for each include of its files.
