@@ -1,0 +1,73 @@
+#!/usr/bin/python3
+"""How long the tool needs until its window is on the screen, against an empty Qt window in the same run.
+
+    bench/startup/startup.py [BUILD FOLDER, default build/release] [RUNS, default 15]
+
+Both programs start by turns on a virtual display of their own, the tool as on a fresh machine: with an empty home and the
+starter catalogue. Time is from the start of the process to the X server's word that its window is mapped. It prints the
+medians, the memory that is each program's own (private pages), and the ratios.
+"""
+
+import os
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+
+
+def private_memory(pid):
+    """Pages that no other process shares, in MiB."""
+    with open(f"/proc/{pid}/smaps_rollup", encoding="ascii") as rollup:
+        return sum(int(line.split()[1]) for line in rollup if line.startswith("Private")) / 1024
+
+
+def measure(program, environment, events):
+    """Seconds until the program's window is mapped, and its private memory then, in MiB."""
+    started = time.perf_counter()
+    process = subprocess.Popen([program], env=environment, stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    for line in events:
+        if line.startswith("MapNotify"):
+            break
+    seconds = time.perf_counter() - started
+    memory = private_memory(process.pid)
+    process.kill()
+    process.wait()
+    return seconds, memory
+
+
+def main():
+    build = os.path.abspath(sys.argv[1] if len(sys.argv) > 1 else "build/release")
+    runs = int(sys.argv[2]) if len(sys.argv) > 2 else 15
+    programs = {"empty window": os.path.join(build, "bin", "bench_startup_empty_window"),
+                "the tool": os.path.join(build, "bin", "coordsystem_manager")}
+    results = {name: [] for name in programs}
+    with tempfile.TemporaryDirectory() as home:
+        server = subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
+                                  stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        environment = {**os.environ, "DISPLAY": ":" + server.stdout.readline().strip(), "HOME": home, "TMPDIR": home,
+                       "XDG_RUNTIME_DIR": home}
+        watch = subprocess.Popen(["stdbuf", "-oL", "xev", "-root", "-event", "substructure"], env=environment,
+                                 stdout=subprocess.PIPE, text=True)
+        # Run 0 of each only warms the disk's cache.
+        for run in range(runs + 1):
+            for name, program in programs.items():
+                result = measure(program, environment, watch.stdout)
+                if run > 0:
+                    results[name].append(result)
+        watch.terminate()
+        server.terminate()
+        watch.wait()
+        server.wait()
+
+    medians = {}
+    for name, measured in results.items():
+        seconds, memory = (statistics.median(values) for values in zip(*measured))
+        medians[name] = seconds, memory
+        print(f"{name:14} {seconds * 1000:6.1f} ms  {memory:6.1f} MiB")
+    ratios = [tool / empty for tool, empty in zip(medians["the tool"], medians["empty window"])]
+    print(f"{'ratio':14} {ratios[0]:6.2f}     {ratios[1]:6.2f}")
+
+
+if __name__ == "__main__":
+    main()
