@@ -15,7 +15,7 @@
 QComboBox* CustomCatalogue::createNameBox() {
     auto* box = new QComboBox;
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    box->setMinimumContentsLength(28); // every name of the EPSG registry
+    box->setMinimumContentsLength(24);
     return box;
 }
 

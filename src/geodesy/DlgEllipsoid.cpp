@@ -20,14 +20,13 @@ using namespace CustomCatalogue;
 
 namespace {
 
-/// A field for a number in the C locale, whatever the system's is. What lies above the top can be typed all the same:
-/// in scientific notation the validator takes it for unfinished, not for wrong.
+/// A field for a number in the C locale, whatever the system's is. A decimal comma can be typed, so that it is seen and
+/// refused instead of swallowed. What lies above the top can be typed too: in scientific notation the validator takes
+/// it for unfinished, not for wrong.
 QLineEdit* createNumberEdit() {
     auto* edit = new QLineEdit;
     auto* validator = new QDoubleValidator(0.0, 65535.0, 12, edit);
-    QLocale locale = QLocale::c();
-    locale.setNumberOptions(QLocale::RejectGroupSeparator);
-    validator->setLocale(locale);
+    validator->setLocale(QLocale::c());
     edit->setValidator(validator);
     return edit;
 }

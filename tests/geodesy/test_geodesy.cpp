@@ -475,6 +475,7 @@ void TestGeodesy::deletion_data() {
     QTest::newRow("confirmed") << "mine" << 1;
     QTest::newRow("declined") << "mine" << 0;
     QTest::newRow("place marker in the name") << "%1 %2" << 1;
+    QTest::newRow("the only one") << "only" << 1;
 }
 
 void TestGeodesy::deletion() {
@@ -482,7 +483,8 @@ void TestGeodesy::deletion() {
     QFETCH(int, answer);
     for (const QString& kind : {ellipsoid, geoid}) {
         RecordingCatalogue catalogue;
-        fill(catalogue, kind);
+        if (name != "only")
+            fill(catalogue, kind);
         if (stored(catalogue, kind, name).isEmpty())
             addEntry(catalogue, kind, name, "0");
         const auto list = create(kind, &catalogue, ListMode);
@@ -497,6 +499,11 @@ void TestGeodesy::deletion() {
         QCOMPARE(catalogue.takeCalls().mid(0, 3),
                  answer ? QStringList("delete" + kind + "(" + name + ")") + saves(kind) : QStringList());
         QCOMPARE(stored(catalogue, kind, name).isEmpty(), answer == 1);
+        if (name == "only") {
+            QCOMPARE(nameBox(list.get())->count(), 0);
+            QCOMPARE(fields(kind, list.get())[0], QString());
+            continue;
+        }
         QCOMPARE(nameBox(list.get())->currentText(), answer ? QString("WGS 84") : name);
         QCOMPARE(button(list.get(), "Delete")->isEnabled(), answer == 0);
     }
@@ -544,7 +551,7 @@ void TestGeodesy::typedNumber_data() {
     QTest::newRow("inverse flattening") << "298.257223563"
                                         << "298.257223563";
     QTest::newRow("decimal comma") << "298,25"
-                                   << "29825";
+                                   << "298,25";
     QTest::newRow("sign") << "-5"
                           << "5";
     QTest::newRow("letters") << "0x1f nan"
