@@ -61,7 +61,7 @@ class Desktop:
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._start(
             ["dbus-daemon", "--session", "--nofork", "--nopidfile", "--nosyslog", "--print-address=1"])
         self._start(["openbox", "--sm-disable"], says_when_ready=False)
-        wait_for(lambda: "window id" in self._ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "the window manager")
+        wait_for(lambda: "window id" in ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "the window manager")
         # What was remembered could be out of date.
         Atspi.get_desktop(0).set_cache_mask(Atspi.Cache.NONE)
         # Menus are no window's children: they are only told of as they open.
@@ -93,16 +93,17 @@ class Desktop:
                 process.stdout.close()
         self.processes.clear()
 
-    @staticmethod
-    def _ask(*command):
-        return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=False).stdout
-
     def picture(self, path):
         subprocess.run(["import", "-window", "root", path], check=False)
 
-    def visible_windows(self, pid):
-        """The X windows of a process that are on the screen, whatever they call themselves."""
-        return self._ask("xdotool", "search", "--onlyvisible", "--pid", str(pid)).split()
+
+def ask(*command):
+    return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=False).stdout
+
+
+def visible_windows(pid):
+    """The X windows of a process that are on the screen, lists and menus that dropped down included."""
+    return ask("xdotool", "search", "--onlyvisible", "--pid", str(pid)).split()
 
 
 def hands(*arguments):
@@ -222,8 +223,10 @@ class Widget:
 
     def choose(self, text):
         """Chooses an entry of a drop-down list: opens it, types the entry's first letters, confirms."""
+        pid = self.accessible.get_process_id()
+        before = len(visible_windows(pid))
         self.click()
-        wait_for(lambda: any(item.focused for item in self.walk_all("list item")), f"the list of {self.name!r}")
+        wait_for(lambda: len(visible_windows(pid)) > before, f"the list of {self.name!r} to drop down")
         type_text(text)
         press("Return")
         wait_for(lambda: self.name == text, f"{text!r} to be chosen, not {self.name!r}")

@@ -34,6 +34,9 @@ class Import(tool.ToolTest):
         chooser = self.tool.dialog("Selecte WKT file")
         chooser.find("text", "File name:").fill(self.files)
         press("Return")
+        chooser.find("combo box", self.files)
+        # The list of completions that typing opened takes the first click to close.
+        chooser.find("label", "File name:").click()
         chooser.find("combo box", "*.txt").choose("*.prj")
         listed = chooser.find("tree", "Files")
         first = sorted(name for name in os.listdir(self.files) if name.endswith(".prj"))[0]

@@ -3,7 +3,7 @@
 import os
 
 import tool
-from desktop import wait_for
+from desktop import visible_windows, wait_for
 
 CATALOGUE = "CoordinateSystem_custom.vcs"
 
@@ -72,7 +72,7 @@ class StartUp(tool.ToolTest):
         second = self.tool.launch()
         wait_for(lambda: second.poll() is not None, "the second instance to end")
         self.assertEqual(second.returncode, 0)
-        self.assertEqual(self.tool.desktop.visible_windows(second.pid), [])
+        self.assertEqual(visible_windows(second.pid), [])
         self.assertEqual(self.tool.titles(), [tool.TITLE])
 
         system = self.tool.items()[2]
