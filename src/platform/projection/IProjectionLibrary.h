@@ -9,7 +9,7 @@ public:
     virtual ~IProjectionLibrary() = default;
 
     virtual ProjHandle initialize(const char* definition) = 0;
-    virtual const char* define(ProjHandle handle) const = 0;
-    virtual ProjEllipsoid ellipsoid(ProjHandle handle) const = 0;
-    virtual ProjTowgs84 towgs84(ProjHandle handle) const = 0;
+    virtual const char* define(ProjHandle handle) = 0;
+    virtual ProjEllipsoid ellipsoid(ProjHandle handle) = 0;
+    virtual ProjTowgs84 towgs84(ProjHandle handle) = 0;
 };

@@ -20,12 +20,12 @@ ProjHandle InitializeProj(const char* definition) {
 }
 
 const char* GetProjDefine(ProjHandle handle) {
-    const IProjectionLibrary* const proj = library();
+    IProjectionLibrary* const proj = library();
     return proj ? proj->define(handle) : "";
 }
 
 ProjEllipsoid GetProjEllipsoid(ProjHandle handle) {
-    if (const IProjectionLibrary* const proj = library())
+    if (IProjectionLibrary* const proj = library())
         return proj->ellipsoid(handle);
     constexpr double a = 6378137.0;
     constexpr double inverseFlattening = 298.257222101;
@@ -33,6 +33,6 @@ ProjEllipsoid GetProjEllipsoid(ProjHandle handle) {
 }
 
 ProjTowgs84 GetTowgs84(ProjHandle handle) {
-    const IProjectionLibrary* const proj = library();
+    IProjectionLibrary* const proj = library();
     return proj ? proj->towgs84(handle) : ProjTowgs84{};
 }

@@ -1,21 +1,25 @@
 #include "platform/projection/engine/DefinitionLibrary.h"
 
-DefinitionLibrary::DefinitionLibrary(const ProjContext& context) : context(context) {
-}
-
 ProjHandle DefinitionLibrary::initialize(const char* definition) {
-    Q_UNUSED(context)
-    return definitions.insert(definition)->constData();
+    const QByteArray text = QByteArray(definition).simplified();
+    const auto known = definitions.find(text);
+    if (known != definitions.end())
+        return &known->second;
+    return &definitions.emplace(text, ProjDefinition(text, context, names)).first->second;
 }
 
-const char* DefinitionLibrary::define(ProjHandle handle) const {
-    return handle ? static_cast<const char*>(handle) : "";
+const ProjDefinition& DefinitionLibrary::definitionOf(ProjHandle handle) {
+    return *static_cast<const ProjDefinition*>(handle ? handle : initialize(""));
 }
 
-ProjEllipsoid DefinitionLibrary::ellipsoid(ProjHandle) const {
-    return {"GRS80", 6378137.0, 6356752.314140356, "GRS 1980"};
+const char* DefinitionLibrary::define(ProjHandle handle) {
+    return definitionOf(handle).text();
 }
 
-ProjTowgs84 DefinitionLibrary::towgs84(ProjHandle) const {
-    return {};
+ProjEllipsoid DefinitionLibrary::ellipsoid(ProjHandle handle) {
+    return definitionOf(handle).ellipsoid();
+}
+
+ProjTowgs84 DefinitionLibrary::towgs84(ProjHandle handle) {
+    return definitionOf(handle).towgs84();
 }

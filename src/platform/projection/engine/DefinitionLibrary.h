@@ -1,22 +1,26 @@
 #pragma once
 
 #include "platform/projection/IProjectionLibrary.h"
-#include "platform/projection/engine/ProjContext.h"
+#include "platform/projection/engine/EllipsoidNames.h"
+#include "platform/projection/engine/ProjDefinition.h"
 
-#include <QByteArray>
-#include <QSet>
+#include <map>
 
-/// The projection library over PROJ.4 definitions.
+/// The projection library over PROJ. It keeps each definition that it was asked for once; a handle is the address of
+/// one.
 class DefinitionLibrary : public IProjectionLibrary {
 public:
-    explicit DefinitionLibrary(const ProjContext& context);
+    explicit DefinitionLibrary(const ProjContext& context) : context(context), names(context) {}
 
     ProjHandle initialize(const char* definition) override;
-    const char* define(ProjHandle handle) const override;
-    ProjEllipsoid ellipsoid(ProjHandle handle) const override;
-    ProjTowgs84 towgs84(ProjHandle handle) const override;
+    const char* define(ProjHandle handle) override;
+    ProjEllipsoid ellipsoid(ProjHandle handle) override;
+    ProjTowgs84 towgs84(ProjHandle handle) override;
 
 private:
+    const ProjDefinition& definitionOf(ProjHandle handle);
+
     const ProjContext& context;
-    QSet<QByteArray> definitions;
+    EllipsoidNames names;
+    std::map<QByteArray, ProjDefinition> definitions;
 };

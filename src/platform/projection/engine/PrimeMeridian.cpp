@@ -1,0 +1,21 @@
+#include "platform/projection/engine/PrimeMeridian.h"
+
+#include "platform/projection/engine/ProjItems.h"
+
+#include <proj.h>
+
+#include <cmath>
+
+double primeMeridianOf(const ProjItems& items) {
+    const QByteArray name = items.text("pm");
+    for (const PJ_PRIME_MERIDIANS* named = proj_list_prime_meridians(); named->id; ++named) {
+        if (name == named->id)
+            return ProjItems::toAngle(named->defn);
+    }
+    return items.angle("pm", 0);
+}
+
+double fromGreenwich(double longitude, double primeMeridian) {
+    const double sum = longitude + primeMeridian;
+    return std::abs(sum) <= 180 ? sum : std::remainder(sum, 360);
+}

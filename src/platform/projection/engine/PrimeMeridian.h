@@ -1,0 +1,9 @@
+#pragma once
+
+class ProjItems;
+
+/// The longitude of a definition's prime meridian from Greenwich in degrees; NaN for one that PROJ does not know.
+double primeMeridianOf(const ProjItems& items);
+
+/// A longitude that is counted from a prime meridian, counted from Greenwich instead: -180 to 180 degrees.
+double fromGreenwich(double longitude, double primeMeridian);

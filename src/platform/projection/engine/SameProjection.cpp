@@ -1,0 +1,70 @@
+#include "platform/projection/engine/SameProjection.h"
+
+#include "platform/projection/engine/Datum.h"
+#include "platform/projection/engine/Ellipsoid.h"
+#include "platform/projection/engine/PrimeMeridian.h"
+#include "platform/projection/engine/ProjContext.h"
+#include "platform/projection/engine/ProjItems.h"
+#include "platform/projection/engine/ProjObject.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// The given definition as projection alone.
+QByteArray projectionOf(const ProjItems& given) {
+    static const char* const apart[] = {"axis",      "type",   "datum",   "towgs84", "nadgrids", "geoidgrids",
+                                        "vto_meter", "vunits", "no_defs", "wktext",  "title"};
+    QByteArray text;
+    for (const ProjItems::Item& item : given.all()) {
+        const bool kept =
+            std::none_of(std::begin(apart), std::end(apart), [&item](const char* key) { return item.key == key; });
+        if (kept)
+            text += " +" + item.key + (item.value.isEmpty() ? QByteArray() : '=' + item.value);
+    }
+    const Datum* const datum = Datum::named(given.text("datum"));
+    if (datum && !given.has("ellps"))
+        text += QByteArray(" +ellps=") + datum->ellipsoid;
+    return text;
+}
+
+QByteArray unitOf(const ProjItems& given) {
+    QByteArray text;
+    for (const char* key : {"units", "to_meter"}) {
+        if (given.has(key))
+            text += QByteArray(" +") + key + '=' + given.text(key);
+    }
+    return text;
+}
+
+PJ_COORD centreOf(const ProjItems& normalised) {
+    const char* const longitude = normalised.has("lonc") ? "lonc" : normalised.has("lon_1") ? "lon_1" : "lon_0";
+    const char* const latitude = normalised.has("lat_1") ? "lat_1" : "lat_0";
+    constexpr double farthestNorth = 80;
+    return proj_coord(normalised.angle(longitude, 0),
+                      std::clamp(normalised.angle(latitude, 0), -farthestNorth, farthestNorth), 0, 0);
+}
+
+} // namespace
+
+bool isSameProjection(const ProjContext& context, const ProjItems& given, const QByteArray& normalised,
+                      const Ellipsoid& ellipsoid) {
+    // Both compute in the given unit, so that PROJ sees whether it is one.
+    const QByteArray other = normalised + ellipsoid.definition() + unitOf(given);
+    const ProjObject left(proj_create(context.get(), projectionOf(given).constData()));
+    const ProjObject right(proj_create(context.get(), other.constData()));
+    if (!left || !right)
+        return false;
+    constexpr double offsets[][2] = {{-2.5, 1}, {1, -3}, {3, 2.5}};
+    constexpr double tolerance = 1e-6;
+    const PJ_COORD centre = centreOf(ProjItems(normalised));
+    return std::all_of(std::begin(offsets), std::end(offsets), [&](const auto& offset) {
+        const PJ_COORD place =
+            proj_coord(proj_torad(centre.v[0] + offset[0]), proj_torad(centre.v[1] + offset[1]), 0, 0);
+        const PJ_COORD a = proj_trans(left.get(), PJ_FWD, place);
+        const PJ_COORD b = proj_trans(right.get(), PJ_FWD, place);
+        // Not a number is not within the tolerance.
+        return std::hypot(a.xy.x - b.xy.x, a.xy.y - b.xy.y) < tolerance;
+    });
+}
