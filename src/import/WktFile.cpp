@@ -11,7 +11,7 @@ namespace {
 
 /// GDAL takes no WKT of more than 100,000 bytes, so no more is read, however large the file. The rest are blanks around
 /// it.
-constexpr qint64 longestText = 1024 * 1024;
+constexpr qint64 longestText = qint64{1024} * 1024;
 
 QByteArray readText(QFile& file) {
     QByteArray text = file.read(longestText);

@@ -19,7 +19,7 @@ public:
 QByteArray exportedDefinition(const OGRSpatialReference& reference) {
     char* text = nullptr;
     reference.exportToProj4(&text);
-    const QByteArray definition(text);
+    QByteArray definition(text);
     CPLFree(text);
     return definition;
 }
