@@ -1,10 +1,17 @@
 #pragma once
 
+#include "catalogue/CoordParamKey.h"
 #include "catalogue/DictionaryGuard.h"
 
-class QByteArray;
+#include <optional>
 
-/// Edits one parameter record. A change of one key also changes the keys that depend on it by definition, and no other.
+struct FieldInput;
+struct ParamField;
+struct ProjectionFields;
+
+/// Edits one parameter record. A change of one key also changes the keys that depend on it by definition, and no other:
+/// - transverse Mercator is kind 0 with the scale factor 1 and kind 1 with any other;
+/// - "cutting_radius" follows the semi-major axis, so that the parallel of true scale stays where it is.
 class CoordParamEditor {
 public:
     const IDictionary& record() const { return *values; }
@@ -12,13 +19,44 @@ public:
     /// Starts over with a copy of `record`.
     void setRecord(const IDictionary& record);
 
-    /// Sets `key` to `text`.
-    void setValue(const char* key, const QByteArray& text);
+    /// Takes over what the user typed into a field; an input that is not valid changes nothing.
+    void setField(const ParamField& field, const FieldInput& input);
+
+    /// Takes over name, axis and flattening of an ellipsoid record, with the numbers behind the texts.
+    void setEllipsoid(const IDictionary& ellipsoid);
+
+    /// Makes the record a system of that kind. Values that the kind needs and that the record lacks, or that can't
+    /// stand in that kind, get initial values; the values that were there before come back with the next kind they fit,
+    /// unless they were edited since. Other kinds' values stay in the record.
+    void setKind(ProjectionKind kind);
+
+    /// No datum shift, or a seven-parameter one; parameters that are missing then start with 0.
+    void setShift(bool sevenParameters);
+
+    /// Reverses the three rotations: from the position-vector to the coordinate-frame convention or back.
+    void reverseRotations();
+
+    /// The name of the geoid model; an empty name removes it.
+    void setGeoid(const char* name);
 
     /// Takes over every key of `source`, with the numbers behind the texts; the record's other keys stay. When `source`
     /// says which datum shift there is ("_7type"), shift keys that it lacks are removed.
     void replaceValues(const IDictionary& source);
 
 private:
+    std::optional<ProjectionKind> kind() const;
+    std::optional<double> semiMajorAxis() const;
+
+    void put(const char* key, double value);
+    void restoreReplaced();
+    void forgetReplaced();
+    void complete(const ProjectionFields& fields);
+    void setParallel(std::optional<double> parallel);
+    void followFactor();
+    void followAxis(std::optional<double> parallel);
+
     DictionaryGuard values;
+    DictionaryGuard replaced;               ///< values that the choice of a kind replaced
+    DictionaryGuard initial;                ///< and by what
+    std::optional<double> replacedParallel; ///< parallel of true scale before Mercator was chosen, in degrees
 };

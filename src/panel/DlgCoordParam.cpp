@@ -1,12 +1,18 @@
 #include "panel/DlgCoordParam.h"
 
+#include "panel/DatumShiftTab.h"
+#include "panel/EllipsoidTab.h"
+#include "panel/HeightTab.h"
 #include "panel/ParamTab.h"
+#include "panel/ProjectionTab.h"
 
 #include <QScrollArea>
 
 DlgCoordParam::DlgCoordParam(ICoordSystem* coordSystem, QWidget* parent, bool readOnly) : QTabWidget(parent) {
-    Q_UNUSED(coordSystem)
-    Q_UNUSED(readOnly)
+    addParamTab(new EllipsoidTab(coordSystem, editor, readOnly, nullptr));
+    addParamTab(new ProjectionTab(editor, readOnly, nullptr));
+    addParamTab(new DatumShiftTab(editor, readOnly, nullptr));
+    addParamTab(new HeightTab(coordSystem, editor, readOnly, nullptr));
 }
 
 DlgCoordParam::~DlgCoordParam() = default;

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+
+/// How angles are shown.
+enum class AngleNotation { DecimalDegrees, DegreesMinutesSeconds };
+
+/// Which angle it is: says which compass letters may stand with it.
+enum class AngleRole { Latitude, Longitude, Azimuth };
+
+/// An angle as the user typed it.
+struct AngleInput {
+    bool valid = false;
+    double degrees = 0.0; ///< north and east positive
+    QString decimal;      ///< decimal degrees for the record: the digits as typed, or all digits of a converted angle
+    QString reason;       ///< translated; why a text that is not valid was refused
+};
+
+/// Angles as surveyors type and read them.
+class AngleText {
+    Q_DECLARE_TR_FUNCTIONS(DlgCoordParam)
+
+public:
+    /// Reads decimal degrees or degrees, minutes and seconds: 117.5, 117 30 00.5, 117°30'0.5"E, -0:45:30, 117-30-00.5,
+    /// S 45 30.5. The last part may have decimals; minutes and seconds lie below 60; a sign and a letter exclude each
+    /// other. The range is not looked at.
+    static AngleInput parse(const QString& text, AngleRole role);
+
+    /// The angle with all its digits (decimal), or to 1e-8 arc-seconds (3e-12 degrees) as 117°30'00.5".
+    static QString format(double degrees, AngleNotation notation);
+
+    /// The notation that the user chose, for all panels while the tool runs.
+    static AngleNotation notation() { return chosenNotation; }
+    static void setNotation(AngleNotation notation) { chosenNotation = notation; }
+
+private:
+    static QString letterMisfit(const QString& letter, AngleRole role);
+    static AngleInput parseUnified(const QString& text, AngleRole role);
+
+    static AngleNotation chosenNotation;
+};

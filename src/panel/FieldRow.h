@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QObject>
+
+class CoordParamEditor;
+class FieldEdit;
+class MessageLine;
+class QGridLayout;
+class QLabel;
+struct FieldInput;
+struct ParamField;
+
+/// One value of the record on a form: label, edit, unit, and a line below for what is wrong or worth knowing.
+///
+/// Every sound keystroke is in the record at once. A text that is refused stays, marked, while the record keeps its
+/// last good value; Escape brings that one back.
+class FieldRow : public QObject {
+    Q_OBJECT
+
+public:
+    /// Adds the row's widgets to `grid` from line `line` on (two lines, four columns). `editor` outlives the row.
+    FieldRow(CoordParamEditor& editor, bool readOnly, QGridLayout* grid, int line);
+
+    /// Which value the row shows; null hides the row. `field` outlives the row.
+    void setField(const ParamField* field);
+
+    /// Shows the record's value anew, in place of whatever was typed.
+    void showValue();
+
+    /// Angles are shown in another notation from now on. A refused text stays.
+    void showNotation();
+
+    /// A remark on the shown value, as long as the text is sound.
+    void setWarning(const QString& text);
+
+    const ParamField* field() const { return shownField; }
+    QWidget* widget() const;
+
+Q_SIGNALS:
+    /// The user typed a sound value; it is in the record.
+    void edited();
+
+private Q_SLOTS:
+    void _onTextEdited(const QString& text);
+    void _onEditingFinished();
+    void _onCancelled();
+    void _onFocusChanged();
+
+private:
+    void showState();
+    QString hint() const;
+
+    CoordParamEditor& editor;
+    const ParamField* shownField = nullptr;
+    QLabel* label;
+    FieldEdit* edit;
+    QLabel* unit;
+    MessageLine* message;
+    QString warning;
+    QString error; ///< why the text is refused; empty while it is sound
+};

@@ -1,0 +1,80 @@
+#include "panel/HeightTab.h"
+
+#include "catalogue/CatalogueRecordKey.h"
+#include "catalogue/CoordParamKey.h"
+#include "catalogue/Dictionary.h"
+#include "catalogue/ICoordSystem.h"
+#include "panel/CoordParamEditor.h"
+#include "panel/DlgCoordParam.h"
+#include "panel/MessageLine.h"
+#include "panel/SearchBox.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+HeightTab::HeightTab(ICoordSystem* coordSystem, CoordParamEditor& editor, bool readOnly, QWidget* parent)
+    : ParamTab(editor, readOnly, parent)
+    , coordSystem(coordSystem)
+    , geoidBox(new SearchBox)
+    , message(new MessageLine)
+    , file(new QLabel)
+    , ellipsoid(new QLabel) {
+    auto* grid = new QGridLayout(this);
+    grid->setVerticalSpacing(1);
+    auto* label = new QLabel(DlgCoordParam::tr("Geoid model"));
+    label->setBuddy(geoidBox);
+    geoidBox->setAccessibleName(label->text());
+    geoidBox->setReadOnly(readOnly);
+    grid->addWidget(label, 0, 0);
+    grid->addWidget(geoidBox, 0, 1);
+    grid->addWidget(message, 1, 1);
+    grid->addWidget(new QLabel(DlgCoordParam::tr("Model file")), 2, 0);
+    grid->addWidget(file, 2, 1);
+    grid->addWidget(new QLabel(DlgCoordParam::tr("Model ellipsoid")), 3, 0);
+    grid->addWidget(ellipsoid, 3, 1);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(4, 1);
+    for (QLabel* value : {file, ellipsoid})
+        value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+    connect(geoidBox, SIGNAL(listNeeded()), this, SLOT(_onListNeeded()));
+    connect(geoidBox, SIGNAL(chosen(QString)), this, SLOT(_onChosen(QString)));
+}
+
+QString HeightTab::title() const {
+    return DlgCoordParam::tr("Height");
+}
+
+void HeightTab::showRecord() {
+    _onListNeeded();
+    const QByteArray name = record().getValue(CoordParamKey::geoidName);
+    geoidBox->setShownName(name.isEmpty() ? DlgCoordParam::tr("(none)") : QString::fromLocal8Bit(name));
+
+    const IDictionary* geoid = name.isEmpty() ? nullptr : coordSystem->getGeoid(name.constData());
+    const QString unknown = QString(QChar(0x2013));
+    file->setText(geoid ? QString::fromLocal8Bit(geoid->getValue(GeoidKey::file)) : unknown);
+    ellipsoid->setText(geoid ? QString::fromLocal8Bit(geoid->getValue(GeoidKey::ellipsoid)) : unknown);
+
+    QString remark;
+    if (!name.isEmpty() && !geoid)
+        remark = DlgCoordParam::tr("Not in the list of geoid models.");
+    else if (geoid && QByteArray(geoid->getValue(GeoidKey::ellipsoid)) !=
+                          QByteArray(record().getValue(CoordParamKey::ellipsoidName)))
+        remark = DlgCoordParam::tr("The model refers to another ellipsoid than the system.");
+    message->setMessage(remark, MessageLine::Tone::Warning);
+}
+
+void HeightTab::_onListNeeded() {
+    const QByteArray names = coordSystem->getGeoidNames();
+    if (geoidBox->count() > 0 && names == listedNames)
+        return;
+    listedNames = names;
+    geoidBox->setNames(QStringList(DlgCoordParam::tr("(none)")) +
+                       QString::fromLocal8Bit(names).split(',', Qt::SkipEmptyParts));
+}
+
+void HeightTab::_onChosen(const QString& name) {
+    editor().setGeoid(name == DlgCoordParam::tr("(none)") ? "" : name.toLocal8Bit().constData());
+    showRecord();
+    recordChanged();
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+
+class IDictionary;
+
+/// Numbers as the user types and reads them: digits with a decimal point, whatever the system's language.
+class NumberText {
+public:
+    /// Reads a plain decimal number ("500000", "-0.5", ".5", "1e6"; blanks around it are allowed). A decimal comma,
+    /// grouped digits, "nan", "inf" and hexadecimal are no numbers. `plain` receives the text without blanks and "+",
+    /// its digits as typed. False leaves both untouched.
+    static bool parse(const QString& text, double* number, QString* plain);
+
+    /// The shortest decimal text that reads back as exactly `number`; without an exponent where that is legible.
+    static QString shortest(double number);
+
+    /// The value of `key` with all its digits: the number behind the text, else the text itself (without the trailing
+    /// zeros of a "%f"). Empty when the key is absent.
+    static QString ofRecord(const IDictionary& record, const char* key);
+
+    /// The number with the fewest digits that `convert` turns into `stored`, give or take `tolerance`, among the
+    /// roundings of `approximate`; `approximate` itself when none does. It undoes the noise of converting there and
+    /// back.
+    template <typename Convert>
+    static double fewestDigits(double approximate, double stored, double tolerance, Convert convert);
+};
+
+template <typename Convert>
+double NumberText::fewestDigits(double approximate, double stored, double tolerance, Convert convert) {
+    for (int digits = 1; digits < 17; ++digits) {
+        const double candidate = QString::number(approximate, 'g', digits).toDouble();
+        const double difference = convert(candidate) - stored;
+        if (difference >= -tolerance && difference <= tolerance)
+            return candidate;
+    }
+    return approximate;
+}

@@ -1,0 +1,115 @@
+#include "panel/ProjectionTab.h"
+
+#include "panel/CoordParamEditor.h"
+#include "panel/DlgCoordParam.h"
+#include "panel/FieldRow.h"
+#include "panel/MessageLine.h"
+#include "panel/ProjectionAdvice.h"
+#include "panel/ProjectionFields.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+
+#include <algorithm>
+
+ProjectionTab::ProjectionTab(CoordParamEditor& editor, bool readOnly, QWidget* parent)
+    : ParamTab(editor, readOnly, parent)
+    , problemLine(new MessageLine)
+    , kindBox(new QComboBox)
+    , notationBox(new QComboBox) {
+    auto* grid = new QGridLayout(this);
+    grid->setVerticalSpacing(1);
+    grid->addWidget(problemLine, 0, 0, 1, 4);
+    auto* kindLabel = new QLabel(DlgCoordParam::tr("Kind"));
+    kindLabel->setBuddy(kindBox);
+    kindBox->setAccessibleName(DlgCoordParam::tr("Kind of projection"));
+    kindBox->setPlaceholderText(DlgCoordParam::tr("Choose the kind"));
+    kindBox->setEnabled(!readOnly);
+    kindBox->setMaxVisibleItems(20);
+    kindBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    kindBox->setMinimumContentsLength(20);
+    kindBox->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    for (const ProjectionFields& kind : ProjectionFields::all())
+        kindBox->addItem(kind.nameText(), int(kind.kind));
+    grid->addWidget(kindLabel, 1, 0);
+    grid->addWidget(kindBox, 1, 1, 1, 3);
+    grid->setRowMinimumHeight(2, 10);
+
+    int line = 3;
+    size_t most = 0;
+    for (const ProjectionFields& kind : ProjectionFields::all())
+        most = std::max(most, kind.fields.size());
+    for (size_t i = 0; i < most; ++i, line += 2) {
+        auto* row = new FieldRow(editor, readOnly, grid, line);
+        connect(row, SIGNAL(edited()), this, SLOT(_onEdited()));
+        rows.append(row);
+    }
+    grid->setRowStretch(line, 1);
+
+    auto* notationLabel = new QLabel(DlgCoordParam::tr("Show angles in"));
+    notationLabel->setBuddy(notationBox);
+    notationBox->setAccessibleName(notationLabel->text());
+    notationBox->addItem(DlgCoordParam::tr("Decimal degrees"), int(AngleNotation::DecimalDegrees));
+    notationBox->addItem(DlgCoordParam::tr("Degrees, minutes, seconds"), int(AngleNotation::DegreesMinutesSeconds));
+    grid->addWidget(notationLabel, line + 1, 0);
+    grid->addWidget(notationBox, line + 1, 1, 1, 3, Qt::AlignLeft);
+
+    connect(kindBox, SIGNAL(activated(int)), this, SLOT(_onKindActivated(int)));
+    connect(notationBox, SIGNAL(activated(int)), this, SLOT(_onNotationActivated(int)));
+}
+
+QString ProjectionTab::title() const {
+    return DlgCoordParam::tr("Projection");
+}
+
+void ProjectionTab::showRecord() {
+    notationBox->setCurrentIndex(notationBox->findData(int(AngleText::notation())));
+    showKind();
+    for (int i = 0; i < rows.size(); ++i) {
+        const bool used = shownKind && size_t(i) < shownKind->fields.size();
+        rows[i]->setField(used ? &shownKind->fields[size_t(i)] : nullptr);
+        rows[i]->showValue();
+    }
+    showAdvice();
+}
+
+void ProjectionTab::showKind() {
+    shownKind = ProjectionFields::ofRecord(record());
+    // The code 0 also stands where no kind fits; then there is nothing to show before the user has chosen one.
+    if (ProjectionAdvice::fitsNoKind(record()))
+        shownKind = nullptr;
+    kindBox->setCurrentIndex(shownKind ? kindBox->findData(int(shownKind->kind)) : -1);
+}
+
+void ProjectionTab::showAdvice() {
+    const QString problem = ProjectionAdvice::problem(record());
+    problemLine->setMessage(problem, MessageLine::Tone::Error);
+    for (FieldRow* row : qAsConst(rows)) {
+        if (row->field())
+            row->setWarning(ProjectionAdvice::warning(*shownKind, *row->field(), record()));
+    }
+}
+
+void ProjectionTab::_onKindActivated(int index) {
+    const auto kind = ProjectionKind(kindBox->itemData(index).toInt());
+    if (shownKind && shownKind->kind == kind)
+        return;
+    editor().setKind(kind);
+    showRecord();
+    recordChanged();
+}
+
+void ProjectionTab::_onNotationActivated(int index) {
+    AngleText::setNotation(AngleNotation(notationBox->itemData(index).toInt()));
+    for (FieldRow* row : qAsConst(rows))
+        row->showNotation();
+    Q_EMIT angleNotationChanged();
+}
+
+void ProjectionTab::_onEdited() {
+    // A scale factor makes the one transverse Mercator kind of the other; their fields are the same.
+    showKind();
+    showAdvice();
+    recordChanged();
+}

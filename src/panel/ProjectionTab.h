@@ -1,0 +1,38 @@
+#pragma once
+
+#include "panel/ParamTab.h"
+
+#include <QVector>
+
+class FieldRow;
+class MessageLine;
+class QComboBox;
+struct ProjectionFields;
+
+/// The tab "Projection": the kind and the fields of that kind.
+class ProjectionTab : public ParamTab {
+    Q_OBJECT
+
+public:
+    ProjectionTab(CoordParamEditor& editor, bool readOnly, QWidget* parent);
+
+    QString title() const override;
+
+protected:
+    void showRecord() override;
+
+private Q_SLOTS:
+    void _onKindActivated(int index);
+    void _onNotationActivated(int index);
+    void _onEdited();
+
+private:
+    void showKind();
+    void showAdvice();
+
+    MessageLine* problemLine;
+    QComboBox* kindBox;
+    QComboBox* notationBox;
+    QVector<FieldRow*> rows;
+    const ProjectionFields* shownKind = nullptr;
+};
