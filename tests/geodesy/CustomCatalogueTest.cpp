@@ -1,11 +1,13 @@
+#include "geodesy/CustomCatalogue.h"
+
 #include "catalogue/CatalogueRecordKey.h"
 #include "catalogue/Dictionary.h"
 #include "catalogue/Path.h"
-#include "geodesy/CustomCatalogue.h"
 #include "geodesy/DlgEllipsoid.h"
 #include "geodesy/DlgGeoid.h"
 #include "support/MessageBoxDouble.h"
 #include "support/RecordingCatalogue.h"
+#include "support/RoomTest.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -16,7 +18,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
 #include <cstdarg>
@@ -152,7 +153,7 @@ void process_resolve_path(char* buffer, int size, const char* format, ...) {
     pathBufferSize = size;
 }
 
-class TestGeodesy : public QObject {
+class CustomCatalogueTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -186,28 +187,28 @@ private:
     int aliveAtStart = 0;
 };
 
-void TestGeodesy::initTestCase() {
+void CustomCatalogueTest::initTestCase() {
     qputenv("HOME", home.path().toLocal8Bit());
     qunsetenv("XDG_CONFIG_HOME");
     QLocale::setDefault(QLocale(QLocale::German));
 }
 
-void TestGeodesy::init() {
+void CustomCatalogueTest::init() {
     MessageBoxDouble::reset();
     appFolder = home.path();
     aliveAtStart = dictionary_alive_count();
 }
 
-void TestGeodesy::cleanup() {
+void CustomCatalogueTest::cleanup() {
     QCOMPARE(dictionary_alive_count(), aliveAtStart);
 }
 
-QStringList TestGeodesy::saves(const QString& kind) const {
+QStringList CustomCatalogueTest::saves(const QString& kind) const {
     const QString save = "save" + kind + "s(%1)";
     return {save.arg(""), save.arg(home.path() + "/Documents/ArvelaGnss/Data/" + kind + "_custom.xml")};
 }
 
-void TestGeodesy::modes_data() {
+void CustomCatalogueTest::modes_data() {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<int>("mode");
     QTest::addColumn<QString>("name");
@@ -227,7 +228,7 @@ void TestGeodesy::modes_data() {
                                 << QStringList{"Browser", "OK", "Cancel"};
 }
 
-void TestGeodesy::modes() {
+void CustomCatalogueTest::modes() {
     QFETCH(QString, kind);
     QFETCH(int, mode);
     RecordingCatalogue catalogue;
@@ -260,7 +261,7 @@ void TestGeodesy::modes() {
     QVERIFY(!button(dialog.get(), "OK") || child<QDialogButtonBox>(dialog.get(), 0));
 }
 
-void TestGeodesy::selection_data() {
+void CustomCatalogueTest::selection_data() {
     QTest::addColumn<QString>("flag");
     QTest::addColumn<bool>("own");
 
@@ -274,7 +275,7 @@ void TestGeodesy::selection_data() {
 }
 
 /// What the list enables for an entry that is selected, and what it shows of one without values.
-void TestGeodesy::selection() {
+void CustomCatalogueTest::selection() {
     QFETCH(QString, flag);
     for (const QString& kind : {ellipsoid, geoid}) {
         RecordingCatalogue catalogue;
@@ -294,7 +295,7 @@ void TestGeodesy::selection() {
     }
 }
 
-void TestGeodesy::emptyList_data() {
+void CustomCatalogueTest::emptyList_data() {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<bool>("nullList");
     QTest::newRow("ellipsoid, empty") << ellipsoid << false;
@@ -303,7 +304,7 @@ void TestGeodesy::emptyList_data() {
     QTest::newRow("geoid, null") << geoid << true;
 }
 
-void TestGeodesy::emptyList() {
+void CustomCatalogueTest::emptyList() {
     QFETCH(QString, kind);
     RecordingCatalogue catalogue;
     QFETCH(bool, nullList);
@@ -322,7 +323,7 @@ void TestGeodesy::emptyList() {
     QCOMPARE(catalogue.calls.filter(QRegExp("^(add|delete|save)")), QStringList());
 }
 
-void TestGeodesy::confirm_data() {
+void CustomCatalogueTest::confirm_data() {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<int>("mode");
     QTest::addColumn<QString>("name");
@@ -378,7 +379,7 @@ void TestGeodesy::confirm_data() {
     }
 }
 
-void TestGeodesy::confirm() {
+void CustomCatalogueTest::confirm() {
     QFETCH(QString, kind);
     QFETCH(int, mode);
     QFETCH(QString, name);
@@ -416,7 +417,7 @@ void TestGeodesy::confirm() {
     QCOMPARE(nameBox(dialog.get())->currentText(), name);
 }
 
-void TestGeodesy::nested_data() {
+void CustomCatalogueTest::nested_data() {
     QTest::addColumn<QString>("opener");
     QTest::addColumn<QString>("closer");
     QTest::addColumn<QString>("current"); // in the list afterwards; "mine" before
@@ -437,7 +438,7 @@ void TestGeodesy::nested_data() {
                                    << "mine";
 }
 
-void TestGeodesy::nested() {
+void CustomCatalogueTest::nested() {
     QFETCH(QString, opener);
     QFETCH(QString, closer);
     for (const QString& kind : {ellipsoid, geoid}) {
@@ -469,7 +470,7 @@ void TestGeodesy::nested() {
     }
 }
 
-void TestGeodesy::deletion_data() {
+void CustomCatalogueTest::deletion_data() {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("answer");
     QTest::newRow("confirmed") << "mine" << 1;
@@ -478,7 +479,7 @@ void TestGeodesy::deletion_data() {
     QTest::newRow("the only one") << "only" << 1;
 }
 
-void TestGeodesy::deletion() {
+void CustomCatalogueTest::deletion() {
     QFETCH(QString, name);
     QFETCH(int, answer);
     for (const QString& kind : {ellipsoid, geoid}) {
@@ -509,7 +510,7 @@ void TestGeodesy::deletion() {
     }
 }
 
-void TestGeodesy::typedNameStaysTyped_data() {
+void CustomCatalogueTest::typedNameStaysTyped_data() {
     QTest::addColumn<QString>("typed");
     QTest::newRow("start of a name") << "WGS";
     QTest::newRow("other case") << "wgs 84";
@@ -517,7 +518,7 @@ void TestGeodesy::typedNameStaysTyped_data() {
 }
 
 /// Neither the name nor the values typed before it turn into those of an entry.
-void TestGeodesy::typedNameStaysTyped() {
+void CustomCatalogueTest::typedNameStaysTyped() {
     QFETCH(QString, typed);
     RecordingCatalogue catalogue;
     fill(catalogue, ellipsoid);
@@ -543,7 +544,7 @@ void TestGeodesy::typedNameStaysTyped() {
     QCOMPARE(fields(ellipsoid, dialog.get()), QStringList({"6378000", "298.30"}));
 }
 
-void TestGeodesy::typedNumber_data() {
+void CustomCatalogueTest::typedNumber_data() {
     QTest::addColumn<QString>("keys");
     QTest::addColumn<QString>("text");
     QTest::newRow("semi-major axis") << "6378137.000"
@@ -561,7 +562,7 @@ void TestGeodesy::typedNumber_data() {
 }
 
 /// The keys that the number fields take, in a locale whose decimal separator is a comma.
-void TestGeodesy::typedNumber() {
+void CustomCatalogueTest::typedNumber() {
     QFETCH(QString, keys);
     RecordingCatalogue catalogue;
     const auto dialog = create(ellipsoid, &catalogue, AddMode);
@@ -571,7 +572,7 @@ void TestGeodesy::typedNumber() {
     }
 }
 
-void TestGeodesy::modelFile_data() {
+void CustomCatalogueTest::modelFile_data() {
     QTest::addColumn<int>("mode");
     QTest::addColumn<QStringList>("chosen"); // one after the other; "" cancels the file dialog
     QTest::addColumn<QString>("file");       // what is stored
@@ -595,7 +596,7 @@ void TestGeodesy::modelFile_data() {
     QTest::newRow("folder's path too long") << int(AddMode) << QStringList(copy) << copy << "too long" << -1;
 }
 
-void TestGeodesy::modelFile() {
+void CustomCatalogueTest::modelFile() {
     QFETCH(int, mode);
     QFETCH(QStringList, chosen);
     QFETCH(QString, file);
@@ -637,5 +638,5 @@ void TestGeodesy::modelFile() {
     QVERIFY(!QApplication::overrideCursor());
 }
 
-QTEST_MAIN(TestGeodesy)
-#include "test_geodesy.moc"
+ROOM_TEST_MAIN(CustomCatalogueTest)
+#include "CustomCatalogueTest.moc"
