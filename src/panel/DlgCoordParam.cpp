@@ -1,6 +1,8 @@
 #include "panel/DlgCoordParam.h"
 
+#include "panel/CheckTab.h"
 #include "panel/DatumShiftTab.h"
+#include "panel/DefinitionTab.h"
 #include "panel/EllipsoidTab.h"
 #include "panel/HeightTab.h"
 #include "panel/ParamTab.h"
@@ -13,6 +15,8 @@ DlgCoordParam::DlgCoordParam(ICoordSystem* coordSystem, QWidget* parent, bool re
     addParamTab(new ProjectionTab(editor, readOnly, nullptr));
     addParamTab(new DatumShiftTab(editor, readOnly, nullptr));
     addParamTab(new HeightTab(coordSystem, editor, readOnly, nullptr));
+    addParamTab(new CheckTab(editor, readOnly, nullptr));
+    addParamTab(new DefinitionTab(editor, readOnly, nullptr));
 }
 
 DlgCoordParam::~DlgCoordParam() = default;

@@ -82,8 +82,8 @@ public:
     /// when PROJ can't make a projection of it. An item +towgs84 (3 or 7 values) is the shift.
     virtual std::unique_ptr<IProjectedSystem> createSystem(const QByteArray& definition) = 0;
 
-    /// The definition as WKT, the system and its ellipsoid named as given, on several lines where the dialect allows;
-    /// numbers with 15 digits. Empty when the dialect can't express the definition.
+    /// The definition as WKT, the system and its ellipsoid named as given; numbers with 15 digits. On one line, as
+    /// files hold it, or `indented` on many for reading. Empty when the dialect can't express the definition.
     virtual QByteArray exportWkt(const QByteArray& definition, const QByteArray& name, const QByteArray& ellipsoidName,
-                                 WktDialect dialect) = 0;
+                                 WktDialect dialect, bool indented) = 0;
 };

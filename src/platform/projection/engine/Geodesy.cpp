@@ -109,9 +109,9 @@ std::unique_ptr<IProjectedSystem> Geodesy::createSystem(const QByteArray& defini
 }
 
 QByteArray Geodesy::exportWkt(const QByteArray& definition, const QByteArray& name, const QByteArray& ellipsoidName,
-                              WktDialect dialect) {
+                              WktDialect dialect, bool indented) {
     static constexpr PJ_WKT_TYPE types[] = {PJ_WKT1_GDAL, PJ_WKT1_ESRI, PJ_WKT2_2019};
-    static constexpr const char* options[] = {"MULTILINE=YES", "INDENTATION_WIDTH=4", nullptr};
+    const char* const options[] = {indented ? "MULTILINE=YES" : "MULTILINE=NO", nullptr};
     const DefinitionParts parts = splitDefinition(definition);
     ProjObject crs = namedSystem(context.get(), parts.projection, name, ellipsoidName);
     if (crs && !parts.shift.isEmpty())

@@ -12,7 +12,7 @@ public:
 
     std::unique_ptr<IProjectedSystem> createSystem(const QByteArray& definition) override;
     QByteArray exportWkt(const QByteArray& definition, const QByteArray& name, const QByteArray& ellipsoidName,
-                         WktDialect dialect) override;
+                         WktDialect dialect, bool indented) override;
 
 private:
     ProjContext& context;

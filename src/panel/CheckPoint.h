@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/projection/IGeodesy.h"
+
+#include <optional>
+
+/// One point computed through a system, with all there is to know of it there.
+struct CheckPoint {
+    /// The datum of a latitude, longitude and height.
+    enum class Datum { Own, Wgs84 };
+
+    GeographicPoint own;
+    GeographicPoint wgs84; ///< equal to `own` where the system has no datum shift
+    GridPoint grid;
+    LocalScale scale;
+    double elevationFactor; ///< R / (R + height) with the ellipsoid's mean radius R at the point
+    double closingError;    ///< metres between the input and what comes back from the opposite computation
+
+    /// Scale factor from a distance at the point's height to the grid (NOAA Manual NOS NGS 5, section 4.2).
+    double combinedFactor() const { return scale.mean * elevationFactor; }
+
+    const GeographicPoint& on(Datum datum) const { return datum == Datum::Own ? own : wgs84; }
+
+    /// From latitude, longitude and height on `datum`. Nothing where the system gives no result.
+    static std::optional<CheckPoint> fromGeographic(const IProjectedSystem& system, const GeographicPoint& point,
+                                                    Datum datum);
+
+    /// From easting and northing, with the ellipsoidal height (metres) on `datum`.
+    static std::optional<CheckPoint> fromGrid(const IProjectedSystem& system, const GridPoint& point, double height,
+                                              Datum datum);
+};

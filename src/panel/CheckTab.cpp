@@ -1,0 +1,75 @@
+#include "panel/CheckTab.h"
+
+#include "catalogue/CoordParamKey.h"
+#include "catalogue/Dictionary.h"
+#include "import/CoordParamToProjDefine.h"
+#include "panel/AngleNotationBox.h"
+#include "panel/CheckPointPane.h"
+#include "panel/DlgCoordParam.h"
+#include "panel/MessageLine.h"
+#include "panel/ProjectionAdvice.h"
+#include "platform/projection/IGeodesy.h"
+#include "platform/projection/IProjectionModule.h"
+
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+CheckTab::CheckTab(CoordParamEditor& editor, bool readOnly, QWidget* parent) : ParamTab(editor, readOnly, parent) {
+}
+
+CheckTab::~CheckTab() = default;
+
+QString CheckTab::title() const {
+    return DlgCoordParam::tr("Check");
+}
+
+void CheckTab::build() {
+    problemLine = new MessageLine;
+    pages = new QTabWidget;
+    pages->setDocumentMode(true);
+    pointPane = new CheckPointPane;
+    pages->addTab(pointPane, DlgCoordParam::tr("Point"));
+
+    notationBox = new AngleNotationBox;
+    notationBox->setAccessibleName(DlgCoordParam::tr("Show angles in"));
+    notationBox->setToolTip(notationBox->accessibleName());
+    pages->setCornerWidget(notationBox);
+    connect(notationBox, SIGNAL(notationChosen()), this, SLOT(_onNotationChosen()));
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(problemLine);
+    layout->addWidget(pages, 1);
+}
+
+void CheckTab::showRecord() {
+    if (!pages)
+        build();
+    QString problem = ProjectionAdvice::problem(record());
+    const QByteArray wanted = problem.isEmpty() ? coordParamToProjDefine(record()) : QByteArray();
+    if (!wanted.isEmpty() && wanted != definition) {
+        IProjectionModule* const module = projectionModule();
+        system = module ? module->geodesy().createSystem(wanted) : nullptr;
+    } else if (wanted.isEmpty()) {
+        system.reset();
+    }
+    definition = wanted;
+    if (problem.isEmpty() && !system)
+        problem = DlgCoordParam::tr("These parameters give no projection that can be computed.");
+    problemLine->setMessage(problem, MessageLine::Tone::Error);
+    problemLine->setVisible(!problem.isEmpty());
+    pages->setEnabled(system != nullptr);
+    notationBox->showNotation();
+    showSystem();
+}
+
+void CheckTab::showSystem() {
+    const GridPoint origin{dictionary_number(record(), CoordParamKey::falseEast, 0.0),
+                           dictionary_number(record(), CoordParamKey::falseNorth, 0.0)};
+    pointPane->showNotation();
+    pointPane->setSystem(system.get(), origin, QString::fromLocal8Bit(record().getValue(CoordParamKey::name)));
+}
+
+void CheckTab::_onNotationChosen() {
+    pointPane->showNotation();
+    Q_EMIT angleNotationChanged();
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "panel/ParamTab.h"
+
+#include <memory>
+
+class AngleNotationBox;
+class CheckPointPane;
+class IProjectedSystem;
+class MessageLine;
+class QTabWidget;
+
+/// The tab "Check": whether the system does what it should.
+///
+/// Nothing is built or computed before the tab is first shown.
+class CheckTab : public ParamTab {
+    Q_OBJECT
+
+public:
+    CheckTab(CoordParamEditor& editor, bool readOnly, QWidget* parent);
+    ~CheckTab() override;
+
+    QString title() const override;
+
+protected:
+    void showRecord() override;
+
+private Q_SLOTS:
+    void _onNotationChosen();
+
+private:
+    void build();
+    void showSystem();
+
+    std::unique_ptr<IProjectedSystem> system;
+    QByteArray definition; ///< of `system`
+    MessageLine* problemLine = nullptr;
+    AngleNotationBox* notationBox = nullptr;
+    QTabWidget* pages = nullptr;
+    CheckPointPane* pointPane = nullptr;
+};

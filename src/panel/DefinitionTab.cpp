@@ -1,0 +1,170 @@
+#include "panel/DefinitionTab.h"
+
+#include "catalogue/CoordParamKey.h"
+#include "catalogue/DictionaryGuard.h"
+#include "import/CoordParamToProjDefine.h"
+#include "panel/ChoiceBox.h"
+#include "panel/DefinitionImport.h"
+#include "panel/DlgCoordParam.h"
+#include "panel/MessageLine.h"
+#include "panel/ProjectionAdvice.h"
+#include "platform/desktop/VornMessageBox.h"
+#include "platform/projection/IGeodesy.h"
+#include "platform/projection/IProjectionModule.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSaveFile>
+#include <QVBoxLayout>
+
+namespace {
+
+QPlainTextEdit* newText(const QString& name) {
+    auto* text = new QPlainTextEdit;
+    text->setReadOnly(true);
+    text->setTabChangesFocus(true);
+    text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    text->setAccessibleName(name);
+    return text;
+}
+
+/// The system's name as a file name that every desktop takes.
+QString fileName(const IDictionary& record) {
+    QString name = QString::fromLocal8Bit(record.getValue(CoordParamKey::name)).simplified();
+    name.replace(QRegularExpression("[\\x00-\\x1f<>:\"/\\\\|?*]"), "_");
+    return name + ".prj";
+}
+
+} // namespace
+
+DefinitionTab::DefinitionTab(CoordParamEditor& editor, bool readOnly, QWidget* parent)
+    : ParamTab(editor, readOnly, parent) {
+}
+
+QString DefinitionTab::title() const {
+    return DlgCoordParam::tr("Definition");
+}
+
+void DefinitionTab::build() {
+    problemLine = new MessageLine;
+    definitionText = newText(DlgCoordParam::tr("PROJ definition"));
+    definitionText->setFixedHeight(definitionText->fontMetrics().lineSpacing() * 5 + 12);
+    auto* copyDefinitionButton = new QPushButton(DlgCoordParam::tr("Copy"));
+    dialectBox = new ChoiceBox;
+    dialectBox->setAccessibleName(DlgCoordParam::tr("WKT dialect"));
+    dialectBox->addItem(DlgCoordParam::tr("WKT 1 (GDAL)"), int(WktDialect::Wkt1Gdal));
+    dialectBox->addItem(DlgCoordParam::tr("WKT 1 (ESRI)"), int(WktDialect::Wkt1Esri));
+    dialectBox->addItem(DlgCoordParam::tr("WKT 2:2019"), int(WktDialect::Wkt2_2019));
+    copyWktButton = new QPushButton(DlgCoordParam::tr("Copy"));
+    saveButton = new QPushButton(DlgCoordParam::tr("Save as .prj"));
+    wktText = newText(DlgCoordParam::tr("WKT"));
+    wktText->setLineWrapMode(QPlainTextEdit::NoWrap);
+    remarkLine = new MessageLine;
+
+    auto* definitionRow = new QHBoxLayout;
+    definitionRow->addWidget(new QLabel(DlgCoordParam::tr("PROJ definition")));
+    definitionRow->addStretch();
+    definitionRow->addWidget(copyDefinitionButton);
+    auto* wktRow = new QHBoxLayout;
+    wktRow->addWidget(dialectBox);
+    wktRow->addStretch();
+    wktRow->addWidget(copyWktButton);
+    wktRow->addWidget(saveButton);
+    content = new QWidget;
+    auto* texts = new QVBoxLayout(content);
+    texts->setContentsMargins(0, 0, 0, 0);
+    texts->addLayout(definitionRow);
+    texts->addWidget(definitionText);
+    texts->addLayout(wktRow);
+    texts->addWidget(wktText, 1);
+    texts->addWidget(remarkLine);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(problemLine);
+    layout->addWidget(content, 1);
+    connect(dialectBox, SIGNAL(activated(int)), this, SLOT(_onDialectChosen()));
+    connect(copyDefinitionButton, SIGNAL(clicked()), this, SLOT(_onCopyDefinition()));
+    connect(copyWktButton, SIGNAL(clicked()), this, SLOT(_onCopyWkt()));
+    connect(saveButton, SIGNAL(clicked()), this, SLOT(_onSave()));
+}
+
+void DefinitionTab::showRecord() {
+    if (!content)
+        build();
+    QString problem = ProjectionAdvice::problem(record());
+    definition = problem.isEmpty() ? coordParamToProjDefine(record()) : QByteArray();
+    if (problem.isEmpty() && definition.isEmpty())
+        problem = DlgCoordParam::tr("These parameters give no projection that can be computed.");
+    problemLine->setMessage(problem, MessageLine::Tone::Error);
+    problemLine->setVisible(!problem.isEmpty());
+    content->setEnabled(!definition.isEmpty());
+    definitionText->setPlainText(QString::fromUtf8(definition));
+    showWkt();
+}
+
+QByteArray DefinitionTab::wkt(bool indented) const {
+    IProjectionModule* const module = definition.isEmpty() ? nullptr : projectionModule();
+    if (!module)
+        return {};
+    const QString name = QString::fromLocal8Bit(record().getValue(CoordParamKey::name));
+    const QString ellipsoid = QString::fromLocal8Bit(record().getValue(CoordParamKey::ellipsoidName));
+    return module->geodesy().exportWkt(definition, name.toUtf8(), ellipsoid.toUtf8(),
+                                       WktDialect(dialectBox->currentData().toInt()), indented);
+}
+
+void DefinitionTab::showWkt() {
+    const QByteArray text = wkt(true);
+    wktText->setPlainText(QString::fromUtf8(text));
+    copyWktButton->setEnabled(!text.isEmpty());
+    saveButton->setEnabled(!text.isEmpty());
+    remarkLine->setMessage(definition.isEmpty() ? QString() : remark(text), MessageLine::Tone::Warning);
+}
+
+/// What the text does not hold of the record, found by importing it.
+QString DefinitionTab::remark(const QByteArray& text) const {
+    if (text.isEmpty())
+        return DlgCoordParam::tr("This form can't express the system.");
+    const DictionaryGuard imported;
+    if (!DefinitionImport::read(text, imported.get()))
+        return DlgCoordParam::tr("This form can't be imported again.");
+    const QStringList lost = DefinitionImport::differences(record(), *imported);
+    if (!lost.isEmpty())
+        return DlgCoordParam::tr("Does not come back with an import of this form: %1.").arg(lost.join(", "));
+    // GDAL and PROJ read the method with false easting and northing at the projection centre.
+    if (dictionary_number(record(), CoordParamKey::projectType, 0.0) ==
+        double(ProjectionKind::ObliqueMercatorTwoPoints))
+        return DlgCoordParam::tr("Other software may count easting and northing from the natural origin.");
+    return QString();
+}
+
+void DefinitionTab::_onDialectChosen() {
+    showWkt();
+}
+
+void DefinitionTab::_onCopyDefinition() {
+    QApplication::clipboard()->setText(definitionText->toPlainText());
+}
+
+void DefinitionTab::_onCopyWkt() {
+    QApplication::clipboard()->setText(wktText->toPlainText());
+}
+
+void DefinitionTab::_onSave() {
+    QFileDialog dialog(this, DlgCoordParam::tr("Save as .prj"), QString(), "*.prj");
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix("prj");
+    dialog.selectFile(fileName(record()));
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    QSaveFile file(dialog.selectedFiles().first());
+    if (!file.open(QIODevice::WriteOnly) || file.write(wkt(false)) < 0 || !file.commit())
+        VornMessageBox::information_ok(this, DlgCoordParam::tr("Warning"),
+                                       DlgCoordParam::tr("The file can't be written: %1").arg(file.errorString()));
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "panel/ParamTab.h"
+
+enum class WktDialect;
+class ChoiceBox;
+class MessageLine;
+class QPlainTextEdit;
+class QPushButton;
+
+/// The tab "Definition": the record as PROJ definition and as WKT, to copy and to save as a .prj file, and the way to
+/// take another definition over from the registry.
+///
+/// Nothing is built or computed before the tab is first shown.
+class DefinitionTab : public ParamTab {
+    Q_OBJECT
+
+public:
+    DefinitionTab(CoordParamEditor& editor, bool readOnly, QWidget* parent);
+
+    QString title() const override;
+
+protected:
+    void showRecord() override;
+
+private Q_SLOTS:
+    void _onDialectChosen();
+    void _onCopyDefinition();
+    void _onCopyWkt();
+    void _onSave();
+
+private:
+    void build();
+    QByteArray wkt(bool indented) const;
+    void showWkt();
+    QString remark(const QByteArray& wkt) const;
+
+    QByteArray definition; ///< of the record; empty when it defines no projection
+    MessageLine* problemLine = nullptr;
+    QWidget* content = nullptr;
+    QPlainTextEdit* definitionText = nullptr;
+    ChoiceBox* dialectBox = nullptr;
+    QPlainTextEdit* wktText = nullptr;
+    MessageLine* remarkLine = nullptr;
+    QPushButton* saveButton = nullptr;
+    QPushButton* copyWktButton = nullptr;
+};
