@@ -116,6 +116,14 @@ void CoordParamEditor::setKind(ProjectionKind chosen) {
         followAxis(parallel);
 }
 
+double CoordParamEditor::initialValue(const ProjectionFields& fields, const ParamField& field) const {
+    // With one parallel the origin usually lies on it.
+    const double origin = dictionary_number(*values, orgLat, 0.0);
+    const bool isOriginsParallel = fields.kind == ProjectionKind::LambertOneParallel &&
+                                   std::strcmp(field.key, parallel1Lat) == 0 && origin != 0.0 && field.accepts(origin);
+    return isOriginsParallel ? origin : field.initial;
+}
+
 void CoordParamEditor::complete(const ProjectionFields& fields) {
     const bool degenerate = ProjectionAdvice::isDegenerate(fields, *values);
     for (const ParamField& field : fields.fields) {
@@ -123,7 +131,7 @@ void CoordParamEditor::complete(const ProjectionFields& fields) {
             continue;
         const bool isPartOfLine = field.quantity == Quantity::Latitude && std::strcmp(field.key, orgLat) != 0;
         if (!values->getValue(field.key) || !field.isSound(*values) || (degenerate && isPartOfLine))
-            put(field.key, field.initial);
+            put(field.key, initialValue(fields, field));
     }
     const bool isScaleOne = dictionary_number(*values, factor, 0.0) == 1.0;
     if ((fields.kind == ProjectionKind::TransverseMercator && !isScaleOne) ||

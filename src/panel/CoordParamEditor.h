@@ -50,6 +50,7 @@ private:
     void put(const char* key, double value);
     void restoreReplaced();
     void forgetReplaced();
+    double initialValue(const ProjectionFields& fields, const ParamField& field) const;
     void complete(const ProjectionFields& fields);
     void setParallel(std::optional<double> parallel);
     void followFactor();

@@ -2,33 +2,43 @@
 
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/Dictionary.h"
+#include "panel/ChoiceBox.h"
 #include "panel/CoordParamEditor.h"
 #include "panel/DatumFields.h"
 #include "panel/DlgCoordParam.h"
 #include "panel/FieldRow.h"
+#include "panel/MessageLine.h"
 
-#include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 
+namespace {
+
+constexpr int none = 0;
+constexpr int sevenParameters = 2;
+
+} // namespace
+
 DatumShiftTab::DatumShiftTab(CoordParamEditor& editor, bool readOnly, QWidget* parent)
     : ParamTab(editor, readOnly, parent)
-    , kindBox(new QComboBox)
+    , kindBox(new ChoiceBox)
     , convention(new QLabel)
-    , reverseButton(new QPushButton(DlgCoordParam::tr("Reverse rotation signs"))) {
+    , reverseButton(new QPushButton(DlgCoordParam::tr("Reverse rotation signs")))
+    , reverseMessage(new MessageLine) {
     auto* grid = new QGridLayout(this);
     grid->setVerticalSpacing(1);
     auto* kindLabel = new QLabel(DlgCoordParam::tr("Shift to WGS 84"));
     kindLabel->setBuddy(kindBox);
     kindBox->setAccessibleName(kindLabel->text());
-    kindBox->addItem(DlgCoordParam::tr("None"), false);
-    kindBox->addItem(DlgCoordParam::tr("Seven parameters"), true);
+    kindBox->addItem(DlgCoordParam::tr("None"), none);
+    kindBox->addItem(DlgCoordParam::tr("Seven parameters"), sevenParameters);
     kindBox->setEnabled(!readOnly);
     grid->addWidget(kindLabel, 0, 0);
     grid->addWidget(kindBox, 0, 1, 1, 3, Qt::AlignLeft);
+    grid->setRowMinimumHeight(1, 10);
 
-    int line = 1;
+    int line = 2;
     for (const ParamField& field : DatumFields::shift()) {
         auto* row = new FieldRow(editor, readOnly, grid, line);
         row->setField(&field);
@@ -38,9 +48,10 @@ DatumShiftTab::DatumShiftTab(CoordParamEditor& editor, bool readOnly, QWidget* p
     }
     convention->setWordWrap(true);
     grid->addWidget(convention, line, 0, 1, 4);
-    grid->addWidget(reverseButton, line + 1, 0, 1, 4, Qt::AlignLeft);
-    grid->setRowStretch(line + 2, 1);
-    reverseButton->setEnabled(!readOnly);
+    grid->setRowMinimumHeight(line + 1, 6);
+    grid->addWidget(reverseButton, line + 2, 0, 1, 2, Qt::AlignLeft);
+    grid->addWidget(reverseMessage, line + 3, 0, 1, 4);
+    grid->setRowStretch(line + 4, 1);
 
     connect(kindBox, SIGNAL(activated(int)), this, SLOT(_onKindActivated(int)));
     connect(reverseButton, SIGNAL(clicked()), this, SLOT(_onReverseClicked()));
@@ -51,36 +62,55 @@ QString DatumShiftTab::title() const {
 }
 
 void DatumShiftTab::showRecord() {
-    const double type = dictionary_number(record(), CoordParamKey::shiftType, 0.0);
-    const bool isSeven = type == 2.0;
-    kindBox->setCurrentIndex(isSeven || type == 0.0 ? kindBox->findData(isSeven) : -1);
-    const auto& fields = DatumFields::shift();
-    for (int i = 0; i < rows.size(); ++i) {
-        rows[i]->setField(isSeven ? &fields[size_t(i)] : nullptr);
-        rows[i]->showValue();
-    }
-    convention->setText(isSeven
-                            ? DlgCoordParam::tr("Rotations in the position-vector convention (EPSG method 9606, PROJ "
-                                                "towgs84). A three-parameter shift has zeros for the rest.\nFigures "
-                                                "published in the coordinate-frame convention (EPSG method 9607) have "
-                                                "the opposite rotation signs: type them as published, then reverse.")
-                            : DlgCoordParam::tr("The system's datum counts as WGS 84."));
-    reverseButton->setVisible(isSeven);
-    showWarnings();
+    showKind();
+    for (FieldRow* row : qAsConst(rows))
+        row->showValue();
+    showRemarks();
 }
 
-void DatumShiftTab::showWarnings() {
+void DatumShiftTab::showKind() {
+    const char* type = record().getValue(CoordParamKey::shiftType);
+    const double kind = dictionary_number(record(), CoordParamKey::shiftType, type && *type ? -1.0 : none);
+    const bool isSeven = kind == sevenParameters;
+    kindBox->setCurrentIndex(isSeven ? 1 : kind == none ? 0 : -1);
+    kindBox->setPlaceholderText(QString::fromLocal8Bit(type));
+    const auto& fields = DatumFields::shift();
+    for (int i = 0; i < rows.size(); ++i)
+        rows[i]->setField(isSeven ? &fields[size_t(i)] : nullptr);
+    reverseButton->setVisible(isSeven);
+    reverseMessage->setVisible(isSeven);
+
+    if (isSeven)
+        convention->setText(DlgCoordParam::tr(
+            "The rotations follow the position-vector convention (EPSG method 9606, PROJ towgs84). Figures published "
+            "in the coordinate-frame convention (EPSG method 9607) have the opposite signs: type them as published, "
+            "then reverse them. A three-parameter shift leaves rotations and scale difference 0."));
+    else if (kind == none)
+        convention->setText(DlgCoordParam::tr("The system's datum counts as WGS 84."));
+    else
+        convention->setText(DlgCoordParam::tr("This kind of shift is unknown here; it is kept as it is."));
+}
+
+void DatumShiftTab::showRemarks() {
+    double rotation;
+    bool turns = false;
     for (FieldRow* row : qAsConst(rows)) {
-        if (row->field())
-            row->setWarning(DatumFields::warning(*row->field(), record()));
+        if (!row->field())
+            continue;
+        row->setWarning(DatumFields::warning(*row->field(), record()));
+        turns = turns || (row->field()->quantity == Quantity::SmallRotation &&
+                          row->field()->read(record(), &rotation) && rotation != 0.0);
     }
+    reverseButton->setEnabled(turns && !isReadOnly());
+    reverseMessage->setMessage(QString(), MessageLine::Tone::Hint);
 }
 
 void DatumShiftTab::_onKindActivated(int index) {
-    const bool seven = kindBox->itemData(index).toBool();
-    if (dictionary_number(record(), CoordParamKey::shiftType, 0.0) == (seven ? 2.0 : 0.0))
+    const int kind = kindBox->itemData(index).toInt();
+    const char* type = record().getValue(CoordParamKey::shiftType);
+    if (type && dictionary_number(record(), CoordParamKey::shiftType, -1.0) == kind)
         return;
-    editor().setShift(seven);
+    editor().setShift(kind == sevenParameters);
     showRecord();
     recordChanged();
 }
@@ -88,10 +118,12 @@ void DatumShiftTab::_onKindActivated(int index) {
 void DatumShiftTab::_onReverseClicked() {
     editor().reverseRotations();
     showRecord();
+    reverseMessage->setMessage(DlgCoordParam::tr("The signs of all three rotations are reversed."),
+                               MessageLine::Tone::Hint);
     recordChanged();
 }
 
 void DatumShiftTab::_onEdited() {
-    showWarnings();
+    showRemarks();
     recordChanged();
 }

@@ -4,8 +4,9 @@
 
 #include <QVector>
 
+class ChoiceBox;
 class FieldRow;
-class QComboBox;
+class MessageLine;
 class QLabel;
 class QPushButton;
 
@@ -27,10 +28,12 @@ private Q_SLOTS:
     void _onEdited();
 
 private:
-    void showWarnings();
+    void showKind();
+    void showRemarks();
 
-    QComboBox* kindBox;
+    ChoiceBox* kindBox;
     QVector<FieldRow*> rows;
     QLabel* convention;
     QPushButton* reverseButton;
+    MessageLine* reverseMessage;
 };

@@ -20,7 +20,7 @@ HeightTab::HeightTab(ICoordSystem* coordSystem, CoordParamEditor& editor, bool r
     , file(new QLabel)
     , ellipsoid(new QLabel) {
     auto* grid = new QGridLayout(this);
-    grid->setVerticalSpacing(1);
+    grid->setVerticalSpacing(3);
     auto* label = new QLabel(DlgCoordParam::tr("Geoid model"));
     label->setBuddy(geoidBox);
     geoidBox->setAccessibleName(label->text());

@@ -54,11 +54,13 @@ QString ParamField::unitText(AngleNotation notation) const {
 QString ParamField::rangeText() const {
     if (quantity == Quantity::InverseFlattening)
         return tr("Allowed: 0 (sphere), or more than 1.");
-    QString unit = unitText(AngleNotation::DecimalDegrees);
-    if (!unit.isEmpty() && !isAngle() && quantity != Quantity::SmallRotation)
-        unit.prepend(' ');
-    return (endsExcluded ? tr("Allowed: more than %1, less than %2.") : tr("Allowed: %1 to %2."))
-        .arg(NumberText::shortest(minimum), NumberText::shortest(maximum) + unit);
+    const QString unit = unitText(AngleNotation::DecimalDegrees);
+    const bool isSign = isAngle() || quantity == Quantity::SmallRotation; // a sign stands close to its number
+    const QString end = NumberText::shortest(maximum) + (isSign || unit.isEmpty() ? unit : ' ' + unit);
+    if (endsExcluded)
+        return tr("Allowed: between %1 and %2.").arg(NumberText::shortest(minimum), end);
+    return minimum == -maximum ? tr("Allowed: ±%1.").arg(end)
+                               : tr("Allowed: %1 to %2.").arg(NumberText::shortest(minimum), end);
 }
 
 FieldInput ParamField::parse(const QString& text) const {
@@ -79,7 +81,8 @@ FieldInput ParamField::parse(const QString& text) const {
     } else {
         input.valid = NumberText::parse(text, &input.value, &plain);
         if (!input.valid)
-            input.reason = text.contains(',') ? tr("Use a decimal point, not a comma.") : tr("Not a number.");
+            input.reason =
+                text.contains(',') ? tr("Use a decimal point, not a comma.") : tr("Only digits and a decimal point.");
     }
     if (input.valid && !accepts(input.value))
         input.valid = false;

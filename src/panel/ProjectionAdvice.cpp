@@ -107,7 +107,7 @@ QString ProjectionAdvice::scaleWarning(const ProjectionFields& kind, const IDict
 QString ProjectionAdvice::trueScaleWarning(const ProjectionFields& kind, const IDictionary& record, double latitude) {
     if (kind.kind == ProjectionKind::Stereographic)
         return isPolar(record) ? QString() : tr("Without effect: the origin is no pole.");
-    return latitude == 0.0 ? tr("With 0° this is the Mercator projection without a standard parallel.") : QString();
+    return latitude == 0.0 ? tr("With 0° this is the plain Mercator projection.") : QString();
 }
 
 QString ProjectionAdvice::coneWarning(const ProjectionFields& kind, const IDictionary& record) {

@@ -10,8 +10,8 @@ using namespace CoordParamKey;
 
 constexpr double farthest = 1e9; ///< metres: a false easting may begin with the number of a zone
 
-ParamField originLatitude(const char* label) {
-    return {orgLat, Quantity::Latitude, label, -90.0, 90.0, 0.0};
+ParamField originLatitude(const char* label, double initial = 0.0) {
+    return {orgLat, Quantity::Latitude, label, -90.0, 90.0, initial};
 }
 
 /// A latitude that can't be a pole's.
@@ -100,7 +100,7 @@ const std::vector<ProjectionFields>& ProjectionFields::all() {
           length(falseEast, falseEasting), length(falseNorth, falseNorthing)}},
         {ProjectionKind::LambertOneParallel,
          QT_TRANSLATE_NOOP("DlgCoordParam", "Lambert conformal conic, one parallel"),
-         {originLatitude(latitudeOfOrigin), longitude(orgLon, centralMeridian),
+         {originLatitude(latitudeOfOrigin, 45.0), longitude(orgLon, centralMeridian),
           latitude(parallel1Lat, standardParallel, 45.0), scale(scaleFactor), length(falseEast, falseEasting),
           length(falseNorth, falseNorthing)}},
         {ProjectionKind::LambertTwoParallels,

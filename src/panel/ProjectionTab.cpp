@@ -1,5 +1,8 @@
 #include "panel/ProjectionTab.h"
 
+#include "panel/AngleNotationBox.h"
+#include "panel/AngleText.h"
+#include "panel/ChoiceBox.h"
 #include "panel/CoordParamEditor.h"
 #include "panel/DlgCoordParam.h"
 #include "panel/FieldRow.h"
@@ -7,7 +10,6 @@
 #include "panel/ProjectionAdvice.h"
 #include "panel/ProjectionFields.h"
 
-#include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
 
@@ -16,10 +18,14 @@
 ProjectionTab::ProjectionTab(CoordParamEditor& editor, bool readOnly, QWidget* parent)
     : ParamTab(editor, readOnly, parent)
     , problemLine(new MessageLine)
-    , kindBox(new QComboBox)
-    , notationBox(new QComboBox) {
+    , kindBox(new ChoiceBox)
+    , notationBox(new AngleNotationBox) {
     auto* grid = new QGridLayout(this);
     grid->setVerticalSpacing(1);
+    problemLine->setFont(font());
+    // The line for a problem takes the place of the upper margin, so that the forms of all tabs start level.
+    const QMargins margins = grid->contentsMargins();
+    grid->setContentsMargins(margins.left(), 0, margins.right(), margins.bottom());
     grid->addWidget(problemLine, 0, 0, 1, 4);
     auto* kindLabel = new QLabel(DlgCoordParam::tr("Kind"));
     kindLabel->setBuddy(kindBox);
@@ -27,8 +33,6 @@ ProjectionTab::ProjectionTab(CoordParamEditor& editor, bool readOnly, QWidget* p
     kindBox->setPlaceholderText(DlgCoordParam::tr("Choose the kind"));
     kindBox->setEnabled(!readOnly);
     kindBox->setMaxVisibleItems(20);
-    kindBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    kindBox->setMinimumContentsLength(20);
     kindBox->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     for (const ProjectionFields& kind : ProjectionFields::all())
         kindBox->addItem(kind.nameText(), int(kind.kind));
@@ -36,10 +40,15 @@ ProjectionTab::ProjectionTab(CoordParamEditor& editor, bool readOnly, QWidget* p
     grid->addWidget(kindBox, 1, 1, 1, 3);
     grid->setRowMinimumHeight(2, 10);
 
-    int line = 3;
     size_t most = 0;
-    for (const ProjectionFields& kind : ProjectionFields::all())
+    int widest = 0; // of all kinds' labels, so that the fields stand still when the kind changes
+    for (const ProjectionFields& kind : ProjectionFields::all()) {
         most = std::max(most, kind.fields.size());
+        for (const ParamField& field : kind.fields)
+            widest = std::max(widest, fontMetrics().horizontalAdvance(field.labelText()));
+    }
+    grid->setColumnMinimumWidth(0, widest);
+    int line = 3;
     for (size_t i = 0; i < most; ++i, line += 2) {
         auto* row = new FieldRow(editor, readOnly, grid, line);
         connect(row, SIGNAL(edited()), this, SLOT(_onEdited()));
@@ -50,13 +59,12 @@ ProjectionTab::ProjectionTab(CoordParamEditor& editor, bool readOnly, QWidget* p
     auto* notationLabel = new QLabel(DlgCoordParam::tr("Show angles in"));
     notationLabel->setBuddy(notationBox);
     notationBox->setAccessibleName(notationLabel->text());
-    notationBox->addItem(DlgCoordParam::tr("Decimal degrees"), int(AngleNotation::DecimalDegrees));
-    notationBox->addItem(DlgCoordParam::tr("Degrees, minutes, seconds"), int(AngleNotation::DegreesMinutesSeconds));
     grid->addWidget(notationLabel, line + 1, 0);
-    grid->addWidget(notationBox, line + 1, 1, 1, 3, Qt::AlignLeft);
+    grid->addWidget(notationBox, line + 1, 1, 1, 3);
+    notationBox->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 
     connect(kindBox, SIGNAL(activated(int)), this, SLOT(_onKindActivated(int)));
-    connect(notationBox, SIGNAL(activated(int)), this, SLOT(_onNotationActivated(int)));
+    connect(notationBox, SIGNAL(notationChosen()), this, SLOT(_onNotationChosen()));
 }
 
 QString ProjectionTab::title() const {
@@ -64,7 +72,7 @@ QString ProjectionTab::title() const {
 }
 
 void ProjectionTab::showRecord() {
-    notationBox->setCurrentIndex(notationBox->findData(int(AngleText::notation())));
+    notationBox->showNotation();
     showKind();
     for (int i = 0; i < rows.size(); ++i) {
         const bool used = shownKind && size_t(i) < shownKind->fields.size();
@@ -100,8 +108,7 @@ void ProjectionTab::_onKindActivated(int index) {
     recordChanged();
 }
 
-void ProjectionTab::_onNotationActivated(int index) {
-    AngleText::setNotation(AngleNotation(notationBox->itemData(index).toInt()));
+void ProjectionTab::_onNotationChosen() {
     for (FieldRow* row : qAsConst(rows))
         row->showNotation();
     Q_EMIT angleNotationChanged();

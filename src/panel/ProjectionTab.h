@@ -4,9 +4,10 @@
 
 #include <QVector>
 
+class AngleNotationBox;
+class ChoiceBox;
 class FieldRow;
 class MessageLine;
-class QComboBox;
 struct ProjectionFields;
 
 /// The tab "Projection": the kind and the fields of that kind.
@@ -23,7 +24,7 @@ protected:
 
 private Q_SLOTS:
     void _onKindActivated(int index);
-    void _onNotationActivated(int index);
+    void _onNotationChosen();
     void _onEdited();
 
 private:
@@ -31,8 +32,8 @@ private:
     void showAdvice();
 
     MessageLine* problemLine;
-    QComboBox* kindBox;
-    QComboBox* notationBox;
+    ChoiceBox* kindBox;
+    AngleNotationBox* notationBox;
     QVector<FieldRow*> rows;
     const ProjectionFields* shownKind = nullptr;
 };

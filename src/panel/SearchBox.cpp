@@ -25,7 +25,6 @@ SearchBox::SearchBox(QWidget* parent) : QComboBox(parent), filter(new QSortFilte
 
     connect(lineEdit(), SIGNAL(textEdited(QString)), this, SLOT(_onTextEdited(QString)));
     connect(this, SIGNAL(activated(int)), this, SLOT(_onActivated(int)));
-    connect(searching, SIGNAL(activated(QString)), this, SLOT(_onCompleted(QString)));
 }
 
 void SearchBox::setReadOnly(bool on) {
@@ -76,11 +75,6 @@ void SearchBox::_onActivated(int index) {
     choose(itemText(index));
 }
 
-void SearchBox::_onCompleted(const QString& name) {
-    if (name != shown)
-        choose(name);
-}
-
 bool SearchBox::event(QEvent* event) {
     // Keeps Escape from being taken as a shortcut, of a dialog for example.
     if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
@@ -94,8 +88,18 @@ void SearchBox::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Escape:
         event->accept();
+        completer()->popup()->hide();
         setShownName(shown);
         lineEdit()->selectAll();
+        return;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (lineEdit()->isModified() && filter->rowCount() == 1) {
+            completer()->popup()->hide();
+            choose(filter->index(0, 0).data().toString());
+            return;
+        }
+        QComboBox::keyPressEvent(event);
         return;
     case Qt::Key_Up:
     case Qt::Key_Down:

@@ -40,7 +40,6 @@ protected:
 private Q_SLOTS:
     void _onTextEdited(const QString& text);
     void _onActivated(int index);
-    void _onCompleted(const QString& name);
 
 private:
     void choose(const QString& name);
