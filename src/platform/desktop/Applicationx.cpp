@@ -9,6 +9,11 @@
 
 #include <clocale>
 
+// A static library's resources are linked only when they are asked for, which works from the global namespace only.
+static void initResources() {
+    Q_INIT_RESOURCE(desktop);
+}
+
 namespace {
 
 // The attributes must be set before QApplication is constructed, so this runs while its first argument is evaluated.
@@ -39,6 +44,7 @@ Applicationx::Applicationx(int& argc, char** argv, const char* applicationName, 
     setApplicationName(QString::fromLatin1(applicationName));
     // No display name: Qt would append it to every window title.
     setDesktopFileName(QFileInfo(QString::fromLatin1(toolPath)).fileName());
+    initResources();
     QIcon icon;
     for (const char* size : {"16", "32", "48", "128"})
         icon.addFile(QStringLiteral(":/desktop/coordsystem_manager_%1.png").arg(QLatin1String(size)));
