@@ -4,10 +4,12 @@
 #include "catalogue/DictionaryGuard.h"
 #include "import/CoordParamToProjDefine.h"
 #include "panel/ChoiceBox.h"
+#include "panel/CoordParamEditor.h"
 #include "panel/DefinitionImport.h"
 #include "panel/DlgCoordParam.h"
 #include "panel/MessageLine.h"
 #include "panel/ProjectionAdvice.h"
+#include "panel/RegistryDialog.h"
 #include "platform/desktop/VornMessageBox.h"
 #include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
@@ -69,6 +71,9 @@ void DefinitionTab::build() {
     wktText->setLineWrapMode(QPlainTextEdit::NoWrap);
     remarkLine = new MessageLine;
 
+    registryButton = new QPushButton(DlgCoordParam::tr("From registry..."));
+    registryButton->setEnabled(!isReadOnly());
+
     auto* definitionRow = new QHBoxLayout;
     definitionRow->addWidget(new QLabel(DlgCoordParam::tr("PROJ definition")));
     definitionRow->addStretch();
@@ -89,10 +94,12 @@ void DefinitionTab::build() {
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(problemLine);
     layout->addWidget(content, 1);
+    layout->addWidget(registryButton, 0, Qt::AlignLeft);
     connect(dialectBox, SIGNAL(activated(int)), this, SLOT(_onDialectChosen()));
     connect(copyDefinitionButton, SIGNAL(clicked()), this, SLOT(_onCopyDefinition()));
     connect(copyWktButton, SIGNAL(clicked()), this, SLOT(_onCopyWkt()));
     connect(saveButton, SIGNAL(clicked()), this, SLOT(_onSave()));
+    connect(registryButton, SIGNAL(clicked()), this, SLOT(_onFromRegistry()));
 }
 
 void DefinitionTab::showRecord() {
@@ -167,4 +174,18 @@ void DefinitionTab::_onSave() {
     if (!file.open(QIODevice::WriteOnly) || file.write(wkt(false)) < 0 || !file.commit())
         VornMessageBox::information_ok(this, DlgCoordParam::tr("Warning"),
                                        DlgCoordParam::tr("The file can't be written: %1").arg(file.errorString()));
+}
+
+void DefinitionTab::_onFromRegistry() {
+    IProjectionModule* const module = projectionModule();
+    if (!module)
+        return;
+    RegistryDialog dialog(module->registry(), this);
+    const DictionaryGuard chosen;
+    if (dialog.exec() != QDialog::Accepted || !DefinitionImport::read(dialog.wkt(), chosen.get()))
+        return;
+    chosen->remove(CoordParamKey::name);
+    editor().replaceValues(*chosen);
+    showRecord();
+    recordChanged();
 }

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void _onCopyDefinition();
     void _onCopyWkt();
     void _onSave();
+    void _onFromRegistry();
 
 private:
     void build();
@@ -44,4 +45,5 @@ private:
     MessageLine* remarkLine = nullptr;
     QPushButton* saveButton = nullptr;
     QPushButton* copyWktButton = nullptr;
+    QPushButton* registryButton = nullptr;
 };

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/desktop/Dialog.h"
+#include "platform/projection/IEpsgRegistry.h"
+
+#include <vector>
+
+class ChoiceBox;
+class FieldEdit;
+class MessageLine;
+class QCheckBox;
+class QDialogButtonBox;
+class QLabel;
+class QLineEdit;
+class QTableView;
+class QVBoxLayout;
+class RegistryModel;
+
+/// Chooses a projected system of the EPSG registry, and one of the registry's shifts from its datum to WGS 84.
+class RegistryDialog : public Dialog {
+    Q_OBJECT
+
+public:
+    /// `registry` outlives the dialog.
+    RegistryDialog(IEpsgRegistry& registry, QWidget* parent);
+
+    /// The chosen system with the chosen shift, as WKT 2 in UTF-8; empty before one is chosen.
+    QByteArray wkt() const;
+
+private Q_SLOTS:
+    void _onSearchChanged();
+    void _onSelectionChanged();
+    void _onActivated();
+
+private:
+    void buildSearch(QVBoxLayout* layout);
+    void buildTable(QVBoxLayout* layout);
+    void buildDetails(QVBoxLayout* layout);
+    const RegistrySystem* selected() const;
+    void showDetails();
+
+    IEpsgRegistry& registry;
+    RegistryModel* model;
+    QLineEdit* searchEdit;
+    FieldEdit* latitudeEdit;
+    FieldEdit* longitudeEdit;
+    MessageLine* pointMessage;
+    QCheckBox* deprecatedBox;
+    QTableView* table;
+    QLabel* countLabel;
+    QLabel* detailsLabel;
+    ChoiceBox* shiftBox;
+    QDialogButtonBox* buttons;
+    QByteArray shownCode;
+    std::vector<RegistryShift> shifts; ///< of the selected system, as in `shiftBox` after its first entry
+};

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/projection/IEpsgRegistry.h"
+
+#include <QAbstractTableModel>
+#include <QHash>
+#include <QStringList>
+#include <QVector>
+
+#include <optional>
+
+/// The registry's projected systems as a table that a search narrows down: code, name, area. A system that no kind of
+/// the record holds is grey, and says so in its tooltip.
+class RegistryModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    enum Column { Code, Name, Area, ColumnCount };
+
+    /// What a system must have to be listed.
+    struct Search {
+        QString text; ///< words that code, name and area together hold, whatever their case; empty for all systems
+        std::optional<double> latitude; ///< degrees; with the longitude, a point that the area's bounding box covers
+        std::optional<double> longitude;
+        bool deprecatedToo = false;
+    };
+
+    /// `registry` outlives the model. Reads the whole list (0.1 s).
+    explicit RegistryModel(IEpsgRegistry& registry, QObject* parent = nullptr);
+
+    void setSearch(const Search& search);
+
+    const RegistrySystem& system(int row) const;
+
+    /// The row of the system `code`, or -1 when it is not listed.
+    int rowOf(const QByteArray& code) const;
+
+    /// Why the record can't hold the system, translated; empty when it can. Methods that a kind holds whatever their
+    /// parameters are known; systems of any other are tried, once, which takes some milliseconds.
+    QString reason(const RegistrySystem& system) const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    bool isHeld(const RegistrySystem& system) const;
+
+    IEpsgRegistry& registry;
+    QStringList searchTexts; ///< by index in the registry's list
+    QVector<int> rows;       ///< the listed systems, as indexes in the registry's list
+    mutable QHash<QByteArray, bool> heldByCode;
+};
