@@ -110,13 +110,21 @@ Projection parse(const char* definition, double semiMajorAxis) {
     return projection;
 }
 
+/// a / (a - b). A sphere's would be a division by zero; 0 stands for it, as in WKT. A double's last place in the axes
+/// is 1e-9 m, which moves the result by 1e-11: what lies beyond its tenth decimal is rounding error, and without it WGS
+/// 84's comes back as 298.257223563.
+double inverseFlattening(const ProjEllipsoid& ellipsoid) {
+    if (ellipsoid.a == ellipsoid.b)
+        return 0;
+    const double exact = ellipsoid.a / (ellipsoid.a - ellipsoid.b);
+    return exact < 1e5 ? std::round(exact * 1e10) / 1e10 : exact;
+}
+
 void writeEllipsoid(IDictionary* record, const ProjEllipsoid& ellipsoid) {
     const char* const id = ellipsoid.id ? ellipsoid.id : "unknown";
-    // A sphere's inverse flattening would be a division by zero; 0 stands for it, as in WKT.
-    const double inverseFlattening = ellipsoid.a == ellipsoid.b ? 0 : ellipsoid.a / (ellipsoid.a - ellipsoid.b);
     dic_set_value(record, CoordParamKey::ellipsoidName, "%s", ellipsoid.name ? ellipsoid.name : id);
     dic_set_value(record, CoordParamKey::ellipsoidA, "%f", ellipsoid.a);
-    dic_set_value(record, CoordParamKey::ellipsoidF, "%f", inverseFlattening);
+    dic_set_value(record, CoordParamKey::ellipsoidF, "%f", inverseFlattening(ellipsoid));
 }
 
 void writeProjection(IDictionary* record, const Projection& projection) {
