@@ -2,6 +2,8 @@
 
 #include "catalogue/Dictionary.h"
 
+#include <utility>
+
 /// A dictionary of the tool's own for the time of a scope: obtained with dictionary_get_instance(0), released with
 /// dictionary_release_instance() on every path out of it.
 class DictionaryGuard {
@@ -9,6 +11,7 @@ public:
     DictionaryGuard() : dictionary(dictionary_get_instance(0)) {}
     ~DictionaryGuard() { dictionary_release_instance(&dictionary); }
 
+    DictionaryGuard(DictionaryGuard&& other) noexcept : dictionary(std::exchange(other.dictionary, nullptr)) {}
     DictionaryGuard(const DictionaryGuard&) = delete;
     DictionaryGuard& operator=(const DictionaryGuard&) = delete;
 

@@ -99,49 +99,70 @@ static void keepChild(UnknownXml& unknown, const pugi::xml_node& child) {
     unknown.children += writer.text;
 }
 
-/// A text stands in the attribute `name` or, percent-encoded, in the attribute `name` + "_encoded". False when this is
-/// another attribute; `text` is left without a value when the local encoding can't express it.
-static bool readText(const pugi::xml_attribute& attribute, const char* name, std::optional<QByteArray>& text) {
+/// A text as it comes from an attribute.
+class ReadText {
+public:
+    /// Whether the attribute holds the text `name`: as it is, or percent-encoded in the attribute `name` + "_encoded".
+    bool read(const pugi::xml_attribute& attribute, const char* name);
+
+    /// Null when there was none, or none that the local encoding can express. It lives as long as this and the
+    /// document.
+    const char* get() const { return text; }
+
+private:
+    const char* text = nullptr;
+    QByteArray converted;
+};
+
+bool ReadText::read(const pugi::xml_attribute& attribute, const char* name) {
     const size_t length = std::strlen(name);
     if (std::strncmp(attribute.name(), name, length) != 0)
         return false;
     const char* suffix = attribute.name() + length;
+    if (!*suffix && FileText::isPlain(attribute.value())) {
+        text = attribute.value();
+        return true;
+    }
+    std::optional<QByteArray> read;
     if (!*suffix)
-        text = FileText::fromUtf8(attribute.value());
+        read = FileText::fromUtf8(attribute.value());
     else if (std::strcmp(suffix, encodedSuffix) == 0)
-        text = QByteArray::fromPercentEncoding(attribute.value());
+        read = QByteArray::fromPercentEncoding(attribute.value());
     else
         return false;
+    converted = read.value_or(QByteArray());
+    text = read ? converted.constData() : nullptr;
     return true;
 }
 
 /// False when the element is no value that this version understands.
 static bool readValue(const pugi::xml_node& element, CatalogueRecord& record) {
-    std::optional<QByteArray> key, text;
-    double number = 0.0;
-    bool hasNumber = false;
+    ReadText key, text;
+    const char* number = nullptr;
     UnknownXml unknown;
-    for (const pugi::xml_attribute& attribute : element.attributes()) {
-        if (std::strcmp(attribute.name(), numberAttribute) == 0) {
-            number = QByteArray(attribute.value()).toDouble(&hasNumber);
-            if (!hasNumber)
-                return false;
-        } else if (!readText(attribute, keyAttribute, key) && !readText(attribute, textAttribute, text)) {
+    // pugixml's own loops cost far less here than its ranges do.
+    for (pugi::xml_attribute attribute = element.first_attribute(); attribute; attribute = attribute.next_attribute()) {
+        if (key.read(attribute, keyAttribute) || text.read(attribute, textAttribute))
+            continue;
+        if (std::strcmp(attribute.name(), numberAttribute) == 0)
+            number = attribute.value();
+        else
             keepAttribute(unknown, attribute);
-        }
     }
-    if (!key || !text || record.values->getValue(key->constData()))
-        return false;
-    for (const pugi::xml_node& child : element.children())
+    for (pugi::xml_node child = element.first_child(); child; child = child.next_sibling())
         keepChild(unknown, child);
+    if (!key.get() || !text.get())
+        return false;
 
-    if (hasNumber)
-        record.values->setNumber(key->constData(), text->constData(), number);
+    const int before = record.values->count();
+    bool isNumber = true;
+    if (number)
+        record.values->setNumber(key.get(), text.get(), QByteArray(number).toDouble(&isNumber));
     else
-        record.values->setText(key->constData(), text->constData());
+        record.values->setText(key.get(), text.get());
     if (!unknown.isEmpty())
-        record.unknownOfValues.insert(*key, unknown);
-    return true;
+        record.unknownOfValues.insert(key.get(), unknown);
+    return isNumber && record.values->count() > before;
 }
 
 /// False when a value can't be understood, or there is text between the values: a value that lost its "<". The record
@@ -161,24 +182,19 @@ static bool readValues(const pugi::xml_node& element, CatalogueRecord& record) {
 }
 
 static void readRecord(const pugi::xml_node& element, RecordList& records, UnknownXml& unknownOfParent) {
-    CatalogueRecord read;
-    CatalogueRecord* added = readValues(element, read) ? records.append(read.values.get()) : nullptr;
-    if (!added) {
+    CatalogueRecord record;
+    if (!readValues(element, record) || !records.append(std::move(record)))
         keepChild(unknownOfParent, element);
-        return;
-    }
-    added->unknown = read.unknown;
-    added->unknownOfValues = read.unknownOfValues;
 }
 
 static void readGroup(const pugi::xml_node& element, SystemFile& content) {
-    std::optional<QByteArray> name;
+    ReadText name;
     UnknownXml unknown;
     for (const pugi::xml_attribute& attribute : element.attributes()) {
-        if (!readText(attribute, nameAttribute, name))
+        if (!name.read(attribute, nameAttribute))
             keepAttribute(unknown, attribute);
     }
-    CoordSysGroup* group = content.groups.append(name.value_or(QByteArray()));
+    CoordSysGroup* group = content.groups.append(name.get());
     if (!group) {
         keepChild(content.unknown, element);
         return;
@@ -231,81 +247,125 @@ FileCondition CatalogueFile::condition(const QString& path, const FileKind& kind
     return FileDocument(path, kind).condition;
 }
 
-static QByteArray textXml(const char* attribute, const QByteArray& text) {
-    if (const std::optional<QByteArray> utf8 = FileText::toUtf8(text))
-        return QByteArray(" ") + attribute + "=\"" + FileText::escaped(*utf8) + '"';
-    return QByteArray(" ") + attribute + encodedSuffix + "=\"" + text.toPercentEncoding(" ") + '"';
+/// Writes a file's XML piece by piece.
+class FileWriter {
+public:
+    explicit FileWriter(const QString& path) : file(path) { isOpen = file.open(QIODevice::WriteOnly); }
+
+    void startRoot(const char* root, const UnknownXml& unknown);
+    void startGroup(const CoordSysGroup& group);
+    void writeRecords(const RecordList& records, const char* element, const char* indent);
+    /// Writes what is unknown in an element and ends it.
+    void end(const char* element, const UnknownXml& unknown, const QByteArray& indent);
+    /// False when anything could not be written; the file is then the old one.
+    bool commit();
+
+private:
+    void appendText(const char* attribute, const QByteArray& text);
+    void appendNumber(const IDictionary& values, const char* key, const QByteArray& text);
+    void appendValue(const CatalogueRecord& record, const char* key, const QByteArray& indent);
+    void flush();
+
+    QSaveFile file;
+    bool isOpen;
+    QByteArray xml; ///< what is still to be written
+};
+
+void FileWriter::appendText(const char* attribute, const QByteArray& text) {
+    xml.append(' ').append(attribute);
+    if (FileText::isPlain(text.constData()))
+        xml.append("=\"").append(text).append('"');
+    else if (const std::optional<QByteArray> utf8 = FileText::toUtf8(text))
+        xml.append("=\"").append(FileText::escaped(*utf8)).append('"');
+    else
+        xml.append(encodedSuffix).append("=\"").append(text.toPercentEncoding(" ")).append('"');
 }
 
-/// The number behind a text, with as many digits as give it back bit for bit; empty when the text says as much.
-static QByteArray numberXml(const IDictionary& values, const char* key, const QByteArray& text) {
+/// The number behind a text, with as many digits as give it back bit for bit; nothing when the text says as much.
+void FileWriter::appendNumber(const IDictionary& values, const char* key, const QByteArray& text) {
     double number;
     if (!values.getNumber(key, &number))
-        return {};
+        return;
     bool isNumber = false;
     const double textsOwn = text.toDouble(&isNumber);
     if (isNumber && std::memcmp(&textsOwn, &number, sizeof number) == 0)
-        return {};
-    return QByteArray(" ") + numberAttribute + "=\"" + QByteArray::number(number, 'g', QLocale::FloatingPointShortest) +
-           '"';
+        return;
+    xml.append(' ').append(numberAttribute).append("=\"");
+    xml.append(QByteArray::number(number, 'g', QLocale::FloatingPointShortest)).append('"');
 }
 
-static void writeChildren(QIODevice& file, const UnknownXml& unknown, const QByteArray& indent) {
-    for (const QByteArray& child : unknown.children)
-        file.write(indent + child + '\n');
-}
-
-static void writeValue(QIODevice& file, const CatalogueRecord& record, const char* key, const QByteArray& indent) {
+void FileWriter::appendValue(const CatalogueRecord& record, const char* key, const QByteArray& indent) {
     const QByteArray text = record.values->getValue(key);
     const UnknownXml unknown = record.unknownOfValues.value(key);
-    file.write(indent + '<' + valueElement + textXml(keyAttribute, key) + textXml(textAttribute, text) +
-               numberXml(*record.values, key, text) + unknown.attributes);
+    xml.append(indent).append('<').append(valueElement);
+    appendText(keyAttribute, key);
+    appendText(textAttribute, text);
+    appendNumber(*record.values, key, text);
+    xml.append(unknown.attributes);
     if (unknown.children.isEmpty()) {
-        file.write("/>\n");
+        xml.append("/>\n");
         return;
     }
-    file.write(">\n");
-    writeChildren(file, unknown, indent + "  ");
-    file.write(indent + "</" + valueElement + ">\n");
+    xml.append(">\n");
+    end(valueElement, unknown, indent);
 }
 
-static void writeRecords(QIODevice& file, const RecordList& records, const char* element, const QByteArray& indent) {
+void FileWriter::writeRecords(const RecordList& records, const char* element, const char* indent) {
+    const QByteArray valueIndent = QByteArray(indent) + "  ";
     for (const CatalogueRecord& record : records) {
-        file.write(indent + '<' + element + record.unknown.attributes + ">\n");
+        xml.append(indent).append('<').append(element).append(record.unknown.attributes).append(">\n");
         for (int i = 0; i < record.values->count(); ++i)
-            writeValue(file, record, record.values->getKey(i), indent + "  ");
-        writeChildren(file, record.unknown, indent + "  ");
-        file.write(indent + "</" + element + ">\n");
+            appendValue(record, record.values->getKey(i), valueIndent);
+        end(element, record.unknown, indent);
+        flush();
     }
 }
 
-/// Writes the root element with what `writeContent` puts into it.
-template <class WriteContent>
-static bool writeFile(const QString& path, const char* root, const UnknownXml& unknown, WriteContent writeContent) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<") + root + ' ' + versionAttribute + "=\"" +
-               QByteArray::number(formatVersion) + '"' + unknown.attributes + ">\n");
-    writeContent(file);
-    writeChildren(file, unknown, "  ");
-    file.write(QByteArray("</") + root + ">\n");
-    return file.commit();
+void FileWriter::startRoot(const char* root, const UnknownXml& unknown) {
+    xml.append("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<").append(root);
+    appendText(versionAttribute, QByteArray::number(formatVersion));
+    xml.append(unknown.attributes).append(">\n");
+}
+
+void FileWriter::startGroup(const CoordSysGroup& group) {
+    xml.append("  <").append(groupElement);
+    appendText(nameAttribute, group.name);
+    xml.append(group.unknown.attributes).append(">\n");
+}
+
+void FileWriter::end(const char* element, const UnknownXml& unknown, const QByteArray& indent) {
+    for (const QByteArray& child : unknown.children)
+        xml.append(indent).append("  ").append(child).append('\n');
+    xml.append(indent).append("</").append(element).append(">\n");
+}
+
+void FileWriter::flush() {
+    if (isOpen)
+        file.write(xml);
+    xml.resize(0);
+}
+
+bool FileWriter::commit() {
+    flush();
+    return isOpen && file.commit();
 }
 
 bool CatalogueFile::write(const QString& path, const RecordFile& content) {
-    return writeFile(path, content.kind.root, content.unknown,
-                     [&](QIODevice& file) { writeRecords(file, content.records, content.kind.record, "  "); });
+    FileWriter writer(path);
+    writer.startRoot(content.kind.root, content.unknown);
+    writer.writeRecords(content.records, content.kind.record, "  ");
+    writer.end(content.kind.root, content.unknown, {});
+    return writer.commit();
 }
 
 bool CatalogueFile::write(const QString& path, const SystemFile& content) {
-    return writeFile(path, systemFile.root, content.unknown, [&](QIODevice& file) {
-        for (const CoordSysGroup& group : content.groups) {
-            file.write(QByteArray("  <") + groupElement + textXml(nameAttribute, group.name) +
-                       group.unknown.attributes + ">\n");
-            writeRecords(file, group.systems, systemFile.record, "    ");
-            writeChildren(file, group.unknown, "    ");
-            file.write(QByteArray("  </") + groupElement + ">\n");
-        }
-    });
+    FileWriter writer(path);
+    writer.startRoot(systemFile.root, content.unknown);
+    for (const CoordSysGroup& group : content.groups) {
+        writer.startGroup(group);
+        writer.writeRecords(group.systems, systemFile.record, "    ");
+        writer.end(groupElement, group.unknown, "  ");
+    }
+    writer.end(systemFile.root, content.unknown, {});
+    return writer.commit();
 }

@@ -19,6 +19,14 @@ static bool agree(const QByteArray& text, const QString& unicode) {
     return codec->fromUnicode(unicode) == text && codec->toUnicode(text) == unicode;
 }
 
+bool FileText::isPlain(const char* text) {
+    for (; *text; ++text) {
+        if (*text < ' ' || *text > '~' || *text == '&' || *text == '<' || *text == '>' || *text == '"')
+            return false;
+    }
+    return true;
+}
+
 std::optional<QByteArray> FileText::toUtf8(const QByteArray& text) {
     if (std::any_of(text.begin(), text.end(), isForbiddenControl))
         return std::nullopt;

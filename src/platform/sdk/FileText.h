@@ -11,6 +11,9 @@
 /// another attribute's name.
 namespace FileText {
 
+/// Whether `text` is the same in every encoding and in XML: printable ASCII without markup. Nearly all texts are.
+bool isPlain(const char* text);
+
 /// `text` in UTF-8; nothing when it has to be percent-encoded.
 std::optional<QByteArray> toUtf8(const QByteArray& text);
 

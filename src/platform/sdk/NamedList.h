@@ -4,6 +4,7 @@
 #include <QHash>
 
 #include <list>
+#include <utility>
 
 /// Entries in an order, each with a unique `name`: a QByteArray member that only this list sets. Finding, adding,
 /// renaming and removing an entry cost the same however long the list is, and an entry stays where it is in memory.
@@ -19,9 +20,11 @@ public:
         return found == positions.constEnd() ? nullptr : &**found;
     }
 
-    /// A new entry, first or last in the list; null when `name` is none or is taken.
-    Entry* prepend(const QByteArray& name) { return insert(entries.begin(), name); }
-    Entry* append(const QByteArray& name) { return insert(entries.end(), name); }
+    /// Adds `entry` under `name`, first or last in the list; null when `name` is none or is taken.
+    Entry* prepend(const QByteArray& name, Entry&& entry = {}) {
+        return insert(entries.begin(), name, std::move(entry));
+    }
+    Entry* append(const QByteArray& name, Entry&& entry = {}) { return insert(entries.end(), name, std::move(entry)); }
 
     /// Keeps the entry's place. False, with nothing changed, when there is no `oldName`, or `newName` is none or is
     /// taken.
@@ -66,10 +69,10 @@ private:
 
     bool isFree(const QByteArray& name) const { return isName(name) && !positions.contains(name); }
 
-    Entry* insert(Position before, const QByteArray& name) {
+    Entry* insert(Position before, const QByteArray& name, Entry&& entry) {
         if (!isFree(name))
             return nullptr;
-        const Position position = entries.emplace(before);
+        const Position position = entries.insert(before, std::move(entry));
         position->name = name;
         positions.insert(name, position);
         joinedNames.clear();

