@@ -50,7 +50,8 @@ EllipsoidTab::EllipsoidTab(ICoordSystem* coordSystem, CoordParamEditor& editor, 
     nameBox->setReadOnly(readOnly);
     grid->addWidget(nameLabel, 0, 0);
     grid->addWidget(nameBox, 0, 1, 1, 3);
-    grid->addWidget(nameMessage, 1, 1, 1, 3);
+    nameMessage->setField(nameBox);
+    grid->addWidget(nameMessage, 1, 0, 1, 4);
 
     semiMajorAxis = new FieldRow(editor, readOnly, grid, 2);
     semiMajorAxis->setField(&DatumFields::semiMajorAxis());

@@ -23,7 +23,8 @@ FieldRow::FieldRow(CoordParamEditor& editor, bool readOnly, QGridLayout* grid, i
     grid->addWidget(label, line, 0);
     grid->addWidget(edit, line, 1);
     grid->addWidget(unit, line, 2);
-    grid->addWidget(message, line + 1, 1, 1, 3);
+    message->setField(edit);
+    grid->addWidget(message, line + 1, 0, 1, 4);
     grid->setColumnStretch(3, 1);
     connect(edit, SIGNAL(textEdited(QString)), this, SLOT(_onTextEdited(QString)));
     connect(edit, SIGNAL(editingFinished()), this, SLOT(_onEditingFinished()));
@@ -44,6 +45,7 @@ void FieldRow::setField(const ParamField* field) {
         return;
     label->setText(field->labelText());
     edit->setAccessibleName(field->labelText());
+    edit->setObjectName(QString::fromLatin1(field->key)); // tests find a value by its key
 }
 
 void FieldRow::showValue() {

@@ -27,7 +27,8 @@ HeightTab::HeightTab(ICoordSystem* coordSystem, CoordParamEditor& editor, bool r
     geoidBox->setReadOnly(readOnly);
     grid->addWidget(label, 0, 0);
     grid->addWidget(geoidBox, 0, 1);
-    grid->addWidget(message, 1, 1);
+    message->setField(geoidBox);
+    grid->addWidget(message, 1, 0, 1, 2);
     grid->addWidget(new QLabel(DlgCoordParam::tr("Model file")), 2, 0);
     grid->addWidget(file, 2, 1);
     grid->addWidget(new QLabel(DlgCoordParam::tr("Model ellipsoid")), 3, 0);

@@ -45,8 +45,14 @@ QSize MessageLine::minimumSizeHint() const {
 void MessageLine::paintEvent(QPaintEvent*) {
     if (message.isEmpty())
         return;
+    const bool leftToRight = layoutDirection() == Qt::LeftToRight;
+    int indent = 0;
+    if (shownBelow)
+        indent = leftToRight ? shownBelow->x() - x() : geometry().right() - shownBelow->geometry().right();
+    indent = qBound(0, indent, qMax(0, width() - fontMetrics().horizontalAdvance(message) - 1));
     QPainter painter(this);
     painter.setPen(textColor(*this, messageTone));
-    painter.drawText(rect(), int(Qt::AlignVCenter) | int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)),
+    painter.drawText(leftToRight ? rect().adjusted(indent, 0, 0, 0) : rect().adjusted(0, 0, -indent, 0),
+                     int(Qt::AlignVCenter | QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)),
                      fontMetrics().elidedText(message, Qt::ElideRight, width()));
 }

@@ -12,6 +12,9 @@ public:
 
     explicit MessageLine(QWidget* parent = nullptr);
 
+    /// The field below which the text starts; it lies in the same form and outlives the line.
+    void setField(const QWidget* field) { shownBelow = field; }
+
     void setMessage(const QString& text, Tone tone);
     QString text() const { return message; }
     Tone tone() const { return messageTone; }
@@ -26,6 +29,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    const QWidget* shownBelow = nullptr;
     QString message;
     Tone messageTone = Tone::Hint;
 };

@@ -31,7 +31,7 @@ ParamField length(const char* key, const char* label) {
     return {key, Quantity::Length, label, -farthest, farthest, 0.0};
 }
 
-// Named as the EPSG registry names the parameters of these methods.
+// Close to the names that the EPSG registry gives the parameters and methods.
 constexpr const char* latitudeOfOrigin = QT_TRANSLATE_NOOP("DlgCoordParam", "Latitude of origin");
 constexpr const char* centralMeridian = QT_TRANSLATE_NOOP("DlgCoordParam", "Central meridian");
 constexpr const char* scaleFactor = QT_TRANSLATE_NOOP("DlgCoordParam", "Scale factor");
@@ -40,16 +40,16 @@ constexpr const char* falseNorthing = QT_TRANSLATE_NOOP("DlgCoordParam", "False 
 constexpr const char* standardParallel = QT_TRANSLATE_NOOP("DlgCoordParam", "Standard parallel");
 constexpr const char* latitudeOfCentre = QT_TRANSLATE_NOOP("DlgCoordParam", "Latitude of centre");
 constexpr const char* longitudeOfCentre = QT_TRANSLATE_NOOP("DlgCoordParam", "Longitude of centre");
-constexpr const char* azimuthOfLine = QT_TRANSLATE_NOOP("DlgCoordParam", "Azimuth of initial line");
+constexpr const char* azimuthOfLine = QT_TRANSLATE_NOOP("DlgCoordParam", "Azimuth of the line");
 constexpr const char* eastingAtCentre = QT_TRANSLATE_NOOP("DlgCoordParam", "Easting at centre");
 constexpr const char* northingAtCentre = QT_TRANSLATE_NOOP("DlgCoordParam", "Northing at centre");
 constexpr const char* longitudeOfOrigin = QT_TRANSLATE_NOOP("DlgCoordParam", "Longitude of origin");
-constexpr const char* firstParallel = QT_TRANSLATE_NOOP("DlgCoordParam", "First standard parallel");
-constexpr const char* secondParallel = QT_TRANSLATE_NOOP("DlgCoordParam", "Second standard parallel");
-constexpr const char* firstLatitude = QT_TRANSLATE_NOOP("DlgCoordParam", "Latitude of first point");
-constexpr const char* firstLongitude = QT_TRANSLATE_NOOP("DlgCoordParam", "Longitude of first point");
-constexpr const char* secondLatitude = QT_TRANSLATE_NOOP("DlgCoordParam", "Latitude of second point");
-constexpr const char* secondLongitude = QT_TRANSLATE_NOOP("DlgCoordParam", "Longitude of second point");
+constexpr const char* firstParallel = QT_TRANSLATE_NOOP("DlgCoordParam", "Standard parallel 1");
+constexpr const char* secondParallel = QT_TRANSLATE_NOOP("DlgCoordParam", "Standard parallel 2");
+constexpr const char* firstLatitude = QT_TRANSLATE_NOOP("DlgCoordParam", "Latitude of point 1");
+constexpr const char* firstLongitude = QT_TRANSLATE_NOOP("DlgCoordParam", "Longitude of point 1");
+constexpr const char* secondLatitude = QT_TRANSLATE_NOOP("DlgCoordParam", "Latitude of point 2");
+constexpr const char* secondLongitude = QT_TRANSLATE_NOOP("DlgCoordParam", "Longitude of point 2");
 
 /// A scale factor that comes on top of a standard parallel, if at all.
 ParamField additionalScale() {
@@ -69,8 +69,8 @@ const std::vector<ProjectionFields>& ProjectionFields::all() {
     static const ParamField polarParallel = {
         cuttingRadius, Quantity::TrueScaleParallel, standardParallel, -90.0, 90.0, 0.0, false, true};
     static const std::vector<ProjectionFields> kinds = {
-        {ProjectionKind::TransverseMercator,
-         QT_TRANSLATE_NOOP("DlgCoordParam", "Gauss-Krüger (transverse Mercator, scale 1)"), transverseMercator(1.0)},
+        {ProjectionKind::TransverseMercator, QT_TRANSLATE_NOOP("DlgCoordParam", "Gauss-Krüger (scale factor 1)"),
+         transverseMercator(1.0)},
         // With the scale of UTM at first: the scale 1 would make it the kind above.
         {ProjectionKind::TransverseMercatorScaled, QT_TRANSLATE_NOOP("DlgCoordParam", "Transverse Mercator"),
          transverseMercator(0.9996)},
@@ -79,11 +79,11 @@ const std::vector<ProjectionFields>& ProjectionFields::all() {
          {longitude(orgLon, centralMeridian), scale(scaleFactor), length(falseEast, falseEasting),
           length(falseNorth, falseNorthing)}},
         {ProjectionKind::MercatorStandardParallel,
-         QT_TRANSLATE_NOOP("DlgCoordParam", "Mercator with standard parallel"),
+         QT_TRANSLATE_NOOP("DlgCoordParam", "Mercator (standard parallel)"),
          {mercatorParallel, longitude(orgLon, centralMeridian), length(falseEast, falseEasting),
           length(falseNorth, falseNorthing)}},
         {ProjectionKind::ObliqueMercatorAzimuth,
-         QT_TRANSLATE_NOOP("DlgCoordParam", "Oblique Mercator (Hotine), azimuth"),
+         QT_TRANSLATE_NOOP("DlgCoordParam", "Oblique Mercator (azimuth)"),
          {latitude(orgLat, latitudeOfCentre, 0.0),
           longitude(orgLon, longitudeOfCentre),
           {azimuth, Quantity::Azimuth, azimuthOfLine, -360.0, 360.0, 0.0},
@@ -91,25 +91,25 @@ const std::vector<ProjectionFields>& ProjectionFields::all() {
           length(falseEast, eastingAtCentre),
           length(falseNorth, northingAtCentre)}},
         {ProjectionKind::Stereographic,
-         QT_TRANSLATE_NOOP("DlgCoordParam", "Stereographic (polar or general)"),
+         QT_TRANSLATE_NOOP("DlgCoordParam", "Stereographic"),
          {originLatitude(latitudeOfOrigin), longitude(orgLon, longitudeOfOrigin), polarParallel, additionalScale(),
           length(falseEast, falseEasting), length(falseNorth, falseNorthing)}},
         {ProjectionKind::ObliqueStereographic,
-         QT_TRANSLATE_NOOP("DlgCoordParam", "Oblique stereographic (double)"),
+         QT_TRANSLATE_NOOP("DlgCoordParam", "Oblique Stereographic (double)"),
          {originLatitude(latitudeOfOrigin), longitude(orgLon, longitudeOfOrigin), scale(scaleFactor),
           length(falseEast, falseEasting), length(falseNorth, falseNorthing)}},
         {ProjectionKind::LambertOneParallel,
-         QT_TRANSLATE_NOOP("DlgCoordParam", "Lambert conformal conic, one parallel"),
+         QT_TRANSLATE_NOOP("DlgCoordParam", "Lambert Conic Conformal (1SP)"),
          {originLatitude(latitudeOfOrigin, 45.0), longitude(orgLon, centralMeridian),
           latitude(parallel1Lat, standardParallel, 45.0), scale(scaleFactor), length(falseEast, falseEasting),
           length(falseNorth, falseNorthing)}},
         {ProjectionKind::LambertTwoParallels,
-         QT_TRANSLATE_NOOP("DlgCoordParam", "Lambert conformal conic, two parallels"),
+         QT_TRANSLATE_NOOP("DlgCoordParam", "Lambert Conic Conformal (2SP)"),
          {originLatitude(latitudeOfOrigin), longitude(orgLon, centralMeridian),
           latitude(parallel1Lat, firstParallel, 30.0), latitude(parallel2Lat, secondParallel, 60.0), additionalScale(),
           length(falseEast, falseEasting), length(falseNorth, falseNorthing)}},
         {ProjectionKind::ObliqueMercatorTwoPoints,
-         QT_TRANSLATE_NOOP("DlgCoordParam", "Oblique Mercator (Hotine), two points"),
+         QT_TRANSLATE_NOOP("DlgCoordParam", "Oblique Mercator (two points)"),
          {latitude(orgLat, latitudeOfCentre, 0.0), latitude(lat1, firstLatitude, 30.0), longitude(lon1, firstLongitude),
           latitude(lat2, secondLatitude, 60.0), longitude(lon2, secondLongitude, 30.0), scale(scaleFactor),
           length(falseEast, eastingAtCentre), length(falseNorth, northingAtCentre)}},
