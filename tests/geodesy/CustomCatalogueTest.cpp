@@ -129,6 +129,11 @@ void choose(const QDialog* dialog, const QString& path) {
     });
 }
 
+template <class... Values> void row(const QByteArray& title, const Values&... values) {
+    QTestData& data = QTest::newRow(title);
+    ((data << values), ...);
+}
+
 QByteArray content(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
@@ -215,17 +220,14 @@ void CustomCatalogueTest::modes_data() {
     QTest::addColumn<QStringList>("values");
     QTest::addColumn<QStringList>("buttons");
 
-    QTest::newRow("ellipsoid list") << ellipsoid << 0 << "WGS 84" << QStringList{"6378000", "298.30"}
-                                    << QStringList{"Add", "(Edit)", "(Delete)"};
-    QTest::newRow("ellipsoid add") << ellipsoid << 1 << "" << QStringList{"", ""} << QStringList{"OK", "Cancel"};
-    QTest::newRow("ellipsoid edit") << ellipsoid << 2 << "WGS 84" << QStringList{"6378000", "298.30"}
-                                    << QStringList{"OK", "Cancel"};
-    QTest::newRow("geoid list") << geoid << 0 << "WGS 84" << QStringList{"WGS 84.ggf", "WGS 84"}
-                                << QStringList{"(Browser)", "Add", "(Edit)", "(Delete)"};
-    QTest::newRow("geoid add") << geoid << 1 << "" << QStringList{"", "WGS 84"}
-                               << QStringList{"Browser", "OK", "Cancel"};
-    QTest::newRow("geoid edit") << geoid << 2 << "WGS 84" << QStringList{"WGS 84.ggf", "WGS 84"}
-                                << QStringList{"Browser", "OK", "Cancel"};
+    const QStringList wgs84{"6378000", "298.30"};
+    row("ellipsoid list", ellipsoid, 0, "WGS 84", wgs84, QStringList{"Add", "(Edit)", "(Delete)"});
+    row("ellipsoid add", ellipsoid, 1, "", QStringList{"", ""}, QStringList{"OK", "Cancel"});
+    row("ellipsoid edit", ellipsoid, 2, "WGS 84", wgs84, QStringList{"OK", "Cancel"});
+    const QStringList file{"WGS 84.ggf", "WGS 84"};
+    row("geoid list", geoid, 0, "WGS 84", file, QStringList{"(Browser)", "Add", "(Edit)", "(Delete)"});
+    row("geoid add", geoid, 1, "", QStringList{"", "WGS 84"}, QStringList{"Browser", "OK", "Cancel"});
+    row("geoid edit", geoid, 2, "WGS 84", file, QStringList{"Browser", "OK", "Cancel"});
 }
 
 void CustomCatalogueTest::modes() {
@@ -264,14 +266,13 @@ void CustomCatalogueTest::modes() {
 void CustomCatalogueTest::selection_data() {
     QTest::addColumn<QString>("flag");
     QTest::addColumn<bool>("own");
-
-    QTest::newRow("0") << "0" << true;
-    QTest::newRow("1") << "1" << false;
-    QTest::newRow("missing") << QString() << false;
-    QTest::newRow("a text") << "own" << true;
-    QTest::newRow("empty") << "" << true;
-    QTest::newRow("00 and a tail") << " 00x" << true;
-    QTest::newRow("negative") << "-1" << false;
+    row("0", "0", true);
+    row("1", "1", false);
+    row("missing", QString(), false);
+    row("a text", "own", true);
+    row("empty", "", true);
+    row("00 and a tail", " 00x", true);
+    row("negative", "-1", false);
 }
 
 /// What the list enables for an entry that is selected, and what it shows of one without values.
@@ -298,10 +299,10 @@ void CustomCatalogueTest::selection() {
 void CustomCatalogueTest::emptyList_data() {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<bool>("nullList");
-    QTest::newRow("ellipsoid, empty") << ellipsoid << false;
-    QTest::newRow("ellipsoid, null") << ellipsoid << true;
-    QTest::newRow("geoid, empty") << geoid << false;
-    QTest::newRow("geoid, null") << geoid << true;
+    row("ellipsoid, empty", ellipsoid, false);
+    row("ellipsoid, null", ellipsoid, true);
+    row("geoid, empty", geoid, false);
+    row("geoid, null", geoid, true);
 }
 
 void CustomCatalogueTest::emptyList() {
@@ -333,10 +334,9 @@ void CustomCatalogueTest::confirm_data() {
     QTest::addColumn<bool>("accepted");
 
     for (const QString& kind : {ellipsoid, geoid}) {
-        const QByteArray prefix = kind.toLatin1() + ": ";
-        const auto row = [&](const char* title, int mode, const QString& name, const QStringList& values,
-                             const QString& message, int answer, bool accepted) {
-            QTest::newRow(prefix + title) << kind << mode << name << values << message << answer << accepted;
+        const auto add = [&kind](const char* title, const QString& name, const QStringList& values,
+                                 const QString& message, int answer, bool accepted, int mode = AddMode) {
+            row(kind.toLatin1() + ": " + title, kind, mode, name, values, message, answer, accepted);
         };
         const bool isEllipsoid = kind == ellipsoid;
         const QStringList good =
@@ -345,37 +345,32 @@ void CustomCatalogueTest::confirm_data() {
                                             : "Warning|new geoid name can't same with system name!";
         const QString cover = isEllipsoid ? "?Warning|has same name as system, whether cover?"
                                           : "?Warning|has same file name, whether or not covered?";
-        row("new", AddMode, "new", good, "", 0, true);
-        row("blanks are a name", AddMode, "  ", good, "", 0, true);
-        row("name kept as typed", AddMode, QString::fromUtf8(" 100%s <Größe> 北 "), good, "", 0, true);
-        row("names differ in case", AddMode, "wgs 84", good, "", 0, true);
-        row("no name", AddMode, "", good, refused, 0, false);
-        row("comma in the name", AddMode, "a,b", good, refused, 0, false);
-        row("first value missing", AddMode, "new", {"", good[1]}, refused, 0, false);
-        row("second value missing", AddMode, "new", {good[0], ""}, refused, 0, false);
-        row("first check first", AddMode, "WGS 84", {"", good[1]}, refused, 0, false);
-        row("shipped name", AddMode, "WGS 84", good, shipped, 1, false);
-        row("name of an entry without a flag", AddMode, "plain", good, shipped, 1, false);
-        row("own name, covered", AddMode, "mine", good, cover, 1, true);
-        row("own name, declined", AddMode, "mine", good, cover, 0, false);
-        row("edit", EditMode, "mine", good, "", 0, true);
-        row("edit without a value", EditMode, "mine", {"", good[1]}, refused, 0, false);
+        add("new", "new", good, "", 0, true);
+        add("blanks are a name", "  ", good, "", 0, true);
+        add("name kept as typed", QString::fromUtf8(" 100%s <Größe> 北 "), good, "", 0, true);
+        add("names differ in case", "wgs 84", good, "", 0, true);
+        add("no name", "", good, refused, 0, false);
+        add("comma in the name", "a,b", good, refused, 0, false);
+        add("first value missing", "new", {"", good[1]}, refused, 0, false);
+        add("second value missing", "new", {good[0], ""}, refused, 0, false);
+        add("first check first", "WGS 84", {"", good[1]}, refused, 0, false);
+        add("shipped name", "WGS 84", good, shipped, 1, false);
+        add("name of an entry without a flag", "plain", good, shipped, 1, false);
+        add("own name, covered", "mine", good, cover, 1, true);
+        add("own name, declined", "mine", good, cover, 0, false);
+        add("edit", "mine", good, "", 0, true, EditMode);
+        add("edit without a value", "mine", {"", good[1]}, refused, 0, false, EditMode);
     }
 
-    for (const char* number : {"6378137", "6378137.", ".5", "6.378137e6", "0065536.10", "1E-3"}) {
-        QTest::addRow("a %s", number) << ellipsoid << int(AddMode) << "new" << QStringList{number, "300"} << "" << 0
-                                      << true;
-        QTest::addRow("f %s", number) << ellipsoid << int(AddMode) << "new" << QStringList{"1", number} << "" << 0
-                                      << true;
+    for (const QByteArray number : {"6378137", "6378137.", ".5", "6.378137e6", "0065536.10", "1E-3"}) {
+        row("a " + number, ellipsoid, int(AddMode), "new", QStringList{number, "300"}, "", 0, true);
+        row("f " + number, ellipsoid, int(AddMode), "new", QStringList{"1", number}, "", 0, true);
     }
-    for (const char* number :
+    for (const QByteArray number :
          {"0", "0.0", "-0", ".", "-6378137", "1e999", "1e-999", "nan", "inf", "-inf", "Infinity", "0x10", "1p3",
           "6378137,0", "6,378,137", "6 378 137", "6378137m", "1.2.3", "\u0661\u0662"}) {
-        const QString text = QString::fromUtf8(number);
-        QTest::addRow("a %s", number) << ellipsoid << int(EditMode) << "mine" << QStringList{text, "300"} << refused
-                                      << 0 << false;
-        QTest::addRow("f %s", number) << ellipsoid << int(AddMode) << "new" << QStringList{"1", text} << refused << 0
-                                      << false;
+        row("a " + number, ellipsoid, int(EditMode), "mine", QStringList{number, "300"}, refused, 0, false);
+        row("f " + number, ellipsoid, int(AddMode), "new", QStringList{"1", number}, refused, 0, false);
     }
 }
 
@@ -421,21 +416,11 @@ void CustomCatalogueTest::nested_data() {
     QTest::addColumn<QString>("opener");
     QTest::addColumn<QString>("closer");
     QTest::addColumn<QString>("current"); // in the list afterwards; "mine" before
-    QTest::newRow("add") << "Add"
-                         << "OK"
-                         << "new";
-    QTest::newRow("add, cancelled") << "Add"
-                                    << "Cancel"
-                                    << "mine";
-    QTest::newRow("edit") << "Edit"
-                          << "OK"
-                          << "mine";
-    QTest::newRow("edit, cancelled") << "Edit"
-                                     << "Cancel"
-                                     << "mine";
-    QTest::newRow("edit, escaped") << "Edit"
-                                   << ""
-                                   << "mine";
+    row("add", "Add", "OK", "new");
+    row("add, cancelled", "Add", "Cancel", "mine");
+    row("edit", "Edit", "OK", "mine");
+    row("edit, cancelled", "Edit", "Cancel", "mine");
+    row("edit, escaped", "Edit", "", "mine");
 }
 
 void CustomCatalogueTest::nested() {
@@ -473,10 +458,10 @@ void CustomCatalogueTest::nested() {
 void CustomCatalogueTest::deletion_data() {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("answer");
-    QTest::newRow("confirmed") << "mine" << 1;
-    QTest::newRow("declined") << "mine" << 0;
-    QTest::newRow("place marker in the name") << "%1 %2" << 1;
-    QTest::newRow("the only one") << "only" << 1;
+    row("confirmed", "mine", 1);
+    row("declined", "mine", 0);
+    row("place marker in the name", "%1 %2", 1);
+    row("the only one", "only", 1);
 }
 
 void CustomCatalogueTest::deletion() {
@@ -512,9 +497,9 @@ void CustomCatalogueTest::deletion() {
 
 void CustomCatalogueTest::typedNameStaysTyped_data() {
     QTest::addColumn<QString>("typed");
-    QTest::newRow("start of a name") << "WGS";
-    QTest::newRow("other case") << "wgs 84";
-    QTest::newRow("a whole name") << "mine";
+    row("start of a name", "WGS");
+    row("other case", "wgs 84");
+    row("a whole name", "mine");
 }
 
 /// Neither the name nor the values typed before it turn into those of an entry.
@@ -547,18 +532,12 @@ void CustomCatalogueTest::typedNameStaysTyped() {
 void CustomCatalogueTest::typedNumber_data() {
     QTest::addColumn<QString>("keys");
     QTest::addColumn<QString>("text");
-    QTest::newRow("semi-major axis") << "6378137.000"
-                                     << "6378137.000";
-    QTest::newRow("inverse flattening") << "298.257223563"
-                                        << "298.257223563";
-    QTest::newRow("decimal comma") << "298,25"
-                                   << "298,25";
-    QTest::newRow("sign") << "-5"
-                          << "5";
-    QTest::newRow("letters") << "0x1f nan"
-                             << "01";
-    QTest::newRow("twelve decimals") << "0.1234567890123"
-                                     << "0.123456789012";
+    row("semi-major axis", "6378137.000", "6378137.000");
+    row("inverse flattening", "298.257223563", "298.257223563");
+    row("decimal comma", "298,25", "298,25");
+    row("sign", "-5", "5");
+    row("letters", "0x1f nan", "01");
+    row("twelve decimals", "0.1234567890123", "0.123456789012");
 }
 
 /// The keys that the number fields take, in a locale whose decimal separator is a comma.
@@ -580,20 +559,17 @@ void CustomCatalogueTest::modelFile_data() {
     QTest::addColumn<int>("answer");         // to the question whether "mine" is covered, -1 for a new name
     const QString copy = QString::fromUtf8("modèle 10%s.ggf");
 
-    QTest::newRow("from elsewhere") << int(AddMode) << QStringList(copy) << copy << "elsewhere" << -1;
-    QTest::newRow("edited") << int(EditMode) << QStringList(copy) << copy << "elsewhere" << -1;
-    QTest::newRow("edited without a choice") << int(EditMode) << QStringList() << "mine.ggf"
-                                             << "no file" << -1;
-    QTest::newRow("an existing one stays") << int(AddMode) << QStringList("there.ggf") << "there.ggf"
-                                           << "there" << -1;
-    QTest::newRow("the existing one itself") << int(AddMode) << QStringList("folder/there.ggf") << "there.ggf"
-                                             << "there" << -1;
-    QTest::newRow("the last choice counts")
-        << int(AddMode) << QStringList{"there.ggf", copy} << copy << "elsewhere" << -1;
-    QTest::newRow("a cancelled choice does not") << int(AddMode) << QStringList{copy, ""} << copy << "elsewhere" << -1;
-    QTest::newRow("covered") << int(AddMode) << QStringList(copy) << copy << "elsewhere" << 1;
-    QTest::newRow("not covered") << int(AddMode) << QStringList(copy) << copy << "no file" << 0;
-    QTest::newRow("folder's path too long") << int(AddMode) << QStringList(copy) << copy << "too long" << -1;
+    const QStringList chosenCopy(copy);
+    row("from elsewhere", int(AddMode), chosenCopy, copy, "elsewhere", -1);
+    row("edited", int(EditMode), chosenCopy, copy, "elsewhere", -1);
+    row("edited without a choice", int(EditMode), QStringList(), "mine.ggf", "no file", -1);
+    row("an existing one stays", int(AddMode), QStringList("there.ggf"), "there.ggf", "there", -1);
+    row("the existing one itself", int(AddMode), QStringList("folder/there.ggf"), "there.ggf", "there", -1);
+    row("the last choice counts", int(AddMode), QStringList{"there.ggf", copy}, copy, "elsewhere", -1);
+    row("a cancelled choice does not", int(AddMode), QStringList{copy, ""}, copy, "elsewhere", -1);
+    row("covered", int(AddMode), chosenCopy, copy, "elsewhere", 1);
+    row("not covered", int(AddMode), chosenCopy, copy, "no file", 0);
+    row("folder's path too long", int(AddMode), chosenCopy, copy, "too long", -1);
 }
 
 void CustomCatalogueTest::modelFile() {
