@@ -744,6 +744,7 @@ void TestSdk::startsAtTheSameMoment() {
         if (round >= 4)
             setContent(data + locks[0], QByteArray());
         std::vector<std::unique_ptr<QProcess>> processes;
+        processes.reserve(6);
         for (int i = 0; i < 6; ++i)
             processes.push_back(startInstance(dir.path()));
         int running = 0;

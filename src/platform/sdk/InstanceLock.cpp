@@ -30,7 +30,7 @@ static QString lockPath() {
 /// else a name of the user's own.
 static QString serverName() {
 #ifndef Q_OS_WIN
-    const QString path = instanceFolder() + QLatin1String("/instance.socket");
+    QString path = instanceFolder() + QLatin1String("/instance.socket");
     if (QFile::encodeName(path).size() < 90)
         return path;
 #endif

@@ -40,6 +40,6 @@ int instance_is_run(const char*, bool bringToFront) {
 
 // The definition's origin latitude is in decimal degrees already, and so are all angles of the parameter record: there
 // is nothing to convert.
-double Radian2Angle(double* value) {
+double Radian2Angle(double* value) { // NOLINT(readability-non-const-parameter): the interface has it so
     return value ? *value : 0.0;
 }
