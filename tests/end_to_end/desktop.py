@@ -5,6 +5,8 @@ it does for a screen reader; the hands are X's own mouse and keyboard events. So
 for, and no position is written down anywhere.
 """
 
+import functools
+import itertools
 import os
 import subprocess
 import time
@@ -14,7 +16,7 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
-PATIENCE = 60  # seconds until a condition counts as never coming true; sanitizers and busy machines are slow
+PATIENCE = 30  # seconds until a condition counts as never coming true; sanitizers and busy machines are slow
 
 
 class NotSeen(AssertionError):
@@ -56,7 +58,7 @@ class Desktop:
         for name in ("DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "AT_SPI_BUS_ADDRESS"):
             os.environ.pop(name, None)
         os.environ.update(XDG_RUNTIME_DIR=runtime, NO_AT_BRIDGE="0", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
-        number = self._start(["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"])
+        number = self._start(["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-dpi", "96", "-nolisten", "tcp"])
         os.environ["DISPLAY"] = ":" + number
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._start(
             ["dbus-daemon", "--session", "--nofork", "--nopidfile", "--nosyslog", "--print-address=1"])
@@ -106,6 +108,10 @@ def visible_windows(pid):
     return ask("xdotool", "search", "--onlyvisible", "--pid", str(pid)).split()
 
 
+def active_window():
+    return ask("xdotool", "getactivewindow").strip()
+
+
 def hands(*arguments):
     subprocess.run(["xdotool", *map(str, arguments)], check=True, stdout=subprocess.DEVNULL)
 
@@ -124,7 +130,7 @@ class Widget:
     def __init__(self, accessible):
         self.accessible = accessible
 
-    @property
+    @functools.cached_property
     def kind(self):
         return self.accessible.get_role_name()
 
@@ -147,7 +153,7 @@ class Widget:
 
     @property
     def showing(self):
-        return self._is(Atspi.StateType.SHOWING) and self._is(Atspi.StateType.VISIBLE)
+        return self._is(Atspi.StateType.SHOWING)
 
     @property
     def enabled(self):
@@ -174,19 +180,31 @@ class Widget:
         return [Widget(child) for child in found if child]
 
     def walk(self):
-        """This widget and all below it, in the order of the screen reader; what is not on the screen is passed over."""
+        """This widget and all below it, in the order of the screen reader. Passed over: what is not on the screen, and
+        what is inside a drop-down list other than this one."""
         yield self
         for child in self.children():
-            if child.showing:
+            if not child.showing:
+                continue
+            if child.kind == "combo box":
+                yield child
+            else:
                 yield from child.walk()
 
+    def _matching(self, kind, name):
+        return (w for w in self.walk() if w.kind == kind and (name is None or w.name == name))
+
     def all(self, kind, name=None):
-        return [w for w in self.walk() if w.kind == kind and (name is None or w.name == name)]
+        return list(self._matching(kind, name))
 
     def find(self, kind, name=None, nth=0):
         """The nth widget of that kind and name below this one, as soon as it is there."""
         what = f"a {kind}" + (f" named {name!r}" if name is not None else "") + (f" (no. {nth})" if nth else "")
-        return wait_for(lambda: (self.all(kind, name)[nth:nth + 1] or [None])[0], what)
+        return wait_for(lambda: next(itertools.islice(self._matching(kind, name), nth, None), None), what)
+
+    def entries(self):
+        """All entries of a drop-down list, whether it is open or not."""
+        return [entry.name for part in self.children() if part.kind == "list" for entry in part.children()]
 
     def names(self, kind):
         return [w.name for w in self.all(kind)]
@@ -222,14 +240,17 @@ class Widget:
         wait_for(lambda: self.text == text, f"{text!r} in {self.name!r}, which holds {self.text!r}")
 
     def choose(self, text):
-        """Chooses an entry of a drop-down list: opens it, types the entry's first letters, confirms."""
+        """Chooses an entry of a drop-down list: opens it, goes down to the entry, confirms."""
         pid = self.accessible.get_process_id()
+        index = self.entries().index(text)
         before = len(visible_windows(pid))
         self.click()
         wait_for(lambda: len(visible_windows(pid)) > before, f"the list of {self.name!r} to drop down")
-        type_text(text)
+        press("Home")
+        if index > 0:
+            hands("key", "--repeat", index, "--delay", 2, "Down")
         press("Return")
-        wait_for(lambda: self.name == text, f"{text!r} to be chosen, not {self.name!r}")
+        wait_for(lambda: self.name == text, f"{text!r} to be chosen")
 
     def describe(self, depth=0):
         """The widgets below, for a person who wonders why a test saw nothing."""

@@ -1,7 +1,7 @@
 """The tree's commands by menu and button: what is seen, what is unsaved, and what a restart shows."""
 
 import tool
-from desktop import wait_for
+from desktop import press, wait_for
 
 ROOT_MENU = ["AddSysGroup", "Edit Ellipsoid", "AddGeoid"]
 GROUP_MENU = ["ImportCoordSys", "AddCoordSys", "EditSysGroup", "DelSysGroup"]
@@ -33,14 +33,14 @@ class Commands(tool.ToolTest):
             with self.subTest(name):
                 menu = self.tool.menu_at(self.tool.item(name))
                 self.assertEqual(menu.names("menu item"), entries)
-                tool.press("Escape")
+                press("Escape")
                 wait_for(lambda: not menu.showing, "the menu to close")
         # Empty space: what lies below the root once that is folded.
         self.tool.item(tool.ROOT).double_click()
         wait_for(lambda: self.tool.items() == [tool.ROOT], "the root to be folded")
         menu = self.tool.menu_at(self.tool.tree)
         self.assertEqual(menu.names("menu item"), ROOT_MENU)
-        tool.press("Escape")
+        press("Escape")
 
     def test_a_catalogue_kept_by_hand(self):
         self.tool.start()

@@ -74,7 +74,7 @@ class Ellipsoids(tool.ToolTest):
 
         self.tool.start()
         listed = self.open_list()
-        names = listed.find("combo box").names("list item")
+        names = listed.find("combo box").entries()
         self.assertIn("Plant 1 & 2", names)
         self.assertNotIn("Doomed", names)
         self.assertIn(SHIPPED, names)

@@ -97,7 +97,7 @@ class Geoids(tool.ToolTest):
 
         self.tool.start()
         listed = self.open_list()
-        self.assertEqual(listed.all("combo box")[0].names("list item"), ["Valley 2025"])
+        self.assertEqual(listed.all("combo box")[0].entries(), ["Valley 2025"])
         self.assertEqual(self.shown(listed), ("Valley 2025", "Ridge 2.vgf", "WGS 84"))
 
 

@@ -10,7 +10,7 @@ CATALOGUE = "CoordinateSystem_custom.vcs"
 
 class StartUp(tool.ToolTest):
     def semi_major_axis(self):
-        return self.tool.tab("Ellipsoid").find("text", "Semi-major axis")
+        return self.tool.tab("Ellipsoid").find("text", "Semi-major axis a")
 
     def edit(self, system, figure):
         self.tool.item(system).click()

@@ -11,7 +11,7 @@ import tempfile
 import unittest
 import xml.etree.ElementTree as xml
 
-from desktop import Desktop, Widget, press, type_text, wait_for, windows_of  # noqa: F401
+from desktop import Desktop, active_window, press, type_text, visible_windows, wait_for, windows_of
 
 TITLE = "Coordinate System Manager"
 ROOT = "CoordSysGroup"
@@ -96,8 +96,8 @@ class Tool:
         return self.tree.find("table cell", name)
 
     def items(self):
-        """The names in the tree, top to bottom, as far as its items are unfolded."""
-        return self.tree.names("table cell")
+        """The names in the tree, top to bottom, as far as its items are unfolded, also those that must be scrolled to."""
+        return [item.name for item in self.tree.children() if item.kind == "table cell"]
 
     def button(self, name):
         return self.main.find("push button", name)
@@ -108,10 +108,10 @@ class Tool:
 
     def tab(self, name):
         """Turns to a tab of the parameter panel."""
-        tab = self.main.find("page tab", name)
-        tab.click()
-        wait_for(lambda: tab.selected, f"the tab {name!r}")
-        return self.main
+        main = self.main
+        main.find("page tab", name).click()
+        main.find("page tab list", name)  # it bears the name of the tab in front
+        return main
 
     def unfold(self, name):
         """Unfolds a folded group of the tree."""
@@ -131,8 +131,10 @@ class Tool:
         """Reads a message box and presses one of its buttons."""
         box = self.dialog(title)
         wait_for(lambda: text in box.names("label"), f"{text!r}, not {box.names('label')}")
+        window = active_window()
         box.find("push button", button).click()
-        wait_for(lambda: not box.showing if self.process.poll() is None else True, f"{title!r} to close")
+        # By its X window: the next box may well take over this one's title and place on the accessibility bus.
+        wait_for(lambda: window not in visible_windows(self.process.pid), f"{title!r} to close")
 
     def input_name(self, title, name, button="Ok"):
         """Types into the name dialog, which must be ready for it, and presses a button."""
