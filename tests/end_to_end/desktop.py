@@ -24,7 +24,10 @@ class NotSeen(AssertionError):
 
 
 def wait_for(condition, what, seconds=PATIENCE):
-    """The first result of `condition` that is true. What vanishes while it is looked at counts as not there yet."""
+    """The first result of `condition` that is true. What vanishes while it is looked at counts as not there yet.
+
+    `what` names what is waited for, or is a function that says it once the wait was in vain.
+    """
     until = time.monotonic() + seconds
     while True:
         while GLib.MainContext.default().iteration(False):
@@ -36,7 +39,7 @@ def wait_for(condition, what, seconds=PATIENCE):
         if result:
             return result
         if time.monotonic() > until:
-            raise NotSeen(f"waited {seconds} s for {what}")
+            raise NotSeen(f"waited {seconds} s for {what() if callable(what) else what}")
         time.sleep(0.02)
 
 
@@ -237,7 +240,7 @@ class Widget:
             type_text(text)
         else:
             press("Delete")
-        wait_for(lambda: self.text == text, f"{text!r} in {self.name!r}, which holds {self.text!r}")
+        wait_for(lambda: self.text == text, lambda: f"{text!r} in {self.name!r}, which holds {self.text!r}")
 
     def choose(self, text):
         """Chooses an entry of a drop-down list: opens it, goes down to the entry, confirms."""

@@ -15,6 +15,18 @@ def projinfo(code, dialect):
 
 
 class Import(tool.ToolTest):
+    # From the EPSG registry: systems 25832, 2154, 3395 and 27700.
+    FIGURES = {
+        "ETRS89 / UTM zone 32N": {"Central meridian": 9, "Scale factor": 0.9996, "False easting": 500000},
+        # GDAL gives a system of the ESRI dialect the name that the registry has for it.
+        "RGF93 v1 / Lambert-93": {"Standard parallel 1": 49, "Standard parallel 2": 44, "Latitude of origin": 46.5,
+                                  "Central meridian": 3, "False easting": 700000, "False northing": 6600000},
+        "WGS 84 / World Mercator": {"Central meridian": 0, "Scale factor": 1, "False northing": 0},
+        "OSGB36 / British National Grid": {"Latitude of origin": 49, "Central meridian": -2,
+                                           "Scale factor": 0.9996012717, "False easting": 400000,
+                                           "False northing": -100000},
+    }
+
     def setUp(self):
         super().setUp()
         self.files = os.path.join(self.folder, "field data")
@@ -54,6 +66,10 @@ class Import(tool.ToolTest):
         unfolded = self.tool.items()
         return unfolded[unfolded.index(group) + 1:unfolded.index(following)]
 
+    def shown(self, panel, labels):
+        fields = {field.name: field.text for field in panel.all("text")}
+        return {label: float(fields.get(label, "nan")) for label in labels}
+
     def test_a_folder_of_prj_files(self):
         self.write("01 utm.prj", projinfo(25832, "WKT1_GDAL"))
         self.write("02 lambert.prj", projinfo(2154, "WKT1_ESRI") + "\r\n")
@@ -76,19 +92,19 @@ class Import(tool.ToolTest):
 
         wait_for(lambda: self.tool.item(tool.ROOT).selected, "the rebuilt tree")
         self.assertTrue(self.tool.save_enabled, "an import is a change")
-        # GDAL gives a system of the ESRI dialect the name that the registry has for it.
-        imported = ["ETRS89 / UTM zone 32N", "RGF93 v1 / Lambert-93", "WGS 84 / World Mercator",
-                    "OSGB36 / British National Grid"]
+        imported = list(self.FIGURES)
         self.assertCountEqual(self.systems(GROUP), imported)
         self.tool.save()
         self.assertEqual(self.tool.exit(), 0)
 
         self.tool.start()
         self.assertCountEqual([name for name in self.tool.items() if name in imported], imported)
-        self.tool.item("OSGB36 / British National Grid").click()
-        self.tool.tab("Projection")
-        fields = [field.text for field in self.tool.main.all("text")]
-        self.assertIn("400000", [text.rstrip("0").rstrip(".") if "." in text else text for text in fields])
+        for system, figures in self.FIGURES.items():
+            with self.subTest(system):
+                self.tool.item(system).click()
+                panel = self.tool.tab("Projection")
+                wait_for(lambda: self.shown(panel, figures) == figures,
+                         lambda: f"{figures}, not {self.shown(panel, figures)}")
 
 
 if __name__ == "__main__":

@@ -130,7 +130,7 @@ class Tool:
     def answer(self, title, text, button):
         """Reads a message box and presses one of its buttons."""
         box = self.dialog(title)
-        wait_for(lambda: text in box.names("label"), f"{text!r}, not {box.names('label')}")
+        wait_for(lambda: text in box.names("label"), lambda: f"{text!r}, not {box.names('label')}")
         window = active_window()
         box.find("push button", button).click()
         # By its X window: the next box may well take over this one's title and place on the accessibility bus.
