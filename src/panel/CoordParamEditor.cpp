@@ -7,7 +7,6 @@
 
 #include <cmath>
 #include <cstring>
-#include <utility>
 
 using namespace CoordParamKey;
 
@@ -17,6 +16,11 @@ constexpr char noSeparator = '\0';
 
 bool sameText(const char* text, const char* other) {
     return text && other && std::strcmp(text, other) == 0;
+}
+
+/// Whether the kind's parallel of true scale is for the user to choose.
+bool hasParallel(std::optional<ProjectionKind> kind) {
+    return kind == ProjectionKind::MercatorStandardParallel || kind == ProjectionKind::Stereographic;
 }
 
 } // namespace
@@ -29,7 +33,7 @@ void CoordParamEditor::setRecord(const IDictionary& record) {
 void CoordParamEditor::forgetReplaced() {
     replaced->clear();
     initial->clear();
-    replacedParallel.reset();
+    replacedRadius->clear();
 }
 
 std::optional<double> CoordParamEditor::semiMajorAxis() const {
@@ -37,28 +41,40 @@ std::optional<double> CoordParamEditor::semiMajorAxis() const {
     return DatumFields::semiMajorAxis().read(*values, &a) && a > 0.0 ? std::optional<double>(a) : std::nullopt;
 }
 
-void CoordParamEditor::setField(const ParamField& field, const FieldInput& input) {
+bool CoordParamEditor::setField(const ParamField& field, const FieldInput& input) {
+    double number;
     if (!input.valid)
-        return;
+        return false;
+    const std::optional<double> axis = semiMajorAxis(), parallel = TrueScaleParallel::ofRecord(*values);
     if (field.quantity == Quantity::TrueScaleParallel) {
-        if (const std::optional<double> a = semiMajorAxis())
-            dic_set_value(values.get(), field.key, "%f",
-                          input.text == "0" && field.optional ? 0.0 : TrueScaleParallel::radius(*a, input.value));
-        return;
+        // Without an axis there is no radius to keep the parallel by.
+        const bool isNone = field.optional && input.value == 0.0;
+        return axis && putNumber(field.key, isNone ? 0.0 : TrueScaleParallel::radius(*axis, input.value));
     }
-    const std::optional<double> parallel = TrueScaleParallel::ofRecord(*values);
+    if (sameText(values->getValue(field.key), input.text.constData()) && !values->getNumber(field.key, &number))
+        return false;
     values->setText(field.key, input.text.constData());
-    if (std::strcmp(field.key, factor) == 0)
+    if (field.is(factor))
         followFactor();
-    else if (std::strcmp(field.key, ellipsoidA) == 0)
-        followAxis(parallel);
+    else if (field.is(ellipsoidA))
+        followAxis(axis, parallel);
+    return true;
+}
+
+/// Sets a number that is computed, unless the record holds it already, give or take its last bits.
+bool CoordParamEditor::putNumber(const char* key, double value) {
+    const bool isSame = values->getValue(key) &&
+                        std::fabs(value - dictionary_number(*values, key, value + 1.0)) <= std::fabs(value) * 4e-16;
+    if (!isSame)
+        dic_set_value(values.get(), key, "%f", value);
+    return !isSame;
 }
 
 void CoordParamEditor::setEllipsoid(const IDictionary& ellipsoid) {
-    const std::optional<double> parallel = TrueScaleParallel::ofRecord(*values);
+    const std::optional<double> axis = semiMajorAxis(), parallel = TrueScaleParallel::ofRecord(*values);
     for (const char* key : {ellipsoidName, ellipsoidA, ellipsoidF})
         dictionary_copy(values.get(), &ellipsoid, key, noSeparator);
-    followAxis(parallel);
+    followAxis(axis, parallel);
 }
 
 std::optional<ProjectionKind> CoordParamEditor::kind() const {
@@ -77,23 +93,21 @@ void CoordParamEditor::followFactor() {
         dic_set_value(values.get(), projectType, "%d", int(right));
 }
 
-void CoordParamEditor::followAxis(std::optional<double> parallel) {
-    const std::optional<ProjectionKind> now = kind();
-    if (now == ProjectionKind::Mercator)
-        parallel = 0.0;
-    else if (now == ProjectionKind::MercatorStandardParallel)
-        parallel = parallel.value_or(0.0);
-    if (parallel)
+void CoordParamEditor::followAxis(std::optional<double> axisBefore, std::optional<double> parallel) {
+    if (semiMajorAxis() == axisBefore)
+        return;
+    if (kind() == ProjectionKind::Mercator)
+        setParallel(0.0);
+    else if (kind() == ProjectionKind::MercatorStandardParallel)
+        setParallel(parallel.value_or(0.0));
+    else if (kind() == ProjectionKind::Stereographic)
         setParallel(parallel);
 }
 
 void CoordParamEditor::setParallel(std::optional<double> parallel) {
     const std::optional<double> a = semiMajorAxis();
-    if (!a)
-        return;
-    const double radius = parallel ? TrueScaleParallel::radius(*a, *parallel) : 0.0;
-    if (std::fabs(radius - dictionary_number(*values, cuttingRadius, -1.0)) > 1e-9)
-        dic_set_value(values.get(), cuttingRadius, "%f", radius);
+    if (a)
+        putNumber(cuttingRadius, parallel ? TrueScaleParallel::radius(*a, *parallel) : 0.0);
 }
 
 void CoordParamEditor::setKind(ProjectionKind chosen) {
@@ -101,26 +115,34 @@ void CoordParamEditor::setKind(ProjectionKind chosen) {
     if (!fields)
         return;
     const std::optional<ProjectionKind> before = kind();
-    std::optional<double> parallel = TrueScaleParallel::ofRecord(*values);
-    if (before == ProjectionKind::Mercator && chosen != ProjectionKind::Mercator && replacedParallel)
-        parallel = std::exchange(replacedParallel, std::nullopt);
-    else if (before != ProjectionKind::Mercator && chosen == ProjectionKind::Mercator)
-        replacedParallel = parallel;
-
     restoreReplaced();
     dic_set_value(values.get(), projectType, "%d", int(chosen));
     complete(*fields);
-    if (chosen == ProjectionKind::Stereographic)
-        setParallel(parallel == 0.0 ? std::nullopt : parallel); // the equator is no parallel of a polar projection
-    else
-        followAxis(parallel);
+    chooseParallel(before);
+}
+
+void CoordParamEditor::chooseParallel(std::optional<ProjectionKind> before) {
+    const bool hadParallel = hasParallel(before), hasParallelNow = hasParallel(kind());
+    if (hadParallel && !hasParallelNow) {
+        for (const char* key : {ellipsoidA, cuttingRadius})
+            dictionary_copy(replacedRadius.get(), values.get(), key, noSeparator);
+    } else if (!hadParallel && hasParallelNow && replacedRadius->getValue(cuttingRadius)) {
+        dictionary_copy(values.get(), replacedRadius.get(), cuttingRadius, noSeparator);
+        if (!sameText(values->getValue(ellipsoidA), replacedRadius->getValue(ellipsoidA)))
+            setParallel(TrueScaleParallel::ofRecord(*replacedRadius));
+    }
+    const std::optional<double> parallel = TrueScaleParallel::ofRecord(*values);
+    if (kind() == ProjectionKind::Mercator || (kind() == ProjectionKind::MercatorStandardParallel && !parallel))
+        setParallel(0.0);
+    else if (kind() == ProjectionKind::Stereographic && (!parallel || *parallel == 0.0))
+        setParallel(std::nullopt); // the equator is no parallel of a polar projection
 }
 
 double CoordParamEditor::initialValue(const ProjectionFields& fields, const ParamField& field) const {
     // With one parallel the origin usually lies on it.
     const double origin = dictionary_number(*values, orgLat, 0.0);
-    const bool isOriginsParallel = fields.kind == ProjectionKind::LambertOneParallel &&
-                                   std::strcmp(field.key, parallel1Lat) == 0 && origin != 0.0 && field.accepts(origin);
+    const bool isOriginsParallel = fields.kind == ProjectionKind::LambertOneParallel && field.is(parallel1Lat) &&
+                                   origin != 0.0 && field.accepts(origin);
     return isOriginsParallel ? origin : field.initial;
 }
 
@@ -129,8 +151,9 @@ void CoordParamEditor::complete(const ProjectionFields& fields) {
     for (const ParamField& field : fields.fields) {
         if (field.quantity == Quantity::TrueScaleParallel)
             continue;
-        const bool isPartOfLine = field.quantity == Quantity::Latitude && std::strcmp(field.key, orgLat) != 0;
-        if (!values->getValue(field.key) || !field.isSound(*values) || (degenerate && isPartOfLine))
+        const bool isPartOfLine = field.quantity == Quantity::Latitude && !field.is(orgLat);
+        double value;
+        if (!field.read(*values, &value) || !field.accepts(value) || (degenerate && isPartOfLine))
             put(field.key, initialValue(fields, field));
     }
     const bool isScaleOne = dictionary_number(*values, factor, 0.0) == 1.0;
@@ -191,7 +214,7 @@ void CoordParamEditor::setGeoid(const char* name) {
 }
 
 void CoordParamEditor::replaceValues(const IDictionary& source) {
-    const std::optional<double> parallel = TrueScaleParallel::ofRecord(*values);
+    const std::optional<double> axis = semiMajorAxis(), parallel = TrueScaleParallel::ofRecord(*values);
     if (source.getValue(shiftType)) {
         for (const ParamField& field : DatumFields::shift())
             values->remove(field.key);
@@ -201,6 +224,6 @@ void CoordParamEditor::replaceValues(const IDictionary& source) {
     if (!source.getValue(projectType))
         followFactor();
     if (!source.getValue(cuttingRadius))
-        followAxis(parallel);
+        followAxis(axis, parallel);
     forgetReplaced();
 }

@@ -19,8 +19,9 @@ public:
     /// Starts over with a copy of `record`.
     void setRecord(const IDictionary& record);
 
-    /// Takes over what the user typed into a field; an input that is not valid changes nothing.
-    void setField(const ParamField& field, const FieldInput& input);
+    /// Takes over what the user typed into a field. False when that changes nothing: an input that is not valid, or
+    /// what the record holds already.
+    bool setField(const ParamField& field, const FieldInput& input);
 
     /// Takes over name, axis and flattening of an ellipsoid record, with the numbers behind the texts.
     void setEllipsoid(const IDictionary& ellipsoid);
@@ -47,17 +48,19 @@ private:
     std::optional<ProjectionKind> kind() const;
     std::optional<double> semiMajorAxis() const;
 
+    bool putNumber(const char* key, double value);
     void put(const char* key, double value);
     void restoreReplaced();
     void forgetReplaced();
     double initialValue(const ProjectionFields& fields, const ParamField& field) const;
     void complete(const ProjectionFields& fields);
+    void chooseParallel(std::optional<ProjectionKind> before);
     void setParallel(std::optional<double> parallel);
     void followFactor();
-    void followAxis(std::optional<double> parallel);
+    void followAxis(std::optional<double> axisBefore, std::optional<double> parallel);
 
     DictionaryGuard values;
-    DictionaryGuard replaced;               ///< values that the choice of a kind replaced
-    DictionaryGuard initial;                ///< and by what
-    std::optional<double> replacedParallel; ///< parallel of true scale before Mercator was chosen, in degrees
+    DictionaryGuard replaced;       ///< values that the choice of a kind replaced
+    DictionaryGuard initial;        ///< and by what
+    DictionaryGuard replacedRadius; ///< radius and axis of the parallel of true scale of a kind the user came from
 };

@@ -32,7 +32,7 @@ DatumShiftTab::DatumShiftTab(CoordParamEditor& editor, bool readOnly, QWidget* p
     kindLabel->setBuddy(kindBox);
     kindBox->setAccessibleName(kindLabel->text());
     kindBox->addItem(DlgCoordParam::tr("None"), none);
-    kindBox->addItem(DlgCoordParam::tr("Seven parameters"), sevenParameters);
+    kindBox->addItem(DlgCoordParam::tr("Seven parameters (three: the rest 0)"), sevenParameters);
     kindBox->setEnabled(!readOnly);
     grid->addWidget(kindLabel, 0, 0);
     grid->addWidget(kindBox, 0, 1, 1, 3, Qt::AlignLeft);
@@ -82,9 +82,9 @@ void DatumShiftTab::showKind() {
 
     if (isSeven)
         convention->setText(DlgCoordParam::tr(
-            "The rotations follow the position-vector convention (EPSG method 9606, PROJ towgs84). Figures published "
-            "in the coordinate-frame convention (EPSG method 9607) have the opposite signs: type them as published, "
-            "then reverse them. A three-parameter shift leaves rotations and scale difference 0."));
+            "Rotations in the position-vector convention (EPSG 9606, PROJ towgs84). Figures published "
+            "in the coordinate-frame convention (EPSG 9607): type them as they are, then reverse "
+            "their signs."));
     else if (kind == none)
         convention->setText(DlgCoordParam::tr("The system's datum counts as WGS 84."));
     else

@@ -19,11 +19,22 @@ DlgCoordParam::DlgCoordParam(ICoordSystem* coordSystem, QWidget* parent, bool re
     addParamTab(new DefinitionTab(editor, readOnly, nullptr));
 }
 
-DlgCoordParam::~DlgCoordParam() = default;
+DlgCoordParam::~DlgCoordParam() {
+    // Before the record goes: a field that loses the keyboard on its way out still looks at it.
+    while (count() > 0)
+        delete widget(0);
+}
 
 void DlgCoordParam::setCoordParam(const IDictionary& record) {
     editor.setRecord(record);
     refreshTabs(nullptr);
+}
+
+QSize DlgCoordParam::sizeHint() const {
+    // A splitter shares its width out by size hint times stretch factor. With a tree's hint for its own, the panel gets
+    // the two thirds meant for it, whichever tab is the widest.
+    constexpr int widthOfATree = 256;
+    return {widthOfATree, QTabWidget::sizeHint().height()};
 }
 
 const IDictionary& DlgCoordParam::getMetaData() const {

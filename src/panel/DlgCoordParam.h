@@ -25,6 +25,8 @@ public:
     /// same texts, same numbers, unknown keys included.
     const IDictionary& getMetaData() const;
 
+    QSize sizeHint() const override;
+
 Q_SIGNALS:
     /// The user changed a value.
     void dataChanged();

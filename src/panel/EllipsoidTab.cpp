@@ -28,6 +28,7 @@ QLineEdit* addShownValue(QGridLayout* grid, int line, const QString& name, const
     value->setPalette(colors);
     auto* label = new QLabel(name);
     label->setBuddy(value);
+    value->setAccessibleName(name);
     grid->addWidget(label, line, 0);
     grid->addWidget(value, line, 1);
     grid->addWidget(new QLabel(unit), line, 2);

@@ -73,10 +73,8 @@ void FieldRow::setWarning(const QString& text) {
 void FieldRow::_onTextEdited(const QString& text) {
     const FieldInput input = shownField->parse(text);
     error = input.reason;
-    if (input.valid) {
-        editor.setField(*shownField, input);
+    if (editor.setField(*shownField, input))
         Q_EMIT edited(); // before the state is shown: the form looks for warnings
-    }
     showState();
 }
 
@@ -98,7 +96,7 @@ void FieldRow::_onFocusChanged() {
 /// An angle in the notation that the field does not show: what a text in degrees and minutes was taken for.
 QString FieldRow::hint() const {
     double value;
-    if (!edit->hasFocus() || !shownField->isAngle() || !shownField->read(editor.record(), &value))
+    if (!shownField || !edit->hasFocus() || !shownField->isAngle() || !shownField->read(editor.record(), &value))
         return QString();
     const bool decimal = AngleText::notation() == AngleNotation::DecimalDegrees;
     return "= " +

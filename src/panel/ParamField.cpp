@@ -5,6 +5,7 @@
 #include "panel/TrueScaleParallel.h"
 
 #include <cmath>
+#include <cstring>
 
 namespace {
 
@@ -24,6 +25,10 @@ double toDegrees(double arcSeconds) {
 }
 
 } // namespace
+
+bool ParamField::is(const char* otherKey) const {
+    return std::strcmp(key, otherKey) == 0;
+}
 
 bool ParamField::isAngle() const {
     return quantity == Quantity::Latitude || quantity == Quantity::Longitude || quantity == Quantity::Azimuth ||

@@ -44,6 +44,8 @@ public:
     bool endsExcluded = false;
     bool optional = false; ///< may be left empty, which the record keeps as 0
 
+    /// Whether the field reads and writes `otherKey`.
+    bool is(const char* otherKey) const;
     bool isAngle() const;
     bool accepts(double value) const;
 

@@ -91,7 +91,7 @@ QString ProjectionAdvice::warning(const ProjectionFields& kind, const ParamField
         return scaleWarning(kind, record, value);
     if (field.quantity == Quantity::TrueScaleParallel)
         return trueScaleWarning(kind, record, value);
-    if (field.key == parallel1Lat || field.key == parallel2Lat)
+    if (field.is(parallel1Lat) || field.is(parallel2Lat))
         return coneWarning(kind, record);
     if (field.quantity == Quantity::Longitude && isTransverseMercator(kind))
         return meridianWarning(record, value);

@@ -2,8 +2,6 @@
 
 #include "catalogue/IDictionary.h"
 
-#include <cstring>
-
 namespace {
 
 using namespace CoordParamKey;
@@ -137,7 +135,7 @@ const ProjectionFields* ProjectionFields::ofRecord(const IDictionary& record) {
 
 const ParamField* ProjectionFields::field(const char* key) const {
     for (const ParamField& field : fields) {
-        if (std::strcmp(field.key, key) == 0)
+        if (field.is(key))
             return &field;
     }
     return nullptr;

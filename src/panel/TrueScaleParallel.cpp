@@ -17,10 +17,15 @@ std::optional<double> TrueScaleParallel::ofRecord(const IDictionary& record) {
     const double a = dictionary_number(record, CoordParamKey::ellipsoidA, 0.0);
     const double kept = dictionary_number(record, CoordParamKey::cuttingRadius, 0.0);
     double number;
-    // A text has six decimals; a number behind it is exact to the last bits of a radius of some 10^7 m.
-    const double tolerance = record.getNumber(CoordParamKey::cuttingRadius, &number) ? 2e-9 : 5e-7;
+    // A text has six decimals; a number behind it is exact to the last bits.
+    const double tolerance = record.getNumber(CoordParamKey::cuttingRadius, &number) ? kept * 4e-16 : 5e-7;
     if (!(a > 0.0) || kept < 1e-6 || kept > a + tolerance)
         return std::nullopt;
     const double latitude = std::acos(std::min(kept / a, 1.0)) / degree;
-    return NumberText::fewestDigits(latitude, kept, tolerance, [a](double phi) { return radius(a, phi); });
+    const bool isSouthern =
+        dictionary_number(record, CoordParamKey::projectType, -1.0) == int(ProjectionKind::Stereographic) &&
+        dictionary_number(record, CoordParamKey::orgLat, 0.0) < 0.0;
+    const double shortened =
+        NumberText::fewestDigits(latitude, kept, tolerance, [a](double phi) { return radius(a, phi); });
+    return isSouthern ? -shortened : shortened;
 }
