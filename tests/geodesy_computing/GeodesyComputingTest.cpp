@@ -9,6 +9,10 @@
 
 #include <cmath>
 
+Q_DECLARE_METATYPE(PublishedSystem)
+Q_DECLARE_METATYPE(PublishedRow)
+Q_DECLARE_METATYPE(GeographicPoint)
+
 namespace {
 
 constexpr double degree = 3.141592653589793 / 180.0;
@@ -189,10 +193,6 @@ void GeodesyComputingTest::distortionAtHeight() {
     system->linearDistortion(points, 1, 1000.0, ppm);
     showDifference(ppm[0], (0.9996 * 6371000.0 / 6372000.0 - 1.0) * 1e6, 0.001);
 }
-
-Q_DECLARE_METATYPE(PublishedSystem)
-Q_DECLARE_METATYPE(PublishedRow)
-Q_DECLARE_METATYPE(GeographicPoint)
 
 QTEST_GUILESS_MAIN(GeodesyComputingTest)
 #include "GeodesyComputingTest.moc"
