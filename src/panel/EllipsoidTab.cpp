@@ -7,25 +7,21 @@
 #include "panel/CoordParamEditor.h"
 #include "panel/DatumFields.h"
 #include "panel/DlgCoordParam.h"
+#include "panel/FieldEdit.h"
 #include "panel/FieldRow.h"
 #include "panel/MessageLine.h"
 #include "panel/SearchBox.h"
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
 
 #include <cmath>
 
 namespace {
 
-QLineEdit* addShownValue(QGridLayout* grid, int line, const QString& name, const QString& unit, int width) {
-    auto* value = new QLineEdit;
-    value->setReadOnly(true);
-    value->setFixedWidth(width);
-    QPalette colors = value->palette();
-    colors.setColor(QPalette::Base, colors.color(QPalette::Window));
-    value->setPalette(colors);
+FieldEdit* addShownValue(QGridLayout* grid, int line, const QString& name, const QString& unit) {
+    auto* value = new FieldEdit;
+    value->setShownOnly();
     auto* label = new QLabel(name);
     label->setBuddy(value);
     value->setAccessibleName(name);
@@ -58,9 +54,8 @@ EllipsoidTab::EllipsoidTab(ICoordSystem* coordSystem, CoordParamEditor& editor, 
     semiMajorAxis->setField(&DatumFields::semiMajorAxis());
     inverseFlattening = new FieldRow(editor, readOnly, grid, 4);
     inverseFlattening->setField(&DatumFields::inverseFlattening());
-    const int width = semiMajorAxis->widget()->width();
-    semiMinorAxis = addShownValue(grid, 6, DlgCoordParam::tr("Semi-minor axis b"), "m", width);
-    eccentricity = addShownValue(grid, 8, DlgCoordParam::tr("Eccentricity e"), QString(), width);
+    semiMinorAxis = addShownValue(grid, 6, DlgCoordParam::tr("Semi-minor axis b"), "m");
+    eccentricity = addShownValue(grid, 8, DlgCoordParam::tr("Eccentricity e"), QString());
     grid->setRowStretch(10, 1);
 
     connect(nameBox, SIGNAL(listNeeded()), this, SLOT(_onListNeeded()));
@@ -87,6 +82,7 @@ void EllipsoidTab::_onListNeeded() {
         return;
     listedNames = names;
     nameBox->setNames(QString::fromLocal8Bit(names).split(',', Qt::SkipEmptyParts));
+    nameMessage->setMessage(nameRemark(), MessageLine::Tone::Warning);
 }
 
 void EllipsoidTab::_onChosen(const QString& name) {

@@ -4,10 +4,10 @@
 
 #include <QByteArray>
 
+class FieldEdit;
 class FieldRow;
 class ICoordSystem;
 class MessageLine;
-class QLineEdit;
 class SearchBox;
 
 /// The tab "Ellipsoid": name, axis and flattening; the semi-minor axis and the eccentricity that follow from them.
@@ -36,7 +36,7 @@ private:
     MessageLine* nameMessage;
     FieldRow* semiMajorAxis;
     FieldRow* inverseFlattening;
-    QLineEdit* semiMinorAxis;
-    QLineEdit* eccentricity;
+    FieldEdit* semiMinorAxis;
+    FieldEdit* eccentricity;
     QByteArray listedNames; ///< the catalogue's list as the box has it
 };

@@ -3,6 +3,15 @@
 #include <QKeyEvent>
 
 FieldEdit::FieldEdit(QWidget* parent) : QLineEdit(parent) {
+    constexpr int frame = 24;
+    setFixedWidth(fontMetrics().horizontalAdvance("-179°59'59.12345678\"") + frame);
+}
+
+void FieldEdit::setShownOnly() {
+    setReadOnly(true);
+    QPalette colors;
+    colors.setColor(QPalette::Base, colors.color(QPalette::Window));
+    setPalette(colors);
 }
 
 void FieldEdit::setMarked(bool mark) {

@@ -2,13 +2,17 @@
 
 #include <QLineEdit>
 
-/// A line edit for one value: Escape cancels the typing and closes nothing; a value that is refused can be marked.
+/// A line edit for one value, as wide as the longest one. Escape cancels the typing and closes nothing.
 class FieldEdit : public QLineEdit {
     Q_OBJECT
 
 public:
     explicit FieldEdit(QWidget* parent = nullptr);
 
+    /// The value can be read and copied only, and looks like it.
+    void setShownOnly();
+
+    /// Marks a value that is refused.
     void setMarked(bool mark);
     bool isMarked() const { return marked; }
 

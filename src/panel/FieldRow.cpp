@@ -16,9 +16,8 @@ FieldRow::FieldRow(CoordParamEditor& editor, bool readOnly, QGridLayout* grid, i
     , edit(new FieldEdit)
     , unit(new QLabel)
     , message(new MessageLine) {
-    edit->setReadOnly(readOnly);
-    // The longest that fits without scrolling: an angle to 1e-8 seconds.
-    edit->setFixedWidth(edit->fontMetrics().horizontalAdvance("-179°59'59.12345678\"") + 24);
+    if (readOnly)
+        edit->setShownOnly();
     label->setBuddy(edit);
     grid->addWidget(label, line, 0);
     grid->addWidget(edit, line, 1);
@@ -30,10 +29,6 @@ FieldRow::FieldRow(CoordParamEditor& editor, bool readOnly, QGridLayout* grid, i
     connect(edit, SIGNAL(editingFinished()), this, SLOT(_onEditingFinished()));
     connect(edit, SIGNAL(cancelled()), this, SLOT(_onCancelled()));
     connect(edit, SIGNAL(focusChanged()), this, SLOT(_onFocusChanged()));
-}
-
-QWidget* FieldRow::widget() const {
-    return edit;
 }
 
 void FieldRow::setField(const ParamField* field) {

@@ -34,7 +34,6 @@ public:
     void setWarning(const QString& text);
 
     const ParamField* field() const { return shownField; }
-    QWidget* widget() const;
 
 Q_SIGNALS:
     /// The user typed a sound value; it is in the record.

@@ -7,6 +7,8 @@
 #include "panel/ProjectionFields.h"
 #include "panel/TrueScaleParallel.h"
 
+#include <QRegularExpression>
+
 #include <cmath>
 
 using namespace CoordParamKey;
@@ -121,14 +123,17 @@ QString ProjectionAdvice::coneWarning(const ProjectionFields& kind, const IDicti
 }
 
 QString ProjectionAdvice::meridianWarning(const IDictionary& record, double meridian) {
-    const double easting = number(record, falseEast), scale = number(record, factor);
-    // UTM: 3 degrees from Greenwich and every 6 degrees on.
-    if (scale == 0.9996 && easting == 500000.0 && apart(meridian, 6.0 * std::floor(meridian / 6.0) + 3.0) > 1e-9)
-        return tr("Not a central meridian of UTM.");
+    // A system that calls itself UTM.
+    static const QRegularExpression utm("\\bUTM *(?:zone)? *([0-9]{1,2})(?![0-9])",
+                                        QRegularExpression::CaseInsensitiveOption);
+    const int utmZone = utm.match(QString::fromLocal8Bit(record.getValue(name))).captured(1).toInt();
+    if (utmZone >= 1 && utmZone <= 60 && apart(meridian, 6.0 * utmZone - 183.0) > 1e-9)
+        return tr("Zone %1 of UTM has the central meridian %2°.").arg(utmZone).arg(6 * utmZone - 183);
+
     // Gauss-Krüger eastings begin with the zone: 3 or 6 degrees wide, or 1 degree in Finland. Below zone 8 some
     // countries number otherwise.
-    const double zone = std::floor(easting / 1e6);
-    if (scale != 1.0 || zone < 8.0 || zone > 120.0 || easting - zone * 1e6 != 500000.0)
+    const double easting = number(record, falseEast), zone = std::floor(easting / 1e6);
+    if (number(record, factor) != 1.0 || zone < 8.0 || zone > 120.0 || easting - zone * 1e6 != 500000.0)
         return QString();
     const bool fits =
         apart(meridian, 3.0 * zone) < 1e-9 || apart(meridian, 6.0 * zone - 3.0) < 1e-9 || apart(meridian, zone) < 1e-9;

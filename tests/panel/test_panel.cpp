@@ -209,6 +209,8 @@ private Q_SLOTS:
     void editsEveryField();
     void definesFreshSystem_data();
     void definesFreshSystem();
+    void definesByItsFields_data();
+    void definesByItsFields();
     void keepsValuesOfOtherKinds();
     void followsScaleFactor();
     void keepsTrueScaleParallel_data();
@@ -499,6 +501,32 @@ void TestPanel::definesFreshSystem() {
     }
 }
 
+void TestPanel::definesByItsFields_data() {
+    definesFreshSystem_data();
+}
+
+/// The keys that the kind's fields write are those that make its definition, and no others.
+void TestPanel::definesByItsFields() {
+    QFETCH(ProjectionKind, kind);
+    DictionaryGuard record;
+    fillImported(record.get(), kind);
+    if (kind == ProjectionKind::Stereographic) {
+        record->setText(orgLat, "90");
+        record->setText(factor, "1");
+    }
+    const QByteArray before = coordParamToProjDefine(*record);
+    QVERIFY(!before.isEmpty());
+    for (const char* key : {orgLon, orgLat, falseNorth, falseEast, factor, cuttingRadius, parallel1Lat, parallel2Lat,
+                            azimuth, lon1, lat1, lon2, lat2}) {
+        DictionaryGuard other;
+        dictionary_assign(other.get(), record.get());
+        dic_set_value(other.get(), key, "%f", dictionary_number(*record, key, 0) * 0.99 + 0.001);
+        QVERIFY2((coordParamToProjDefine(*other) != before) ==
+                     (ProjectionFields::ofRecord(*record)->field(key) != nullptr),
+                 key);
+    }
+}
+
 void TestPanel::keepsValuesOfOtherKinds() {
     DictionaryGuard record;
     fillImported(record.get(), ProjectionKind::MercatorStandardParallel);
@@ -682,8 +710,8 @@ void TestPanel::saysWhatIsWrong_data() {
     row("polar with neither", Kind::Stereographic, {orgLat, "90", factor, "0", cuttingRadius, "0"}, "scale factor");
     row("parallel off the pole", Kind::Stereographic, {orgLat, "52", factor, "1"}, "no pole");
     row("far from 1", Kind::TransverseMercatorScaled, {factor, "0.95"}, "close to 1");
-    row("not UTM's", Kind::TransverseMercatorScaled, {factor, "0.9996", orgLon, "10"}, "UTM");
-    row("UTM's", Kind::TransverseMercatorScaled, {factor, "0.9996", orgLon, "-177"}, "");
+    row("other UTM zone", Kind::TransverseMercatorScaled, {name, "X / UTM zone 32N", orgLon, "15"}, "Zone 32 of UTM");
+    row("its UTM zone", Kind::TransverseMercatorScaled, {name, "UTM1", orgLon, "-177"}, "");
     row("zone", Kind::TransverseMercator, {falseEast, "39500000", orgLon, "117"}, "");
     row("zone of 6 degrees", Kind::TransverseMercator, {falseEast, "20500000", orgLon, "117"}, "");
     row("other zone", Kind::TransverseMercator, {falseEast, "39500000", orgLon, "120"}, "zone 39");
