@@ -1,10 +1,13 @@
 #include "panel/CheckTab.h"
 
 #include "catalogue/CoordParamKey.h"
-#include "catalogue/Dictionary.h"
+#include "catalogue/IDictionary.h"
 #include "import/CoordParamToProjDefine.h"
 #include "panel/AngleNotationBox.h"
 #include "panel/CheckPointPane.h"
+#include "panel/CoordParamEditor.h"
+#include "panel/DistortionLines.h"
+#include "panel/DistortionPane.h"
 #include "panel/DlgCoordParam.h"
 #include "panel/MessageLine.h"
 #include "panel/ProjectionAdvice.h"
@@ -29,6 +32,10 @@ void CheckTab::build() {
     pages->setDocumentMode(true);
     pointPane = new CheckPointPane;
     pages->addTab(pointPane, DlgCoordParam::tr("Point"));
+    distortionPane = new DistortionPane(isReadOnly());
+    pages->addTab(distortionPane, DlgCoordParam::tr("Distortion"));
+    connect(pages, SIGNAL(currentChanged(int)), this, SLOT(_onPageChanged()));
+    connect(distortionPane, SIGNAL(proposalAccepted()), this, SLOT(_onProposalAccepted()));
 
     notationBox = new AngleNotationBox;
     notationBox->setAccessibleName(DlgCoordParam::tr("Show angles in"));
@@ -63,10 +70,23 @@ void CheckTab::showRecord() {
 }
 
 void CheckTab::showSystem() {
-    const GridPoint origin{dictionary_number(record(), CoordParamKey::falseEast, 0.0),
-                           dictionary_number(record(), CoordParamKey::falseNorth, 0.0)};
+    pointPane->setSystem(system.get(), DistortionLines::origin(record()),
+                         QString::fromLocal8Bit(record().getValue(CoordParamKey::name)));
     pointPane->showNotation();
-    pointPane->setSystem(system.get(), origin, QString::fromLocal8Bit(record().getValue(CoordParamKey::name)));
+    distortionPane->setSystem(&record(), system.get(), pointPane->place());
+}
+
+void CheckTab::_onPageChanged() {
+    distortionPane->setCheckedPlace(pointPane->place());
+}
+
+void CheckTab::_onProposalAccepted() {
+    const auto proposal = distortionPane->proposal();
+    if (!proposal)
+        return;
+    proposal->apply(editor());
+    showRecord();
+    recordChanged();
 }
 
 void CheckTab::_onNotationChosen() {

@@ -6,6 +6,7 @@
 
 class AngleNotationBox;
 class CheckPointPane;
+class DistortionPane;
 class IProjectedSystem;
 class MessageLine;
 class QTabWidget;
@@ -27,6 +28,8 @@ protected:
 
 private Q_SLOTS:
     void _onNotationChosen();
+    void _onPageChanged();
+    void _onProposalAccepted();
 
 private:
     void build();
@@ -38,4 +41,5 @@ private:
     AngleNotationBox* notationBox = nullptr;
     QTabWidget* pages = nullptr;
     CheckPointPane* pointPane = nullptr;
+    DistortionPane* distortionPane = nullptr;
 };
