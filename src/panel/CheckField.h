@@ -24,7 +24,7 @@ public:
     std::optional<double> value() const { return number; }
 
     /// Shows `number`, angles to 1e-10 degrees or 1e-6 arc-seconds, lengths to 0.1 mm.
-    void setValue(double number);
+    void setValue(double value);
 
     /// Shows nothing: there is no result.
     void clear();

@@ -49,7 +49,7 @@ private:
     void recompute();
     void showResults();
     void showClosingError();
-    QString placeText(const GeographicPoint& point) const;
+    QString placeText(const GeographicPoint& place) const;
 
     const IProjectedSystem* system = nullptr;
     GridPoint origin{0.0, 0.0};

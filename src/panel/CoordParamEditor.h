@@ -29,7 +29,7 @@ public:
     /// Makes the record a system of that kind. Values that the kind needs and that the record lacks, or that can't
     /// stand in that kind, get initial values; the values that were there before come back with the next kind they fit,
     /// unless they were edited since. Other kinds' values stay in the record.
-    void setKind(ProjectionKind kind);
+    void setKind(ProjectionKind chosen);
 
     /// No datum shift, or a seven-parameter one; parameters that are missing then start with 0.
     void setShift(bool sevenParameters);

@@ -34,7 +34,7 @@ private:
     void build();
     QByteArray wkt(bool indented) const;
     void showWkt();
-    QString remark(const QByteArray& wkt) const;
+    QString remark(const QByteArray& text) const;
 
     QByteArray definition; ///< of the record; empty when it defines no projection
     MessageLine* problemLine = nullptr;

@@ -13,7 +13,7 @@ class SearchBox : public QComboBox {
 public:
     explicit SearchBox(QWidget* parent = nullptr);
 
-    void setReadOnly(bool readOnly);
+    void setReadOnly(bool on);
 
     /// The names to choose from.
     void setNames(const QStringList& names);
