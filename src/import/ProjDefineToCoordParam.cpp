@@ -4,7 +4,6 @@
 #include "catalogue/Dictionary.h"
 #include "catalogue/Sdk.h"
 
-#include <QRegExp>
 #include <QStringList>
 
 #include <algorithm>
@@ -99,7 +98,7 @@ void applyKind(Projection& projection, const QString& text, double semiMajorAxis
 }
 
 Projection parse(const char* definition, double semiMajorAxis) {
-    const QString text = QString::fromUtf8(definition).remove(QRegExp(QStringLiteral("\\s")));
+    const QString text = QString::fromUtf8(definition).simplified().remove(QLatin1Char(' '));
     Projection projection;
     for (const QString& item : text.split(QLatin1Char('+'))) {
         const QStringList pieces = item.split(QLatin1Char('='));

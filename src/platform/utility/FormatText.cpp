@@ -27,9 +27,7 @@ static int printInCLocale(char* buffer, size_t size, const char* format, va_list
 
 #endif
 
-QByteArray formatText(const char* format, va_list arguments) {
-    if (!format)
-        return {};
+static QByteArray formatLongText(const char* format, va_list arguments) {
     va_list measured;
     va_copy(measured, arguments);
     const int length = printInCLocale(nullptr, 0, format, measured);
@@ -39,5 +37,19 @@ QByteArray formatText(const char* format, va_list arguments) {
     QByteArray text(length, Qt::Uninitialized);
     // A QByteArray has room for the terminating NUL behind its size.
     printInCLocale(text.data(), size_t(length) + 1, format, arguments);
+    return text;
+}
+
+QByteArray formatText(const char* format, va_list arguments) {
+    if (!format)
+        return {};
+    va_list again;
+    va_copy(again, arguments);
+    // Nearly every text is short, and a long one is printed twice: a conversion of WKT sets 18 numbers.
+    char buffer[64];
+    const int length = printInCLocale(buffer, sizeof buffer, format, arguments);
+    const bool fits = length >= 0 && size_t(length) < sizeof buffer;
+    const QByteArray text = fits ? QByteArray(buffer, length) : formatLongText(format, again);
+    va_end(again);
     return text;
 }

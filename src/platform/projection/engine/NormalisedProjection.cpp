@@ -40,9 +40,15 @@ private:
 
     void start(const char* projection) { text = QByteArray("+proj=") + projection; }
     void add(const char* key, double value) {
-        valid = valid && std::isfinite(value);
+        require(std::isfinite(value));
         text += QByteArray(" +") + key + '=' + projNumber(value);
     }
+    void addLatitude(const char* key, double value) {
+        require(std::abs(value) <= 90);
+        add(key, value);
+    }
+    /// What PROJ refuses otherwise.
+    void require(bool condition) { valid = valid && condition; }
 
     const ProjItems& items;
     const Ellipsoid& ellipsoid;
@@ -79,6 +85,7 @@ QByteArray Normaliser::normalise() {
     }
     if (text.isEmpty())
         return text;
+    require(scale > 0);
     add("k_0", scale);
     add("x_0", falseEasting);
     add("y_0", falseNorthing);
@@ -87,18 +94,19 @@ QByteArray Normaliser::normalise() {
 
 void Normaliser::addOriginOf(const char* projection) {
     start(projection);
-    add("lat_0", items.angle("lat_0", 0));
+    addLatitude("lat_0", items.angle("lat_0", 0));
     add("lon_0", longitude("lon_0"));
 }
 
 void Normaliser::addUtm() {
     // PROJ takes the zone from the central meridian when none is given.
     const double zone = items.number("zone", std::floor((fromGreenwich(items.angle("lon_0", 0), 0) + 180) / 6) + 1);
+    require(zone >= 1 && zone <= 60 && zone == std::floor(zone));
     scale = 0.9996;
     falseEasting = 500000;
     falseNorthing = items.has("south") ? 10000000 : 0;
     start("tmerc");
-    add("lat_0", 0);
+    addLatitude("lat_0", 0);
     add("lon_0", fromGreenwich(zone * 6 - 183, primeMeridian));
 }
 
@@ -110,8 +118,9 @@ void Normaliser::addMercator() {
     // A parallel of true scale gives the scale; a factor beside it plays no part.
     scale = 1;
     const double trueScale = items.angle("lat_ts", 0);
+    require(std::abs(trueScale) < 90);
     if (trueScale != 0)
-        add("lat_ts", trueScale);
+        addLatitude("lat_ts", trueScale);
 }
 
 void Normaliser::addObliqueMercator() {
@@ -127,17 +136,17 @@ void Normaliser::addCentralLine() {
     if (items.has("no_uoff") || items.has("no_off"))
         moveFalseOriginToCentre(latitude, azimuth);
     start("omerc");
-    add("lat_0", latitude);
+    addLatitude("lat_0", latitude);
     add("lonc", longitude("lonc"));
     add("alpha", azimuth);
 }
 
 void Normaliser::addTwoPoints() {
     start("omerc");
-    add("lat_0", items.angle("lat_0", 0));
-    add("lat_1", items.angle("lat_1", 0));
+    addLatitude("lat_0", items.angle("lat_0", 0));
+    addLatitude("lat_1", items.angle("lat_1", 0));
     add("lon_1", longitude("lon_1"));
-    add("lat_2", items.angle("lat_2", 0));
+    addLatitude("lat_2", items.angle("lat_2", 0));
     add("lon_2", longitude("lon_2"));
 }
 
@@ -158,7 +167,7 @@ void Normaliser::moveFalseOriginToCentre(double latitude, double azimuth) {
 
 void Normaliser::addSwissObliqueMercator() {
     start("omerc");
-    add("lat_0", items.angle("lat_0", 0));
+    addLatitude("lat_0", items.angle("lat_0", 0));
     add("lonc", longitude("lon_0"));
     add("alpha", 90);
 }
@@ -170,7 +179,7 @@ void Normaliser::addStereographic() {
     // PROJ knows a parallel of true scale on polar ones only; at the pole itself it is the factor that counts.
     if (std::abs(latitude) != 90 || trueScale == 90)
         return;
-    add("lat_ts", std::copysign(trueScale, latitude));
+    addLatitude("lat_ts", std::copysign(trueScale, latitude));
     scale = 1;
 }
 
@@ -179,18 +188,20 @@ void Normaliser::addUps() {
     falseEasting = 2000000;
     falseNorthing = 2000000;
     start("stere");
-    add("lat_0", items.has("south") ? -90 : 90);
+    addLatitude("lat_0", items.has("south") ? -90 : 90);
     add("lon_0", fromGreenwich(0, primeMeridian));
 }
 
 void Normaliser::addLambert() {
     const double latitude = items.angle("lat_1", 0);
     const bool twoParallels = items.has("lat_2");
+    const double other = twoParallels ? items.angle("lat_2", 0) : latitude;
+    require(std::abs(latitude) < 90 && std::abs(other) < 90 && std::abs(latitude + other) > 1e-8);
     start("lcc");
-    add("lat_1", latitude);
+    addLatitude("lat_1", latitude);
     if (twoParallels)
-        add("lat_2", items.angle("lat_2", 0));
-    add("lat_0", items.angle("lat_0", twoParallels ? 0 : latitude));
+        addLatitude("lat_2", other);
+    addLatitude("lat_0", items.angle("lat_0", twoParallels ? 0 : latitude));
     add("lon_0", longitude("lon_0"));
 }
 

@@ -10,16 +10,6 @@ namespace {
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double pi = 3.141592653589793;
 
-/// Takes the number before `unit` off the front of `text`; 0 when `unit` is not in it.
-double takeNumber(QByteArray& text, char unit) {
-    const int end = text.indexOf(unit);
-    if (end < 0)
-        return 0;
-    const double number = ProjItems::toNumber(text.left(end));
-    text.remove(0, end + 1);
-    return number;
-}
-
 /// Takes the hemisphere's letter off the end of `text`.
 bool takeHemisphere(QByteArray& text) {
     const char last = text.isEmpty() ? '\0' : text[text.size() - 1];
@@ -95,11 +85,15 @@ double ProjItems::toAngle(const QByteArray& text) {
         negative = negative != rest.startsWith('-');
         rest.remove(0, 1);
     }
-    const double degrees = takeNumber(rest, 'd');
-    const double minutes = takeNumber(rest, '\'');
-    const double seconds = takeNumber(rest, '"');
-    // Decimal degrees with a letter, 7.5W, are what no unit has taken.
-    const double plainDegrees = rest.isEmpty() ? 0 : toNumber(rest);
-    const double angle = degrees + minutes / 60 + seconds / 3600 + plainDegrees;
-    return negative ? -angle : angle;
+    // Degrees, minutes and seconds, each with its sign behind it; the last may go without, as in 2d30 or 7.5W.
+    double angle = 0;
+    double unit = 1;
+    for (const char sign : {'d', '\'', '"'}) {
+        const int end = rest.indexOf(sign);
+        if (end >= 0 || !rest.isEmpty())
+            angle += toNumber(end < 0 ? rest : rest.left(end)) * unit;
+        rest = end < 0 ? QByteArray() : rest.mid(end + 1);
+        unit /= 60;
+    }
+    return rest.isEmpty() && !text.isEmpty() ? (negative ? -angle : angle) : notANumber;
 }

@@ -1,6 +1,7 @@
 #include "platform/projection/engine/ProjectionModule.h"
 
-ProjectionModule::ProjectionModule() : definitionLibrary(context), projGeodesy(context), epsgRegistry(context) {
+ProjectionModule::ProjectionModule()
+    : definitionLibrary(context), reader(context), projGeodesy(context), epsgRegistry(context) {
 }
 
 IProjectionLibrary& ProjectionModule::library() {

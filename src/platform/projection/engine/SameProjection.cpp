@@ -9,18 +9,41 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 
 namespace {
 
+bool isOneOf(const QByteArray& text, std::initializer_list<const char*> texts) {
+    return std::any_of(texts.begin(), texts.end(), [&text](const char* other) { return text == other; });
+}
+
+/// Items that say nothing about the projection itself.
+bool isApart(const QByteArray& key) {
+    return isOneOf(key, {"axis", "type", "datum", "towgs84", "nadgrids", "geoidgrids", "vto_meter", "vunits", "no_defs",
+                         "wktext", "title"});
+}
+
+/// Definitions as GDAL writes them for the common methods: plain numbers under keys that mean the same before and
+/// after.
+bool isPlain(const ProjItems& given) {
+    if (!isOneOf(given.text("proj"), {"tmerc", "utm", "merc", "stere", "sterea", "lcc", "cass"}))
+        return false;
+    return std::all_of(given.all().begin(), given.all().end(), [](const ProjItems::Item& item) {
+        if (isOneOf(item.key, {"proj", "ellps", "pm", "south"}) || isApart(item.key))
+            return true;
+        if (item.key == "units")
+            return isOneOf(item.value, {"m", "ft", "us-ft"});
+        return isOneOf(item.key, {"lat_0", "lon_0", "k", "k_0", "x_0", "y_0", "lat_1", "lat_2", "lat_ts", "zone", "a",
+                                  "b", "rf", "to_meter"}) &&
+               !std::isnan(ProjItems::toNumber(item.value));
+    });
+}
+
 /// The given definition as projection alone.
 QByteArray projectionOf(const ProjItems& given) {
-    static const char* const apart[] = {"axis",      "type",   "datum",   "towgs84", "nadgrids", "geoidgrids",
-                                        "vto_meter", "vunits", "no_defs", "wktext",  "title"};
     QByteArray text;
     for (const ProjItems::Item& item : given.all()) {
-        const bool kept =
-            std::none_of(std::begin(apart), std::end(apart), [&item](const char* key) { return item.key == key; });
-        if (kept)
+        if (!isApart(item.key))
             text += " +" + item.key + (item.value.isEmpty() ? QByteArray() : '=' + item.value);
     }
     const Datum* const datum = Datum::named(given.text("datum"));
@@ -50,6 +73,8 @@ PJ_COORD centreOf(const ProjItems& normalised) {
 
 bool isSameProjection(const ProjContext& context, const ProjItems& given, const QByteArray& normalised,
                       const Ellipsoid& ellipsoid) {
+    if (isPlain(given))
+        return true;
     // Both compute in the given unit, so that PROJ sees whether it is one.
     const QByteArray other = normalised + ellipsoid.definition() + unitOf(given);
     const ProjObject left(proj_create(context.get(), projectionOf(given).constData()));

@@ -2,8 +2,23 @@
 
 #include "platform/projection/IWktReader.h"
 
+#include <QSet>
+
+class ProjContext;
+
 /// Reads WKT through GDAL.
 class WktReader : public IWktReader {
 public:
+    explicit WktReader(const ProjContext& context) : context(context) {}
+
     WktSystem read(const QByteArray& wkt) override;
+
+private:
+    bool isTurnedCassini(const QByteArray& name);
+    void readTurnedCassini();
+    bool hasTurnedAxes(const char* code) const;
+
+    const ProjContext& context;
+    QSet<QByteArray> turnedCassini; ///< letters of the registry's names
+    bool turnedCassiniRead = false;
 };

@@ -1,0 +1,108 @@
+#include "RegistryEntry.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double pi = 3.141592653589793;
+
+} // namespace
+
+RegistryEntry::RegistryEntry(PJ_CONTEXT* context, const char* code)
+    : context(context)
+    , epsgCode(code)
+    , crs(proj_create_from_database(context, "EPSG", code, PJ_CATEGORY_CRS, 0, nullptr)) {
+}
+
+QByteArray RegistryEntry::method() const {
+    const PjPointer conversion(proj_crs_get_coordoperation(context, crs.get()));
+    const char* name = nullptr;
+    proj_coordoperation_get_method_info(context, conversion.get(), &name, nullptr, nullptr);
+    return name;
+}
+
+QByteArray RegistryEntry::wkt(PJ_WKT_TYPE dialect) const {
+    return proj_as_wkt(context, crs.get(), dialect, nullptr);
+}
+
+RegistryEntry::Base RegistryEntry::base(const PJ* geodetic) const {
+    Base result{};
+    const PjPointer meridian(proj_get_prime_meridian(context, geodetic));
+    double longitude = 0;
+    double radiansPerUnit = 0;
+    proj_prime_meridian_get_parameters(context, meridian.get(), &longitude, &radiansPerUnit, nullptr);
+    result.primeMeridian = longitude * radiansPerUnit * 180 / pi;
+    const PjPointer axes(proj_crs_get_coordinate_system(context, geodetic));
+    proj_cs_get_axis_info(context, axes.get(), 0, nullptr, nullptr, nullptr, &radiansPerUnit, nullptr, nullptr,
+                          nullptr);
+    result.degreesPerUnit = radiansPerUnit * 180 / pi;
+    return result;
+}
+
+double RegistryEntry::metresPerUnit() const {
+    const PjPointer axes(proj_crs_get_coordinate_system(context, crs.get()));
+    double metres = 0;
+    proj_cs_get_axis_info(context, axes.get(), 0, nullptr, nullptr, nullptr, &metres, nullptr, nullptr, nullptr);
+    return metres;
+}
+
+RegistryEntry::Box RegistryEntry::areaOfUse() const {
+    Box area{};
+    constexpr double unknown = -1000;
+    proj_get_area_of_use(context, crs.get(), &area.west, &area.south, &area.east, &area.north, nullptr);
+    if (area.west != unknown) {
+        area.east += area.west > area.east ? 360 : 0;
+        return area;
+    }
+    // Some withdrawn systems have no area.
+    const PjPointer conversion(proj_crs_get_coordoperation(context, crs.get()));
+    const auto origin = [&](const char* parameter) {
+        const int index = proj_coordoperation_get_param_index(context, conversion.get(), parameter);
+        double value = 0;
+        double radiansPerUnit = 0;
+        proj_coordoperation_get_param(context, conversion.get(), index, nullptr, nullptr, nullptr, &value, nullptr,
+                                      &radiansPerUnit, nullptr, nullptr, nullptr, nullptr);
+        return value * radiansPerUnit * 180 / pi;
+    };
+    const double longitude = origin("Longitude of natural origin");
+    const double latitude = origin("Latitude of natural origin");
+    return {longitude - 3, latitude - 5, longitude + 3, latitude + 5};
+}
+
+QVector<RegistryEntry::Sample> RegistryEntry::samples() const {
+    const PjPointer geodetic(proj_crs_get_geodetic_crs(context, crs.get()));
+    const PjPointer asStored(
+        geodetic ? proj_create_crs_to_crs_from_pj(context, geodetic.get(), crs.get(), nullptr, nullptr) : nullptr);
+    const PjPointer operation(asStored ? proj_normalize_for_visualization(context, asStored.get()) : nullptr);
+    if (!operation)
+        return {};
+    const Box area = areaOfUse();
+    const Base from = base(geodetic.get());
+    const double unit = metresPerUnit();
+    QVector<Sample> result;
+    for (const double x : {0.02, 0.5, 0.98}) {
+        for (const double y : {0.02, 0.5, 0.98}) {
+            Sample sample{area.west + x * (area.east - area.west), area.south + y * (area.north - area.south), 0, 0};
+            const PJ_COORD grid = proj_trans(operation.get(), PJ_FWD,
+                                             proj_coord((sample.longitude - from.primeMeridian) / from.degreesPerUnit,
+                                                        sample.latitude / from.degreesPerUnit, 0, 0));
+            sample.easting = grid.xy.x * unit;
+            sample.northing = grid.xy.y * unit;
+            if (std::isfinite(sample.easting) && std::isfinite(sample.northing))
+                result.append(sample);
+        }
+    }
+    return result;
+}
+
+QVector<QByteArray> registryCodes(PJ_CONTEXT* context, bool deprecatedToo) {
+    const auto list = proj_get_codes_from_database(context, "EPSG", PJ_TYPE_PROJECTED_CRS, deprecatedToo);
+    QVector<QByteArray> codes;
+    for (auto code = list; code && *code; ++code)
+        codes.append(*code);
+    proj_string_list_destroy(list);
+    std::sort(codes.begin(), codes.end(),
+              [](const QByteArray& left, const QByteArray& right) { return left.toInt() < right.toInt(); });
+    return codes;
+}

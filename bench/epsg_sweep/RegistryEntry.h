@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QByteArray>
+#include <QVector>
+
+#include <proj.h>
+
+#include <memory>
+
+struct PjDeleter {
+    void operator()(PJ* object) const { proj_destroy(object); }
+};
+using PjPointer = std::unique_ptr<PJ, PjDeleter>;
+
+/// One projected system of the EPSG registry in PROJ's database, and what PROJ computes for it.
+class RegistryEntry {
+public:
+    RegistryEntry(PJ_CONTEXT* context, const char* code);
+
+    const QByteArray& code() const { return epsgCode; }
+    QByteArray method() const;
+
+    /// Empty when PROJ can't write the system in this dialect.
+    QByteArray wkt(PJ_WKT_TYPE dialect) const;
+
+    /// A place on the system's own datum, degrees from Greenwich, and where it lies on the grid in metres.
+    struct Sample {
+        double longitude;
+        double latitude;
+        double easting;
+        double northing;
+    };
+
+    /// Nine places over the area of use (where the registry has none, around the origin), projected by PROJ's own
+    /// operation from the system's base system. Places that PROJ can't project are left out; none is left when PROJ has
+    /// no operation for the system.
+    QVector<Sample> samples() const;
+
+private:
+    struct Base {
+        double primeMeridian; ///< degrees
+        double degreesPerUnit;
+    };
+    struct Box {
+        double west, south, east, north; ///< degrees; west is below east
+    };
+    Base base(const PJ* geodetic) const;
+    Box areaOfUse() const;
+    double metresPerUnit() const;
+
+    PJ_CONTEXT* context;
+    QByteArray epsgCode;
+    PjPointer crs;
+};
+
+/// All codes of projected systems that are not deprecated, or all there are, in the registry's order of numbers.
+QVector<QByteArray> registryCodes(PJ_CONTEXT* context, bool deprecatedToo);

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+#include <QVector>
+
+/// What a WKT text, 1 or 2, says in so many words about its projected system: read from the text itself, so that what a
+/// reader of WKT drops can be told.
+class ProjectedWkt {
+public:
+    explicit ProjectedWkt(const QByteArray& wkt);
+
+    struct Parameter {
+        QByteArray name; ///< in lower case
+        double value;
+    };
+
+    QByteArray method; ///< in lower case
+    QVector<Parameter> parameters;
+    QVector<double> units;         ///< every unit's factor to metres, radians or 1, whatever it is the unit of
+    QVector<QByteArray> axes;      ///< directions, in lower case
+    QVector<double> axisMeridians; ///< of axes that point away from or to a pole
+    double semiMajorAxis = 0;      ///< in metres
+    double inverseFlattening = 0;  ///< 0 for a sphere
+};
