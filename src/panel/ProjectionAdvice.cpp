@@ -41,7 +41,7 @@ QString ProjectionAdvice::problem(const IDictionary& record) {
     if (!kind || !isDegenerate(*kind, record))
         return QString();
     return kind->kind == ProjectionKind::ObliqueMercatorTwoPoints
-               ? tr("No projection: the points need different latitudes, the first one not 0.")
+               ? tr("No projection: latitudes of the points equal, or the first 0.")
                : tr("No projection: the standard parallels cancel out.");
 }
 
@@ -54,13 +54,13 @@ QString ProjectionAdvice::missing(const ProjectionFields* kind, const IDictionar
     if (!kind)
         return tr("No projection: the kind \"%1\" is unknown.").arg(QString::fromLocal8Bit(type));
     if (fitsNoKind(record))
-        return tr("No projection: the system's definition fits none of the kinds.");
+        return tr("No projection: the definition fits none of the kinds.");
     for (const ParamField& field : kind->fields) {
         if (!record.getValue(field.key) || !field.isSound(record))
-            return tr("No projection: \"%1\" is missing or out of range.").arg(field.labelText());
+            return tr("No projection: \"%1\" is missing or wrong.").arg(field.labelText());
     }
     if (kind->kind == ProjectionKind::Stereographic && isPolar(record) && TrueScaleParallel::ofRecord(record))
-        return tr("No projection: with a standard parallel the scale factor must be 1.");
+        return tr("No projection: a standard parallel needs the scale factor 1.");
     return tr("No projection: the scale factor is missing.");
 }
 

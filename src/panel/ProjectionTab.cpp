@@ -22,7 +22,6 @@ ProjectionTab::ProjectionTab(CoordParamEditor& editor, bool readOnly, QWidget* p
     , notationBox(new AngleNotationBox) {
     auto* grid = new QGridLayout(this);
     grid->setVerticalSpacing(1);
-    problemLine->setFont(font());
     // The line for a problem takes the place of the upper margin, so that the forms of all tabs start level.
     const QMargins margins = grid->contentsMargins();
     grid->setContentsMargins(margins.left(), 0, margins.right(), margins.bottom());

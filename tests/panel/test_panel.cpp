@@ -705,8 +705,8 @@ void TestPanel::saysWhatIsWrong_data() {
         "nearly cancel");
     row("equator alone", Kind::LambertOneParallel, {parallel1Lat, "0"}, "cancel out");
     row("no second factor", Kind::LambertTwoParallels, {factor, "0.000000"}, "");
-    row("points level", Kind::ObliqueMercatorTwoPoints, {lat2, "46.3"}, "different latitudes");
-    row("polar with both", Kind::Stereographic, {orgLat, "90", factor, "0.994"}, "must be 1");
+    row("points level", Kind::ObliqueMercatorTwoPoints, {lat2, "46.3"}, "latitudes of the points equal");
+    row("polar with both", Kind::Stereographic, {orgLat, "90", factor, "0.994"}, "needs the scale factor 1");
     row("polar with neither", Kind::Stereographic, {orgLat, "90", factor, "0", cuttingRadius, "0"}, "scale factor");
     row("parallel off the pole", Kind::Stereographic, {orgLat, "52", factor, "1"}, "no pole");
     row("far from 1", Kind::TransverseMercatorScaled, {factor, "0.95"}, "close to 1");
