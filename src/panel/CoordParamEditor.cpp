@@ -117,8 +117,8 @@ void CoordParamEditor::setKind(ProjectionKind chosen) {
     const std::optional<ProjectionKind> before = kind();
     restoreReplaced();
     dic_set_value(values.get(), projectType, "%d", int(chosen));
-    complete(*fields);
     chooseParallel(before);
+    complete(*fields);
 }
 
 void CoordParamEditor::chooseParallel(std::optional<ProjectionKind> before) {
@@ -156,9 +156,11 @@ void CoordParamEditor::complete(const ProjectionFields& fields) {
         if (!field.read(*values, &value) || !field.accepts(value) || (degenerate && isPartOfLine))
             put(field.key, initialValue(fields, field));
     }
+    // Gauss-Krüger has the scale factor 1, and only Gauss-Krüger; beside a parallel of true scale it is 1 as well.
     const bool isScaleOne = dictionary_number(*values, factor, 0.0) == 1.0;
-    if ((fields.kind == ProjectionKind::TransverseMercator && !isScaleOne) ||
-        (fields.kind == ProjectionKind::TransverseMercatorScaled && isScaleOne))
+    const bool mustBeOne = fields.kind == ProjectionKind::TransverseMercator ||
+                           (fields.kind == ProjectionKind::Stereographic && TrueScaleParallel::ofRecord(*values));
+    if ((mustBeOne && !isScaleOne) || (fields.kind == ProjectionKind::TransverseMercatorScaled && isScaleOne))
         put(factor, fields.field(factor)->initial);
 }
 

@@ -26,19 +26,30 @@ ProjectionTab::ProjectionTab(CoordParamEditor& editor, bool readOnly, QWidget* p
     const QMargins margins = grid->contentsMargins();
     grid->setContentsMargins(margins.left(), 0, margins.right(), margins.bottom());
     grid->addWidget(problemLine, 0, 0, 1, 4);
-    auto* kindLabel = new QLabel(DlgCoordParam::tr("Kind"));
-    kindLabel->setBuddy(kindBox);
+    addKind(grid, 1);
+    grid->setRowMinimumHeight(2, 10);
+    const int line = addRows(grid, 3);
+    grid->setRowStretch(line, 1);
+    addNotation(grid, line + 1);
+}
+
+void ProjectionTab::addKind(QGridLayout* grid, int line) {
+    auto* label = new QLabel(DlgCoordParam::tr("Kind"));
+    label->setBuddy(kindBox);
     kindBox->setAccessibleName(DlgCoordParam::tr("Kind of projection"));
     kindBox->setPlaceholderText(DlgCoordParam::tr("Choose the kind"));
-    kindBox->setEnabled(!readOnly);
+    kindBox->setEnabled(!isReadOnly());
     kindBox->setMaxVisibleItems(20);
     kindBox->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     for (const ProjectionFields& kind : ProjectionFields::all())
         kindBox->addItem(kind.nameText(), int(kind.kind));
-    grid->addWidget(kindLabel, 1, 0);
-    grid->addWidget(kindBox, 1, 1, 1, 3);
-    grid->setRowMinimumHeight(2, 10);
+    connect(kindBox, SIGNAL(activated(int)), this, SLOT(_onKindActivated(int)));
+    grid->addWidget(label, line, 0);
+    grid->addWidget(kindBox, line, 1, 1, 3);
+}
 
+/// As many rows as the kind with the most fields needs; gives the first free line.
+int ProjectionTab::addRows(QGridLayout* grid, int line) {
     size_t most = 0;
     int widest = 0; // of all kinds' labels, so that the fields stand still when the kind changes
     for (const ProjectionFields& kind : ProjectionFields::all()) {
@@ -47,23 +58,22 @@ ProjectionTab::ProjectionTab(CoordParamEditor& editor, bool readOnly, QWidget* p
             widest = std::max(widest, fontMetrics().horizontalAdvance(field.labelText()));
     }
     grid->setColumnMinimumWidth(0, widest);
-    int line = 3;
     for (size_t i = 0; i < most; ++i, line += 2) {
-        auto* row = new FieldRow(editor, readOnly, grid, line);
+        auto* row = new FieldRow(editor(), isReadOnly(), grid, line);
         connect(row, SIGNAL(edited()), this, SLOT(_onEdited()));
         rows.append(row);
     }
-    grid->setRowStretch(line, 1);
+    return line;
+}
 
-    auto* notationLabel = new QLabel(DlgCoordParam::tr("Show angles in"));
-    notationLabel->setBuddy(notationBox);
-    notationBox->setAccessibleName(notationLabel->text());
-    grid->addWidget(notationLabel, line + 1, 0);
-    grid->addWidget(notationBox, line + 1, 1, 1, 3);
+void ProjectionTab::addNotation(QGridLayout* grid, int line) {
+    auto* label = new QLabel(DlgCoordParam::tr("Show angles in"));
+    label->setBuddy(notationBox);
+    notationBox->setAccessibleName(label->text());
     notationBox->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-
-    connect(kindBox, SIGNAL(activated(int)), this, SLOT(_onKindActivated(int)));
     connect(notationBox, SIGNAL(notationChosen()), this, SLOT(_onNotationChosen()));
+    grid->addWidget(label, line, 0);
+    grid->addWidget(notationBox, line, 1, 1, 3);
 }
 
 QString ProjectionTab::title() const {

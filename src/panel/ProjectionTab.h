@@ -8,6 +8,7 @@ class AngleNotationBox;
 class ChoiceBox;
 class FieldRow;
 class MessageLine;
+class QGridLayout;
 struct ProjectionFields;
 
 /// The tab "Projection": the kind and the fields of that kind.
@@ -28,6 +29,9 @@ private Q_SLOTS:
     void _onEdited();
 
 private:
+    void addKind(QGridLayout* grid, int line);
+    int addRows(QGridLayout* grid, int line);
+    void addNotation(QGridLayout* grid, int line);
     void showKind();
     void showAdvice();
 
