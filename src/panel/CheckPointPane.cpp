@@ -67,6 +67,7 @@ void CheckPointPane::addPlaceFields(QGridLayout* grid) {
     datumBox->addItem(DlgCoordParam::tr("WGS 84"));
     auto* label = new QLabel(DlgCoordParam::tr("Datum"));
     label->setBuddy(datumBox);
+    datumBox->setAccessibleName(label->text());
     grid->addWidget(label, 0, 0);
     grid->addWidget(datumBox, 0, 1);
     placeMessage = new MessageLine(this);

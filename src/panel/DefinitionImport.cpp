@@ -12,18 +12,40 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 
 namespace {
 
 using namespace CoordParamKey;
 
-bool isSame(double left, double right) {
-    return std::abs(left - right) <= std::max(1e-9, 1e-12 * std::max(std::abs(left), std::abs(right)));
+/// What a text form rounds away, in the unit in which the record keeps the value; each is far below 0.1 mm on the
+/// ground.
+double tolerance(const ParamField& field) {
+    switch (field.quantity) {
+    case Quantity::Length:
+        return 1e-6;
+    case Quantity::TrueScaleParallel:
+        return 1e-5; // a radius in metres
+    case Quantity::ScaleFactor:
+        return 1e-13;
+    case Quantity::InverseFlattening:
+    case Quantity::ScaleDifference:
+        return 1e-9;
+    case Quantity::Latitude:
+    case Quantity::Longitude:
+    case Quantity::Azimuth:
+        return 1e-11;
+    case Quantity::SmallRotation:
+        return 1e-13;
+    }
+    return 0.0;
 }
 
-bool hasSameNumber(const IDictionary& left, const IDictionary& right, const char* key) {
-    return isSame(dictionary_number(left, key, 0.0), dictionary_number(right, key, 0.0));
+bool isSame(double left, double right, const ParamField& field) {
+    return std::abs(left - right) <= tolerance(field);
+}
+
+bool hasSameNumber(const IDictionary& left, const IDictionary& right, const ParamField& field) {
+    return isSame(dictionary_number(left, field.key, 0.0), dictionary_number(right, field.key, 0.0), field);
 }
 
 bool hasSameText(const IDictionary& left, const IDictionary& right, const char* key) {
@@ -39,7 +61,7 @@ bool hasSameShift(const IDictionary& left, const IDictionary& right) {
     return std::all_of(fields.begin(), fields.end(), [&](const ParamField& field) {
         const double leftValue = hasShift(left) ? dictionary_number(left, field.key, 0.0) : 0.0;
         const double rightValue = hasShift(right) ? dictionary_number(right, field.key, 0.0) : 0.0;
-        return isSame(leftValue, rightValue);
+        return isSame(leftValue, rightValue, field);
     });
 }
 
@@ -62,15 +84,15 @@ QStringList DefinitionImport::differences(const IDictionary& record, const IDict
     if (!hasSameText(record, imported, ellipsoidName))
         lost.append(DlgCoordParam::tr("the ellipsoid's name"));
     for (const ParamField* field : {&DatumFields::semiMajorAxis(), &DatumFields::inverseFlattening()}) {
-        if (!hasSameNumber(record, imported, field->key))
+        if (!hasSameNumber(record, imported, *field))
             lost.append(field->labelText());
     }
     const ProjectionFields* kind = ProjectionFields::ofRecord(record);
-    if (!kind || !hasSameNumber(record, imported, projectType)) {
+    if (!kind || kind != ProjectionFields::ofRecord(imported)) {
         lost.append(DlgCoordParam::tr("the kind of projection"));
     } else {
         for (const ParamField& field : kind->fields) {
-            if (!hasSameNumber(record, imported, field.key))
+            if (!hasSameNumber(record, imported, field))
                 lost.append(field.labelText());
         }
     }

@@ -14,6 +14,6 @@ public:
     static bool read(const QByteArray& wkt, IDictionary* record);
 
     /// What of `record` is not in `imported`, named as on the panel: the name, the ellipsoid, fields of the kind, the
-    /// datum shift. Numbers count as equal when they agree to 1e-12 of the larger or to 1e-9 (0.1 mm on the ground).
+    /// datum shift. Numbers count as equal when what is between them matters less than 0.1 mm on the ground.
     static QStringList differences(const IDictionary& record, const IDictionary& imported);
 };

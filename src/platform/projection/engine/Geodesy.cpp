@@ -59,23 +59,25 @@ ProjObject parsedSystem(PJ_CONTEXT* context, const QByteArray& definition) {
     return ProjObject(proj_create(context, (definition + " +type=crs").constData()));
 }
 
-/// The projected system of a definition without a shift. PROJ itself would leave its name open and name its ellipsoid
-/// only where it knows the axes.
+/// The projected system of a definition without a shift. PROJ itself would leave its name open, name its ellipsoid only
+/// where it knows the axes, and draw a polar system's axes along 0 and 90 degrees whatever its central meridian.
 ProjObject namedSystem(PJ_CONTEXT* context, const QByteArray& definition, const QByteArray& name,
                        const QByteArray& ellipsoidName) {
     const ProjObject parsed = parsedSystem(context, definition);
     const ProjObject ellipsoid(parsed ? proj_get_ellipsoid(context, parsed.get()) : nullptr);
+    const ProjObject conversion(parsed ? proj_crs_get_coordoperation(context, parsed.get()) : nullptr);
     double a = 0.0;
     double inverseFlattening = 0.0;
-    if (!ellipsoid ||
+    if (!ellipsoid || !conversion ||
         proj_ellipsoid_get_parameters(context, ellipsoid.get(), &a, nullptr, nullptr, &inverseFlattening) == 0)
         return nullptr;
-    const ProjObject axes(proj_create_ellipsoidal_2D_cs(context, PJ_ELLPS2D_LONGITUDE_LATITUDE, nullptr, 0.0));
+    const ProjObject angles(proj_create_ellipsoidal_2D_cs(context, PJ_ELLPS2D_LONGITUDE_LATITUDE, nullptr, 0.0));
+    const ProjObject axes(proj_create_cartesian_2D_cs(context, PJ_CART2D_EASTING_NORTHING, nullptr, 0.0));
     const ProjObject geographic(proj_create_geographic_crs(context, "unknown", "unknown", ellipsoidName.constData(), a,
                                                            inverseFlattening, "Greenwich", 0.0, nullptr, 0.0,
-                                                           axes.get()));
-    const ProjObject named(proj_alter_name(context, parsed.get(), name.constData()));
-    return ProjObject(named ? proj_crs_alter_geodetic_crs(context, named.get(), geographic.get()) : nullptr);
+                                                           angles.get()));
+    return ProjObject(
+        proj_create_projected_crs(context, name.constData(), geographic.get(), conversion.get(), axes.get()));
 }
 
 /// `wkt` with `name` to the letter as the system's name: in its ESRI dialect PROJ turns all but plain letters into "_".

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "catalogue/IDictionary.h"
+
+#include <QByteArray>
+#include <QVector>
+
+/// One system of every kind, and of every way to state a kind's scale, for tests that must hold for all.
+struct SampleRecord {
+    QByteArray title;
+    QVector<QPair<QByteArray, QByteArray>> values;
+
+    /// Replaces or adds a value.
+    SampleRecord with(const QByteArray& key, const QByteArray& text) const;
+
+    void fill(IDictionary* record) const;
+
+    static const QVector<SampleRecord>& all();
+
+    /// The sample with this title.
+    static const SampleRecord& named(const QByteArray& title);
+};
