@@ -24,6 +24,7 @@ public:
     /// Row by row from the south, each from the west; NaN where the projection gives no result.
     const QVector<double>& values() const { return ppm; }
     int columnCount() const { return columns; }
+    int rowCount() const { return columns > 0 ? ppm.size() / columns : 0; }
 
     /// Whether there is a value at all; only then the two below say anything.
     bool isEmpty() const { return !(low <= high); }

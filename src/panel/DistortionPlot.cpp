@@ -138,8 +138,12 @@ void DistortionPlot::showDistortion(const DistortionGrid& grid, const Distortion
     auto* raster = new QwtMatrixRasterData;
     raster->setResampleMode(QwtMatrixRasterData::BilinearInterpolation);
     raster->setValueMatrix(grid.values(), grid.columnCount());
-    raster->setInterval(Qt::XAxis, easting);
-    raster->setInterval(Qt::YAxis, northing);
+    // Qwt takes the values for those of cells' middles: the outer nodes lie half a cell inside.
+    const QSizeF cell(easting.width() / (grid.columnCount() - 1), northing.width() / (grid.rowCount() - 1));
+    raster->setInterval(Qt::XAxis,
+                        QwtInterval(easting.minValue() - cell.width() / 2.0, easting.maxValue() + cell.width() / 2.0));
+    raster->setInterval(
+        Qt::YAxis, QwtInterval(northing.minValue() - cell.height() / 2.0, northing.maxValue() + cell.height() / 2.0));
     spectrogram->setData(raster);
     spectrogram->setVisible(true);
     setColours(grid);

@@ -1,0 +1,104 @@
+// Draws the picture of distortion at its default size for systems of several kinds, proposes a scale for it, and
+// searches the registry; prints each cost, and the picture's beside the 100 ms in which it must be there.
+
+#include "catalogue/DictionaryGuard.h"
+#include "import/CoordParamToProjDefine.h"
+#include "panel/DesignProposal.h"
+#include "panel/DistortionGrid.h"
+#include "panel/DistortionLines.h"
+#include "panel/DistortionPlot.h"
+#include "panel/RegistryModel.h"
+#include "platform/projection/IGeodesy.h"
+#include "platform/projection/IProjectionModule.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QPixmap>
+
+#include <algorithm>
+#include <cstdio>
+
+static constexpr double limit = 100.0; ///< milliseconds
+static constexpr double width = 500000.0;
+
+/// The least time of `runs` runs in milliseconds, which is the one that other programs disturbed least.
+template <class Work> static double milliseconds(int runs, Work work) {
+    double least = 1e9;
+    for (int i = 0; i < runs; ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        work();
+        least = std::min(least, double(timer.nsecsElapsed()) / 1e6);
+    }
+    return least;
+}
+
+static void fill(IDictionary* record, const char* type, const char* lat, const char* factor) {
+    const char* const values[][2] = {{"ellipsoid_a", "6378137"},
+                                     {"ellipsoid_f", "298.257222101"},
+                                     {"project_type", type},
+                                     {"org_lat", lat},
+                                     {"org_lon", "15"},
+                                     {"factor", factor},
+                                     {"parallel_1_lat", lat},
+                                     {"parallel_2_lat", "52"},
+                                     {"p_r", "50"},
+                                     {"cutting_radius", "0"},
+                                     {"false_east", "500000"},
+                                     {"false_north", "0"}};
+    for (const auto& value : values)
+        record->setText(value[0], value[1]);
+}
+
+static void measure(const char* name, const char* type, const char* lat, const char* factor) {
+    const DictionaryGuard record;
+    fill(record.get(), type, lat, factor);
+    IGeodesy& geodesy = projectionModule()->geodesy();
+    const auto system = geodesy.createSystem(coordParamToProjDefine(*record));
+    DistortionPlot plot;
+    plot.resize(500, 400);
+    plot.show();
+    const GridPoint origin = DistortionLines::origin(*record);
+    const DistortionArea area = plot.areaAround(origin, width);
+    const QSize nodes = plot.nodeCount();
+    DistortionGrid grid;
+    const double computed =
+        milliseconds(10, [&] { grid = DistortionGrid(*system, area, nodes.width(), nodes.height(), 300.0); });
+    const double drawn = milliseconds(10, [&] {
+        plot.showDistortion(grid, area);
+        plot.showLines(DistortionLines(*record, *system, area), origin);
+        plot.grab();
+    });
+    QVector<GeographicPoint> points;
+    for (const GridPoint& node : DistortionGrid::nodes(area, 15, 15))
+        points.append(*system->toGeographic(node, 0.0));
+    const double proposed = milliseconds(5, [&] { DesignProposal::make(*record, geodesy, points, 300.0, true); });
+    std::printf("%-22s %5d nodes: compute %6.2f ms, draw %6.2f ms = %.2f of the limit; propose %6.2f ms\n", name,
+                nodes.width() * nodes.height(), computed, drawn, (computed + drawn) / limit, proposed);
+}
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    QElapsedTimer timer;
+    timer.start();
+    IProjectionModule* const module = projectionModule();
+    if (!module)
+        return 1;
+    std::printf("load the projection module %.1f ms\n", double(timer.nsecsElapsed()) / 1e6);
+    timer.restart();
+    RegistryModel model(module->registry());
+    std::printf("list the registry %.1f ms for %d systems\n", double(timer.nsecsElapsed()) / 1e6, model.rowCount());
+    RegistryModel::Search search;
+    search.text = "utm zone";
+    std::printf("search it by words %.2f ms\n", milliseconds(10, [&] { model.setSearch(search); }));
+    measure("transverse Mercator", "1", "0", "0.9996");
+    measure("Lambert, one parallel", "8", "48", "0.9999");
+    measure("Lambert, two parallels", "9", "48", "1");
+    measure("oblique Mercator", "4", "40", "0.9999");
+    measure("double stereographic", "7", "52", "0.9999");
+    measure("polar stereographic", "6", "90", "0.994");
+    measure("Cassini-Soldner", "11", "50", "1");
+    return 0;
+}
