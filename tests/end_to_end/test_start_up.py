@@ -32,7 +32,7 @@ class StartUp(tool.ToolTest):
         self.tool.start()
         libraries = self.tool.mapped_libraries()
         self.assertTrue(any(name.startswith("libQt5Widgets") for name in libraries))
-        heavy = [name for name in libraries if name.startswith(("libgdal", "libproj", "libqwt"))]
+        heavy = [name for name in libraries if name.startswith(("libgdal", "libproj"))]
         self.assertEqual(heavy, [])
 
     def test_an_edit_is_saved_and_found_again(self):
