@@ -26,9 +26,10 @@ CheckField::CheckField(const ParamField& field, MessageLine* message, QGridLayou
     connect(edit, SIGNAL(cancelled()), this, SLOT(_onCancelled()));
 }
 
-QString CheckField::angleText(double degrees) {
-    const double steps = AngleText::notation() == AngleNotation::DecimalDegrees ? 1e10 : 3600e6;
-    return AngleText::format(std::round(degrees * steps) / steps, AngleText::notation());
+QString CheckField::angleText(double degrees, int decimals) {
+    const double steps = AngleText::notation() == AngleNotation::DecimalDegrees ? std::pow(10.0, decimals)
+                                                                                : 3600.0 * std::pow(10.0, decimals - 4);
+    return AngleText::format(std::round(degrees * steps) / steps + 0.0, AngleText::notation());
 }
 
 void CheckField::setValue(double value) {

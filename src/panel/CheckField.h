@@ -36,8 +36,9 @@ public:
     QString text() const;
     QString unitText() const;
 
-    /// An angle in degrees as the form shows it.
-    static QString angleText(double degrees);
+    /// An angle in degrees as the form shows it: with at most that many decimals of a degree, or seconds with four
+    /// fewer.
+    static QString angleText(double degrees, int decimals = 10);
 
 Q_SIGNALS:
     /// The user typed.

@@ -202,7 +202,7 @@ void CheckPointPane::showResults() {
                                             : DlgCoordParam::tr("along the meridian %1\nalong the parallel %2")
                                                   .arg(factorText(scale.meridian), factorText(scale.parallel)));
     results[Convergence]->setText(
-        CheckField::angleText(scale.convergence) +
+        CheckField::angleText(scale.convergence, 7) +
         (AngleText::notation() == AngleNotation::DecimalDegrees ? QStringLiteral("°") : QString()));
     results[CombinedFactor]->setText(factorText(point->combinedFactor()));
     results[OtherDatum]->setText(system->hasDatumShift() ? placeText(ownShown ? point->wgs84 : point->own)

@@ -2,15 +2,14 @@
 
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/IDictionary.h"
-#include "import/CoordParamToProjDefine.h"
 #include "panel/AngleNotationBox.h"
 #include "panel/CheckPointPane.h"
 #include "panel/CoordParamEditor.h"
+#include "panel/DefinitionState.h"
 #include "panel/DistortionLines.h"
 #include "panel/DistortionPane.h"
 #include "panel/DlgCoordParam.h"
 #include "panel/MessageLine.h"
-#include "panel/ProjectionAdvice.h"
 #include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
 
@@ -51,19 +50,14 @@ void CheckTab::build() {
 void CheckTab::showRecord() {
     if (!pages)
         build();
-    QString problem = ProjectionAdvice::problem(record());
-    const QByteArray wanted = problem.isEmpty() ? coordParamToProjDefine(record()) : QByteArray();
-    if (!wanted.isEmpty() && wanted != definition) {
-        IProjectionModule* const module = projectionModule();
-        system = module ? module->geodesy().createSystem(wanted) : nullptr;
-    } else if (wanted.isEmpty()) {
+    const DefinitionState state = DefinitionState::of(record());
+    if (state.definition.isEmpty())
         system.reset();
-    }
-    definition = wanted;
-    if (problem.isEmpty() && !system)
-        problem = DlgCoordParam::tr("These parameters give no projection that can be computed.");
-    problemLine->setMessage(problem, MessageLine::Tone::Error);
-    problemLine->setVisible(!problem.isEmpty());
+    else if (state.definition != definition)
+        system = projectionModule()->geodesy().createSystem(state.definition);
+    definition = state.definition;
+    problemLine->setMessage(state.problem, MessageLine::Tone::Error);
+    problemLine->setVisible(!state.problem.isEmpty());
     pages->setEnabled(system != nullptr);
     notationBox->showNotation();
     showSystem();

@@ -2,13 +2,12 @@
 
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/DictionaryGuard.h"
-#include "import/CoordParamToProjDefine.h"
 #include "panel/ChoiceBox.h"
 #include "panel/CoordParamEditor.h"
 #include "panel/DefinitionImport.h"
+#include "panel/DefinitionState.h"
 #include "panel/DlgCoordParam.h"
 #include "panel/MessageLine.h"
-#include "panel/ProjectionAdvice.h"
 #include "panel/RegistryDialog.h"
 #include "platform/desktop/VornMessageBox.h"
 #include "platform/projection/IGeodesy.h"
@@ -105,25 +104,22 @@ void DefinitionTab::build() {
 void DefinitionTab::showRecord() {
     if (!content)
         build();
-    QString problem = ProjectionAdvice::problem(record());
-    definition = problem.isEmpty() ? coordParamToProjDefine(record()) : QByteArray();
-    if (problem.isEmpty() && definition.isEmpty())
-        problem = DlgCoordParam::tr("These parameters give no projection that can be computed.");
-    problemLine->setMessage(problem, MessageLine::Tone::Error);
-    problemLine->setVisible(!problem.isEmpty());
+    const DefinitionState state = DefinitionState::of(record());
+    definition = state.definition;
+    problemLine->setMessage(state.problem, MessageLine::Tone::Error);
+    problemLine->setVisible(!state.problem.isEmpty());
     content->setEnabled(!definition.isEmpty());
     definitionText->setPlainText(QString::fromUtf8(definition));
     showWkt();
 }
 
 QByteArray DefinitionTab::wkt(bool indented) const {
-    IProjectionModule* const module = definition.isEmpty() ? nullptr : projectionModule();
-    if (!module)
+    if (definition.isEmpty())
         return {};
     const QString name = QString::fromLocal8Bit(record().getValue(CoordParamKey::name));
     const QString ellipsoid = QString::fromLocal8Bit(record().getValue(CoordParamKey::ellipsoidName));
-    return module->geodesy().exportWkt(definition, name.toUtf8(), ellipsoid.toUtf8(),
-                                       WktDialect(dialectBox->currentData().toInt()), indented);
+    return projectionModule()->geodesy().exportWkt(definition, name.toUtf8(), ellipsoid.toUtf8(),
+                                                   WktDialect(dialectBox->currentData().toInt()), indented);
 }
 
 void DefinitionTab::showWkt() {

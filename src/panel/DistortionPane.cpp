@@ -175,13 +175,12 @@ void DistortionPane::_onPointed(double easting, double northing) {
     const auto place = system->toGeographic(point, 0.0);
     if (!place || std::isnan(ppm))
         return _onLeft();
-    const double placeStep = 1e5; // a metre on the ground: more than a pixel tells
-    const auto rounded = [&](double angle) { return std::round(angle * placeStep) / placeStep; };
+    const int decimals = 5; // a metre on the ground: more than a pixel tells
     readout->setText(
         DlgCoordParam::tr("E %1 km  N %2 km   %3, %4   %5 ppm")
             .arg(easting / 1000.0, 0, 'f', 3)
             .arg(northing / 1000.0, 0, 'f', 3)
-            .arg(CheckField::angleText(rounded(place->latitude)), CheckField::angleText(rounded(place->longitude)))
+            .arg(CheckField::angleText(place->latitude, decimals), CheckField::angleText(place->longitude, decimals))
             .arg(ppm, 0, 'f', 1));
 }
 

@@ -103,7 +103,8 @@ QVariant RegistryModel::data(const QModelIndex& index, int role) const {
     switch (role) {
     case Qt::DisplayRole: {
         const QByteArray texts[ColumnCount] = {shown.code, shown.name, shown.area};
-        return QString::fromUtf8(texts[index.column()]);
+        const QString text = QString::fromUtf8(texts[index.column()]);
+        return index.column() == Name && shown.deprecated ? DlgCoordParam::tr("%1 (deprecated)").arg(text) : text;
     }
     case Qt::ToolTipRole: {
         const QString why = reason(shown);

@@ -1,0 +1,25 @@
+#include "panel/DefinitionState.h"
+
+#include "import/CoordParamToProjDefine.h"
+#include "panel/DlgCoordParam.h"
+#include "panel/ProjectionAdvice.h"
+#include "platform/projection/IGeodesy.h"
+#include "platform/projection/IProjectionModule.h"
+
+DefinitionState DefinitionState::of(const IDictionary& record) {
+    DefinitionState state;
+    state.problem = ProjectionAdvice::problem(record);
+    if (!state.problem.isEmpty())
+        return state;
+    IProjectionModule* const module = projectionModule();
+    if (!module) {
+        state.problem = DlgCoordParam::tr("Nothing can be computed: the projection module is not installed.");
+        return state;
+    }
+    state.definition = coordParamToProjDefine(record);
+    if (state.definition.isEmpty() || !module->geodesy().createSystem(state.definition)) {
+        state.definition.clear();
+        state.problem = DlgCoordParam::tr("These parameters give no projection that can be computed.");
+    }
+    return state;
+}
