@@ -156,7 +156,7 @@ void TestProjection::normalised_data() {
         "+proj=tmerc +lat_0=0 +lon_0=0 +k_0=0.25 +x_0=0 +y_0=0 +ellps=GRS80");
     row("first item holds", "+proj=tmerc +lon_0=1 +lon_0=2",
         "+proj=tmerc +lat_0=0 +lon_0=1 +k_0=1 +x_0=0 +y_0=0 +ellps=GRS80");
-    row("with blanks", " +proj = tmerc  +lon_0= 3 ",
+    row("with blanks", " +proj= tmerc  + lon_0= 3 ",
         "+proj=tmerc +lat_0=0 +lon_0=3 +k_0=1 +x_0=0 +y_0=0 +ellps=GRS80");
     row("degrees, minutes, seconds", "+proj=tmerc +lon_0=2d20'14.025\"E +lat_0=10d30S",
         "+proj=tmerc +lat_0=-10.5 +lon_0=2.337229166666667 +k_0=1 +x_0=0 +y_0=0 +ellps=GRS80");
