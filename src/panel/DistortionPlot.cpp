@@ -83,7 +83,8 @@ DistortionPlot::DistortionPlot(QWidget* parent)
     originMarker->attach(this);
 
     auto* frame = qobject_cast<QwtPlotCanvas*>(canvas());
-    frame->setFrameStyle(QFrame::Box | QFrame::Plain);
+    frame->setFrameShape(QFrame::Box);
+    frame->setFrameShadow(QFrame::Plain);
     frame->setMouseTracking(true);
     frame->installEventFilter(this);
     clear();
