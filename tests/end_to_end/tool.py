@@ -11,7 +11,7 @@ import tempfile
 import unittest
 import xml.etree.ElementTree as xml
 
-from desktop import Desktop, active_window, press, type_text, visible_windows, wait_for, windows_of
+from desktop import Desktop, active_window, hands, press, type_text, visible_windows, wait_for, windows_of
 
 TITLE = "Coordinate System Manager"
 ROOT = "CoordSysGroup"
@@ -114,6 +114,22 @@ class Tool:
         main.find("page tab", name).click()
         main.find("page tab list", name)  # it bears the name of the tab in front
         return main
+
+    def scroll_to(self, name):
+        """Turns the wheel over the tree until an item is in sight; its name is the first of that text in the tree."""
+        tree = self.tree
+        item = next(item for item in tree.children() if item.name == name)
+        x, y, width, height = tree.place
+        hands("mousemove", x + width // 2, y + height // 2)
+
+        def in_sight():
+            _, top, _, item_height = item.place
+            if y <= top and top + item_height <= y + height:
+                return True
+            hands("click", 5 if top > y else 4)
+            return False
+
+        wait_for(in_sight, f"{name!r} to be scrolled to")
 
     def unfold(self, name):
         """Unfolds a folded group of the tree."""

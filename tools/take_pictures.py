@@ -1,0 +1,147 @@
+#!/usr/bin/python3
+"""Takes the pictures of docs/images anew, from the tool itself on a virtual display: tools/take_pictures.py [BUILD FOLDER].
+
+The tool is driven as in the end-to-end tests, on its starter catalogue.
+"""
+
+import os
+import subprocess
+import sys
+import tempfile
+import time
+
+sys.dont_write_bytecode = True
+ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
+sys.path.insert(0, os.path.join(ROOT, "tests", "end_to_end"))
+
+import tool  # noqa: E402
+from desktop import Desktop, ask, hands, press, type_text, wait_for  # noqa: E402
+
+IMAGES = os.path.join(ROOT, "docs", "images")
+COUNTRY = "Great Britain and Ireland"
+GRID = "OSGB36 / British National Grid"
+
+
+class Photographer:
+    def __init__(self, desktop, installed):
+        self.desktop = desktop
+        self.tool = installed
+
+    def take(self, name):
+        """Saves what the main window's place on the screen shows, its frame included, once it holds still."""
+        hands("mousemove", 1, 1)
+        with tempfile.TemporaryDirectory() as folder:
+            shots = [os.path.join(folder, f"{i}.png") for i in (0, 1)]
+
+            def still():
+                for shot in shots:
+                    self.desktop.picture(shot)
+                    time.sleep(0.3)
+                return not subprocess.run(["cmp", "-s", *shots], check=False).returncode
+
+            wait_for(still, "the picture to hold still")
+            window = ask("xdotool", "search", "--onlyvisible", "--name", f"^{tool.TITLE}$").split()[0]
+            frame = ask("xprop", "-id", window, "_NET_FRAME_EXTENTS").split("=")[1].split(",")
+            left, right, top, bottom = (int(extent) for extent in frame)
+            x, y, width, height = self.tool.main.place
+            area = f"{width + left + right}x{height + top + bottom}+{x - left}+{y - top}"
+            target = os.path.join(IMAGES, name + ".png")
+            subprocess.run(["convert", shots[1], "-crop", area, "+repage", "-strip", "+dither", "-colors", "255", target],
+                           check=True)
+            print(target)
+
+    def window(self):
+        self.tool.item(tool.ROOT)
+        self.tool.item(self.tool.items()[1]).double_click()
+        wait_for(lambda: GRID not in self.tool.items() and len(self.tool.items()) < 100, "the first group to be folded")
+        self.tool.scroll_to(COUNTRY)
+        self.tool.unfold(COUNTRY)
+        self.tool.scroll_to(GRID)
+        self.tool.item(GRID).click()
+        self.tool.tab("Projection")
+        self.take("window")
+
+    def tabs(self):
+        for title in ("Ellipsoid", "Height", "Definition"):
+            self.tool.tab(title)
+            self.take(title.lower())
+        self.tool.tab("Check")
+        panel = self.tool.main
+        # The worked example of the Ordnance Survey's guide: 651409.903 m, 313177.270 m.
+        panel.find("text", "Latitude").fill("52 39 27.2531")
+        panel.find("text", "Longitude").fill("1 43 4.5177")
+        self.take("check-point")
+        panel.find("page tab", "Distortion").click()
+        self.take("check-distortion")
+
+    def registry(self):
+        self.tool.tab("Definition")
+        self.tool.main.find("push button", "From registry...").click()
+        dialog = self.tool.dialog("From registry")
+        type_text("british national grid")
+        dialog.find("table cell", "27700").click()
+        self.take("from-registry")
+        dialog.find("push button", "Take over").click()
+        self.tool.gone("From registry")
+        self.tool.tab("Datum shift")
+        self.take("datum-shift")
+
+    def commands(self):
+        self.tool.menu_at(self.tool.item(COUNTRY))
+        self.take("menu")
+        self.desktop.menu().find("menu item", "AddCoordSys").click()
+        self.tool.dialog("AddCoordSys")
+        type_text("Harbour extension")
+        self.take("name")
+        press("Escape")
+        self.tool.gone("AddCoordSys")
+
+    def dialogs(self):
+        model = os.path.join(self.tool.home, "Valley 2024.ggf")
+        with open(model, "wb") as file:
+            file.write(b"a geoid model")
+        self.tool.scroll_to(tool.ROOT)
+        self.tool.command(self.tool.item(tool.ROOT), "Edit Ellipsoid")
+        listed = self.tool.dialog("Edit Ellipsoid", "Add")
+        listed.find("combo box").choose("Bessel 1841")
+        self.take("ellipsoids")
+        press("Escape")
+        self.tool.gone("Edit Ellipsoid")
+
+        self.tool.command(self.tool.item(tool.ROOT), "AddGeoid")
+        self.tool.dialog("New Geoid", "Add").find("push button", "Add").click()
+        entry = self.tool.dialog("New Geoid", "OK")
+        entry.find("combo box").find("text").fill("Valley")
+        entry.find("push button", "Browser").click()
+        self.tool.dialog("selete file").find("text", "File name:").fill(model)
+        press("Return")
+        self.tool.gone("selete file")
+        self.take("geoids")
+        press("Escape")
+        self.tool.gone("New Geoid", "OK")
+        press("Escape")
+        self.tool.gone("New Geoid")
+
+
+def main():
+    build = os.path.abspath(sys.argv[1] if len(sys.argv) > 1 else os.path.join(ROOT, "build", "release"))
+    os.makedirs(IMAGES, exist_ok=True)
+    with tempfile.TemporaryDirectory() as folder:
+        desktop = Desktop(folder)
+        try:
+            desktop.open()
+            home = os.path.join(folder, "user")
+            os.makedirs(home)
+            installed = tool.Tool(desktop, home, build)
+            installed.start()
+            photographer = Photographer(desktop, installed)
+            for step in (photographer.window, photographer.tabs, photographer.registry, photographer.commands,
+                         photographer.dialogs):
+                step()
+            installed.close()
+        finally:
+            desktop.close()
+
+
+if __name__ == "__main__":
+    main()
