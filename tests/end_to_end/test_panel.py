@@ -1,0 +1,94 @@
+"""The parameter panel as a surveyor uses it: from the registry into a system, checked, and out to other programs."""
+
+import os
+
+import tool
+from desktop import press, type_text, wait_for
+
+GRID = {"Latitude of origin": 49, "Central meridian": -2, "Scale factor": 0.9996012717, "False easting": 400000,
+        "False northing": -100000}  # EPSG 27700
+SHIFT = {"Translation X": 446.448, "Translation Y": -125.157, "Translation Z": 542.06, "Rotation X": 0.15,
+         "Rotation Y": 0.247, "Rotation Z": 0.842, "Scale difference": -20.489}  # EPSG 1314
+
+
+class Panel(tool.ToolTest):
+    def add_group(self, name):
+        self.tool.command(self.tool.item(tool.ROOT), "AddSysGroup")
+        self.tool.input_name("AddSysGroup", name)
+        wait_for(lambda: self.tool.item(name).selected, f"the new group {name!r}")
+
+    def add_system(self, group, name):
+        self.tool.command(self.tool.item(group), "AddCoordSys")
+        self.tool.input_name("AddCoordSys", name)
+        wait_for(lambda: self.tool.item(name).selected, f"the new system {name!r}")
+
+    def assert_shown(self, tab, figures):
+        panel = self.tool.tab(tab)
+
+        def shown():
+            fields = {field.name: field.text for field in panel.all("text")}
+            return {label: float(fields.get(label) or "nan") for label in figures}
+
+        wait_for(lambda: all(abs(shown()[label] - figures[label]) < 1e-9 for label in figures),
+                 lambda: f"{figures}, not {shown()}")
+
+    def take_from_registry(self, code):
+        self.tool.tab("Definition").find("push button", "From registry...").click()
+        registry = self.tool.dialog("From registry")
+        type_text(code)
+        registry.find("table cell", code).click()
+        taker = registry.find("push button", "Take over")
+        wait_for(lambda: taker.enabled, "the system to be chosen")
+        taker.click()
+        self.tool.gone("From registry")
+
+    def test_from_the_registry_and_out_to_a_file_and_in_again(self):
+        self.tool.start()
+        self.add_group("Yard")
+        self.add_system("Yard", "Harbour")
+        self.take_from_registry("27700")
+        self.assertTrue(self.tool.save_enabled)
+        self.assert_shown("Projection", GRID)
+        self.assert_shown("Datum shift", SHIFT)
+
+        # The worked example of the Ordnance Survey's guide to coordinate systems in Great Britain.
+        panel = self.tool.tab("Check")
+        panel.find("text", "Latitude").fill("52 39 27.2531")
+        panel.find("text", "Longitude").fill("1 43 4.5177")
+        self.assertAlmostEqual(float(panel.find("text", "Easting").text), 651409.903, delta=0.001)
+        self.assertAlmostEqual(float(panel.find("text", "Northing").text), 313177.270, delta=0.001)
+
+        path = os.path.join(self.folder, "harbour.prj")
+        self.tool.tab("Definition").find("push button", "Save as .prj").click()
+        chooser = self.tool.dialog("Save as .prj")
+        chooser.find("text", "File name:").fill(path)
+        press("Return")
+        self.tool.gone("Save as .prj")
+        self.assertTrue(os.path.exists(path))
+
+        self.add_group("Imported")
+        self.tool.command(self.tool.item("Imported"), "ImportCoordSys")
+        chooser = self.tool.dialog("Selecte WKT file")
+        chooser.find("text", "File name:").fill(path)
+        press("Return")
+        self.tool.gone("Selecte WKT file")
+        wait_for(lambda: self.tool.item(tool.ROOT).selected, "the rebuilt tree")
+        self.tool.unfold("Imported")
+        self.assertEqual(self.tool.items()[1:3], ["Imported", "Harbour"])
+        self.tool.item("Harbour").click()
+        self.assert_shown("Projection", GRID)
+        self.assert_shown("Datum shift", SHIFT)
+
+    def test_a_mistyped_value_costs_nothing(self):
+        self.tool.start()
+        first, second = self.tool.items()[2:4]
+        field = self.tool.tab("Projection").find("text", "Scale factor")
+        good = field.text
+        field.fill("x0.9")
+        self.tool.item(second).click()
+        self.tool.item(first).click()
+        self.assert_shown("Projection", {"Scale factor": float(good)})
+
+
+if __name__ == "__main__":
+    tool.run()
