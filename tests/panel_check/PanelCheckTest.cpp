@@ -32,9 +32,12 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -173,6 +176,7 @@ private Q_SLOTS:
     void typedPointStays();
     void copiedPoint();
     void proposalIsTakenOver();
+    void valueUnderTheMouse();
     void definitionTexts();
     void definitionIsSaved();
     void noProjection_data();
@@ -495,6 +499,7 @@ void PanelCheckTest::registrySearch_data() {
     row("no such word", {"qwertz", none, none, false}, {}, {"27700"});
     row("point", {"", 52.0, 5.0, false}, {"28992", "32631"}, {"27700", "32633"});
     row("point across the antimeridian", {"", -18.0, 179.9, false}, {"3460"}, {"28992"});
+    row("point beyond the antimeridian", {"", -18.0, -179.5, false}, {"3460"}, {"28992"});
     row("the same point counted west", {"", -18.0, -180.1, false}, {"3460"}, {"28992"});
     row("half a point is none", {"", 52.0, none, false}, {"27700", "32633"}, {});
 }
@@ -631,6 +636,44 @@ void PanelCheckTest::proposalIsTakenOver() {
     shown.find<QCheckBox>("Move the meridian")->setChecked(true);
     shown.show(SampleRecord::named("Cassini"));
     QVERIFY(!accept->isEnabled() && !shown.find<QCheckBox>("Move the meridian"));
+}
+
+/// In the middle of the map lies what it is drawn around; the value there is that of the height.
+void PanelCheckTest::valueUnderTheMouse() {
+    ShownPanel shown(SampleRecord::named("UTM"), checkTab);
+    shown.type("Latitude", "50");
+    shown.type("Longitude", "16.2");
+    for (auto* tabs : shown.panel.findChildren<QTabWidget*>())
+        tabs->setCurrentIndex(1);
+    shown.find<QComboBox>("Width of the area")->setCurrentText("5 km");
+    QWidget* canvas = nullptr;
+    for (auto* widget : shown.panel.findChildren<QWidget*>()) {
+        if (widget->inherits("QwtPlotCanvas"))
+            canvas = widget;
+    }
+    QVERIFY(canvas && canvas->isVisible());
+    const auto readout = [&] {
+        QMouseEvent move(QEvent::MouseMove, canvas->contentsRect().center(), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
+        QCoreApplication::sendEvent(canvas, &move);
+        const QStringList texts = shown.labels().filter(QRegularExpression("^E .* ppm$"));
+        return texts.isEmpty() ? QStringList() : texts.first().split(QRegularExpression("[ ,]+"));
+    };
+    // "E 500.000 km N 0.000 km 0, 15 -400.0 ppm"
+    const auto pixel = 5.0 / canvas->width();
+    QStringList words = readout();
+    QCOMPARE(words.size(), 10);
+    QVERIFY(std::abs(words[1].toDouble() - 500.0) <= pixel && std::abs(words[4].toDouble()) <= pixel);
+    QCOMPARE(words[8], QString("-400.0"));
+    shown.find<QComboBox>("Area")->setCurrentIndex(2);
+    words = readout();
+    const auto system = systemOf(SampleRecord::named("UTM"));
+    const GeographicPoint place{50.0, 16.2, 0.0};
+    QVERIFY(std::abs(words[1].toDouble() - system->toGrid(place)->easting / 1000.0) <= pixel);
+    QVERIFY(std::abs(words[6].remove(',').toDouble() - 50.0) < 1e-3 && std::abs(words[7].toDouble() - 16.2) < 1e-3);
+    QVERIFY(std::abs(words[8].toDouble() - (system->localScale(place)->mean - 1.0) * 1e6) < 0.5);
+    shown.panel.findChild<QSpinBox*>()->setValue(1000);
+    QVERIFY(std::abs(readout()[8].toDouble() - words[8].toDouble() + 1e9 / 6379000.0) < 1.0);
 }
 
 void PanelCheckTest::definitionTexts() {
