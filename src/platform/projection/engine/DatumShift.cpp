@@ -7,6 +7,17 @@
 
 #include <cmath>
 
+namespace {
+
+/// WKT 2 states the scale difference as the factor 1 + ppm / 1e6, whose last place is 2.2e-10 ppm: a value that close
+/// to one of eight decimals is that one, and -20.489 does not come back as -20.4889999999569.
+double withoutRoundingError(double ppm) {
+    const double rounded = std::round(ppm * 1e8) / 1e8;
+    return std::abs(rounded - ppm) < 2.3e-10 ? rounded : ppm;
+}
+
+} // namespace
+
 bool readDatumShift(const ProjItems& items, ProjTowgs84* shift) {
     *shift = {};
     const Datum* const datum = Datum::named(items.text("datum"));
@@ -22,5 +33,6 @@ bool readDatumShift(const ProjItems& items, ProjTowgs84* shift) {
         if (std::isnan(*values[i]))
             return false;
     }
+    shift->ppm = withoutRoundingError(shift->ppm);
     return true;
 }
