@@ -193,7 +193,8 @@ void GeodesyComputingTest::distortionAtHeight() {
     system->linearDistortion(points, 1, 1000.0, ppm);
     showDifference(ppm[0], (0.9996 * 6371000.0 / 6372000.0 - 1.0) * 1e6, 0.001);
 
-    // Not conformal: what counts is the meridians' stretching, 1 / cos(x / R) at x = 100 km (Snyder 1987, Cassini projection).
+    // Not conformal: what counts is the meridians' stretching, 1 / cos(x / R) at x = 100 km (Snyder 1987, Cassini
+    // projection).
     const auto cassini =
         projectionModule()->geodesy().createSystem("+proj=cass +lat_0=50 +lon_0=9 +a=6371000 +b=6371000");
     const GridPoint east{100000.0, 0.0};
