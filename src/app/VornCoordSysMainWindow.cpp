@@ -87,11 +87,10 @@ void VornCoordSysMainWindow::_onTreeItemClicked(QString sGroup, QString sCoord) 
 
 void VornCoordSysMainWindow::_onDataChanged() {
     const QByteArray coordName = shownCoordName.toLocal8Bit();
+    const IDictionary& record = coordParam->getMetaData();
     // A system of the shown name has come (back) since the look-up failed: show it before anything is written into it.
     if (!coordParam->isEnabled())
         _onTreeItemClicked(shownGroupName, shownCoordName);
-
-    const IDictionary& record = coordParam->getMetaData();
     ICoordSysGroup* group = coordSystem->getGroup(shownGroupName.toLocal8Bit().constData());
     if (group && group->hasCoordSystem(coordName.constData()))
         group->setCoordSystem(coordName.constData(), &record);

@@ -19,6 +19,13 @@ QComboBox* CustomCatalogue::createNameBox() {
     return box;
 }
 
+void CustomCatalogue::setShownOnly(QLineEdit* edit) {
+    edit->setReadOnly(true);
+    QPalette colors = edit->palette();
+    colors.setColor(QPalette::Base, colors.color(QPalette::Window));
+    edit->setPalette(colors);
+}
+
 QDialogButtonBox* CustomCatalogue::createConfirmButtons(QDialog* dialog) {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     QObject::connect(buttons, SIGNAL(accepted()), dialog, SLOT(accept()));

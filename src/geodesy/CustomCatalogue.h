@@ -7,6 +7,7 @@ class ICoordSystem;
 class QComboBox;
 class QDialog;
 class QDialogButtonBox;
+class QLineEdit;
 class QPushButton;
 
 /// What the dialogs over the user's own ellipsoids and geoid models share.
@@ -21,6 +22,9 @@ enum Mode {
 /// The box that holds the names of the entries. Its width does not follow its longest name, which is the user's to
 /// choose.
 QComboBox* createNameBox();
+
+/// Makes `edit` one that only shows, and lets it be seen.
+void setShownOnly(QLineEdit* edit);
 
 /// "Ok" and "Cancel", connected to the accept() and reject() slots of `dialog`.
 QDialogButtonBox* createConfirmButtons(QDialog* dialog);

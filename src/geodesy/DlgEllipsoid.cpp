@@ -103,8 +103,8 @@ void DlgEllipsoid::loadNames() {
     fillNames(nameCombo, coordSystem->getEllipsoidNames());
     setNameMode(nameCombo, mode);
     if (mode == ListMode) {
-        aEdit->setReadOnly(true);
-        fEdit->setReadOnly(true);
+        setShownOnly(aEdit);
+        setShownOnly(fEdit);
     }
     if (mode == AddMode || nameCombo->count() == 0) {
         aEdit->clear();

@@ -51,7 +51,7 @@ void DlgGeoid::initUi() {
 
     auto* fileLabel = new QLabel(QObject::tr("File Path"));
     fileEdit = new QLineEdit;
-    fileEdit->setReadOnly(true);
+    setShownOnly(fileEdit);
     browseButton = new QPushButton(QObject::tr("Browser"));
     connect(browseButton, SIGNAL(clicked()), this, SLOT(_onFileBrowserClicked()));
 

@@ -1,5 +1,6 @@
 #include "panel/DlgCoordParam.h"
 
+#include "catalogue/CoordParamKey.h"
 #include "panel/CheckTab.h"
 #include "panel/DatumShiftTab.h"
 #include "panel/DefinitionTab.h"
@@ -7,8 +8,12 @@
 #include "panel/HeightTab.h"
 #include "panel/ParamTab.h"
 #include "panel/ProjectionTab.h"
+#include "panel/SystemNameLine.h"
 
+#include <QEvent>
 #include <QScrollArea>
+#include <QStyle>
+#include <QVBoxLayout>
 
 DlgCoordParam::DlgCoordParam(ICoordSystem* coordSystem, QWidget* parent, bool readOnly) : QTabWidget(parent) {
     addParamTab(new EllipsoidTab(coordSystem, editor, readOnly, nullptr));
@@ -17,6 +22,7 @@ DlgCoordParam::DlgCoordParam(ICoordSystem* coordSystem, QWidget* parent, bool re
     addParamTab(new HeightTab(coordSystem, editor, readOnly, nullptr));
     addParamTab(new CheckTab(editor, readOnly, nullptr));
     addParamTab(new DefinitionTab(editor, readOnly, nullptr));
+    showName();
 }
 
 DlgCoordParam::~DlgCoordParam() {
@@ -28,6 +34,7 @@ DlgCoordParam::~DlgCoordParam() {
 void DlgCoordParam::setCoordParam(const IDictionary& record) {
     editor.setRecord(record);
     refreshTabs(nullptr);
+    showName();
 }
 
 QSize DlgCoordParam::sizeHint() const {
@@ -50,8 +57,23 @@ void DlgCoordParam::addParamTab(ParamTab* tab) {
     auto* area = new QScrollArea;
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(tab);
-    addTab(area, tab->title());
+    // A scroll area would paint a background of its own, which differs from the page's.
+    area->viewport()->setAutoFillBackground(false);
+    tab->setAutoFillBackground(false);
+
+    nameLines.append(new SystemNameLine);
+    auto* page = new QWidget;
+    auto* layout = new QVBoxLayout(page);
+    layout->addWidget(nameLines.last());
+    layout->addWidget(area, 1);
+    layout->setSpacing(0);
+    // The tab below has margins of its own; the name stands where its content does.
+    const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
+    layout->setContentsMargins(0, margin, 0, 0);
+    nameLines.last()->setContentsMargins(margin, 0, margin, 0);
+    addTab(page, tab->title());
 }
 
 void DlgCoordParam::refreshTabs(const QObject* except) {
@@ -59,6 +81,22 @@ void DlgCoordParam::refreshTabs(const QObject* except) {
         if (tab != except)
             tab->refresh();
     }
+}
+
+// Which system an edit goes into must be seen beside the field: the tree's current item can be another one.
+void DlgCoordParam::showName() {
+    const QString name = QString::fromLocal8Bit(editor.record().getValue(CoordParamKey::name));
+    QString text = name.isEmpty() ? tr("No coordinate system") : name;
+    if (!isEnabled())
+        text = tr("%1 – choose a coordinate system in the tree").arg(text);
+    for (SystemNameLine* line : qAsConst(nameLines))
+        line->setText(text);
+}
+
+void DlgCoordParam::changeEvent(QEvent* event) {
+    QTabWidget::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange)
+        showName();
 }
 
 void DlgCoordParam::_onRecordEdited() {

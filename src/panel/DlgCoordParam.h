@@ -8,6 +8,7 @@
 class ICoordSystem;
 class IDictionary;
 class ParamTab;
+class SystemNameLine;
 
 /// Shows and edits one coordinate system's parameter record.
 class DlgCoordParam : public QTabWidget {
@@ -31,6 +32,9 @@ Q_SIGNALS:
     /// The user changed a value.
     void dataChanged();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private Q_SLOTS:
     void _onRecordEdited();
     void _onAngleNotationChanged();
@@ -38,7 +42,9 @@ private Q_SLOTS:
 private:
     void addParamTab(ParamTab* tab);
     void refreshTabs(const QObject* except);
+    void showName();
 
     CoordParamEditor editor;
     QVector<ParamTab*> tabs;
+    QVector<SystemNameLine*> nameLines; ///< one for each tab
 };

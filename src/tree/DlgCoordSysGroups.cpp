@@ -17,7 +17,17 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
+#include <QTextDocument>
 #include <QTreeWidgetItemIterator>
+
+namespace {
+
+/// A name that Qt would take for markup is shown letter for letter.
+QString toolTipOf(const QString& name) {
+    return Qt::mightBeRichText(name) ? "<span>" + name.toHtmlEscaped() + "</span>" : name;
+}
+
+} // namespace
 
 DlgCoordSysGroups::DlgCoordSysGroups(ICoordSystem* coordSystem, QWidget* parent)
     : QTreeWidget(parent), coordSystem(coordSystem) {
@@ -40,7 +50,7 @@ int DlgCoordSysGroups::levelOf(const QTreeWidgetItem* item) {
 QTreeWidgetItem* DlgCoordSysGroups::newItem(Level level, const QString& name) {
     auto* item = new QTreeWidgetItem;
     item->setText(0, name);
-    item->setToolTip(0, name);
+    item->setToolTip(0, toolTipOf(name));
     item->setData(0, Qt::UserRole, static_cast<int>(level));
     return item;
 }
@@ -252,7 +262,7 @@ void DlgCoordSysGroups::updateSysGroupName(const QString& oldName, const QString
         !coordSystem->renameGroup(oldName.toLocal8Bit().constData(), newName.toLocal8Bit().constData()))
         return;
     currentItem()->setText(0, newName);
-    currentItem()->setToolTip(0, newName);
+    currentItem()->setToolTip(0, toolTipOf(newName));
     currentGroupName = newName;
     Q_EMIT treeItemClicked(newName, currentCoordName);
     Q_EMIT dataChanged();
@@ -264,7 +274,7 @@ void DlgCoordSysGroups::updateCoordSysName(const QString& oldName, const QString
     if (!group || !group->renameCoordSystem(oldName.toLocal8Bit().constData(), newName.toLocal8Bit().constData()))
         return;
     currentItem()->setText(0, newName);
-    currentItem()->setToolTip(0, newName);
+    currentItem()->setToolTip(0, toolTipOf(newName));
     currentCoordName = newName;
     Q_EMIT treeItemClicked(groupName, newName);
     Q_EMIT dataChanged();

@@ -1026,7 +1026,7 @@ void TestPanel::fitsItsWindow() {
     PanelOnScreen screen;
     const auto needsNoScrolling = [&screen] {
         QApplication::processEvents();
-        const auto* area = qobject_cast<QScrollArea*>(screen.panel->currentWidget());
+        const auto* area = screen.panel->currentWidget()->findChild<QScrollArea*>();
         return area->horizontalScrollBar()->maximum() == 0 && area->verticalScrollBar()->maximum() == 0;
     };
     for (const ProjectionFields& kind : ProjectionFields::all()) {

@@ -68,3 +68,17 @@ bool UserFile::open(const QString& target) const {
     }
     return false;
 }
+
+bool UserFile::dropPreviousGeneration(const QString& target) {
+    QFile file(target);
+    QFile previous(previousGeneration(target));
+    if (!file.open(QIODevice::ReadOnly) || !previous.open(QIODevice::ReadOnly) || file.size() != previous.size())
+        return false;
+    while (!file.atEnd()) {
+        const QByteArray block = file.read(1 << 20);
+        if (block.isEmpty() || block != previous.read(block.size()))
+            return false;
+    }
+    previous.close();
+    return previous.remove();
+}

@@ -38,12 +38,17 @@ public:
         if (openFor != target && !open(target))
             return;
         openFor.clear();
-        CatalogueFile::write(target, content);
+        // On a disk that is nearly full the copy must not cost the save: until then it is the file once more.
+        if (!CatalogueFile::write(target, content) && dropPreviousGeneration(target))
+            CatalogueFile::write(target, content);
     }
 
 private:
     static QString previousGeneration(const QString& path);
     bool open(const QString& target) const;
+
+    /// Removes the previous generation of `target` when it is no more than a copy of it; false when it is not.
+    static bool dropPreviousGeneration(const QString& target);
 
     const FileKind& kind;
     QString path;
