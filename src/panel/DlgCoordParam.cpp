@@ -71,7 +71,7 @@ void DlgCoordParam::addParamTab(ParamTab* tab) {
     layout->setSpacing(0);
     // The tab below has margins of its own; the name stands where its content does.
     const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
-    layout->setContentsMargins(0, margin, 0, 0);
+    layout->setContentsMargins(0, margin / 2, 0, 0);
     nameLines.last()->setContentsMargins(margin, 0, margin, 0);
     addTab(page, tab->title());
 }
