@@ -196,7 +196,7 @@ void PanelCheckTest::savedDefinitionImportsAgain_data() {
     QTest::addColumn<QStringList>("lost");
     const char* const dialects[] = {"GDAL", "ESRI", "2019"};
     for (int dialect = 0; dialect < 3; ++dialect) {
-        const auto add = [&](const SampleRecord& sample, QStringList lost) {
+        const auto add = [&](const SampleRecord& sample, const QStringList& lost) {
             QTest::addRow("%s, %s", sample.title.constData(), dialects[dialect]) << sample << dialect << lost;
         };
         const bool isEsri = WktDialect(dialect) == WktDialect::Wkt1Esri;
