@@ -156,8 +156,7 @@ void TestProjection::normalised_data() {
         "+proj=tmerc +lat_0=0 +lon_0=0 +k_0=0.25 +x_0=0 +y_0=0 +ellps=GRS80");
     row("first item holds", "+proj=tmerc +lon_0=1 +lon_0=2",
         "+proj=tmerc +lat_0=0 +lon_0=1 +k_0=1 +x_0=0 +y_0=0 +ellps=GRS80");
-    row("with blanks", " +proj= tmerc  + lon_0= 3 ",
-        "+proj=tmerc +lat_0=0 +lon_0=3 +k_0=1 +x_0=0 +y_0=0 +ellps=GRS80");
+    row("with blanks", " +proj= tmerc  + lon_0= 3 ", "+proj=tmerc +lat_0=0 +lon_0=3 +k_0=1 +x_0=0 +y_0=0 +ellps=GRS80");
     row("degrees, minutes, seconds", "+proj=tmerc +lon_0=2d20'14.025\"E +lat_0=10d30S",
         "+proj=tmerc +lat_0=-10.5 +lon_0=2.337229166666667 +k_0=1 +x_0=0 +y_0=0 +ellps=GRS80");
     row("no exponents", "+proj=tmerc +x_0=5e+5 +y_0=1e-7 +lon_0=1.5E1",
@@ -381,6 +380,8 @@ void TestProjection::shifts_data() {
     row("+ellps=GRS80", none);
     row("+towgs84=598.1,73.7,418.2", {598.1, 73.7, 418.2, 0, 0, 0, 0});
     row("+towgs84=598.1,73.7,418.2,0.202,0.045,-2.455,6.7", {598.1, 73.7, 418.2, 0.202, 0.045, -2.455, 6.7});
+    row("+towgs84=0,0,0,0,0,0,-20.4889999999569", {0, 0, 0, 0, 0, 0, -20.489}); // 0.999979511, as WKT 2 has it
+    row("+towgs84=0,0,0,0,0,0,1.123456789", {0, 0, 0, 0, 0, 0, 1.123456789});
     row("+towgs84=1e2,+2,-3", {100, 2, -3, 0, 0, 0, 0});
     row("+datum=WGS84", none);
     row("+datum=NAD83", none);
@@ -442,6 +443,9 @@ void TestProjection::wktContents_data() {
             R"w(PARAMETER["Central_Meridian",3.0],PARAMETER["Standard_Parallel_1",44.0],PARAMETER["Standard_Parallel_2",49.0],)w"
             R"w(PARAMETER["Scale_Factor",0.9999],PARAMETER["Latitude_Of_Origin",46.5])w"),
         projected, "X");
+    row("a geocentric system's code on a geographic one",
+        QByteArray(system).replace("0.0174532925199433]]", "0.0174532925199433],AUTHORITY[\"EPSG\",\"4978\"]]"),
+        projected, "X");
     row("a method of nobody's", wkt("Unknown", transverseMercator), projected, "X");
     row("geographic",
         R"w(GEOGCS["WGS 84",DATUM["WGS_1984",SPHEROID["WGS 84",6378137,298.257223563]],)w"
@@ -500,6 +504,13 @@ void TestProjection::wktDefinitions_data() {
     row("another sphere than the web's",
         wkt("Mercator_Auxiliary_Sphere", R"w(PARAMETER["Central_Meridian",0.0],PARAMETER["Standard_Parallel_1",0.0],)w"
                                          R"w(PARAMETER["Auxiliary_Sphere_Type",1.0])w"));
+    const QByteArray web = wkt("Mercator_Auxiliary_Sphere", R"w(PARAMETER["Central_Meridian",0.0],)w"
+                                                            R"w(PARAMETER["Auxiliary_Sphere_Type",0.0])w");
+    row("the web's Mercator", QByteArray(web).replace("500000.0", "0").replace("1000.0", "0"),
+        "+proj=merc +lon_0=0 +k_0=1 +x_0=0 +y_0=0 +a=6378137 +b=6378137");
+    row("the web's Mercator from another meridian",
+        QByteArray(web).replace("500000.0", "0").replace("1000.0", "0").replace("\"Greenwich\",0.0", "\"Paris\",2.33"));
+    row("a unit of nothing", wkt("Transverse_Mercator", transverseMercator, R"w(UNIT["Meter",0])w"));
     const char* const oblique = R"w(PARAMETER["Scale_Factor",0.9996],PARAMETER["Azimuth",337.25556],)w"
                                 R"w(PARAMETER["Longitude_Of_Center",-86.0],PARAMETER["Latitude_Of_Center",45.3])w";
     row("Hotine's variant B", wkt("Hotine_Oblique_Mercator_Azimuth_Center", oblique),
@@ -530,7 +541,10 @@ void TestProjection::wktDefinitions() {
     QVERIFY2(definition.startsWith(start) && definition.contains("+proj=") != start.isEmpty(), definition.constData());
     // The ellipsoid is the text's in any case.
     const ProjEllipsoid ellipsoid = GetProjEllipsoid(InitializeProj(system.definition.constData()));
-    QCOMPARE(QByteArray(ellipsoid.name), QByteArray(text.contains("Zach") ? "Zach 1812" : "WGS 84"));
+    QCOMPARE(QByteArray(ellipsoid.name), text.contains("Zach") ? QByteArray("Zach 1812")
+                                         : definition.contains("+b=6378137") || text.contains("Paris")
+                                             ? QByteArray("Popular Visualisation Sphere")
+                                             : QByteArray("WGS 84"));
 }
 
 void TestProjection::wktShifts_data() {

@@ -1,6 +1,7 @@
 #include "platform/projection/engine/FaithfulDefinition.h"
 
 #include "platform/projection/engine/Ellipsoid.h"
+#include "platform/projection/engine/PrimeMeridian.h"
 #include "platform/projection/engine/ProjItems.h"
 #include "platform/projection/engine/ProjectedWkt.h"
 
@@ -46,6 +47,10 @@ bool isIn(const QVector<double>& numbers, double value, double unit) {
     });
 }
 
+bool hasUnits(const ProjectedWkt& wkt) {
+    return std::all_of(wkt.units.begin(), wkt.units.end(), [](double unit) { return unit > 0; });
+}
+
 bool hasParameters(const ProjItems& definition, const ProjectedWkt& wkt, const Ellipsoid& ellipsoid) {
     const QVector<double> numbers = numbersOf(definition, ellipsoid);
     return std::all_of(wkt.parameters.begin(), wkt.parameters.end(), [&](const ProjectedWkt::Parameter& parameter) {
@@ -62,6 +67,14 @@ bool hasEllipsoid(const ProjItems& definition, const ProjectedWkt& wkt, const El
     const bool isWebMercator = definition.text("nadgrids") == "@null" && ellipsoid.b == ellipsoid.a;
     const double b = wkt.inverseFlattening == 0 || isWebMercator ? a : a - a / wkt.inverseFlattening;
     return std::abs(ellipsoid.a - a) < tolerance && std::abs(ellipsoid.b - b) < tolerance;
+}
+
+bool hasMeridian(const ProjItems& definition, const ProjectedWkt& wkt) {
+    const double meridian = primeMeridianOf(definition);
+    const auto isMeridian = [=](double longitude) { return std::abs(longitude - meridian) < 1e-8; };
+    return isMeridian(wkt.primeMeridian) || std::any_of(wkt.units.begin(), wkt.units.end(), [&](double unit) {
+               return isMeridian(wkt.primeMeridian * unit * degrees);
+           });
 }
 
 /// Around a pole both axes point along meridians: the easting along the central one + 90 degrees, the northing along
@@ -91,5 +104,6 @@ bool hasAxes(const ProjItems& definition, const ProjectedWkt& wkt) {
 bool isFaithful(const ProjItems& definition, const ProjectedWkt& wkt) {
     Ellipsoid ellipsoid;
     return !wkt.method.contains("belgium") && ellipsoid.read(definition) && hasEllipsoid(definition, wkt, ellipsoid) &&
-           hasAxes(definition, wkt) && hasParameters(definition, wkt, ellipsoid);
+           hasUnits(wkt) && hasMeridian(definition, wkt) && hasAxes(definition, wkt) &&
+           hasParameters(definition, wkt, ellipsoid);
 }

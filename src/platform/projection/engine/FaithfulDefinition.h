@@ -9,7 +9,9 @@ class ProjItems;
 /// - every number of a parameter that is not neutral (0, or a scale of 1) is one of the definition's, in one of the
 /// text's
 ///   units;
+/// - no unit is 0, which would make any number 0;
 /// - the ellipsoid has the text's axes within 0.5 mm (PROJ's list rounds Namibia's by 0.3 mm);
+/// - the prime meridian is the text's within 1e-8 degrees (the web's Mercator is exported without);
 /// - the grid's axes point east and north, or, around a pole, where those of PROJ's polar projections point;
 /// - PROJ's formula is the method's: EPSG method 9803 (Lambert conic conformal, Belgium) turns the grid by 29.2985
 ///   arc-seconds, which PROJ leaves out.

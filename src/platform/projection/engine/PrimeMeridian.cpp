@@ -5,6 +5,7 @@
 #include <proj.h>
 
 #include <cmath>
+#include <limits>
 
 double primeMeridianOf(const ProjItems& items) {
     const QByteArray name = items.text("pm");
@@ -17,5 +18,7 @@ double primeMeridianOf(const ProjItems& items) {
 
 double fromGreenwich(double longitude, double primeMeridian) {
     const double sum = longitude + primeMeridian;
-    return std::abs(sum) <= 180 ? sum : std::remainder(sum, 360);
+    if (std::abs(sum) <= 180)
+        return sum;
+    return std::abs(sum) <= 720 ? std::remainder(sum, 360) : std::numeric_limits<double>::quiet_NaN();
 }

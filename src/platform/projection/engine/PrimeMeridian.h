@@ -5,5 +5,6 @@ class ProjItems;
 /// The longitude of a definition's prime meridian from Greenwich in degrees; NaN for one that PROJ does not know.
 double primeMeridianOf(const ProjItems& items);
 
-/// A longitude that is counted from a prime meridian, counted from Greenwich instead: -180 to 180 degrees.
+/// A longitude that is counted from a prime meridian, counted from Greenwich instead: -180 to 180 degrees. NaN
+/// beyond two turns, which is no longitude.
 double fromGreenwich(double longitude, double primeMeridian);

@@ -127,8 +127,13 @@ void Scanner::note(Text keyword, Text parent, int index, Text text) {
         statement.semiMajorAxis = toNumber(text);
     else if (index == 2 && isOneOf(keyword, {"SPHEROID", "ELLIPSOID"}))
         statement.inverseFlattening = toNumber(text);
+    else if (index == 1 && isOneOf(keyword, {"PRIMEM", "PRIMEMERIDIAN"}))
+        statement.primeMeridian = toNumber(text);
     else if (index == 1 && isOneOf(keyword, {"AXIS"}) && isOneOf(parent, {"PROJCS", "PROJCRS", "PROJECTEDCRS"}))
         statement.axes.append(toLower(text));
+    else if (index <= 1 && isOneOf(keyword, {"AUTHORITY", "ID"}) &&
+             isOneOf(parent, {"GEOGCS", "BASEGEOGCRS", "BASEGEODCRS"}))
+        (index == 0 ? statement.baseAuthority : statement.baseCode) = QByteArray(text.data(), int(text.size()));
     else if (index == 0 && isOneOf(keyword, {"MERIDIAN"}))
         statement.axisMeridians.append(toNumber(text));
 }

@@ -14,11 +14,14 @@ public:
         double value;
     };
 
-    QByteArray method; ///< in lower case
+    QByteArray method;        ///< in lower case
+    QByteArray baseAuthority; ///< of the base geographic system's identifier, EPSG as a rule
+    QByteArray baseCode;
     QVector<Parameter> parameters;
     QVector<double> units;         ///< every unit's factor to metres, radians or 1, whatever it is the unit of
     QVector<QByteArray> axes;      ///< directions, in lower case
     QVector<double> axisMeridians; ///< of axes that point away from or to a pole
+    double primeMeridian = 0;      ///< in degrees or in one of the units
     double semiMajorAxis = 0;      ///< in metres
     double inverseFlattening = 0;  ///< 0 for a sphere
 };

@@ -19,8 +19,8 @@ bool isOneOf(const QByteArray& text, std::initializer_list<const char*> texts) {
 
 /// Items that say nothing about the projection itself.
 bool isApart(const QByteArray& key) {
-    return isOneOf(key, {"axis", "type", "datum", "towgs84", "nadgrids", "geoidgrids", "vto_meter", "vunits", "no_defs",
-                         "wktext", "title"});
+    return isOneOf(key, {"axis", "units", "to_meter", "type", "datum", "towgs84", "nadgrids", "geoidgrids", "vto_meter",
+                         "vunits", "no_defs", "wktext", "title"});
 }
 
 /// Definitions as GDAL writes them for the common methods: plain numbers under keys that mean the same before and
@@ -29,12 +29,14 @@ bool isPlain(const ProjItems& given) {
     if (!isOneOf(given.text("proj"), {"tmerc", "utm", "merc", "stere", "sterea", "lcc", "cass"}))
         return false;
     return std::all_of(given.all().begin(), given.all().end(), [](const ProjItems::Item& item) {
-        if (isOneOf(item.key, {"proj", "ellps", "pm", "south"}) || isApart(item.key))
-            return true;
         if (item.key == "units")
             return isOneOf(item.value, {"m", "ft", "us-ft"});
+        if (item.key == "to_meter")
+            return ProjItems::toNumber(item.value) > 0;
+        if (isOneOf(item.key, {"proj", "ellps", "pm", "south"}) || isApart(item.key))
+            return true;
         return isOneOf(item.key, {"lat_0", "lon_0", "k", "k_0", "x_0", "y_0", "lat_1", "lat_2", "lat_ts", "zone", "a",
-                                  "b", "rf", "to_meter"}) &&
+                                  "b", "rf"}) &&
                !std::isnan(ProjItems::toNumber(item.value));
     });
 }
@@ -52,13 +54,12 @@ QByteArray projectionOf(const ProjItems& given) {
     return text;
 }
 
-QByteArray unitOf(const ProjItems& given) {
-    QByteArray text;
-    for (const char* key : {"units", "to_meter"}) {
-        if (given.has(key))
-            text += QByteArray(" +") + key + '=' + given.text(key);
-    }
-    return text;
+/// Whether PROJ takes the definition's unit; lengths in definitions are metres whatever the unit of the grid.
+bool hasUnit(const ProjContext& context, const ProjItems& given) {
+    if (given.has("to_meter") && !(given.number("to_meter", 0) > 0))
+        return false;
+    const QByteArray test = "+proj=merc +R=1 +units=" + given.text("units");
+    return !given.has("units") || ProjObject(proj_create(context.get(), test.constData()));
 }
 
 PJ_COORD centreOf(const ProjItems& normalised) {
@@ -75,8 +76,9 @@ bool isSameProjection(const ProjContext& context, const ProjItems& given, const 
                       const Ellipsoid& ellipsoid) {
     if (isPlain(given))
         return true;
-    // Both compute in the given unit, so that PROJ sees whether it is one.
-    const QByteArray other = normalised + ellipsoid.definition() + unitOf(given);
+    if (!hasUnit(context, given))
+        return false;
+    const QByteArray other = normalised + ellipsoid.definition();
     const ProjObject left(proj_create(context.get(), projectionOf(given).constData()));
     const ProjObject right(proj_create(context.get(), other.constData()));
     if (!left || !right)

@@ -12,6 +12,7 @@
 #include <ogr_spatialref.h>
 
 #include <cctype>
+#include <optional>
 
 namespace {
 
@@ -25,10 +26,23 @@ public:
     QuietGdal& operator=(const QuietGdal&) = delete;
 };
 
+/// While it lives, GDAL does not search the registry for a datum shift where a text has none.
+class NoSearchForShift {
+public:
+    NoSearchForShift() { CPLSetThreadLocalConfigOption(option, "NO"); }
+    ~NoSearchForShift() { CPLSetThreadLocalConfigOption(option, nullptr); }
+
+    NoSearchForShift(const NoSearchForShift&) = delete;
+    NoSearchForShift& operator=(const NoSearchForShift&) = delete;
+
+private:
+    static constexpr const char* option = "OSR_ADD_TOWGS84_ON_EXPORT_TO_PROJ4";
+};
+
 QByteArray exportedDefinition(const OGRSpatialReference& reference) {
     char* text = nullptr;
     reference.exportToProj4(&text);
-    const QByteArray definition(text);
+    QByteArray definition(text);
     CPLFree(text);
     return definition;
 }
@@ -75,6 +89,18 @@ QByteArray withoutProjection(QByteArray definition) {
 
 } // namespace
 
+bool WktReader::isGeocentric(const QByteArray& authority, const QByteArray& code) {
+    if (code.isEmpty())
+        return false;
+    const QByteArray key = authority + ':' + code;
+    const auto known = geocentric.constFind(key);
+    if (known != geocentric.constEnd())
+        return *known;
+    const ProjObject system(
+        proj_create_from_database(context.get(), authority.constData(), code.constData(), PJ_CATEGORY_CRS, 0, nullptr));
+    return *geocentric.insert(key, system && proj_get_type(system.get()) == PJ_TYPE_GEOCENTRIC_CRS);
+}
+
 /// WKT 1 leaves out that a grid's axes point west and south, as the old Austrian cadastre's do. Where a text without
 /// axes bears such a registry entry's name, up to signs between its words, the entry's axes count.
 bool WktReader::isTurnedCassini(const QByteArray& name) {
@@ -119,12 +145,16 @@ WktSystem WktReader::read(const QByteArray& wkt) {
         return {};
     if (!reference.IsProjected())
         return {WktSystem::Content::NotProjected, {}, {}};
+    const ProjectedWkt statement(wkt);
+    std::optional<NoSearchForShift> noSearch;
+    // Where a geographic system bears a geocentric one's identifier, the search follows a null pointer (PROJ 9.1).
+    if (isGeocentric(statement.baseAuthority, statement.baseCode))
+        noSearch.emplace();
     QByteArray definition = exportedDefinition(reference);
     if (definition.isEmpty())
         definition = datumDefinition(reference);
     const QByteArray name = systemName(reference);
     const ProjItems items(definition);
-    const ProjectedWkt statement(wkt);
     // The registry's are on the meridian of Ferro; going through it takes half a second.
     const bool mayBeTurned = statement.axes.isEmpty() && items.text("proj") == "cass" && items.has("pm");
     const bool turned = mayBeTurned && isTurnedCassini(name);

@@ -2,6 +2,7 @@
 
 #include "platform/projection/IWktReader.h"
 
+#include <QHash>
 #include <QSet>
 
 class ProjContext;
@@ -14,11 +15,13 @@ public:
     WktSystem read(const QByteArray& wkt) override;
 
 private:
+    bool isGeocentric(const QByteArray& authority, const QByteArray& code);
     bool isTurnedCassini(const QByteArray& name);
     void readTurnedCassini();
     bool hasTurnedAxes(const char* code) const;
 
     const ProjContext& context;
-    QSet<QByteArray> turnedCassini; ///< letters of the registry's names
+    QHash<QByteArray, bool> geocentric; ///< answers by authority and code
+    QSet<QByteArray> turnedCassini;     ///< letters of the registry's names
     bool turnedCassiniRead = false;
 };
