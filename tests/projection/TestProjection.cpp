@@ -483,6 +483,13 @@ void TestProjection::wktDefinitions_data() {
     row("northing first",
         wkt("Transverse_Mercator", transverseMercator, R"w(UNIT["Meter",1],AXIS["X",NORTH],AXIS["Y",EAST])w"),
         "+proj=tmerc");
+    row("axes that say nothing",
+        wkt("Transverse_Mercator", transverseMercator, R"w(UNIT["Meter",1],AXIS["X",OTHER],AXIS["Y",OTHER])w"),
+        "+proj=tmerc");
+    row("another system behind",
+        wkt("Transverse_Mercator", transverseMercator) + '\n' +
+            wkt("Transverse_Mercator", QByteArray(transverseMercator).replace("46.5", "12.25")),
+        "+proj=tmerc +lat_0=46.5");
     row("axes west and south",
         wkt("Transverse_Mercator", transverseMercator, R"w(UNIT["Meter",1],AXIS["Y",WEST],AXIS["X",SOUTH])w"));
     row("misspelt parameter",

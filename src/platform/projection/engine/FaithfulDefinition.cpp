@@ -96,7 +96,9 @@ bool hasPolarAxes(const ProjItems& definition, const ProjectedWkt& wkt) {
 
 bool hasAxes(const ProjItems& definition, const ProjectedWkt& wkt) {
     const bool eastNorth = wkt.axes.contains("east") && wkt.axes.contains("north");
-    return wkt.axes.isEmpty() || eastNorth || hasPolarAxes(definition, wkt);
+    const bool unsaid = std::all_of(wkt.axes.begin(), wkt.axes.end(),
+                                    [](const QByteArray& axis) { return axis == "other" || axis == "unspecified"; });
+    return unsaid || eastNorth || hasPolarAxes(definition, wkt);
 }
 
 } // namespace

@@ -107,7 +107,8 @@ void Scanner::open(Text keyword) {
 void Scanner::close() {
     if (!path.isEmpty())
         path.removeLast();
-    ++position;
+    // GDAL reads one system and leaves what follows.
+    position = path.isEmpty() ? wkt.size() : position + 1;
 }
 
 void Scanner::value(Text text) {
