@@ -7,6 +7,8 @@
 #include <QFileInfo>
 #include <QTextCodec>
 
+#include <algorithm>
+
 namespace {
 
 /// GDAL takes no WKT of more than 100,000 bytes, so no more is read, however large the file. The rest are blanks around
@@ -14,7 +16,7 @@ namespace {
 constexpr qint64 longestText = qint64{1024} * 1024;
 
 QByteArray readText(QFile& file) {
-    QByteArray text = file.read(longestText);
+    QByteArray text = file.read(std::min(file.size(), longestText));
     const int nul = text.indexOf('\0');
     if (nul >= 0)
         text.truncate(nul);

@@ -248,6 +248,7 @@ void TestImport::numbersKeepAllTheirDigits() {
     QCOMPARE(numberOf(*record, CoordParamKey::factor), 0.9996012717);
     QCOMPARE(numberOf(*record, CoordParamKey::shiftDx), 446.4481234567);
     QCOMPARE(numberOf(*record, CoordParamKey::shiftRx), 0.1502 / 3600);
+    QCOMPARE(numberOf(*record, CoordParamKey::ellipsoidF), 298.257222101);
 }
 
 void TestImport::thereAndBack_data() {
