@@ -12,13 +12,14 @@ QString text(const char* local) {
     return QString::fromLocal8Bit(local);
 }
 
-QString value(const IDictionary* record, const char* key) {
-    return text(record->getValue(key));
-}
-
-void fill(IDictionary* record, const QStringList& values) {
-    for (int i = 0; i + 1 < values.count(); i += 2)
-        record->setText(values[i].toLocal8Bit().constData(), values[i + 1].toLocal8Bit().constData());
+/// A record of key, text, key, text ...; a key with a null text is left out.
+DictionaryGuard recordOf(const QStringList& values) {
+    DictionaryGuard record;
+    for (int i = 0; i + 1 < values.count(); i += 2) {
+        if (!values[i + 1].isNull())
+            record->setText(values[i].toLocal8Bit(), values[i + 1].toLocal8Bit());
+    }
+    return record;
 }
 
 } // namespace
@@ -26,19 +27,6 @@ void fill(IDictionary* record, const QStringList& values) {
 RecordingList::~RecordingList() {
     for (auto& entry : entries)
         dictionary_release_instance(&entry.second);
-}
-
-int RecordingList::indexOf(const QString& name) const {
-    for (int i = 0; i < entries.count(); ++i) {
-        if (entries[i].first == name)
-            return i;
-    }
-    return -1;
-}
-
-IDictionary* RecordingList::find(const QString& name) const {
-    const int index = indexOf(name);
-    return index < 0 ? nullptr : entries[index].second;
 }
 
 QStringList RecordingList::names() const {
@@ -49,85 +37,61 @@ QStringList RecordingList::names() const {
 }
 
 IDictionary* RecordingList::put(const QString& name, const IDictionary* record, int index) {
-    IDictionary* copy = find(name);
-    if (!copy) {
-        copy = dictionary_get_instance(0);
-        entries.insert(index, qMakePair(name, copy));
-    }
-    dictionary_assign(copy, record);
-    return copy;
+    if (!find(name))
+        entries.insert(index, qMakePair(name, dictionary_get_instance(0)));
+    dictionary_assign(find(name), record);
+    return find(name);
 }
 
 void RecordingList::remove(const QString& name) {
-    const int index = indexOf(name);
-    if (index < 0)
-        return;
-    IDictionary* record = entries[index].second;
-    dictionary_release_instance(&record);
-    entries.removeAt(index);
+    if (IDictionary* record = find(name)) {
+        entries.removeAt(indexOf(name));
+        dictionary_release_instance(&record);
+    }
 }
 
 bool RecordingList::rename(const QString& oldName, const QString& newName) {
-    const int index = indexOf(oldName);
-    if (index < 0 || newName.isEmpty() || indexOf(newName) >= 0)
+    IDictionary* record = find(oldName);
+    if (!record || newName.isEmpty() || find(newName))
         return false;
-    entries[index].first = newName;
-    entries[index].second->setText(CoordParamKey::name, newName.toLocal8Bit().constData());
+    entries[indexOf(oldName)].first = newName;
+    record->setText(CoordParamKey::name, newName.toLocal8Bit());
     return true;
 }
 
-RecordingGroup::RecordingGroup(RecordingCatalogue& owner, const QString& groupName)
-    : name(groupName), catalogue(owner) {
-}
-
-void RecordingGroup::log(const QString& call) {
-    catalogue.calls << name + "." + call;
+QString RecordingGroup::logged(const char* call, const char* argument) {
+    return catalogue.logged(name + "." + call, argument);
 }
 
 const char* RecordingGroup::getCoordSystemNames() {
-    log("getCoordSystemNames()");
-    return catalogue.list(answer, systems.names());
-}
-
-IDictionary* RecordingGroup::getCoordSystem(const char* systemName) {
-    log("getCoordSystem(" + text(systemName) + ")");
-    return systems.find(text(systemName));
+    return catalogue.listed(name + ".getCoordSystemNames", answer, systems.names());
 }
 
 int RecordingGroup::addCoordSystem(IDictionary* record) {
-    const QString systemName = value(record, CoordParamKey::name);
-    log("addCoordSystem(" + systemName + ")");
-    if (catalogue.refuseAdd || systemName.isEmpty() || systems.find(systemName))
+    const QString system = logged("addCoordSystem", record->getValue(CoordParamKey::name));
+    if (system.isEmpty() || systems.find(system))
         return 0;
-    systems.put(systemName, record, 0);
+    systems.put(system, record, 0);
     return 1;
 }
 
-void RecordingGroup::setCoordSystem(const char* systemName, const IDictionary* record) {
-    log("setCoordSystem(" + text(systemName) + ")");
-    if (systems.find(text(systemName)))
-        systems.put(text(systemName), record, 0)->setText(CoordParamKey::name, systemName);
+void RecordingGroup::setCoordSystem(const char* system, const IDictionary* record) {
+    if (systems.find(logged("setCoordSystem", system)))
+        systems.put(text(system), record, 0)->setText(CoordParamKey::name, system);
 }
 
 int RecordingGroup::renameCoordSystem(const char* oldName, const char* newName) {
-    log("renameCoordSystem(" + text(oldName) + "," + text(newName) + ")");
+    logged("renameCoordSystem", QByteArray(oldName) + ',' + newName);
     return !catalogue.refuseRename && systems.rename(text(oldName), text(newName)) ? 1 : 0;
 }
 
-void RecordingGroup::deleteCoordSystem(const char* systemName) {
-    log("deleteCoordSystem(" + text(systemName) + ")");
-    systems.remove(text(systemName));
+QString RecordingCatalogue::logged(const QString& call, const char* argument) {
+    calls << call + "(" + text(argument) + ")";
+    return text(argument);
 }
 
-bool RecordingGroup::hasCoordSystem(const char* systemName) {
-    log("hasCoordSystem(" + text(systemName) + ")");
-    return systems.find(text(systemName)) != nullptr;
-}
-
-RecordingCatalogue::RecordingCatalogue() = default;
-RecordingCatalogue::~RecordingCatalogue() = default;
-
-const char* RecordingCatalogue::list(QByteArray& storage, const QStringList& names) const {
+const char* RecordingCatalogue::listed(const QString& call, QByteArray& storage, const QStringList& names) {
+    logged(call, "");
     storage = names.join(",").toLocal8Bit();
     return nullLists ? nullptr : storage.constData();
 }
@@ -150,42 +114,25 @@ int RecordingCatalogue::recordCount() const {
     return count;
 }
 
-void RecordingCatalogue::load(const char* dataFolder) {
-    calls << "load(" + text(dataFolder) + ")";
-}
-
-void RecordingCatalogue::saveCoordSystems(const char* path) {
-    calls << "saveCoordSystems(" + text(path) + ")";
-}
-
 const char* RecordingCatalogue::getGroupNames() {
-    calls << "getGroupNames()";
     QStringList names;
     for (const auto& each : groups)
         names << each->name;
-    return list(groupAnswer, rawGroupNames.isEmpty() ? names : QStringList(rawGroupNames));
-}
-
-ICoordSysGroup* RecordingCatalogue::getGroup(const char* name) {
-    calls << "getGroup(" + text(name) + ")";
-    return group(text(name));
+    return listed("getGroupNames", groupAnswer, rawGroupNames.isEmpty() ? names : QStringList(rawGroupNames));
 }
 
 void RecordingCatalogue::addGroup(const char* name) {
-    calls << "addGroup(" + text(name) + ")";
-    if (!group(text(name)))
+    if (!group(logged("addGroup", name)))
         groups.insert(groups.begin(), std::make_unique<RecordingGroup>(*this, text(name)));
 }
 
 void RecordingCatalogue::deleteGroup(const char* name) {
-    calls << "deleteGroup(" + text(name) + ")";
-    groups.erase(
-        std::remove_if(groups.begin(), groups.end(), [&](const auto& each) { return each->name == text(name); }),
-        groups.end());
+    const auto isIt = [named = logged("deleteGroup", name)](const auto& each) { return each->name == named; };
+    groups.erase(std::remove_if(groups.begin(), groups.end(), isIt), groups.end());
 }
 
 int RecordingCatalogue::renameGroup(const char* oldName, const char* newName) {
-    calls << "renameGroup(" + text(oldName) + "," + text(newName) + ")";
+    logged("renameGroup", QByteArray(oldName) + ',' + newName);
     RecordingGroup* renamed = group(text(oldName));
     if (refuseRename || !renamed || group(text(newName)))
         return 0;
@@ -193,90 +140,34 @@ int RecordingCatalogue::renameGroup(const char* oldName, const char* newName) {
     return 1;
 }
 
-bool RecordingCatalogue::hasGroup(const char* name) {
-    calls << "hasGroup(" + text(name) + ")";
-    return group(text(name)) != nullptr;
-}
-
-const char* RecordingCatalogue::getEllipsoidNames() {
-    calls << "getEllipsoidNames()";
-    return list(ellipsoidAnswer, ellipsoids.names());
-}
-
 void RecordingCatalogue::addEllipsoid(IDictionary* record) {
-    const QString name = value(record, EllipsoidKey::name);
-    calls << "addEllipsoid(" + name + ")";
-    ellipsoids.put(name, record, ellipsoids.count());
-}
-
-void RecordingCatalogue::deleteEllipsoid(const char* name) {
-    calls << "deleteEllipsoid(" + text(name) + ")";
-    ellipsoids.remove(text(name));
-}
-
-IDictionary* RecordingCatalogue::getEllipsoid(const char* name) {
-    calls << "getEllipsoid(" + text(name) + ")";
-    return ellipsoids.find(text(name));
-}
-
-void RecordingCatalogue::saveEllipsoids(const char* path) {
-    calls << "saveEllipsoids(" + text(path) + ")";
-}
-
-const char* RecordingCatalogue::getGeoidNames() {
-    calls << "getGeoidNames()";
-    return list(geoidAnswer, geoids.names());
+    ellipsoids.append(logged("addEllipsoid", record->getValue(EllipsoidKey::name)), record);
 }
 
 void RecordingCatalogue::addGeoid(IDictionary* record) {
-    const QString name = value(record, GeoidKey::name);
-    calls << "addGeoid(" + name + ")";
-    geoids.put(name, record, geoids.count());
+    geoids.append(logged("addGeoid", record->getValue(GeoidKey::name)), record);
 }
 
-void RecordingCatalogue::deleteGeoid(const char* name) {
-    calls << "deleteGeoid(" + text(name) + ")";
-    geoids.remove(text(name));
-}
-
-IDictionary* RecordingCatalogue::getGeoid(const char* name) {
-    calls << "getGeoid(" + text(name) + ")";
-    return geoids.find(text(name));
-}
-
-void RecordingCatalogue::saveGeoids(const char* path) {
-    calls << "saveGeoids(" + text(path) + ")";
-}
-
-RecordingGroup* RecordingCatalogue::addTestGroup(const QString& name, const QStringList& systems) {
+void RecordingCatalogue::addTestGroup(const QString& name, const QStringList& systems) {
     groups.push_back(std::make_unique<RecordingGroup>(*this, name));
     for (const QString& system : systems)
         addTestSystem(name, system);
-    return groups.back().get();
 }
 
-IDictionary* RecordingCatalogue::addTestSystem(const QString& groupName, const QString& name,
-                                               const QStringList& values) {
-    DictionaryGuard record;
-    fill(record.get(), QStringList{CoordParamKey::name, name} + values);
-    RecordingList& systems = group(groupName)->systems;
-    return systems.put(name, record.get(), systems.count());
+void RecordingCatalogue::addTestSystem(const QString& groupName, const QString& name, const QStringList& values) {
+    group(groupName)->systems.append(name, recordOf(QStringList{CoordParamKey::name, name} + values).get());
 }
 
 IDictionary* RecordingCatalogue::addTestEllipsoid(const QString& name, const QString& a, const QString& f,
                                                   const QString& flag) {
-    DictionaryGuard record;
-    fill(record.get(), {EllipsoidKey::name, name, EllipsoidKey::a, a, EllipsoidKey::f, f});
-    if (!flag.isNull())
-        record->setText(EllipsoidKey::flag, flag.toLocal8Bit().constData());
-    return ellipsoids.put(name, record.get(), ellipsoids.count());
+    const QStringList values{EllipsoidKey::name, name, EllipsoidKey::a,    a,
+                             EllipsoidKey::f,    f,    EllipsoidKey::flag, flag};
+    return ellipsoids.append(name, recordOf(values).get());
 }
 
 IDictionary* RecordingCatalogue::addTestGeoid(const QString& name, const QString& file, const QString& ellipsoid,
                                               const QString& flag) {
-    DictionaryGuard record;
-    fill(record.get(), {GeoidKey::name, name, GeoidKey::file, file, GeoidKey::ellipsoid, ellipsoid});
-    if (!flag.isNull())
-        record->setText(GeoidKey::flag, flag.toLocal8Bit().constData());
-    return geoids.put(name, record.get(), geoids.count());
+    const QStringList values{GeoidKey::name,      name,      GeoidKey::file, file,
+                             GeoidKey::ellipsoid, ellipsoid, GeoidKey::flag, flag};
+    return geoids.append(name, recordOf(values).get());
 }

@@ -21,17 +21,18 @@ public:
     RecordingList(const RecordingList&) = delete;
     RecordingList& operator=(const RecordingList&) = delete;
 
-    IDictionary* find(const QString& name) const;
+    IDictionary* find(const QString& name) const { return entries.value(indexOf(name)).second; }
     QStringList names() const;
     int count() const { return entries.count(); }
 
     /// Stores a copy of `record` under `name`, at its old place or else at `index`. Returns the copy.
     IDictionary* put(const QString& name, const IDictionary* record, int index);
+    IDictionary* append(const QString& name, const IDictionary* record) { return put(name, record, count()); }
     void remove(const QString& name);
     bool rename(const QString& oldName, const QString& newName);
 
 private:
-    int indexOf(const QString& name) const;
+    int indexOf(const QString& name) const { return names().indexOf(name); }
 
     QList<QPair<QString, IDictionary*>> entries;
 };
@@ -41,21 +42,22 @@ class RecordingCatalogue;
 /// A group of RecordingCatalogue.
 class RecordingGroup : public ICoordSysGroup {
 public:
-    RecordingGroup(RecordingCatalogue& owner, const QString& groupName);
+    RecordingGroup(RecordingCatalogue& owner, const QString& groupName) : name(groupName), catalogue(owner) {}
 
     const char* getCoordSystemNames() override;
-    IDictionary* getCoordSystem(const char* systemName) override;
+    IDictionary* getCoordSystem(const char* system) override { return systems.find(logged("getCoordSystem", system)); }
     int addCoordSystem(IDictionary* record) override;
-    void setCoordSystem(const char* systemName, const IDictionary* record) override;
+    void setCoordSystem(const char* system, const IDictionary* record) override;
     int renameCoordSystem(const char* oldName, const char* newName) override;
-    void deleteCoordSystem(const char* systemName) override;
-    bool hasCoordSystem(const char* systemName) override;
+    void deleteCoordSystem(const char* system) override { systems.remove(logged("deleteCoordSystem", system)); }
+    bool hasCoordSystem(const char* system) override { return systems.find(logged("hasCoordSystem", system)); }
 
     QString name;
     RecordingList systems;
 
 private:
-    void log(const QString& call);
+    /// Records the call and returns its argument.
+    QString logged(const char* call, const char* argument);
 
     RecordingCatalogue& catalogue;
     QByteArray answer;
@@ -65,31 +67,30 @@ private:
 /// behaves as an in-memory catalogue, unless a test scripts another answer.
 class RecordingCatalogue : public ICoordSystem {
 public:
-    RecordingCatalogue();
-    ~RecordingCatalogue() override;
-
-    void load(const char* dataFolder) override;
-    void saveCoordSystems(const char* path) override;
+    void load(const char* dataFolder) override { logged("load", dataFolder); }
+    void saveCoordSystems(const char* path) override { logged("saveCoordSystems", path); }
     const char* getGroupNames() override;
-    ICoordSysGroup* getGroup(const char* name) override;
+    ICoordSysGroup* getGroup(const char* name) override { return group(logged("getGroup", name)); }
     void addGroup(const char* name) override;
     void deleteGroup(const char* name) override;
     int renameGroup(const char* oldName, const char* newName) override;
-    bool hasGroup(const char* name) override;
-    const char* getEllipsoidNames() override;
+    bool hasGroup(const char* name) override { return group(logged("hasGroup", name)); }
+    const char* getEllipsoidNames() override {
+        return listed("getEllipsoidNames", ellipsoidAnswer, ellipsoids.names());
+    }
     void addEllipsoid(IDictionary* record) override;
-    void deleteEllipsoid(const char* name) override;
-    IDictionary* getEllipsoid(const char* name) override;
-    void saveEllipsoids(const char* path) override;
-    const char* getGeoidNames() override;
+    void deleteEllipsoid(const char* name) override { ellipsoids.remove(logged("deleteEllipsoid", name)); }
+    IDictionary* getEllipsoid(const char* name) override { return ellipsoids.find(logged("getEllipsoid", name)); }
+    void saveEllipsoids(const char* path) override { logged("saveEllipsoids", path); }
+    const char* getGeoidNames() override { return listed("getGeoidNames", geoidAnswer, geoids.names()); }
     void addGeoid(IDictionary* record) override;
-    void deleteGeoid(const char* name) override;
-    IDictionary* getGeoid(const char* name) override;
-    void saveGeoids(const char* path) override;
+    void deleteGeoid(const char* name) override { geoids.remove(logged("deleteGeoid", name)); }
+    IDictionary* getGeoid(const char* name) override { return geoids.find(logged("getGeoid", name)); }
+    void saveGeoids(const char* path) override { logged("saveGeoids", path); }
 
-    // Filling, unrecorded. Values come as key, text, key, text ...
-    RecordingGroup* addTestGroup(const QString& name, const QStringList& systems = QStringList());
-    IDictionary* addTestSystem(const QString& group, const QString& name, const QStringList& values = QStringList());
+    // Filling, unrecorded. Values come as key, text, key, text ...; a null flag is none.
+    void addTestGroup(const QString& name, const QStringList& systems = QStringList());
+    void addTestSystem(const QString& group, const QString& name, const QStringList& values = QStringList());
     IDictionary* addTestEllipsoid(const QString& name, const QString& a, const QString& f, const QString& flag);
     IDictionary* addTestGeoid(const QString& name, const QString& file, const QString& ellipsoid, const QString& flag);
 
@@ -105,7 +106,6 @@ public:
 
     // Scripted answers.
     bool refuseRename = false; ///< renameGroup and renameCoordSystem answer 0
-    bool refuseAdd = false;    ///< addCoordSystem answers 0
     bool nullLists = false;    ///< every list of names is null
     QString rawGroupNames;     ///< when not empty, what getGroupNames answers
 
@@ -115,7 +115,10 @@ public:
 
 private:
     friend class RecordingGroup;
-    const char* list(QByteArray& storage, const QStringList& names) const;
+
+    /// Records the call and returns its argument.
+    QString logged(const QString& call, const char* argument);
+    const char* listed(const QString& call, QByteArray& storage, const QStringList& names);
 
     QByteArray groupAnswer;
     QByteArray ellipsoidAnswer;
