@@ -6,17 +6,14 @@
 #include "panel/DlgCoordParam.h"
 #include "support/MessageBoxDouble.h"
 #include "support/ModalDriver.h"
+#include "support/RecordText.h"
 #include "support/RoomTest.h"
 #include "tree/DlgCoordSysGroups.h"
 
-#include <QAction>
-#include <QDialog>
-#include <QLineEdit>
 #include <QMap>
-#include <QPushButton>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
-#include <QTreeWidgetItemIterator>
+#include <QtWidgets>
 
 /// Thousands of commands in random order, always the same ones: after each of them the tree, the catalogue, the panel
 /// and the Save button agree and no record is left over.
@@ -24,22 +21,191 @@ class RandomWalkTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void walk();
+    void walk() {
+        const QTemporaryDir home;
+        qputenv("HOME", home.path().toLocal8Bit());
+        qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+        writeCatalogue(home.path() + "/Documents/ArvelaGnss/Data/CoordinateSystem_custom.vcs");
+
+        VornCoordSysMainWindow window(nullptr);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        tree = window.findChild<DlgCoordSysGroups*>();
+        panel = window.findChild<DlgCoordParam*>();
+        for (QPushButton* button : window.findChildren<QPushButton*>()) {
+            if (button->text() == "Add")
+                addButton = button;
+            if (button->text() == "Save")
+                saveButton = button;
+        }
+        QVERIFY(addButton && saveButton);
+        tree->setAnimated(false);
+        connect(tree, &DlgCoordSysGroups::treeItemClicked, this, [this](const QString& group, const QString& name) {
+            announcedGroup = group;
+            announcedName = name;
+        });
+        announcedGroup = "A"; // by the start-up's selection
+        announcedName = "A";
+        compareTreeWithCatalogue();
+
+        const int otherDictionaries = dictionary_alive_count() - visibleItems(2).count();
+        QMap<QString, int> effects;
+        for (int i = 0; i < steps && !QTest::currentTestFailed(); ++i) {
+            const int systemsBefore = visibleItems(2).count();
+            step();
+            compareTreeWithCatalogue();
+            compareShownRecord();
+            QCOMPARE(dictionary_alive_count() - visibleItems(2).count(), otherDictionaries);
+            QCOMPARE(ModalDriver::pending(), 0);
+            ++effects[visibleItems(2).count() < systemsBefore ? "fewer" : "no fewer"];
+            ++effects[saveButton->isEnabled() ? "dirty" : "clean"];
+            ++effects[panel->isEnabled() ? "shown" : "nothing to show"];
+            if (QTest::currentTestFailed())
+                qWarning("step %d: %s", i, qPrintable(did));
+        }
+        // A walk that never got anywhere would agree as well.
+        for (const char* effect : {"fewer", "dirty", "clean", "shown", "nothing to show"})
+            QVERIFY2(effects[effect] > steps / 100, effect);
+    }
 
 private:
     using Items = QVector<QTreeWidgetItem*>;
 
     quint32 pick(int below) { return random.bounded(static_cast<quint32>(below)); }
-    Items visibleItems(int level) const;
-    QTreeWidgetItem* anyItem(int level);
-    QString anyName();
-    void trigger(const QString& entry) const;
-    void answerName();
+    Items visibleItems(int level) const {
+        Items items;
+        for (QTreeWidgetItemIterator it(tree, QTreeWidgetItemIterator::NotHidden); *it; ++it) {
+            const bool parentHidden = (*it)->parent() && (*it)->parent()->isHidden();
+            if (!parentHidden && (*it)->data(0, Qt::UserRole).toInt() == level)
+                items << *it;
+        }
+        return items;
+    }
 
-    void step();
-    void compareTreeWithCatalogue() const;
-    void compareShownRecord() const;
-    void writeCatalogue(const QString& path);
+    QTreeWidgetItem* anyItem(int level) {
+        const Items items = visibleItems(level);
+        return items.isEmpty() ? nullptr : items[static_cast<int>(pick(items.count()))];
+    }
+
+    // Few names, so that they collide; some that a careless conversion would break.
+    QString anyName() {
+        static const QStringList names{"A", "B", "C", "100 %s", "é%1", "", "x,y", " ", "<&>\"'", "D", "E", "F"};
+        return names[static_cast<int>(pick(names.count()))];
+    }
+
+    void trigger(const QString& entry) const {
+        for (QAction* action : tree->findChildren<QAction*>()) {
+            if (action->text() == entry)
+                return action->trigger();
+        }
+        QFAIL("no such entry");
+    }
+
+    void answerName() {
+        const QString name = anyName();
+        const bool cancelled = pick(8) == 0;
+        did += QString(" \"%1\"%2").arg(name, cancelled ? " cancelled" : "");
+        ModalDriver::onNextDialog([name, cancelled](QDialog* dialog) {
+            auto* edit = dialog->findChild<QLineEdit*>();
+            edit->setText(name);
+            if (!cancelled)
+                QTest::keyClick(edit, Qt::Key_Return);
+            if (dialog->isVisible())
+                dialog->reject();
+        });
+    }
+
+    void step() {
+        const int answer = static_cast<int>(pick(2));
+        MessageBoxDouble::reset();
+        MessageBoxDouble::answers = {answer};
+        const quint32 command = pick(20);
+        const int level = command % 2 == 0 ? 1 : 2;
+        QTreeWidgetItem* item = anyItem(level);
+        const QString onto = item ? item->text(0) : QString();
+
+        if (command < 6) {
+            did = "click " + onto;
+            if (item) {
+                tree->setCurrentItem(item);
+                Q_EMIT tree->itemClicked(item, 0);
+            }
+        } else if (command < 8) {
+            did = "AddSysGroup";
+            answerName();
+            trigger("AddSysGroup");
+        } else if (command < 11) {
+            did = "Add button";
+            answerName();
+            addButton->click();
+        } else if (command < 14 && item) {
+            did = "rename " + onto;
+            tree->setCurrentItem(item);
+            answerName();
+            trigger(level == 1 ? "EditSysGroup" : "EditSys");
+        } else if (command < 17 && item) {
+            did = "delete " + onto + (answer ? "" : " declined");
+            tree->setCurrentItem(item);
+            trigger(level == 1 ? "DelSysGroup" : "DelSys");
+        } else if (command < 19) {
+            did = "edit";
+            panel->setCurrentIndex(1); // "Projection"
+            auto* factor = panel->findChild<QLineEdit*>(CoordParamKey::factor);
+            if (factor && factor->isEnabled() && !factor->isHidden()) {
+                factor->selectAll();
+                QTest::keyClicks(factor, QString::number(0.9 + pick(1000) / 10000.0));
+            }
+        } else {
+            did = "Save";
+            saveButton->click();
+            QVERIFY(!saveButton->isEnabled());
+        }
+    }
+
+    void compareTreeWithCatalogue() const {
+        QStringList seen;
+        QStringList held;
+        for (const QTreeWidgetItem* group : visibleItems(1)) {
+            seen << group->text(0) + ":";
+            for (int i = 0; i < group->childCount(); ++i)
+                if (!group->child(i)->isHidden())
+                    seen << group->child(i)->text(0);
+        }
+        for (const QString& group : QString::fromLocal8Bit(catalogue->getGroupNames()).split(',', Qt::SkipEmptyParts)) {
+            held << group + ":";
+            ICoordSysGroup* systems = catalogue->getGroup(group.toLocal8Bit().constData());
+            held << QString::fromLocal8Bit(systems->getCoordSystemNames()).split(',', Qt::SkipEmptyParts);
+        }
+        QCOMPARE(seen, held);
+    }
+
+    void compareShownRecord() const {
+        ICoordSysGroup* group = catalogue->getGroup(announcedGroup.toLocal8Bit().constData());
+        const IDictionary* held = group ? group->getCoordSystem(announcedName.toLocal8Bit().constData()) : nullptr;
+        QCOMPARE(panel->isEnabled(), held != nullptr || announcedName.isEmpty());
+        if (!held)
+            return;
+        QCOMPARE(recordText(panel->getMetaData()), recordText(*held));
+        QCOMPARE(QString::fromLocal8Bit(held->getValue(CoordParamKey::name)), announcedName);
+    }
+
+    // A catalogue of the walk's own in the user's data folder, whatever the tool ships.
+    void writeCatalogue(const QString& path) {
+        catalogue = get_instance_ICoordSystem("", 0);
+        for (const char* name : {"B", "A"}) {
+            catalogue->addGroup(name);
+            const DictionaryGuard record;
+            record->setText(CoordParamKey::name, "A");
+            record->setText(CoordParamKey::ellipsoidName, "Clarke 1866");
+            dic_set_value(record.get(), CoordParamKey::ellipsoidA, "%f", 6378206.4);
+            dic_set_value(record.get(), CoordParamKey::ellipsoidF, "%f", 6378206.4 / (6378206.4 - 6356583.8));
+            dic_set_value(record.get(), CoordParamKey::projectType, "%d", 1);
+            dic_set_value(record.get(), CoordParamKey::factor, "%f", 0.9999);
+            catalogue->getGroup(name)->addCoordSystem(record.get());
+        }
+        catalogue->saveCoordSystems("");
+        catalogue->saveCoordSystems(path.toLocal8Bit().constData());
+    }
 
     static constexpr int steps = 5000;
     QRandomGenerator random{20240229};
@@ -52,196 +218,6 @@ private:
     QString announcedName;
     QString did; ///< the last step, for the message of a failure
 };
-
-RandomWalkTest::Items RandomWalkTest::visibleItems(int level) const {
-    Items items;
-    for (QTreeWidgetItemIterator it(tree, QTreeWidgetItemIterator::NotHidden); *it; ++it) {
-        const bool parentHidden = (*it)->parent() && (*it)->parent()->isHidden();
-        if (!parentHidden && (*it)->data(0, Qt::UserRole).toInt() == level)
-            items << *it;
-    }
-    return items;
-}
-
-QTreeWidgetItem* RandomWalkTest::anyItem(int level) {
-    const Items items = visibleItems(level);
-    return items.isEmpty() ? nullptr : items[static_cast<int>(pick(items.count()))];
-}
-
-// Few names, so that they collide; some that a careless conversion would break.
-QString RandomWalkTest::anyName() {
-    static const QStringList names{"A", "B", "C", "100 %s", "é%1", "", "x,y", " ", "<&>\"'", "D", "E", "F"};
-    return names[static_cast<int>(pick(names.count()))];
-}
-
-void RandomWalkTest::trigger(const QString& entry) const {
-    for (QAction* action : tree->findChildren<QAction*>()) {
-        if (action->text() == entry)
-            return action->trigger();
-    }
-    QFAIL("no such entry");
-}
-
-void RandomWalkTest::answerName() {
-    const QString name = anyName();
-    const bool cancelled = pick(8) == 0;
-    did += QString(" \"%1\"%2").arg(name, cancelled ? " cancelled" : "");
-    ModalDriver::onNextDialog([name, cancelled](QDialog* dialog) {
-        auto* edit = dialog->findChild<QLineEdit*>();
-        edit->setText(name);
-        if (!cancelled)
-            QTest::keyClick(edit, Qt::Key_Return);
-        if (dialog->isVisible())
-            dialog->reject();
-    });
-}
-
-void RandomWalkTest::step() {
-    const int answer = static_cast<int>(pick(2));
-    MessageBoxDouble::reset();
-    MessageBoxDouble::answers = {answer};
-    const quint32 command = pick(20);
-    const int level = command % 2 == 0 ? 1 : 2;
-    QTreeWidgetItem* item = anyItem(level);
-    const QString onto = item ? item->text(0) : QString();
-
-    if (command < 6) {
-        did = "click " + onto;
-        if (item) {
-            tree->setCurrentItem(item);
-            Q_EMIT tree->itemClicked(item, 0);
-        }
-    } else if (command < 8) {
-        did = "AddSysGroup";
-        answerName();
-        trigger("AddSysGroup");
-    } else if (command < 11) {
-        did = "Add button";
-        answerName();
-        addButton->click();
-    } else if (command < 14 && item) {
-        did = "rename " + onto;
-        tree->setCurrentItem(item);
-        answerName();
-        trigger(level == 1 ? "EditSysGroup" : "EditSys");
-    } else if (command < 17 && item) {
-        did = "delete " + onto + (answer ? "" : " declined");
-        tree->setCurrentItem(item);
-        trigger(level == 1 ? "DelSysGroup" : "DelSys");
-    } else if (command < 19) {
-        did = "edit";
-        panel->setCurrentIndex(1); // "Projection"
-        auto* factor = panel->findChild<QLineEdit*>(CoordParamKey::factor);
-        if (factor && factor->isEnabled() && !factor->isHidden()) {
-            factor->selectAll();
-            QTest::keyClicks(factor, QString::number(0.9 + pick(1000) / 10000.0));
-        }
-    } else {
-        did = "Save";
-        saveButton->click();
-        QVERIFY(!saveButton->isEnabled());
-    }
-}
-
-void RandomWalkTest::compareTreeWithCatalogue() const {
-    QStringList seen;
-    QStringList held;
-    for (const QTreeWidgetItem* group : visibleItems(1)) {
-        seen << group->text(0) + ":";
-        for (int i = 0; i < group->childCount(); ++i)
-            if (!group->child(i)->isHidden())
-                seen << group->child(i)->text(0);
-    }
-    for (const QString& group : QString::fromLocal8Bit(catalogue->getGroupNames()).split(',', Qt::SkipEmptyParts)) {
-        held << group + ":";
-        ICoordSysGroup* systems = catalogue->getGroup(group.toLocal8Bit().constData());
-        held << QString::fromLocal8Bit(systems->getCoordSystemNames()).split(',', Qt::SkipEmptyParts);
-    }
-    QCOMPARE(seen, held);
-}
-
-void RandomWalkTest::compareShownRecord() const {
-    ICoordSysGroup* group = catalogue->getGroup(announcedGroup.toLocal8Bit().constData());
-    const IDictionary* held = group ? group->getCoordSystem(announcedName.toLocal8Bit().constData()) : nullptr;
-    QCOMPARE(panel->isEnabled(), held != nullptr || announcedName.isEmpty());
-    if (!held)
-        return;
-    const IDictionary& shown = panel->getMetaData();
-    QCOMPARE(shown.count(), held->count());
-    for (int i = 0; i < held->count(); ++i) {
-        QCOMPARE(shown.getValue(held->getKey(i)), held->getValue(held->getKey(i)));
-        double shownNumber = 0;
-        double heldNumber = 0;
-        QCOMPARE(shown.getNumber(held->getKey(i), &shownNumber), held->getNumber(held->getKey(i), &heldNumber));
-        QCOMPARE(shownNumber, heldNumber);
-    }
-    QCOMPARE(QString::fromLocal8Bit(held->getValue(CoordParamKey::name)), announcedName);
-}
-
-// A catalogue of the walk's own in the user's data folder, whatever the tool ships.
-void RandomWalkTest::writeCatalogue(const QString& path) {
-    catalogue = get_instance_ICoordSystem("", 0);
-    for (const char* name : {"B", "A"}) {
-        catalogue->addGroup(name);
-        const DictionaryGuard record;
-        dic_set_value(record.get(), CoordParamKey::name, "%s", "A");
-        dic_set_value(record.get(), CoordParamKey::ellipsoidName, "%s", "Clarke 1866");
-        dic_set_value(record.get(), CoordParamKey::ellipsoidA, "%f", 6378206.4);
-        dic_set_value(record.get(), CoordParamKey::ellipsoidF, "%f", 6378206.4 / (6378206.4 - 6356583.8));
-        dic_set_value(record.get(), CoordParamKey::projectType, "%d", 1);
-        dic_set_value(record.get(), CoordParamKey::factor, "%f", 0.9999);
-        catalogue->getGroup(name)->addCoordSystem(record.get());
-    }
-    catalogue->saveCoordSystems("");
-    catalogue->saveCoordSystems(path.toLocal8Bit().constData());
-}
-
-void RandomWalkTest::walk() {
-    const QTemporaryDir home;
-    qputenv("HOME", home.path().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
-    writeCatalogue(home.path() + "/Documents/ArvelaGnss/Data/CoordinateSystem_custom.vcs");
-
-    VornCoordSysMainWindow window(nullptr);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    tree = window.findChild<DlgCoordSysGroups*>();
-    panel = window.findChild<DlgCoordParam*>();
-    for (QPushButton* button : window.findChildren<QPushButton*>()) {
-        if (button->text() == "Add")
-            addButton = button;
-        if (button->text() == "Save")
-            saveButton = button;
-    }
-    QVERIFY(addButton && saveButton);
-    tree->setAnimated(false);
-    connect(tree, &DlgCoordSysGroups::treeItemClicked, this, [this](const QString& group, const QString& name) {
-        announcedGroup = group;
-        announcedName = name;
-    });
-    announcedGroup = "A"; // by the start-up's selection
-    announcedName = "A";
-    compareTreeWithCatalogue();
-
-    const int otherDictionaries = dictionary_alive_count() - visibleItems(2).count();
-    QMap<QString, int> effects;
-    for (int i = 0; i < steps && !QTest::currentTestFailed(); ++i) {
-        const int systemsBefore = visibleItems(2).count();
-        step();
-        compareTreeWithCatalogue();
-        compareShownRecord();
-        QCOMPARE(dictionary_alive_count() - visibleItems(2).count(), otherDictionaries);
-        QCOMPARE(ModalDriver::pending(), 0);
-        ++effects[visibleItems(2).count() < systemsBefore ? "fewer" : "no fewer"];
-        ++effects[saveButton->isEnabled() ? "dirty" : "clean"];
-        ++effects[panel->isEnabled() ? "shown" : "nothing to show"];
-        if (QTest::currentTestFailed())
-            qWarning("step %d: %s", i, qPrintable(did));
-    }
-    // A walk that never got anywhere would agree as well.
-    for (const char* effect : {"fewer", "dirty", "clean", "shown", "nothing to show"})
-        QVERIFY2(effects[effect] > steps / 100, effect);
-}
 
 ROOM_TEST_MAIN(RandomWalkTest)
 #include "RandomWalkTest.moc"
