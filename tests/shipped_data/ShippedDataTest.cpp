@@ -5,6 +5,7 @@
 #include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
 #include "platform/sdk/CatalogueFile.h"
+#include "support/Rows.h"
 
 #include <QHash>
 #include <QSet>
@@ -60,204 +61,189 @@ double number(const CatalogueRecord& record, const char* key) {
 
 } // namespace
 
+using EllipsoidFigures = Rows<QByteArray, QByteArray>;
+using SystemFigures = Rows<QByteArray, int, QVector<double>>;
+using SystemsStandInTheirOrder = Rows<QString, QString>;
+
 /// The files that the build makes, as the tool finds them.
 class ShippedDataTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void ellipsoidFigures_data();
-    void ellipsoidFigures();
-    void everyEllipsoidIsShippedAndSound();
-    void systemFigures_data();
-    void systemFigures();
-    void everySystemIsDefinedOnAShippedEllipsoid();
-    void everySystemProjectsAsTheRegistryDoes();
-    void systemsStandInTheirOrder_data();
-    void systemsStandInTheirOrder();
+    void initTestCase() {
+        const QString folder = QCoreApplication::applicationDirPath() + "/../etc/Vornhalde/data/";
+        ellipsoids = CatalogueFile::readRecords(folder + "Ellipsoid.xml", ellipsoidFile);
+        systems = CatalogueFile::readSystems(folder + "CoordinateSystem.vcs");
+        QVERIFY(ellipsoids.condition == FileCondition::Whole);
+        QVERIFY(systems.condition == FileCondition::Whole);
+    }
+
+    void ellipsoidFigures_data() {
+        const EllipsoidFigures row;
+
+        // EPSG registry, by the ellipsoid's code.
+        row("WGS 84", "6378137.0", "298.257223563");         // 7030
+        row("GRS 1980", "6378137.0", "298.257222101");       // 7019
+        row("Bessel 1841", "6377397.155", "299.1528128");    // 7004
+        row("Airy 1830", "6377563.396", "299.3249646");      // 7001
+        row("International 1924", "6378388.0", "297.0");     // 7022
+        row("Krassowsky 1940", "6378245.0", "298.3");        // 7024
+        row("GRS 1980 Authalic Sphere", "6371007.0", "0.0"); // 7048
+    }
+
+    void ellipsoidFigures() {
+        const auto [a, f] = EllipsoidFigures::current();
+        const CatalogueRecord* ellipsoid = ellipsoids.records.find(QTest::currentDataTag());
+        QVERIFY(ellipsoid);
+        QCOMPARE(QByteArray(ellipsoid->values->getValue(EllipsoidKey::a)), a);
+        QCOMPARE(QByteArray(ellipsoid->values->getValue(EllipsoidKey::f)), f);
+    }
+
+    void everyEllipsoidIsShippedAndSound() {
+        int count = 0;
+        for (const CatalogueRecord& ellipsoid : ellipsoids.records) {
+            QCOMPARE(ellipsoid.values->getValue(EllipsoidKey::flag), "1");
+            const double a = number(ellipsoid, EllipsoidKey::a);
+            const double f = number(ellipsoid, EllipsoidKey::f);
+            QVERIFY2(a > 6.37e6 && a < 6.379e6, ellipsoid.name);
+            QVERIFY2(f == 0.0 || (f > 290.0 && f < 311.0), ellipsoid.name);
+            ++count;
+        }
+        QVERIFY(count >= 50);
+        // Defined in feet, and by its minor axis: 20926348 and 20855233 Clarke's feet of 0.3047972654 m (EPSG 7007).
+        const CatalogueRecord* clarke = ellipsoids.records.find("Clarke 1858");
+        QVERIFY(clarke);
+        QVERIFY(std::abs(number(*clarke, EllipsoidKey::a) - 20926348 * 0.3047972654) < 1e-8);
+        QVERIFY(std::abs(number(*clarke, EllipsoidKey::f) - 20926348.0 / (20926348 - 20855233)) < 1e-9);
+    }
+
+    void systemFigures_data() {
+        // figures: longitude, latitude, factor, easting, northing, parallels
+        const SystemFigures row;
+
+        const int scaled = int(ProjectionKind::TransverseMercatorScaled);
+        const int lambert = int(ProjectionKind::LambertTwoParallels);
+        // NGA.SIG.0012, the UTM grids
+        row("WGS 84 / UTM zone 32N", "WGS 84 / UTM North", scaled, {9, 0, 0.9996, 500000, 0});
+        row("WGS 84 / UTM zone 33S", "WGS 84 / UTM South", scaled, {15, 0, 0.9996, 500000, 10000000});
+        // Ordnance Survey, A guide to coordinate systems in Great Britain
+        row("OSGB36 / British National Grid", "Great Britain and Ireland", scaled,
+            {-2, 49, 0.9996012717, 400000, -100000});
+        // IOGP 373-7-2, the example of the double stereographic projection
+        row("Amersfoort / RD New", "Europe / National Grids", int(ProjectionKind::ObliqueStereographic),
+            {5.38763888888889, 52.1561605555556, 0.9999079, 155000, 463000});
+        // IGN, Systèmes de référence
+        row("RGF93 v2b / Lambert-93", "France", lambert, {3, 46.5, 1, 700000, 6600000, 49, 44});
+        // GB/T 17798-2007, zones of 3 degrees
+        row("CGCS2000 / 3-degree Gauss-Kruger zone 39", "CGCS2000 / 3-degree Gauss-Kruger",
+            int(ProjectionKind::TransverseMercator), {117, 0, 1, 39500000, 0});
+        // LINZS25002
+        row("NZGD2000 / New Zealand Transverse Mercator 2000", "New Zealand", scaled,
+            {173, 0, 0.9996, 1600000, 10000000});
+        // Geospatial Information Authority of Japan, plane rectangular system IX: 36 N, 139 50' E
+        row("JGD2011 / Japan Plane Rectangular CS IX", "Japan / JGD2011", scaled, {139 + 50.0 / 60, 36, 0.9999, 0, 0});
+        // NOAA Manual NOS NGS 5, appendix A: Colorado North
+        row("NAD83 / Colorado North", "NAD83 / State Plane and Statewide", lambert,
+            {-105.5, 39 + 20.0 / 60, 1, 914401.8289, 304800.6096, 40 + 47.0 / 60, 39 + 43.0 / 60});
+    }
+
+    void systemFigures() {
+        auto [group, kind, figures] = SystemFigures::current();
+        const CoordSysGroup* found = systems.groups.find(group);
+        const CatalogueRecord* system = found ? found->systems.find(QTest::currentDataTag()) : nullptr;
+        QVERIFY(system);
+        QCOMPARE(static_cast<int>(number(*system, CoordParamKey::projectType)), kind);
+        const char* keys[] = {CoordParamKey::orgLon,      CoordParamKey::orgLat,     CoordParamKey::factor,
+                              CoordParamKey::falseEast,   CoordParamKey::falseNorth, CoordParamKey::parallel1Lat,
+                              CoordParamKey::parallel2Lat};
+        figures.resize(7); // with no parallels where the row has none
+        for (int i = 0; i < figures.size(); ++i)
+            QVERIFY2(std::abs(number(*system, keys[i]) - figures[i]) < 1e-10 * std::max(1.0, std::abs(figures[i])),
+                     keys[i]);
+    }
+
+    void everySystemIsDefinedOnAShippedEllipsoid() {
+        QSet<QByteArray> names;
+        for (const CoordSysGroup& group : systems.groups) {
+            QVERIFY2(!group.systems.isEmpty(), group.name);
+            for (const CatalogueRecord& system : group.systems) {
+                QVERIFY2(coordParamDefinesProjection(*system.values), system.name);
+                QVERIFY2(!names.contains(system.name), system.name);
+                names.insert(system.name);
+                const CatalogueRecord* ellipsoid =
+                    ellipsoids.records.find(system.values->getValue(CoordParamKey::ellipsoidName));
+                QVERIFY2(ellipsoid, system.name);
+                QVERIFY2(std::abs(number(system, CoordParamKey::ellipsoidA) - number(*ellipsoid, EllipsoidKey::a)) <
+                             1e-6,
+                         system.name);
+                QVERIFY2(std::abs(number(system, CoordParamKey::ellipsoidF) - number(*ellipsoid, EllipsoidKey::f)) <
+                             1e-8,
+                         system.name);
+            }
+        }
+        QVERIFY(names.size() > 2500);
+    }
+
+    /// Every record against PROJ's own definition, at three places of the system's area of use.
+    void everySystemProjectsAsTheRegistryDoes() {
+        IProjectionModule* module = projectionModule();
+        QVERIFY(module);
+        QHash<QByteArray, RegistrySystem> registry;
+        for (const RegistrySystem& system : module->registry().projectedSystems()) {
+            if (!system.deprecated)
+                registry.insert(QByteArray(system.name).replace(',', '-'), system);
+        }
+        const std::unique_ptr<PJ_CONTEXT, decltype(&proj_context_destroy)> context(proj_context_create(),
+                                                                                   &proj_context_destroy);
+        for (const CoordSysGroup& group : systems.groups) {
+            for (const CatalogueRecord& system : group.systems) {
+                QVERIFY2(registry.contains(system.name), system.name);
+                const RegistrySystem& entry = registry[system.name];
+                const double width = entry.east - entry.west + (entry.east < entry.west ? 360.0 : 0.0);
+                const RegistryConversion conversion(context.get(), entry.code);
+                const auto projected = module->geodesy().createSystem(coordParamToProjDefine(*system.values));
+                QVERIFY2(projected, system.name);
+                for (const double part : {0.2, 0.5, 0.8}) {
+                    const double latitude = entry.south + part * (entry.north - entry.south);
+                    const double longitude = entry.west + part * width;
+                    const auto ours = projected->toGrid({latitude, longitude, 0.0});
+                    QVERIFY2(ours, system.name);
+                    const GridPoint theirs = conversion.toGrid(longitude, latitude);
+                    // The definition's text knows the meridian of Paris to 0.3 mm only; all others agree to 0.01 mm.
+                    const double tolerance = system.name.contains("(Paris)") ? 5e-4 : 1e-5;
+                    QVERIFY2(std::hypot(ours->easting - theirs.easting, ours->northing - theirs.northing) < tolerance,
+                             system.name);
+                }
+            }
+        }
+    }
+
+    void systemsStandInTheirOrder_data() {
+        // name: of every system, with %1 for what counts
+        const SystemsStandInTheirOrder row;
+        row("WGS 84 / UTM North", "WGS 84 / UTM zone %1N", "1 2 3 4 5 6 7 8 9 10 11 12");
+        row("CGCS2000 / 3-degree Gauss-Kruger", "CGCS2000 / 3-degree Gauss-Kruger CM %1E",
+            "75 78 81 84 87 90 93 96 99 102 105");
+        row("Japan / JGD2011", "JGD2011 / Japan Plane Rectangular CS %1", "I II III IV V VI VII VIII IX X XI XII XIII");
+        row("Sweden", "SWEREF99 %1", "TM|12 00|13 30");
+    }
+
+    /// A group begins with these; the first group is the first that a user sees.
+    void systemsStandInTheirOrder() {
+        const auto [name, counted] = SystemsStandInTheirOrder::current();
+        QCOMPARE(systems.groups.begin()->name, QByteArray("WGS 84 / UTM North"));
+        const CoordSysGroup* group = systems.groups.find(QTest::currentDataTag());
+        QVERIFY(group);
+        QStringList names;
+        for (const QString& count : counted.split(counted.contains('|') ? '|' : ' '))
+            names << name.arg(count);
+        QCOMPARE(QString::fromUtf8(group->systems.names()).split(',').mid(0, names.size()), names);
+    }
 
 private:
     RecordFile ellipsoids{ellipsoidFile};
     SystemFile systems;
 };
-
-void ShippedDataTest::initTestCase() {
-    const QString folder = QCoreApplication::applicationDirPath() + "/../etc/Vornhalde/data/";
-    ellipsoids = CatalogueFile::readRecords(folder + "Ellipsoid.xml", ellipsoidFile);
-    systems = CatalogueFile::readSystems(folder + "CoordinateSystem.vcs");
-    QVERIFY(ellipsoids.condition == FileCondition::Whole);
-    QVERIFY(systems.condition == FileCondition::Whole);
-}
-
-void ShippedDataTest::ellipsoidFigures_data() {
-    QTest::addColumn<QByteArray>("a");
-    QTest::addColumn<QByteArray>("f");
-
-    // EPSG registry, by the ellipsoid's code.
-    QTest::newRow("WGS 84") << QByteArray("6378137.0") << QByteArray("298.257223563");         // 7030
-    QTest::newRow("GRS 1980") << QByteArray("6378137.0") << QByteArray("298.257222101");       // 7019
-    QTest::newRow("Bessel 1841") << QByteArray("6377397.155") << QByteArray("299.1528128");    // 7004
-    QTest::newRow("Airy 1830") << QByteArray("6377563.396") << QByteArray("299.3249646");      // 7001
-    QTest::newRow("International 1924") << QByteArray("6378388.0") << QByteArray("297.0");     // 7022
-    QTest::newRow("Krassowsky 1940") << QByteArray("6378245.0") << QByteArray("298.3");        // 7024
-    QTest::newRow("GRS 1980 Authalic Sphere") << QByteArray("6371007.0") << QByteArray("0.0"); // 7048
-}
-
-void ShippedDataTest::ellipsoidFigures() {
-    const CatalogueRecord* ellipsoid = ellipsoids.records.find(QTest::currentDataTag());
-    QVERIFY(ellipsoid);
-    QTEST(QByteArray(ellipsoid->values->getValue(EllipsoidKey::a)), "a");
-    QTEST(QByteArray(ellipsoid->values->getValue(EllipsoidKey::f)), "f");
-}
-
-void ShippedDataTest::everyEllipsoidIsShippedAndSound() {
-    int count = 0;
-    for (const CatalogueRecord& ellipsoid : ellipsoids.records) {
-        QCOMPARE(ellipsoid.values->getValue(EllipsoidKey::flag), "1");
-        const double a = number(ellipsoid, EllipsoidKey::a);
-        const double f = number(ellipsoid, EllipsoidKey::f);
-        QVERIFY2(a > 6.37e6 && a < 6.379e6, ellipsoid.name);
-        QVERIFY2(f == 0.0 || (f > 290.0 && f < 311.0), ellipsoid.name);
-        ++count;
-    }
-    QVERIFY(count >= 50);
-    // Defined in feet, and by its minor axis: 20926348 and 20855233 Clarke's feet of 0.3047972654 m (EPSG 7007).
-    const CatalogueRecord* clarke = ellipsoids.records.find("Clarke 1858");
-    QVERIFY(clarke);
-    QVERIFY(std::abs(number(*clarke, EllipsoidKey::a) - 20926348 * 0.3047972654) < 1e-8);
-    QVERIFY(std::abs(number(*clarke, EllipsoidKey::f) - 20926348.0 / (20926348 - 20855233)) < 1e-9);
-}
-
-void ShippedDataTest::systemFigures_data() {
-    QTest::addColumn<QByteArray>("group");
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QVector<double>>("figures"); // longitude, latitude, factor, easting, northing, parallels
-
-    const auto row = [](const char* group, const char* name, ProjectionKind kind, const QVector<double>& figures) {
-        QTest::newRow(name) << QByteArray(group) << static_cast<int>(kind) << figures;
-    };
-    using Kind = ProjectionKind;
-    // NGA.SIG.0012, the UTM grids
-    row("WGS 84 / UTM North", "WGS 84 / UTM zone 32N", Kind::TransverseMercatorScaled, {9, 0, 0.9996, 500000, 0, 0, 0});
-    row("WGS 84 / UTM South", "WGS 84 / UTM zone 33S", Kind::TransverseMercatorScaled,
-        {15, 0, 0.9996, 500000, 10000000, 0, 0});
-    // Ordnance Survey, A guide to coordinate systems in Great Britain
-    row("Great Britain and Ireland", "OSGB36 / British National Grid", Kind::TransverseMercatorScaled,
-        {-2, 49, 0.9996012717, 400000, -100000, 0, 0});
-    // IOGP 373-7-2, the example of the double stereographic projection
-    row("Europe / National Grids", "Amersfoort / RD New", Kind::ObliqueStereographic,
-        {5.38763888888889, 52.1561605555556, 0.9999079, 155000, 463000, 0, 0});
-    // IGN, Systèmes de référence
-    row("France", "RGF93 v2b / Lambert-93", Kind::LambertTwoParallels, {3, 46.5, 1, 700000, 6600000, 49, 44});
-    // GB/T 17798-2007, zones of 3 degrees
-    row("CGCS2000 / 3-degree Gauss-Kruger", "CGCS2000 / 3-degree Gauss-Kruger zone 39", Kind::TransverseMercator,
-        {117, 0, 1, 39500000, 0, 0, 0});
-    // LINZS25002
-    row("New Zealand", "NZGD2000 / New Zealand Transverse Mercator 2000", Kind::TransverseMercatorScaled,
-        {173, 0, 0.9996, 1600000, 10000000, 0, 0});
-    // Geospatial Information Authority of Japan, plane rectangular system IX: 36 N, 139 50' E
-    row("Japan / JGD2011", "JGD2011 / Japan Plane Rectangular CS IX", Kind::TransverseMercatorScaled,
-        {139 + 50.0 / 60, 36, 0.9999, 0, 0, 0, 0});
-    // NOAA Manual NOS NGS 5, appendix A: Colorado North
-    row("NAD83 / State Plane and Statewide", "NAD83 / Colorado North", Kind::LambertTwoParallels,
-        {-105.5, 39 + 20.0 / 60, 1, 914401.8289, 304800.6096, 40 + 47.0 / 60, 39 + 43.0 / 60});
-}
-
-void ShippedDataTest::systemFigures() {
-    QFETCH(QByteArray, group);
-    QFETCH(QVector<double>, figures);
-    const CoordSysGroup* found = systems.groups.find(group);
-    QVERIFY(found);
-    const CatalogueRecord* system = found->systems.find(QTest::currentDataTag());
-    QVERIFY(system);
-    QTEST(static_cast<int>(number(*system, CoordParamKey::projectType)), "kind");
-    const char* keys[] = {CoordParamKey::orgLon,      CoordParamKey::orgLat,     CoordParamKey::factor,
-                          CoordParamKey::falseEast,   CoordParamKey::falseNorth, CoordParamKey::parallel1Lat,
-                          CoordParamKey::parallel2Lat};
-    for (int i = 0; i < figures.size(); ++i)
-        QVERIFY2(std::abs(number(*system, keys[i]) - figures[i]) < 1e-10 * std::max(1.0, std::abs(figures[i])),
-                 keys[i]);
-}
-
-void ShippedDataTest::everySystemIsDefinedOnAShippedEllipsoid() {
-    QSet<QByteArray> names;
-    for (const CoordSysGroup& group : systems.groups) {
-        QVERIFY2(!group.systems.isEmpty(), group.name);
-        for (const CatalogueRecord& system : group.systems) {
-            QVERIFY2(coordParamDefinesProjection(*system.values), system.name);
-            QVERIFY2(!names.contains(system.name), system.name);
-            names.insert(system.name);
-            const CatalogueRecord* ellipsoid =
-                ellipsoids.records.find(system.values->getValue(CoordParamKey::ellipsoidName));
-            QVERIFY2(ellipsoid, system.name);
-            QVERIFY2(std::abs(number(system, CoordParamKey::ellipsoidA) - number(*ellipsoid, EllipsoidKey::a)) < 1e-6,
-                     system.name);
-            QVERIFY2(std::abs(number(system, CoordParamKey::ellipsoidF) - number(*ellipsoid, EllipsoidKey::f)) < 1e-8,
-                     system.name);
-        }
-    }
-    QVERIFY(names.size() > 2500);
-}
-
-/// Every record against PROJ's own definition, at three places of the system's area of use.
-void ShippedDataTest::everySystemProjectsAsTheRegistryDoes() {
-    IProjectionModule* module = projectionModule();
-    QVERIFY(module);
-    QHash<QByteArray, RegistrySystem> registry;
-    for (const RegistrySystem& system : module->registry().projectedSystems()) {
-        if (!system.deprecated)
-            registry.insert(QByteArray(system.name).replace(',', '-'), system);
-    }
-    const std::unique_ptr<PJ_CONTEXT, decltype(&proj_context_destroy)> context(proj_context_create(),
-                                                                               &proj_context_destroy);
-    for (const CoordSysGroup& group : systems.groups) {
-        for (const CatalogueRecord& system : group.systems) {
-            QVERIFY2(registry.contains(system.name), system.name);
-            const RegistrySystem& entry = registry[system.name];
-            const double width = entry.east - entry.west + (entry.east < entry.west ? 360.0 : 0.0);
-            const RegistryConversion conversion(context.get(), entry.code);
-            const auto projected = module->geodesy().createSystem(coordParamToProjDefine(*system.values));
-            QVERIFY2(projected, system.name);
-            for (const double part : {0.2, 0.5, 0.8}) {
-                const double latitude = entry.south + part * (entry.north - entry.south);
-                const double longitude = entry.west + part * width;
-                const auto ours = projected->toGrid({latitude, longitude, 0.0});
-                QVERIFY2(ours, system.name);
-                const GridPoint theirs = conversion.toGrid(longitude, latitude);
-                // The definition's text knows the meridian of Paris to 0.3 mm only; all others agree to 0.01 mm.
-                const double tolerance = system.name.contains("(Paris)") ? 5e-4 : 1e-5;
-                QVERIFY2(std::hypot(ours->easting - theirs.easting, ours->northing - theirs.northing) < tolerance,
-                         system.name);
-            }
-        }
-    }
-}
-
-void ShippedDataTest::systemsStandInTheirOrder_data() {
-    QTest::addColumn<QString>("name"); // of every system, with %1 for what counts
-    QTest::addColumn<QString>("counted");
-    QTest::newRow("WGS 84 / UTM North") << "WGS 84 / UTM zone %1N"
-                                        << "1 2 3 4 5 6 7 8 9 10 11 12";
-    QTest::newRow("CGCS2000 / 3-degree Gauss-Kruger") << "CGCS2000 / 3-degree Gauss-Kruger CM %1E"
-                                                      << "75 78 81 84 87 90 93 96 99 102 105";
-    QTest::newRow("Japan / JGD2011") << "JGD2011 / Japan Plane Rectangular CS %1"
-                                     << "I II III IV V VI VII VIII IX X XI XII XIII";
-    QTest::newRow("Sweden") << "SWEREF99 %1"
-                            << "TM|12 00|13 30";
-}
-
-/// A group begins with these; the first group is the first that a user sees.
-void ShippedDataTest::systemsStandInTheirOrder() {
-    QFETCH(QString, name);
-    QFETCH(QString, counted);
-    QCOMPARE(systems.groups.begin()->name, QByteArray("WGS 84 / UTM North"));
-    const CoordSysGroup* group = systems.groups.find(QTest::currentDataTag());
-    QVERIFY(group);
-    QStringList names;
-    for (const QString& count : counted.split(counted.contains('|') ? '|' : ' '))
-        names << name.arg(count);
-    QCOMPARE(QString::fromUtf8(group->systems.names()).split(',').mid(0, names.size()), names);
-}
 
 QTEST_GUILESS_MAIN(ShippedDataTest)
 #include "ShippedDataTest.moc"
