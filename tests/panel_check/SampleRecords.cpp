@@ -35,10 +35,11 @@ SampleRecord SampleRecord::with(const QByteArray& key, const QByteArray& text) c
     return changed;
 }
 
-void SampleRecord::fill(IDictionary* record) const {
-    record->clear();
+DictionaryGuard SampleRecord::record() const {
+    DictionaryGuard record;
     for (const auto& value : values)
         record->setText(value.first, value.second);
+    return record;
 }
 
 const QVector<SampleRecord>& SampleRecord::all() {

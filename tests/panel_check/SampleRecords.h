@@ -1,6 +1,6 @@
 #pragma once
 
-#include "catalogue/IDictionary.h"
+#include "catalogue/DictionaryGuard.h"
 
 #include <QByteArray>
 #include <QVector>
@@ -13,7 +13,7 @@ struct SampleRecord {
     /// Replaces or adds a value.
     SampleRecord with(const QByteArray& key, const QByteArray& text) const;
 
-    void fill(IDictionary* record) const;
+    DictionaryGuard record() const;
 
     static const QVector<SampleRecord>& all();
 
