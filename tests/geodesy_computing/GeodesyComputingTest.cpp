@@ -4,6 +4,7 @@
 #include "import/CoordParamToProjDefine.h"
 #include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
+#include "support/Rows.h"
 
 #include <QTest>
 
@@ -30,11 +31,15 @@ double distance(const GridPoint& left, const GridPoint& right) {
     return std::hypot(left.easting - right.easting, left.northing - right.northing);
 }
 
-std::unique_ptr<IProjectedSystem> createSystem(const PublishedSystem& published) {
-    const DictionaryGuard record;
+DictionaryGuard recordOf(const PublishedSystem& published) {
+    DictionaryGuard record;
     for (const auto& entry : published.record)
         record->setText(entry.first, entry.second);
-    return projectionModule()->geodesy().createSystem(coordParamToProjDefine(*record));
+    return record;
+}
+
+std::unique_ptr<IProjectedSystem> createSystem(const PublishedSystem& published) {
+    return projectionModule()->geodesy().createSystem(coordParamToProjDefine(*recordOf(published)));
 }
 
 void showDifference(double value, double expected, double tolerance) {
@@ -44,163 +49,150 @@ void showDifference(double value, double expected, double tolerance) {
 
 } // namespace
 
+using PublishedValue = Rows<PublishedSystem, PublishedRow>;
+using ScaleIsTheDerivative = Rows<PublishedSystem>;
+using UnusableDefinition = Rows<QByteArray>;
+using ImpossiblePoint = Rows<GeographicPoint>;
+
 /// What the tool computes, against published values and against itself.
 class GeodesyComputingTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void publishedValue_data();
-    void publishedValue();
-    void scaleIsTheDerivative_data();
-    void scaleIsTheDerivative();
-    void unusableDefinition_data();
-    void unusableDefinition();
-    void impossiblePoint_data();
-    void impossiblePoint();
-    void distortionAtHeight();
-};
+    void initTestCase() { QVERIFY2(projectionModule(), "the projection module was not found"); }
 
-void GeodesyComputingTest::initTestCase() {
-    QVERIFY2(projectionModule(), "the projection module was not found");
-}
-
-void GeodesyComputingTest::publishedValue_data() {
-    QTest::addColumn<PublishedSystem>("published");
-    QTest::addColumn<PublishedRow>("row");
-    const auto systems = readPublishedValues(TEST_DATA_DIR "/published_values.txt");
-    QVERIFY(systems.size() >= 20);
-    for (const PublishedSystem& published : systems) {
-        QVERIFY2(!published.rows.isEmpty(), published.name);
-        for (const PublishedRow& row : published.rows)
-            QTest::addRow("line %d %s: %s", row.line, row.what.constData(), published.name.constData())
-                << published << row;
+    void publishedValue_data() {
+        const PublishedValue rows;
+        const auto systems = readPublishedValues(TEST_DATA_DIR "/published_values.txt");
+        QVERIFY(systems.size() >= 20);
+        for (const PublishedSystem& published : systems) {
+            QVERIFY2(!published.rows.isEmpty(), published.name);
+            for (const PublishedRow& row : published.rows)
+                rows("line " + QByteArray::number(row.line) + ' ' + row.what + ": " + published.name, published, row);
+        }
     }
-}
 
-void GeodesyComputingTest::publishedValue() {
-    QFETCH(PublishedSystem, published);
-    QFETCH(PublishedRow, row);
-    const auto system = createSystem(published);
-    QVERIFY(system);
-    const auto& n = row.numbers;
-    const double tolerance = n.last();
-    const GeographicPoint place{n[0], n[1], row.what == "shift" ? n[2] : 0.0};
-    if (row.what == "point") {
-        const GridPoint expected{n[2], n[3]};
-        const auto grid = system->toGrid(place);
-        const auto back = system->toGeographic(expected, 0.0);
-        QVERIFY(grid && back);
-        showDifference(grid->easting, expected.easting, tolerance);
-        showDifference(grid->northing, expected.northing, tolerance);
-        showDifference(distance(*back, place), 0.0, tolerance * std::sqrt(2.0));
-    } else if (row.what == "shift") {
-        const GeographicPoint expected{n[3], n[4], n[5]};
-        const auto wgs84 = system->toWgs84(place);
-        const auto back = system->fromWgs84(expected);
-        QVERIFY(system->hasDatumShift() && wgs84 && back);
-        showDifference(distance(*wgs84, expected), 0.0, tolerance);
-        showDifference(distance(*back, place), 0.0, tolerance);
-    } else {
+    void publishedValue() {
+        const auto [published, row] = PublishedValue::current();
+        const auto system = createSystem(published);
+        QVERIFY(system);
+        const auto& n = row.numbers;
+        const double tolerance = n.last();
+        const GeographicPoint place{n[0], n[1], row.what == "shift" ? n[2] : 0.0};
+        if (row.what == "point") {
+            const GridPoint expected{n[2], n[3]};
+            const auto grid = system->toGrid(place);
+            const auto back = system->toGeographic(expected, 0.0);
+            QVERIFY(grid && back);
+            showDifference(grid->easting, expected.easting, tolerance);
+            showDifference(grid->northing, expected.northing, tolerance);
+            showDifference(distance(*back, place), 0.0, tolerance * std::sqrt(2.0));
+        } else if (row.what == "shift") {
+            const GeographicPoint expected{n[3], n[4], n[5]};
+            const auto wgs84 = system->toWgs84(place);
+            const auto back = system->fromWgs84(expected);
+            QVERIFY(system->hasDatumShift() && wgs84 && back);
+            showDifference(distance(*wgs84, expected), 0.0, tolerance);
+            showDifference(distance(*back, place), 0.0, tolerance);
+        } else {
+            const auto scale = system->localScale(place);
+            QVERIFY(scale);
+            showDifference(row.what == "scale" ? scale->mean : scale->convergence, n[2], tolerance);
+        }
+    }
+
+    void scaleIsTheDerivative_data() {
+        const ScaleIsTheDerivative row;
+        for (const PublishedSystem& published : readPublishedValues(TEST_DATA_DIR "/published_values.txt"))
+            row(published.name, published);
+    }
+
+    /// Scale factors and convergence are those of 200 m along the meridian and the parallel through the point.
+    void scaleIsTheDerivative() {
+        const auto [published] = ScaleIsTheDerivative::current();
+        const auto system = createSystem(published);
+        QVERIFY(system);
+        const DictionaryGuard record = recordOf(published);
+        const double a = dictionary_number(*record, CoordParamKey::ellipsoidA, 0.0);
+        const double flattening = 1.0 / dictionary_number(*record, CoordParamKey::ellipsoidF, 0.0);
+        const double e2 = flattening * (2.0 - flattening);
+        const auto& row = published.rows.first().numbers;
+        const GeographicPoint place{row[0], row[1], 0.0};
+        const double w = std::sqrt(1.0 - e2 * std::pow(std::sin(place.latitude * degree), 2));
+        const double meridianRadius = a * (1.0 - e2) / (w * w * w);
+        const double parallelRadius = a / w * std::cos(place.latitude * degree);
+
+        const double step = 100.0;
+        const double dLat = step / meridianRadius / degree;
+        const double dLon = step / parallelRadius / degree;
+        const auto south = system->toGrid({place.latitude - dLat, place.longitude, 0.0});
+        const auto north = system->toGrid({place.latitude + dLat, place.longitude, 0.0});
+        const auto west = system->toGrid({place.latitude, place.longitude - dLon, 0.0});
+        const auto east = system->toGrid({place.latitude, place.longitude + dLon, 0.0});
         const auto scale = system->localScale(place);
-        QVERIFY(scale);
-        showDifference(row.what == "scale" ? scale->mean : scale->convergence, n[2], tolerance);
+        QVERIFY(south && north && west && east && scale);
+        showDifference(scale->meridian, distance(*north, *south) / (2.0 * step), 5e-9);
+        showDifference(scale->parallel, distance(*east, *west) / (2.0 * step), 5e-9);
+        // The meridian's azimuth is 0, its grid bearing minus the convergence.
+        const double bearing = std::atan2(north->easting - south->easting, north->northing - south->northing) / degree;
+        showDifference(std::remainder(scale->convergence + bearing, 360.0), 0.0, 1e-6);
     }
-}
 
-void GeodesyComputingTest::scaleIsTheDerivative_data() {
-    QTest::addColumn<PublishedSystem>("published");
-    for (const PublishedSystem& published : readPublishedValues(TEST_DATA_DIR "/published_values.txt"))
-        QTest::newRow(published.name) << published;
-}
+    void unusableDefinition_data() {
+        const UnusableDefinition row;
+        row("empty", {});
+        row("no projection", "+a=6378137 +rf=298.257222101 +units=m");
+        row("unknown projection", "+proj=nowhere +a=6378137 +rf=298");
+        row("geographic", "+proj=longlat +a=6378137 +rf=298");
+        row("parallels cancel", "+proj=lcc +lat_1=30 +lat_2=-30 +a=6378137 +rf=298");
+        row("shift of four numbers", "+proj=tmerc +a=6378137 +rf=298 +towgs84=1,2,3,4 +units=m");
+    }
 
-/// Scale factors and convergence are those of 200 m along the meridian and the parallel through the point.
-void GeodesyComputingTest::scaleIsTheDerivative() {
-    QFETCH(PublishedSystem, published);
-    const auto system = createSystem(published);
-    QVERIFY(system);
-    const DictionaryGuard record;
-    for (const auto& entry : published.record)
-        record->setText(entry.first, entry.second);
-    const double a = dictionary_number(*record, CoordParamKey::ellipsoidA, 0.0);
-    const double flattening = 1.0 / dictionary_number(*record, CoordParamKey::ellipsoidF, 0.0);
-    const double e2 = flattening * (2.0 - flattening);
-    const auto& row = published.rows.first().numbers;
-    const GeographicPoint place{row[0], row[1], 0.0};
-    const double w = std::sqrt(1.0 - e2 * std::pow(std::sin(place.latitude * degree), 2));
-    const double meridianRadius = a * (1.0 - e2) / (w * w * w);
-    const double parallelRadius = a / w * std::cos(place.latitude * degree);
+    void unusableDefinition() {
+        const auto [definition] = UnusableDefinition::current();
+        QVERIFY(!projectionModule()->geodesy().createSystem(definition));
+    }
 
-    const double step = 100.0;
-    const double dLat = step / meridianRadius / degree;
-    const double dLon = step / parallelRadius / degree;
-    const auto south = system->toGrid({place.latitude - dLat, place.longitude, 0.0});
-    const auto north = system->toGrid({place.latitude + dLat, place.longitude, 0.0});
-    const auto west = system->toGrid({place.latitude, place.longitude - dLon, 0.0});
-    const auto east = system->toGrid({place.latitude, place.longitude + dLon, 0.0});
-    const auto scale = system->localScale(place);
-    QVERIFY(south && north && west && east && scale);
-    showDifference(scale->meridian, distance(*north, *south) / (2.0 * step), 5e-9);
-    showDifference(scale->parallel, distance(*east, *west) / (2.0 * step), 5e-9);
-    // The meridian's azimuth is 0, its grid bearing minus the convergence.
-    const double bearing = std::atan2(north->easting - south->easting, north->northing - south->northing) / degree;
-    showDifference(std::remainder(scale->convergence + bearing, 360.0), 0.0, 1e-6);
-}
+    void impossiblePoint_data() {
+        const ImpossiblePoint row;
+        const double nan = std::nan("");
+        row("beyond the pole", GeographicPoint{90.001, 0.0, 0.0});
+        row("twice around", GeographicPoint{0.0, 361.0, 0.0});
+        row("no number", GeographicPoint{nan, 0.0, 0.0});
+        row("no height", GeographicPoint{0.0, 0.0, nan});
+        row("at infinity", GeographicPoint{-90.0, 10.0, 0.0});
+    }
 
-void GeodesyComputingTest::unusableDefinition_data() {
-    QTest::addColumn<QByteArray>("definition");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("no projection") << QByteArray("+a=6378137 +rf=298.257222101 +units=m");
-    QTest::newRow("unknown projection") << QByteArray("+proj=nowhere +a=6378137 +rf=298");
-    QTest::newRow("geographic") << QByteArray("+proj=longlat +a=6378137 +rf=298");
-    QTest::newRow("parallels cancel") << QByteArray("+proj=lcc +lat_1=30 +lat_2=-30 +a=6378137 +rf=298");
-    QTest::newRow("shift of four numbers") << QByteArray("+proj=tmerc +a=6378137 +rf=298 +towgs84=1,2,3,4 +units=m");
-}
+    /// Nothing comes back, and the next point is computed as if nothing had been asked.
+    void impossiblePoint() {
+        const auto [place] = ImpossiblePoint::current();
+        const auto system = projectionModule()->geodesy().createSystem("+proj=lcc +lat_1=40 +lat_2=50 +ellps=GRS80");
+        QVERIFY(!system->toGrid(place) && !system->localScale(place));
+        QVERIFY(!system->toGeographic({std::nan(""), 0.0}, 0.0));
+        QVERIFY(system->toGrid({45.0, 3.0, 0.0}) && system->localScale({45.0, 3.0, 0.0}));
+    }
 
-void GeodesyComputingTest::unusableDefinition() {
-    QFETCH(QByteArray, definition);
-    QVERIFY(!projectionModule()->geodesy().createSystem(definition));
-}
+    /// On the central meridian at a height, the distortion is that of the scale factor and of R / (R + h).
+    void distortionAtHeight() {
+        const auto system = projectionModule()->geodesy().createSystem(
+            "+proj=tmerc +lon_0=9 +k_0=0.9996 +x_0=500000 +a=6371000 +b=6371000");
+        const GridPoint points[] = {{500000.0, 5000000.0}, {1e9, 1e9}};
+        double ppm[2];
+        system->linearDistortion(points, 2, 0.0, ppm);
+        showDifference(ppm[0], -400.0, 0.001);
+        QVERIFY(std::isnan(ppm[1]));
+        system->linearDistortion(points, 1, 1000.0, ppm);
+        showDifference(ppm[0], (0.9996 * 6371000.0 / 6372000.0 - 1.0) * 1e6, 0.001);
 
-void GeodesyComputingTest::impossiblePoint_data() {
-    QTest::addColumn<GeographicPoint>("place");
-    const double nan = std::nan("");
-    QTest::newRow("beyond the pole") << GeographicPoint{90.001, 0.0, 0.0};
-    QTest::newRow("twice around") << GeographicPoint{0.0, 361.0, 0.0};
-    QTest::newRow("no number") << GeographicPoint{nan, 0.0, 0.0};
-    QTest::newRow("no height") << GeographicPoint{0.0, 0.0, nan};
-    QTest::newRow("at infinity") << GeographicPoint{-90.0, 10.0, 0.0};
-}
-
-/// Nothing comes back, and the next point is computed as if nothing had been asked.
-void GeodesyComputingTest::impossiblePoint() {
-    QFETCH(GeographicPoint, place);
-    const auto system = projectionModule()->geodesy().createSystem("+proj=lcc +lat_1=40 +lat_2=50 +ellps=GRS80");
-    QVERIFY(!system->toGrid(place) && !system->localScale(place));
-    QVERIFY(!system->toGeographic({std::nan(""), 0.0}, 0.0));
-    QVERIFY(system->toGrid({45.0, 3.0, 0.0}) && system->localScale({45.0, 3.0, 0.0}));
-}
-
-/// On the central meridian at a height, the distortion is that of the scale factor and of R / (R + h).
-void GeodesyComputingTest::distortionAtHeight() {
-    const auto system = projectionModule()->geodesy().createSystem(
-        "+proj=tmerc +lon_0=9 +k_0=0.9996 +x_0=500000 +a=6371000 +b=6371000");
-    const GridPoint points[] = {{500000.0, 5000000.0}, {1e9, 1e9}};
-    double ppm[2];
-    system->linearDistortion(points, 2, 0.0, ppm);
-    showDifference(ppm[0], -400.0, 0.001);
-    QVERIFY(std::isnan(ppm[1]));
-    system->linearDistortion(points, 1, 1000.0, ppm);
-    showDifference(ppm[0], (0.9996 * 6371000.0 / 6372000.0 - 1.0) * 1e6, 0.001);
-
-    // Not conformal: what counts is the meridians' stretching, 1 / cos(x / R) at x = 100 km (Snyder 1987, Cassini
-    // projection).
-    const auto cassini =
-        projectionModule()->geodesy().createSystem("+proj=cass +lat_0=50 +lon_0=9 +a=6371000 +b=6371000");
-    const GridPoint east{100000.0, 0.0};
-    cassini->linearDistortion(&east, 1, 0.0, ppm);
-    showDifference(ppm[0], (1.0 / std::cos(100000.0 / 6371000.0) - 1.0) * 1e6, 0.01);
-}
+        // Not conformal: what counts is the meridians' stretching, 1 / cos(x / R) at x = 100 km (Snyder 1987, Cassini
+        // projection).
+        const auto cassini =
+            projectionModule()->geodesy().createSystem("+proj=cass +lat_0=50 +lon_0=9 +a=6371000 +b=6371000");
+        const GridPoint east{100000.0, 0.0};
+        cassini->linearDistortion(&east, 1, 0.0, ppm);
+        showDifference(ppm[0], (1.0 / std::cos(100000.0 / 6371000.0) - 1.0) * 1e6, 0.01);
+    }
+};
 
 QTEST_GUILESS_MAIN(GeodesyComputingTest)
 #include "GeodesyComputingTest.moc"
