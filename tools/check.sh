@@ -28,6 +28,7 @@ done
 
 lint() {
     local findings status=0
+    echo "$1"
     # -Werror would turn clang's own warnings into errors that no check can switch off.
     findings=$(clang-tidy -p build/release --quiet --extra-arg=-Wno-error "$1" 2>&1) || status=$?
     grep -v 'warnings generated\.$' <<<"$findings" || true
@@ -37,5 +38,9 @@ export -f lint
 lint_all() {
     printf '%s\0' "${sources[@]}" | xargs -0 -n 1 -P "$(nproc)" bash -c 'lint "$1"' lint
 }
-step "Linting ${#sources[@]} sources" lint.log lint_all
+if ! step "Linting ${#sources[@]} sources" lint.log lint_all; then
+    echo "All findings:" >&2
+    grep -E '(error|warning): ' "$logs/lint.log" | sort -u >&2
+    exit 1
+fi
 echo "Rooms, format and lint: ${#sources[@]} sources, no findings"
