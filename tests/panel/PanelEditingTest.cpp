@@ -12,6 +12,7 @@
 #include "support/RecordText.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
+#include "support/TextTable.h"
 
 #include <cmath>
 
@@ -23,6 +24,10 @@ Q_DECLARE_METATYPE(ProjectionKind)
 namespace {
 
 constexpr double degree = 3.141592653589793 / 180;
+
+AngleRole role(const QByteArray& name) {
+    return name == "lat" ? AngleRole::Latitude : name == "lon" ? AngleRole::Longitude : AngleRole::Azimuth;
+}
 
 /// The keys whose text or number differs, or that only one record has.
 QStringList changedKeys(const QStringList& before, const IDictionary& after) {
@@ -111,27 +116,8 @@ private Q_SLOTS:
 
     void readsAngles_data() {
         const ReadsAngles row;
-        const AngleRole lat = AngleRole::Latitude, lon = AngleRole::Longitude, az = AngleRole::Azimuth;
-        row("117.5", lon, 117.5, "117.5");
-        row(" 117.500 ", lon, 117.5, "117.500");
-        row("+9", lon, 9, "9");
-        row("-.5", lat, -0.5, "-.5");
-        row("49.12345678901234567", lat, 49.12345678901234567, "49.12345678901234567");
-        row("117.5°", lon, 117.5, "117.5");
-        row("117.5E", lon, 117.5, "117.5");
-        row("45.5S", lat, -45.5, "-45.5");
-        row("45.5 s", lat, -45.5, "-45.5");
-        row("W71", lon, -71, "-71");
-        for (const char* typed : {"117 30 00.5", "117°30'0.5\"E", "117° 30′ 0.5″ E", "117º30’0.5”", "117d30'0.5''E",
-                                  "117-30-00.5", "117:30:00.5"})
-            row(typed, lon, 117 + 1800.5 / 3600, "117.50013888888888");
-        for (const char* typed : {"-0:45:30", "−0 45 30", "0 45 30 S"})
-            row(typed, lat, -2730.0 / 3600, "-0.7583333333333333");
-        row("S 45 30.5", lat, -45 - 30.5 / 60, "-45.50833333333333");
-        row("45°30", lat, 45.5, "45.5");
-        row("45°30.5'", lat, 45 + 30.5 / 60, "45.50833333333333");
-        row("53 18 56.9537", az, 53 + 1136.9537 / 3600, "53.31582047222222");
-        row("8°59'59.99999999\"", lat, 8 + 3599.99999999 / 3600, "8.999999999997222");
+        for (const QByteArrayList& line : textTable("angles.txt"))
+            row(QByteArray(line[0]).replace('~', ' '), role(line[1]), line[2].toDouble(), line[3]);
     }
 
     void readsAngles() {
@@ -146,15 +132,14 @@ private Q_SLOTS:
 
     void refusesAngles_data() {
         const RefusesAngles row;
-        const AngleRole lat = AngleRole::Latitude, lon = AngleRole::Longitude, az = AngleRole::Azimuth;
         for (const char* typed :
              {"117,5",  "117 60 00",      "117 30 60", "117.5 30", "117 30.5 10", "-45S", "+45N", "N45S", "45 30 20 10",
               "45 -30", "4 5 .",          "1e2",       "nan",      "inf",         "0x10", "--45", "45°°", "45.5.5",
               "forty",  "45 30' 20\" \"", "١٢"})
-            row(typed, lat);
-        row("45E", lat);
-        row("7N", lon);
-        row("53N", az);
+            row(typed, AngleRole::Latitude);
+        row("45E", AngleRole::Latitude);
+        row("7N", AngleRole::Longitude);
+        row("53N", AngleRole::Azimuth);
     }
 
     void refusesAngles() {
@@ -441,25 +426,10 @@ private Q_SLOTS:
     }
 
     void keepsLastGoodValue_data() {
-        // The tab, the field's label, a good text, what is typed behind it, and the range in the message.
-        const KeepsLastGoodValue rows;
-        const auto row = [&rows](int tab, const char* label, const char* good, const char* bad, const char* range) {
-            rows(QByteArray(label) + ' ' + good + bad, tab, label, good, bad, range);
-        };
-        const int projection = PanelOnScreen::Projection;
-        row(projection, "Central meridian", "117", ",5", "±180°");
-        row(projection, "Central meridian", "18", "1", "±180°");
-        row(projection, "Central meridian", "117 5", "N", "±180°");
-        row(projection, "Latitude of origin", "45 30 6", "0", "±90°");
-        row(projection, "Latitude of origin", "9", "1", "±90°");
-        row(projection, "Standard parallel 1", "9", "0", "between -90 and 90°");
-        row(projection, "Scale factor", "1", "1", "0.1 to 10");
-        row(projection, "False easting", "500", " 000", "±1000000000 m");
-        row(projection, "False northing", "0", "x10", "±1000000000 m");
-        row(PanelOnScreen::Ellipsoid, "Semi-major axis a", "6378137", ",0", "1000 to 1000000000 m");
-        row(PanelOnScreen::Ellipsoid, "Inverse flattening 1/f", "298.2572", "e", "0 (sphere), or more than 1");
-        row(PanelOnScreen::Shift, "Translation X", "598.1", "e9", "±10000000 m");
-        row(PanelOnScreen::Shift, "Scale difference", "6.7", "?", "±100000 ppm");
+        const KeepsLastGoodValue row;
+        for (const QByteArrayList& line : textTable("refused_values.txt"))
+            row(line.mid(1, 3).join(' '), line[0].toInt(), line[1], line[2], QByteArray(line[3]).replace('~', ' '),
+                line[4]);
     }
 
     void keepsLastGoodValue() {
@@ -495,33 +465,9 @@ private Q_SLOTS:
     }
 
     void saysWhatIsWrong_data() {
-        // values: key, text, ...; a text "-" removes the key
-        // message: a part of it; empty: there is none
         const SaysWhatIsWrong row;
-        const auto tm = ProjectionKind::TransverseMercator, scaled = ProjectionKind::TransverseMercatorScaled;
-        const auto lambert = ProjectionKind::LambertTwoParallels, stereographic = ProjectionKind::Stereographic;
-        row("all well", tm, {}, "");
-        row("kind 0 with a factor", tm, {factor, "0.000000"}, "none of the kinds");
-        row("kind 0 without a factor", tm, {factor, "-"}, "Scale factor");
-        row("no kind", tm, {projectType, "-"}, "choose the kind");
-        row("kind 5", tm, {projectType, "5"}, "\"5\" is unknown");
-        row("no ellipsoid", tm, {ellipsoidA, "-"}, "no ellipsoid");
-        row("missing key", lambert, {parallel2Lat, "-"}, "Standard parallel 2");
-        row("no number", ProjectionKind::CassiniSoldner, {orgLon, "9,5"}, "Central meridian");
-        row("parallels cancel", lambert, {parallel1Lat, "-50", parallel2Lat, "50"}, "cancel out");
-        row("parallels nearly cancel", lambert, {parallel1Lat, "-50", parallel2Lat, "50.2"}, "nearly cancel");
-        row("equator alone", ProjectionKind::LambertOneParallel, {parallel1Lat, "0"}, "cancel out");
-        row("no second factor", lambert, {factor, "0.000000"}, "");
-        row("points level", ProjectionKind::ObliqueMercatorTwoPoints, {lat2, "46.3"}, "latitudes of the points equal");
-        row("polar with both", stereographic, {orgLat, "90", factor, "0.994"}, "needs the scale factor 1");
-        row("polar with neither", stereographic, {orgLat, "90", factor, "0", cuttingRadius, "0"}, "scale factor");
-        row("parallel off the pole", stereographic, {orgLat, "52", factor, "1"}, "no pole");
-        row("far from 1", scaled, {factor, "0.95"}, "close to 1");
-        row("other UTM zone", scaled, {name, "X / UTM zone 32N", orgLon, "15"}, "Zone 32 of UTM");
-        row("its UTM zone", scaled, {name, "UTM1", orgLon, "-177"}, "");
-        row("zone", tm, {falseEast, "39500000", orgLon, "117"}, "");
-        row("zone of 6 degrees", tm, {falseEast, "20500000", orgLon, "117"}, "");
-        row("other zone", tm, {falseEast, "39500000", orgLon, "120"}, "zone 39");
+        for (const QByteArrayList& line : textTable("problems.txt"))
+            row(line[0], ProjectionKind(line[1].toInt()), line[2].split(' '), line[3]);
     }
 
     void saysWhatIsWrong() {
@@ -529,11 +475,12 @@ private Q_SLOTS:
         const DictionaryGuard record = imported(kind);
         if (kind == ProjectionKind::LambertOneParallel)
             record->setText(orgLat, "46.3");
-        for (int i = 0; i < values.size(); i += 2) {
-            if (values[i + 1] == "-")
-                record->remove(values[i]);
+        for (const QByteArray& item : values) {
+            const QByteArray key = item.split('=').first();
+            if (key == item)
+                record->remove(key);
             else
-                record->setText(values[i], values[i + 1]);
+                record->setText(key, item.mid(key.size() + 1).replace('~', ' '));
         }
         PanelOnScreen screen(*record);
         const QString said = screen.messages().join('\n');
