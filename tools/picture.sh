@@ -20,7 +20,7 @@ await() {
     done
 }
 
-Xvfb -displayfd 3 -screen 0 1280x900x24 -dpi 96 -nolisten tcp 3>"$scratch/display" 2>"$scratch/xvfb.log" &
+Xvfb -displayfd 3 -screen 0 1280x900x24 -dpi 96 -nolisten tcp -noreset 3>"$scratch/display" 2>"$scratch/xvfb.log" &
 pids+=($!)
 await 20 test -s "$scratch/display" || fail "The virtual display did not start: $(cat "$scratch/xvfb.log")"
 DISPLAY=:$(cat "$scratch/display")

@@ -43,7 +43,7 @@ def main():
                 "the tool": os.path.join(build, "bin", "coordsystem_manager")}
     results = {name: [] for name in programs}
     with tempfile.TemporaryDirectory() as home:
-        server = subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-dpi", "96", "-nolisten", "tcp"],
+        server = subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-dpi", "96", "-nolisten", "tcp", "-noreset"],
                                   stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
         environment = {**os.environ, "DISPLAY": ":" + server.stdout.readline().strip(), "HOME": home, "TMPDIR": home,
                        "XDG_RUNTIME_DIR": home}

@@ -61,7 +61,9 @@ class Desktop:
         for name in ("DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "AT_SPI_BUS_ADDRESS"):
             os.environ.pop(name, None)
         os.environ.update(XDG_RUNTIME_DIR=runtime, NO_AT_BRIDGE="0", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
-        number = self._start(["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-dpi", "96", "-nolisten", "tcp"])
+        number = self._start(["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-dpi", "96", "-nolisten", "tcp",
+             # The server would start anew when its first client, a mere question, leaves: the window manager would be lost.
+             "-noreset"])
         os.environ["DISPLAY"] = ":" + number
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._start(
             ["dbus-daemon", "--session", "--nofork", "--nopidfile", "--nosyslog", "--print-address=1"])
