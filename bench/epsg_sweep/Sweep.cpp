@@ -58,16 +58,14 @@ void Sweep::collect() {
     }
 }
 
-/// Both ways take turns, so that what else the machine does falls on both alike; the turns are long enough for neither
-/// to find the other's work in PROJ's caches.
+/// Both ways take turns, so that what else the machine does falls on both alike, and are always half the registry
+/// apart, so that neither finds the other's work in PROJ's caches.
 void Sweep::importAll() {
     Catalogue catalogue{QString()};
     catalogue.addGroup(groupName);
-    constexpr int turn = 250;
-    for (int first = 0; first < systems.size(); first += turn) {
-        const int last = std::min(first + turn, systems.size());
-        gdalSeconds += runGdal(first, last);
-        importSeconds += runImport(first, last, catalogue);
+    for (int i = 0; i < systems.size(); ++i) {
+        gdalSeconds += runGdal(systems[i]);
+        importSeconds += runImport(systems[(i + systems.size() / 2) % systems.size()], catalogue);
     }
     catalogue.saveCoordSystems("");
     const QString file = folder.filePath(QStringLiteral("CoordinateSystem_custom.vcs"));
@@ -75,28 +73,23 @@ void Sweep::importAll() {
 }
 
 /// The two calls of GDAL that no import can do without.
-double Sweep::runGdal(int first, int last) const {
+double Sweep::runGdal(const System& system) const {
     const std::clock_t start = std::clock();
-    for (int i = first; i < last; ++i) {
-        OGRSpatialReference reference(nullptr);
-        const char* text = systems[i].wkt.constData();
-        char* definition = nullptr;
-        if (reference.importFromWkt(&text) == OGRERR_NONE)
-            reference.exportToProj4(&definition);
-        CPLFree(definition);
-    }
+    OGRSpatialReference reference(nullptr);
+    const char* text = system.wkt.constData();
+    char* definition = nullptr;
+    if (reference.importFromWkt(&text) == OGRERR_NONE)
+        reference.exportToProj4(&definition);
+    CPLFree(definition);
     return secondsSince(start);
 }
 
 /// The whole import, from the file to the catalogue. The systems bear their codes as names there: the registry's own
 /// names are not unique in every dialect.
-double Sweep::runImport(int first, int last, ICoordSystem& catalogue) const {
+double Sweep::runImport(const System& system, ICoordSystem& catalogue) const {
     const std::clock_t start = std::clock();
-    for (int i = first; i < last; ++i) {
-        const System& system = systems[i];
-        const WktFile file(system.file);
-        if (file.content() != WktFile::Content::Projected)
-            continue;
+    const WktFile file(system.file);
+    if (file.content() == WktFile::Content::Projected) {
         const DictionaryGuard record;
         projDefineToCoordParam(InitializeProj(file.definition().constData()), record.get());
         dic_set_value(record.get(), CoordParamKey::name, "%s", system.code.constData());

@@ -45,8 +45,8 @@ private:
 
     void collect();
     void importAll();
-    double runGdal(int first, int last) const;
-    double runImport(int first, int last, ICoordSystem& catalogue) const;
+    double runGdal(const System& system) const;
+    double runImport(const System& system, ICoordSystem& catalogue) const;
     void compare();
     void classify(const System& system, const QByteArray& definition);
     double largestDeviation(const System& system, const QByteArray& definition) const;

@@ -11,7 +11,9 @@
 #include <cpl_error.h>
 #include <ogr_spatialref.h>
 
+#include <algorithm>
 #include <cctype>
+#include <iterator>
 #include <optional>
 
 namespace {
@@ -90,51 +92,30 @@ QByteArray withoutProjection(QByteArray definition) {
 } // namespace
 
 bool WktReader::isGeocentric(const QByteArray& authority, const QByteArray& code) {
-    if (code.isEmpty())
+    if (authority.isEmpty())
         return false;
-    const QByteArray key = authority + ':' + code;
-    const auto known = geocentric.constFind(key);
-    if (known != geocentric.constEnd())
-        return *known;
-    const ProjObject system(
-        proj_create_from_database(context.get(), authority.constData(), code.constData(), PJ_CATEGORY_CRS, 0, nullptr));
-    return *geocentric.insert(key, system && proj_get_type(system.get()) == PJ_TYPE_GEOCENTRIC_CRS);
-}
-
-/// WKT 1 leaves out that a grid's axes point west and south, as the old Austrian cadastre's do. Where a text without
-/// axes bears such a registry entry's name, up to signs between its words, the entry's axes count.
-bool WktReader::isTurnedCassini(const QByteArray& name) {
-    if (!turnedCassiniRead) {
-        readTurnedCassini();
-        turnedCassiniRead = true;
+    auto known = geocentricCodes.find(authority);
+    if (known == geocentricCodes.end()) {
+        known = geocentricCodes.insert(authority, {});
+        const auto codes =
+            proj_get_codes_from_database(context.get(), authority.constData(), PJ_TYPE_GEOCENTRIC_CRS, 1);
+        for (auto geocentric = codes; geocentric && *geocentric; ++geocentric)
+            known->insert(*geocentric);
+        proj_string_list_destroy(codes);
     }
-    return turnedCassini.contains(lettersOf(name));
+    return known->contains(code);
 }
 
-/// Of the methods that a record holds, the registry has other axes for Cassini-Soldner only.
-void WktReader::readTurnedCassini() {
-    PROJ_CRS_LIST_PARAMETERS* const parameters = proj_get_crs_list_parameters_create();
-    constexpr PJ_TYPE type = PJ_TYPE_PROJECTED_CRS;
-    parameters->types = &type;
-    parameters->typesCount = 1;
-    int count = 0;
-    PROJ_CRS_INFO** const systems = proj_get_crs_info_list_from_database(context.get(), "EPSG", parameters, &count);
-    proj_get_crs_list_parameters_destroy(parameters);
-    for (int i = 0; i < count; ++i) {
-        if (qstrcmp(systems[i]->projection_method_name, "Cassini-Soldner") == 0 && hasTurnedAxes(systems[i]->code))
-            turnedCassini.insert(lettersOf(systems[i]->name));
-    }
-    proj_crs_info_list_destroy(systems);
-}
-
-bool WktReader::hasTurnedAxes(const char* code) const {
-    const ProjObject system(proj_create_from_database(context.get(), "EPSG", code, PJ_CATEGORY_CRS, 0, nullptr));
-    const ProjObject axes(system ? proj_crs_get_coordinate_system(context.get(), system.get()) : nullptr);
-    const char* direction = nullptr;
-    if (!axes || !proj_cs_get_axis_info(context.get(), axes.get(), 0, nullptr, nullptr, &direction, nullptr, nullptr,
-                                        nullptr, nullptr))
-        return false;
-    return qstricmp(direction, "east") != 0 && qstricmp(direction, "north") != 0;
+/// WKT 1 leaves out that the axes of the old Austrian cadastre's grids point south and west (EPSG 8044 and 8045, the
+/// only ones of a method that a record holds). A text without axes that bears one's name, up to signs between the
+/// words, is it.
+bool WktReader::isTurnedCassini(const QByteArray& name) const {
+    const QByteArray letters = lettersOf(name);
+    constexpr const char* codes[] = {"8044", "8045"};
+    return std::any_of(std::begin(codes), std::end(codes), [&](const char* code) {
+        const ProjObject system(proj_create_from_database(context.get(), "EPSG", code, PJ_CATEGORY_CRS, 0, nullptr));
+        return system && lettersOf(proj_get_name(system.get())) == letters;
+    });
 }
 
 WktSystem WktReader::read(const QByteArray& wkt) {
@@ -155,9 +136,7 @@ WktSystem WktReader::read(const QByteArray& wkt) {
         definition = datumDefinition(reference);
     const QByteArray name = systemName(reference);
     const ProjItems items(definition);
-    // The registry's are on the meridian of Ferro; going through it takes half a second.
-    const bool mayBeTurned = statement.axes.isEmpty() && items.text("proj") == "cass" && items.has("pm");
-    const bool turned = mayBeTurned && isTurnedCassini(name);
+    const bool turned = statement.axes.isEmpty() && items.text("proj") == "cass" && isTurnedCassini(name);
     if (turned || !isFaithful(items, statement))
         definition = withoutProjection(definition);
     return {WktSystem::Content::Projected, name, definition};

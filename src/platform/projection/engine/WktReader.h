@@ -16,12 +16,8 @@ public:
 
 private:
     bool isGeocentric(const QByteArray& authority, const QByteArray& code);
-    bool isTurnedCassini(const QByteArray& name);
-    void readTurnedCassini();
-    bool hasTurnedAxes(const char* code) const;
+    bool isTurnedCassini(const QByteArray& name) const;
 
     const ProjContext& context;
-    QHash<QByteArray, bool> geocentric; ///< answers by authority and code
-    QSet<QByteArray> turnedCassini;     ///< letters of the registry's names
-    bool turnedCassiniRead = false;
+    QHash<QByteArray, QSet<QByteArray>> geocentricCodes; ///< by authority
 };
