@@ -470,8 +470,7 @@ private Q_SLOTS:
             "<group/>",
             "<system><value key=\"name\" text=\"s\"/><value key=\"second s\" text=\"1\"/></system>",
             "<system><value key=\"name\" text=\"no text\"/><value key=\"factor\"/></system>",
-            "<system><value key=\"name\" text=\"no number\"/><value key=\"factor\" text=\"1\" "
-            "number=\"one\"/></system>",
+            R"(<system><value key="name" text="no number"/><value key="factor" text="1" number="one"/></system>)",
             "<system><value key=\"name\" text=\"lost\"/>value key=\"factor\" text=\"0.9996\"/&gt;</system>",
             "<system><value key=\"nameless\" text=\"1\"/></system>",
         };
