@@ -4,6 +4,8 @@
 #include "platform/projection/engine/Datum.h"
 #include "platform/projection/engine/ProjItems.h"
 
+#include <QHash>
+
 #include <proj.h>
 
 #include <cmath>
@@ -27,20 +29,30 @@ bool hasShape(const ProjItems& items) {
     return items.has("rf") || items.has("f") || items.has("es") || items.has("e") || items.has("b");
 }
 
+/// PROJ's list: "a=6378137.0" with "rf=298.257222101" or "b=6356752.3" for each.
+QHash<QByteArray, Ellipsoid> namedEllipsoids() {
+    QHash<QByteArray, Ellipsoid> ellipsoids;
+    for (const PJ_ELLPS* named = proj_list_ellps(); named->id; ++named) {
+        const ProjItems axes(QByteArray(named->major) + ' ' + named->ell);
+        const double a = axes.number("a", 0);
+        Ellipsoid ellipsoid;
+        ellipsoid.id = named->id;
+        ellipsoid.a = a;
+        ellipsoid.b = semiMinorAxis(axes, a, a);
+        ellipsoids.insert(named->id, ellipsoid);
+    }
+    return ellipsoids;
+}
+
 } // namespace
 
 bool Ellipsoid::readNamed(const QByteArray& name) {
-    for (const PJ_ELLPS* named = proj_list_ellps(); named->id; ++named) {
-        if (name != named->id)
-            continue;
-        // "a=6378137.0" and "rf=298.257222101" or "b=6356752.3"
-        const ProjItems axes(QByteArray(named->major) + ' ' + named->ell);
-        id = name;
-        a = axes.number("a", 0);
-        b = semiMinorAxis(axes, a, a);
-        return true;
-    }
-    return false;
+    static const QHash<QByteArray, Ellipsoid> named = namedEllipsoids();
+    const auto found = named.constFind(name);
+    if (found == named.constEnd())
+        return false;
+    *this = *found;
+    return true;
 }
 
 bool Ellipsoid::read(const ProjItems& items) {

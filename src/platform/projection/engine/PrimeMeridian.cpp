@@ -8,6 +8,8 @@
 #include <limits>
 
 double primeMeridianOf(const ProjItems& items) {
+    if (!items.has("pm"))
+        return 0;
     const QByteArray name = items.text("pm");
     for (const PJ_PRIME_MERIDIANS* named = proj_list_prime_meridians(); named->id; ++named) {
         if (name == named->id)

@@ -1,7 +1,5 @@
 #include "platform/projection/engine/ProjItems.h"
 
-#include <QByteArrayList>
-
 #include <cmath>
 #include <limits>
 
@@ -9,6 +7,10 @@ namespace {
 
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double pi = 3.141592653589793;
+
+bool isBlank(char c) {
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
 
 /// Takes the hemisphere's letter off the end of `text`.
 bool takeHemisphere(QByteArray& text) {
@@ -22,18 +24,34 @@ bool takeHemisphere(QByteArray& text) {
 } // namespace
 
 ProjItems::ProjItems(const QByteArray& definition) {
-    QByteArray text = definition.simplified();
-    text.replace(" =", "=").replace("= ", "=");
-    for (QByteArray token : text.split(' ')) {
-        if (token.startsWith('+'))
-            token.remove(0, 1);
-        if (token.isEmpty())
+    const char* const text = definition.constData();
+    int position = 0;
+    const auto skipBlanks = [&] {
+        while (position < definition.size() && isBlank(text[position]))
+            ++position;
+    };
+    const auto takeWord = [&](bool isKey) {
+        const int start = position;
+        while (position < definition.size() && !isBlank(text[position]) && !(isKey && text[position] == '='))
+            ++position;
+        return QByteArray(text + start, position - start);
+    };
+    for (skipBlanks(); position < definition.size(); skipBlanks()) {
+        if (text[position] == '+') {
+            ++position;
             continue;
-        const int equals = token.indexOf('=');
-        if (equals < 0)
-            items.append(Item{token, QByteArray()});
-        else
-            items.append(Item{token.left(equals), token.mid(equals + 1)});
+        }
+        Item item{takeWord(true), {}};
+        const int end = position;
+        skipBlanks();
+        if (position < definition.size() && text[position] == '=') {
+            ++position;
+            skipBlanks();
+            item.value = takeWord(false);
+        } else {
+            position = end;
+        }
+        items.append(item);
     }
 }
 

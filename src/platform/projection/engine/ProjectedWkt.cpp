@@ -120,6 +120,8 @@ void Scanner::value(Text text) {
 void Scanner::note(Text keyword, Text parent, int index, Text text) {
     if (isOneOf(keyword, {"PARAMETER"}))
         noteParameter(index, text);
+    else if (index == 0 && isOneOf(keyword, {"PROJCS", "PROJCRS", "PROJECTEDCRS"}))
+        statement.name += QByteArray(text.data(), int(text.size()));
     else if (index == 1 && isOneOf(keyword, {"UNIT", "LENGTHUNIT", "ANGLEUNIT", "SCALEUNIT"}))
         noteUnit(parent, toNumber(text));
     else if (index == 0 && isOneOf(keyword, {"PROJECTION", "METHOD"}))

@@ -14,6 +14,7 @@ public:
         double value;
     };
 
+    QByteArray name;
     QByteArray method;        ///< in lower case
     QByteArray baseAuthority; ///< of the base geographic system's identifier, EPSG as a rule
     QByteArray baseCode;

@@ -49,12 +49,15 @@ QByteArray exportedDefinition(const OGRSpatialReference& reference) {
     return definition;
 }
 
-/// GDAL's tree has no PROJCS where WKT 1 has no name for the method, as with Michigan's Lambert projection.
-QByteArray systemName(OGRSpatialReference& reference) {
-    if (const char* const name = reference.GetAttrValue("PROJCS", 0))
-        return name;
-    reference.StripVertical();
-    return reference.GetName();
+/// What GetAttrValue("PROJCS", 0) gives, without the tree of nodes that GDAL builds for the answer: it costs as much as
+/// all else that an import adds, and has no PROJCS where WKT 1 has no name for the method (Michigan's Lambert
+/// projection).
+QByteArray systemName(OGRSpatialReference& reference, const ProjectedWkt& statement) {
+    if (reference.IsCompound())
+        reference.StripVertical();
+    // The mark of a withdrawn system is off the name and on the node.
+    constexpr const char* mark = " (deprecated)";
+    return QByteArray(reference.GetName()) + (statement.name.endsWith(mark) ? mark : "");
 }
 
 /// The ellipsoid and the shift of a system that has no definition.
@@ -134,7 +137,7 @@ WktSystem WktReader::read(const QByteArray& wkt) {
     QByteArray definition = exportedDefinition(reference);
     if (definition.isEmpty())
         definition = datumDefinition(reference);
-    const QByteArray name = systemName(reference);
+    const QByteArray name = systemName(reference, statement);
     const ProjItems items(definition);
     const bool turned = statement.axes.isEmpty() && items.text("proj") == "cass" && isTurnedCassini(name);
     if (turned || !isFaithful(items, statement))
