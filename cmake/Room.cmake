@@ -1,5 +1,7 @@
 # A room of the house: one folder, one static library named after it, made of every class in the folder.
-#   add_room(<name> [PUBLIC <libraries of its headers>] [PRIVATE <libraries of its sources>])
+#   add_room(<name> [OBJECTS] [PUBLIC <libraries of its headers>] [PRIVATE <libraries of its sources>])
+# OBJECTS: all of it goes into the program that names it, wherever on the link line; for a room that stands behind an
+# interface, which the rooms that call it do not name.
 
 option(VORN_WERROR "Treat warnings in the tool's own code as errors" ON)
 
@@ -13,9 +15,13 @@ else()
 endif()
 
 function(add_room name)
-  cmake_parse_arguments(ROOM "" "" "PUBLIC;PRIVATE" ${ARGN})
+  cmake_parse_arguments(ROOM "OBJECTS" "" "PUBLIC;PRIVATE" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS *.h *.cpp)
-  add_library(${name} STATIC ${sources})
+  set(type STATIC)
+  if(ROOM_OBJECTS)
+    set(type OBJECT)
+  endif()
+  add_library(${name} ${type} ${sources})
   target_link_libraries(${name} PUBLIC vorn_options ${ROOM_PUBLIC} PRIVATE ${ROOM_PRIVATE})
 endfunction()
 

@@ -2,8 +2,8 @@
 
 #include "NaturalOrder.h"
 #include "platform/projection/ProjNumber.h"
-#include "platform/projection/engine/ProjContext.h"
-#include "platform/projection/engine/ProjObject.h"
+#include "platform/projection/engine/proj/ProjContext.h"
+#include "platform/projection/engine/proj/ProjObject.h"
 
 #include <QString>
 

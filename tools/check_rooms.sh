@@ -6,6 +6,7 @@ cd "$root/src"
 
 # What every room of the tool may use of platform/: interfaces, never the classes behind them.
 interfaces='platform/desktop platform/projection'
+engine=platform/projection/engine
 
 # Room: what it may include beside itself.
 declare -A allowed=(
@@ -13,17 +14,26 @@ declare -A allowed=(
     [platform/utility]='catalogue'
     [platform/sdk]='catalogue platform/utility'
     [platform/projection]='catalogue platform/utility'
-    [platform/projection/engine]='catalogue platform/utility platform/projection'
-    [platform/projection/module]='catalogue platform/utility platform/projection platform/projection/engine'
+    [platform/projection/engine/proj]='catalogue platform/projection'
+    [platform/projection/engine/definition]="catalogue platform/projection $engine/proj"
+    [platform/projection/engine/wkt]="catalogue platform/projection $engine/proj $engine/definition"
+    [platform/projection/engine/computing]="catalogue platform/projection $engine/proj"
+    [platform/projection/engine]="platform/projection $engine/proj $engine/definition $engine/wkt $engine/computing"
+    [platform/projection/module]='platform/projection platform/projection/engine'
     [platform/desktop]='catalogue platform/utility'
     [import]="catalogue $interfaces"
     [geodesy]="catalogue $interfaces"
-    [panel]="catalogue import $interfaces"
+    [panel/record]='catalogue import platform/projection'
+    [panel/computing]='catalogue import panel/record platform/projection'
+    [panel/field]='catalogue panel/record'
+    [panel/registry]="catalogue import panel/record panel/field $interfaces"
+    [panel/check]="catalogue panel/record panel/computing panel/field $interfaces"
+    [panel]="catalogue import panel/record panel/computing panel/field panel/registry panel/check $interfaces"
     [tree]="catalogue import geodesy $interfaces"
     [app]="catalogue tree panel $interfaces"
 )
-without_widgets='catalogue platform/utility platform/sdk'
-without_widgets+=' platform/projection platform/projection/engine platform/projection/module'
+without_widgets="catalogue import platform/utility platform/sdk platform/projection platform/projection/module"
+without_widgets+=" $engine $engine/proj $engine/definition $engine/wkt $engine/computing panel/record panel/computing"
 widget_headers=$(pkg-config --variable=includedir Qt5Widgets)/QtWidgets
 
 # includes FOLDER: "file:line:included" for each include of its files.
@@ -59,7 +69,7 @@ for room in $(find . -name '*.h' -printf '%P\n' -o -name '*.cpp' -printf '%P\n' 
             esac
             ;;
         \<gdal* | \<ogr* | \<cpl* | \<proj* | \<geodesic*)
-            [ "$room" = platform/projection/engine ] || complain "$place" "only platform/projection/engine uses $header"
+            [[ $room == "$engine"* ]] || complain "$place" "only $engine uses $header"
             ;;
         *)
             case " $without_widgets " in

@@ -3,11 +3,11 @@
 
 #include "catalogue/DictionaryGuard.h"
 #include "import/CoordParamToProjDefine.h"
-#include "panel/DesignProposal.h"
-#include "panel/DistortionGrid.h"
-#include "panel/DistortionLines.h"
-#include "panel/DistortionPlot.h"
-#include "panel/RegistryModel.h"
+#include "panel/check/DistortionPlot.h"
+#include "panel/computing/DesignProposal.h"
+#include "panel/computing/DistortionGrid.h"
+#include "panel/computing/DistortionLines.h"
+#include "panel/registry/RegistryModel.h"
 #include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
 

@@ -2,14 +2,14 @@
 
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/IDictionary.h"
-#include "panel/AngleNotationBox.h"
-#include "panel/CheckPointPane.h"
-#include "panel/CoordParamEditor.h"
-#include "panel/DefinitionState.h"
-#include "panel/DistortionLines.h"
-#include "panel/DistortionPane.h"
-#include "panel/DlgCoordParam.h"
-#include "panel/MessageLine.h"
+#include "panel/check/CheckPointPane.h"
+#include "panel/check/DistortionPane.h"
+#include "panel/computing/DistortionLines.h"
+#include "panel/field/AngleNotationBox.h"
+#include "panel/field/MessageLine.h"
+#include "panel/record/CoordParamEditor.h"
+#include "panel/record/DefinitionState.h"
+#include "panel/record/PanelText.h"
 #include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
 
@@ -22,7 +22,7 @@ CheckTab::CheckTab(CoordParamEditor& editor, bool readOnly, QWidget* parent) : P
 CheckTab::~CheckTab() = default;
 
 QString CheckTab::title() const {
-    return DlgCoordParam::tr("Check");
+    return PanelText::tr("Check");
 }
 
 void CheckTab::build() {
@@ -30,14 +30,14 @@ void CheckTab::build() {
     pages = new QTabWidget;
     pages->setDocumentMode(true);
     pointPane = new CheckPointPane;
-    pages->addTab(pointPane, DlgCoordParam::tr("Point"));
+    pages->addTab(pointPane, PanelText::tr("Point"));
     distortionPane = new DistortionPane(isReadOnly());
-    pages->addTab(distortionPane, DlgCoordParam::tr("Distortion"));
+    pages->addTab(distortionPane, PanelText::tr("Distortion"));
     connect(pages, SIGNAL(currentChanged(int)), this, SLOT(_onPageChanged()));
     connect(distortionPane, SIGNAL(proposalAccepted()), this, SLOT(_onProposalAccepted()));
 
     notationBox = new AngleNotationBox;
-    notationBox->setAccessibleName(DlgCoordParam::tr("Show angles in"));
+    notationBox->setAccessibleName(PanelText::tr("Show angles in"));
     notationBox->setToolTip(notationBox->accessibleName());
     pages->setCornerWidget(notationBox);
     connect(notationBox, SIGNAL(notationChosen()), this, SLOT(_onNotationChosen()));

@@ -2,12 +2,12 @@
 
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/Dictionary.h"
-#include "panel/ChoiceBox.h"
-#include "panel/CoordParamEditor.h"
-#include "panel/DatumFields.h"
-#include "panel/DlgCoordParam.h"
-#include "panel/FieldRow.h"
-#include "panel/MessageLine.h"
+#include "panel/field/ChoiceBox.h"
+#include "panel/field/FieldRow.h"
+#include "panel/field/MessageLine.h"
+#include "panel/record/CoordParamEditor.h"
+#include "panel/record/DatumFields.h"
+#include "panel/record/PanelText.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -24,15 +24,15 @@ DatumShiftTab::DatumShiftTab(CoordParamEditor& editor, bool readOnly, QWidget* p
     : ParamTab(editor, readOnly, parent)
     , kindBox(new ChoiceBox)
     , convention(new QLabel)
-    , reverseButton(new QPushButton(DlgCoordParam::tr("Reverse rotation signs")))
+    , reverseButton(new QPushButton(PanelText::tr("Reverse rotation signs")))
     , reverseMessage(new MessageLine) {
     auto* grid = new QGridLayout(this);
     grid->setVerticalSpacing(1);
-    auto* kindLabel = new QLabel(DlgCoordParam::tr("Shift to WGS 84"));
+    auto* kindLabel = new QLabel(PanelText::tr("Shift to WGS 84"));
     kindLabel->setBuddy(kindBox);
     kindBox->setAccessibleName(kindLabel->text());
-    kindBox->addItem(DlgCoordParam::tr("None"), none);
-    kindBox->addItem(DlgCoordParam::tr("Seven parameters (three: the rest 0)"), sevenParameters);
+    kindBox->addItem(PanelText::tr("None"), none);
+    kindBox->addItem(PanelText::tr("Seven parameters (three: the rest 0)"), sevenParameters);
     kindBox->setEnabled(!readOnly);
     grid->addWidget(kindLabel, 0, 0);
     grid->addWidget(kindBox, 0, 1, 1, 3, Qt::AlignLeft);
@@ -58,7 +58,7 @@ DatumShiftTab::DatumShiftTab(CoordParamEditor& editor, bool readOnly, QWidget* p
 }
 
 QString DatumShiftTab::title() const {
-    return DlgCoordParam::tr("Datum shift");
+    return PanelText::tr("Datum shift");
 }
 
 void DatumShiftTab::showRecord() {
@@ -81,14 +81,14 @@ void DatumShiftTab::showKind() {
     reverseMessage->setVisible(isSeven);
 
     if (isSeven)
-        convention->setText(DlgCoordParam::tr(
-            "Rotations in the position-vector convention (EPSG 9606, PROJ towgs84). Figures published "
-            "in the coordinate-frame convention (EPSG 9607): type them as they are, then reverse "
-            "their signs."));
+        convention->setText(
+            PanelText::tr("Rotations in the position-vector convention (EPSG 9606, PROJ towgs84). Figures published "
+                          "in the coordinate-frame convention (EPSG 9607): type them as they are, then reverse "
+                          "their signs."));
     else if (kind == none)
-        convention->setText(DlgCoordParam::tr("The system's datum counts as WGS 84."));
+        convention->setText(PanelText::tr("The system's datum counts as WGS 84."));
     else
-        convention->setText(DlgCoordParam::tr("This kind of shift is unknown here; it is kept as it is."));
+        convention->setText(PanelText::tr("This kind of shift is unknown here; it is kept as it is."));
 }
 
 void DatumShiftTab::showRemarks() {
@@ -118,7 +118,7 @@ void DatumShiftTab::_onKindActivated(int index) {
 void DatumShiftTab::_onReverseClicked() {
     editor().reverseRotations();
     showRecord();
-    reverseMessage->setMessage(DlgCoordParam::tr("The signs of all three rotations are reversed."),
+    reverseMessage->setMessage(PanelText::tr("The signs of all three rotations are reversed."),
                                MessageLine::Tone::Hint);
     recordChanged();
 }

@@ -2,13 +2,13 @@
 
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/DictionaryGuard.h"
-#include "panel/ChoiceBox.h"
-#include "panel/CoordParamEditor.h"
-#include "panel/DefinitionImport.h"
-#include "panel/DefinitionState.h"
-#include "panel/DlgCoordParam.h"
-#include "panel/MessageLine.h"
-#include "panel/RegistryDialog.h"
+#include "panel/field/ChoiceBox.h"
+#include "panel/field/MessageLine.h"
+#include "panel/record/CoordParamEditor.h"
+#include "panel/record/DefinitionImport.h"
+#include "panel/record/DefinitionState.h"
+#include "panel/record/PanelText.h"
+#include "panel/registry/RegistryDialog.h"
 #include "platform/desktop/VornMessageBox.h"
 #include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
@@ -51,30 +51,30 @@ DefinitionTab::DefinitionTab(CoordParamEditor& editor, bool readOnly, QWidget* p
 }
 
 QString DefinitionTab::title() const {
-    return DlgCoordParam::tr("Definition");
+    return PanelText::tr("Definition");
 }
 
 void DefinitionTab::build() {
     problemLine = new MessageLine;
-    definitionText = newText(DlgCoordParam::tr("PROJ definition"));
+    definitionText = newText(PanelText::tr("PROJ definition"));
     definitionText->setFixedHeight(definitionText->fontMetrics().lineSpacing() * 5 + 12);
-    auto* copyDefinitionButton = new QPushButton(DlgCoordParam::tr("Copy"));
+    auto* copyDefinitionButton = new QPushButton(PanelText::tr("Copy"));
     dialectBox = new ChoiceBox;
-    dialectBox->setAccessibleName(DlgCoordParam::tr("WKT dialect"));
-    dialectBox->addItem(DlgCoordParam::tr("WKT 1 (GDAL)"), int(WktDialect::Wkt1Gdal));
-    dialectBox->addItem(DlgCoordParam::tr("WKT 1 (ESRI)"), int(WktDialect::Wkt1Esri));
-    dialectBox->addItem(DlgCoordParam::tr("WKT 2:2019"), int(WktDialect::Wkt2_2019));
-    copyWktButton = new QPushButton(DlgCoordParam::tr("Copy"));
-    saveButton = new QPushButton(DlgCoordParam::tr("Save as .prj"));
-    wktText = newText(DlgCoordParam::tr("WKT"));
+    dialectBox->setAccessibleName(PanelText::tr("WKT dialect"));
+    dialectBox->addItem(PanelText::tr("WKT 1 (GDAL)"), int(WktDialect::Wkt1Gdal));
+    dialectBox->addItem(PanelText::tr("WKT 1 (ESRI)"), int(WktDialect::Wkt1Esri));
+    dialectBox->addItem(PanelText::tr("WKT 2:2019"), int(WktDialect::Wkt2_2019));
+    copyWktButton = new QPushButton(PanelText::tr("Copy"));
+    saveButton = new QPushButton(PanelText::tr("Save as .prj"));
+    wktText = newText(PanelText::tr("WKT"));
     wktText->setLineWrapMode(QPlainTextEdit::NoWrap);
     remarkLine = new MessageLine;
 
-    registryButton = new QPushButton(DlgCoordParam::tr("From registry..."));
+    registryButton = new QPushButton(PanelText::tr("From registry..."));
     registryButton->setEnabled(!isReadOnly());
 
     auto* definitionRow = new QHBoxLayout;
-    definitionRow->addWidget(new QLabel(DlgCoordParam::tr("PROJ definition")));
+    definitionRow->addWidget(new QLabel(PanelText::tr("PROJ definition")));
     definitionRow->addStretch();
     definitionRow->addWidget(copyDefinitionButton);
     auto* wktRow = new QHBoxLayout;
@@ -133,17 +133,17 @@ void DefinitionTab::showWkt() {
 /// What the text does not hold of the record, found by importing it.
 QString DefinitionTab::remark(const QByteArray& text) const {
     if (text.isEmpty())
-        return DlgCoordParam::tr("This form can't express the system.");
+        return PanelText::tr("This form can't express the system.");
     const DictionaryGuard imported;
     if (!DefinitionImport::read(text, imported.get()))
-        return DlgCoordParam::tr("This form can't be imported again.");
+        return PanelText::tr("This form can't be imported again.");
     const QStringList lost = DefinitionImport::differences(record(), *imported);
     if (!lost.isEmpty())
-        return DlgCoordParam::tr("Does not come back with an import of this form: %1.").arg(lost.join(", "));
+        return PanelText::tr("Does not come back with an import of this form: %1.").arg(lost.join(", "));
     // GDAL and PROJ read the method with false easting and northing at the projection centre.
     if (dictionary_number(record(), CoordParamKey::projectType, 0.0) ==
         double(ProjectionKind::ObliqueMercatorTwoPoints))
-        return DlgCoordParam::tr("Other software may count easting and northing from the natural origin.");
+        return PanelText::tr("Other software may count easting and northing from the natural origin.");
     return QString();
 }
 
@@ -160,7 +160,7 @@ void DefinitionTab::_onCopyWkt() {
 }
 
 void DefinitionTab::_onSave() {
-    QFileDialog dialog(this, DlgCoordParam::tr("Save as .prj"), QString(), "*.prj");
+    QFileDialog dialog(this, PanelText::tr("Save as .prj"), QString(), "*.prj");
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix("prj");
     dialog.selectFile(fileName(record()));
@@ -168,8 +168,8 @@ void DefinitionTab::_onSave() {
         return;
     QSaveFile file(dialog.selectedFiles().first());
     if (!file.open(QIODevice::WriteOnly) || file.write(wkt(false)) < 0 || !file.commit())
-        VornMessageBox::information_ok(this, DlgCoordParam::tr("Warning"),
-                                       DlgCoordParam::tr("The file can't be written: %1").arg(file.errorString()));
+        VornMessageBox::information_ok(this, PanelText::tr("Warning"),
+                                       PanelText::tr("The file can't be written: %1").arg(file.errorString()));
 }
 
 void DefinitionTab::_onFromRegistry() {

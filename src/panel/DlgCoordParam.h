@@ -1,6 +1,6 @@
 #pragma once
 
-#include "panel/CoordParamEditor.h"
+#include "panel/record/CoordParamEditor.h"
 
 #include <QTabWidget>
 #include <QVector>

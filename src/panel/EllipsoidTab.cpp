@@ -4,13 +4,13 @@
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/Dictionary.h"
 #include "catalogue/ICoordSystem.h"
-#include "panel/CoordParamEditor.h"
-#include "panel/DatumFields.h"
-#include "panel/DlgCoordParam.h"
-#include "panel/FieldEdit.h"
-#include "panel/FieldRow.h"
-#include "panel/MessageLine.h"
-#include "panel/SearchBox.h"
+#include "panel/field/FieldEdit.h"
+#include "panel/field/FieldRow.h"
+#include "panel/field/MessageLine.h"
+#include "panel/field/SearchBox.h"
+#include "panel/record/CoordParamEditor.h"
+#include "panel/record/DatumFields.h"
+#include "panel/record/PanelText.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -41,7 +41,7 @@ EllipsoidTab::EllipsoidTab(ICoordSystem* coordSystem, CoordParamEditor& editor, 
     , nameMessage(new MessageLine) {
     auto* grid = new QGridLayout(this);
     grid->setVerticalSpacing(1);
-    auto* nameLabel = new QLabel(DlgCoordParam::tr("Ellipsoid"));
+    auto* nameLabel = new QLabel(PanelText::tr("Ellipsoid"));
     nameLabel->setBuddy(nameBox);
     nameBox->setAccessibleName(nameLabel->text());
     nameBox->setReadOnly(readOnly);
@@ -54,8 +54,8 @@ EllipsoidTab::EllipsoidTab(ICoordSystem* coordSystem, CoordParamEditor& editor, 
     semiMajorAxis->setField(&DatumFields::semiMajorAxis());
     inverseFlattening = new FieldRow(editor, readOnly, grid, 4);
     inverseFlattening->setField(&DatumFields::inverseFlattening());
-    semiMinorAxis = addShownValue(grid, 6, DlgCoordParam::tr("Semi-minor axis b"), "m");
-    eccentricity = addShownValue(grid, 8, DlgCoordParam::tr("Eccentricity e"), QString());
+    semiMinorAxis = addShownValue(grid, 6, PanelText::tr("Semi-minor axis b"), "m");
+    eccentricity = addShownValue(grid, 8, PanelText::tr("Eccentricity e"), QString());
     grid->setRowStretch(10, 1);
 
     connect(nameBox, SIGNAL(listNeeded()), this, SLOT(_onListNeeded()));
@@ -65,7 +65,7 @@ EllipsoidTab::EllipsoidTab(ICoordSystem* coordSystem, CoordParamEditor& editor, 
 }
 
 QString EllipsoidTab::title() const {
-    return DlgCoordParam::tr("Ellipsoid");
+    return PanelText::tr("Ellipsoid");
 }
 
 void EllipsoidTab::showRecord() {
@@ -120,14 +120,14 @@ void EllipsoidTab::showDerived() {
 QString EllipsoidTab::nameRemark() const {
     const char* name = record().getValue(CoordParamKey::ellipsoidName);
     if (!name || !*name)
-        return DlgCoordParam::tr("Choose an ellipsoid.");
+        return PanelText::tr("Choose an ellipsoid.");
     const IDictionary* ellipsoid = coordSystem->getEllipsoid(name);
     if (!ellipsoid)
-        return DlgCoordParam::tr("Not in the list of ellipsoids.");
+        return PanelText::tr("Not in the list of ellipsoids.");
     // A millimetre on the ground; a record's texts have six decimals.
     const double a = dictionary_number(record(), CoordParamKey::ellipsoidA, 0.0);
     const double inverse = dictionary_number(record(), CoordParamKey::ellipsoidF, 0.0);
     const bool same = std::fabs(a - dictionary_number(*ellipsoid, EllipsoidKey::a, 0.0)) < 1e-3 &&
                       std::fabs(inverse - dictionary_number(*ellipsoid, EllipsoidKey::f, 0.0)) < 1e-5;
-    return same ? QString() : DlgCoordParam::tr("The figures differ from the list's ellipsoid of this name.");
+    return same ? QString() : PanelText::tr("The figures differ from the list's ellipsoid of this name.");
 }

@@ -4,10 +4,10 @@
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/Dictionary.h"
 #include "catalogue/ICoordSystem.h"
-#include "panel/CoordParamEditor.h"
-#include "panel/DlgCoordParam.h"
-#include "panel/MessageLine.h"
-#include "panel/SearchBox.h"
+#include "panel/field/MessageLine.h"
+#include "panel/field/SearchBox.h"
+#include "panel/record/CoordParamEditor.h"
+#include "panel/record/PanelText.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -21,7 +21,7 @@ HeightTab::HeightTab(ICoordSystem* coordSystem, CoordParamEditor& editor, bool r
     , ellipsoid(new QLabel) {
     auto* grid = new QGridLayout(this);
     grid->setVerticalSpacing(3);
-    auto* label = new QLabel(DlgCoordParam::tr("Geoid model"));
+    auto* label = new QLabel(PanelText::tr("Geoid model"));
     label->setBuddy(geoidBox);
     geoidBox->setAccessibleName(label->text());
     geoidBox->setReadOnly(readOnly);
@@ -29,9 +29,9 @@ HeightTab::HeightTab(ICoordSystem* coordSystem, CoordParamEditor& editor, bool r
     grid->addWidget(geoidBox, 0, 1);
     message->setField(geoidBox);
     grid->addWidget(message, 1, 0, 1, 2);
-    grid->addWidget(new QLabel(DlgCoordParam::tr("Model file")), 2, 0);
+    grid->addWidget(new QLabel(PanelText::tr("Model file")), 2, 0);
     grid->addWidget(file, 2, 1);
-    grid->addWidget(new QLabel(DlgCoordParam::tr("Model ellipsoid")), 3, 0);
+    grid->addWidget(new QLabel(PanelText::tr("Model ellipsoid")), 3, 0);
     grid->addWidget(ellipsoid, 3, 1);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(4, 1);
@@ -43,13 +43,13 @@ HeightTab::HeightTab(ICoordSystem* coordSystem, CoordParamEditor& editor, bool r
 }
 
 QString HeightTab::title() const {
-    return DlgCoordParam::tr("Height");
+    return PanelText::tr("Height");
 }
 
 void HeightTab::showRecord() {
     _onListNeeded();
     const QByteArray name = record().getValue(CoordParamKey::geoidName);
-    geoidBox->setShownName(name.isEmpty() ? DlgCoordParam::tr("(none)") : QString::fromLocal8Bit(name));
+    geoidBox->setShownName(name.isEmpty() ? PanelText::tr("(none)") : QString::fromLocal8Bit(name));
 
     const IDictionary* geoid = name.isEmpty() ? nullptr : coordSystem->getGeoid(name.constData());
     const QString unknown = QString(QChar(0x2013));
@@ -58,10 +58,10 @@ void HeightTab::showRecord() {
 
     QString remark;
     if (!name.isEmpty() && !geoid)
-        remark = DlgCoordParam::tr("Not in the list of geoid models.");
+        remark = PanelText::tr("Not in the list of geoid models.");
     else if (geoid && QByteArray(geoid->getValue(GeoidKey::ellipsoid)) !=
                           QByteArray(record().getValue(CoordParamKey::ellipsoidName)))
-        remark = DlgCoordParam::tr("The model refers to another ellipsoid than the system.");
+        remark = PanelText::tr("The model refers to another ellipsoid than the system.");
     message->setMessage(remark, MessageLine::Tone::Warning);
 }
 
@@ -70,12 +70,12 @@ void HeightTab::_onListNeeded() {
     if (geoidBox->count() > 0 && names == listedNames)
         return;
     listedNames = names;
-    geoidBox->setNames(QStringList(DlgCoordParam::tr("(none)")) +
+    geoidBox->setNames(QStringList(PanelText::tr("(none)")) +
                        QString::fromLocal8Bit(names).split(',', Qt::SkipEmptyParts));
 }
 
 void HeightTab::_onChosen(const QString& name) {
-    editor().setGeoid(name == DlgCoordParam::tr("(none)") ? "" : name.toLocal8Bit().constData());
+    editor().setGeoid(name == PanelText::tr("(none)") ? "" : name.toLocal8Bit().constData());
     showRecord();
     recordChanged();
 }

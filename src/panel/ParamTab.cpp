@@ -1,6 +1,6 @@
 #include "panel/ParamTab.h"
 
-#include "panel/CoordParamEditor.h"
+#include "panel/record/CoordParamEditor.h"
 
 ParamTab::ParamTab(CoordParamEditor& editor, bool readOnly, QWidget* parent)
     : QWidget(parent), paramEditor(editor), readOnly(readOnly) {

@@ -8,7 +8,7 @@ class IDictionary;
 /// One tab of the parameter panel: shows one side of the record and edits it in place.
 ///
 /// A tab changes the record through editor() and then calls recordChanged(); the panel tells the other tabs and the
-/// window. Texts of tabs are translated in the panel's context: DlgCoordParam::tr().
+/// window. Texts of tabs are translated in the panel's context: PanelText::tr().
 class ParamTab : public QWidget {
     Q_OBJECT
 

@@ -1,14 +1,14 @@
 #include "panel/ProjectionTab.h"
 
-#include "panel/AngleNotationBox.h"
-#include "panel/AngleText.h"
-#include "panel/ChoiceBox.h"
-#include "panel/CoordParamEditor.h"
-#include "panel/DlgCoordParam.h"
-#include "panel/FieldRow.h"
-#include "panel/MessageLine.h"
-#include "panel/ProjectionAdvice.h"
-#include "panel/ProjectionFields.h"
+#include "panel/field/AngleNotationBox.h"
+#include "panel/field/ChoiceBox.h"
+#include "panel/field/FieldRow.h"
+#include "panel/field/MessageLine.h"
+#include "panel/record/AngleText.h"
+#include "panel/record/CoordParamEditor.h"
+#include "panel/record/PanelText.h"
+#include "panel/record/ProjectionAdvice.h"
+#include "panel/record/ProjectionFields.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -34,10 +34,10 @@ ProjectionTab::ProjectionTab(CoordParamEditor& editor, bool readOnly, QWidget* p
 }
 
 void ProjectionTab::addKind(QGridLayout* grid, int line) {
-    auto* label = new QLabel(DlgCoordParam::tr("Kind"));
+    auto* label = new QLabel(PanelText::tr("Kind"));
     label->setBuddy(kindBox);
-    kindBox->setAccessibleName(DlgCoordParam::tr("Kind of projection"));
-    kindBox->setPlaceholderText(DlgCoordParam::tr("Choose the kind"));
+    kindBox->setAccessibleName(PanelText::tr("Kind of projection"));
+    kindBox->setPlaceholderText(PanelText::tr("Choose the kind"));
     kindBox->setEnabled(!isReadOnly());
     kindBox->setMaxVisibleItems(20);
     kindBox->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -67,7 +67,7 @@ int ProjectionTab::addRows(QGridLayout* grid, int line) {
 }
 
 void ProjectionTab::addNotation(QGridLayout* grid, int line) {
-    auto* label = new QLabel(DlgCoordParam::tr("Show angles in"));
+    auto* label = new QLabel(PanelText::tr("Show angles in"));
     label->setBuddy(notationBox);
     notationBox->setAccessibleName(label->text());
     notationBox->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
@@ -77,7 +77,7 @@ void ProjectionTab::addNotation(QGridLayout* grid, int line) {
 }
 
 QString ProjectionTab::title() const {
-    return DlgCoordParam::tr("Projection");
+    return PanelText::tr("Projection");
 }
 
 void ProjectionTab::showRecord() {

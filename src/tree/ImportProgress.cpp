@@ -1,7 +1,5 @@
 #include "tree/ImportProgress.h"
 
-#include "tree/DlgCoordSysGroups.h"
-
 #include <QFileInfo>
 #include <QProgressDialog>
 
@@ -31,8 +29,8 @@ void ImportProgress::endFile() {
 
 void ImportProgress::show(const QString& path) {
     if (!dialog) {
-        dialog = std::make_unique<QProgressDialog>(QString(), DlgCoordSysGroups::tr("Cancel"), 0, fileCount, parent);
-        dialog->setWindowTitle(DlgCoordSysGroups::tr("ImportCoordSys"));
+        dialog = std::make_unique<QProgressDialog>(QString(), tr("Cancel"), 0, fileCount, parent);
+        dialog->setWindowTitle(tr("ImportCoordSys"));
         dialog->setWindowModality(Qt::WindowModal);
         dialog->setMinimumDuration(0);
         dialog->setMinimumWidth(360); // so that it keeps its size while names of all lengths pass

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QString>
 
@@ -11,6 +12,8 @@ class QWidget;
 /// Tells the user how far a long import is and lets him cancel it. An import that works for no more than half a second
 /// shows nothing; the time in which a message waits for an answer does not count.
 class ImportProgress {
+    Q_DECLARE_TR_FUNCTIONS(DlgCoordSysGroups)
+
 public:
     ImportProgress(QWidget* parent, int fileCount);
     ~ImportProgress();

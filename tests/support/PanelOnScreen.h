@@ -1,7 +1,7 @@
 #pragma once
 
 #include "panel/DlgCoordParam.h"
-#include "panel/MessageLine.h"
+#include "panel/field/MessageLine.h"
 #include "support/RecordingCatalogue.h"
 
 #include <QtTest>

@@ -1,7 +1,7 @@
 #include "platform/projection/engine/EpsgRegistry.h"
 
-#include "platform/projection/engine/BoundSystem.h"
-#include "platform/projection/engine/ProjContext.h"
+#include "platform/projection/engine/proj/BoundSystem.h"
+#include "platform/projection/engine/proj/ProjContext.h"
 
 #include <QByteArrayList>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/projection/IEpsgRegistry.h"
-#include "platform/projection/engine/ProjObject.h"
+#include "platform/projection/engine/proj/ProjObject.h"
 
 class ProjContext;
 

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "platform/projection/IProjectionModule.h"
-#include "platform/projection/engine/DefinitionLibrary.h"
 #include "platform/projection/engine/EpsgRegistry.h"
-#include "platform/projection/engine/Geodesy.h"
-#include "platform/projection/engine/ProjContext.h"
-#include "platform/projection/engine/WktReader.h"
+#include "platform/projection/engine/computing/Geodesy.h"
+#include "platform/projection/engine/definition/DefinitionLibrary.h"
+#include "platform/projection/engine/proj/ProjContext.h"
+#include "platform/projection/engine/wkt/WktReader.h"
 
 /// Composes the module: one PROJ context, and over it one object behind each interface.
 class ProjectionModule : public IProjectionModule {

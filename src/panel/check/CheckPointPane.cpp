@@ -1,0 +1,233 @@
+#include "panel/check/CheckPointPane.h"
+
+#include "panel/field/CheckField.h"
+#include "panel/field/ChoiceBox.h"
+#include "panel/field/MessageLine.h"
+#include "panel/record/PanelText.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include <cmath>
+
+namespace {
+
+constexpr double unreliable = 0.001; ///< metres of closing error
+
+const ParamField& latitudeField() {
+    static const ParamField field{"", Quantity::Latitude, QT_TRANSLATE_NOOP("DlgCoordParam", "Latitude"), -90.0, 90.0,
+                                  0.0};
+    return field;
+}
+
+const ParamField& longitudeField() {
+    static const ParamField field{
+        "", Quantity::Longitude, QT_TRANSLATE_NOOP("DlgCoordParam", "Longitude"), -360.0, 360.0, 0.0};
+    return field;
+}
+
+const ParamField& heightField() {
+    static const ParamField field{
+        "",  Quantity::Length, QT_TRANSLATE_NOOP("DlgCoordParam", "Ellipsoidal height"), -20000.0, 100000.0, 0.0, false,
+        true};
+    return field;
+}
+
+ParamField gridField(const char* label) {
+    return {"", Quantity::Length, label, -1e9, 1e9, 0.0};
+}
+
+/// A factor and what it does in ppm, without a minus before zeros.
+QString factorText(double factor) {
+    const double ppm = std::round((factor - 1.0) * 1e8) / 100.0;
+    return QString::number(factor, 'f', 10) + "  (" + QString::number(ppm + 0.0, 'f', 2) + " ppm)";
+}
+
+} // namespace
+
+CheckPointPane::CheckPointPane(QWidget* parent) : QWidget(parent) {
+    auto* grid = new QGridLayout(this);
+    grid->setVerticalSpacing(4);
+    grid->setColumnStretch(3, 1);
+    addPlaceFields(grid);
+    addGridFields(grid);
+    addResults(grid);
+    copyButton = new QPushButton(PanelText::tr("Copy as text"));
+    grid->addWidget(copyButton, grid->rowCount(), 1, Qt::AlignLeft);
+    grid->setRowStretch(grid->rowCount(), 1);
+    connect(copyButton, SIGNAL(clicked()), this, SLOT(_onCopy()));
+}
+
+void CheckPointPane::addPlaceFields(QGridLayout* grid) {
+    datumBox = new ChoiceBox;
+    datumBox->addItem(PanelText::tr("The system's own"));
+    datumBox->addItem(PanelText::tr("WGS 84"));
+    auto* label = new QLabel(PanelText::tr("Datum"));
+    label->setBuddy(datumBox);
+    datumBox->setAccessibleName(label->text());
+    grid->addWidget(label, 0, 0);
+    grid->addWidget(datumBox, 0, 1);
+    placeMessage = new MessageLine(this);
+    latitude = new CheckField(latitudeField(), placeMessage, grid, 1);
+    longitude = new CheckField(longitudeField(), placeMessage, grid, 2);
+    height = new CheckField(heightField(), placeMessage, grid, 3);
+    grid->addWidget(placeMessage, 4, 0, 1, 4);
+    height->setValue(0.0);
+    connect(datumBox, SIGNAL(currentIndexChanged(int)), this, SLOT(_onDatumChanged()));
+    connect(latitude, SIGNAL(edited()), this, SLOT(_onPlaceEdited()));
+    connect(longitude, SIGNAL(edited()), this, SLOT(_onPlaceEdited()));
+    connect(height, SIGNAL(edited()), this, SLOT(_onDatumChanged()));
+}
+
+void CheckPointPane::addGridFields(QGridLayout* grid) {
+    gridMessage = new MessageLine(this);
+    easting = new CheckField(gridField(QT_TRANSLATE_NOOP("DlgCoordParam", "Easting")), gridMessage, grid, 5);
+    northing = new CheckField(gridField(QT_TRANSLATE_NOOP("DlgCoordParam", "Northing")), gridMessage, grid, 6);
+    grid->addWidget(gridMessage, 7, 0, 1, 4);
+    connect(easting, SIGNAL(edited()), this, SLOT(_onGridEdited()));
+    connect(northing, SIGNAL(edited()), this, SLOT(_onGridEdited()));
+}
+
+void CheckPointPane::addResults(QGridLayout* grid) {
+    const std::array<QString, ResultCount> names = {PanelText::tr("Grid scale factor"), PanelText::tr("Convergence"),
+                                                    PanelText::tr("Combined factor"), QString(),
+                                                    PanelText::tr("Closing error")};
+    for (std::size_t i = 0; i < ResultCount; ++i) {
+        labels[i] = new QLabel(names[i]);
+        results[i] = new QLabel;
+        results[i]->setWordWrap(true);
+        results[i]->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        grid->addWidget(labels[i], 8 + int(i), 0, Qt::AlignTop);
+        grid->addWidget(results[i], 8 + int(i), 1, 1, 3);
+    }
+    labels[Convergence]->setToolTip(PanelText::tr("A true azimuth is the grid bearing plus the convergence."));
+    labels[CombinedFactor]->setToolTip(
+        PanelText::tr("Grid scale factor times R / (R + height): from a distance at that height to the grid."));
+    labels[ClosingError]->setToolTip(PanelText::tr("How far the point is off when it is computed there and back."));
+}
+
+void CheckPointPane::setSystem(const IProjectedSystem* newSystem, const GridPoint& newOrigin, const QString& name) {
+    system = newSystem;
+    origin = newOrigin;
+    systemName = name;
+    recompute();
+}
+
+void CheckPointPane::showNotation() {
+    latitude->showNotation();
+    longitude->showNotation();
+    showResults();
+}
+
+std::optional<GeographicPoint> CheckPointPane::place() const {
+    return point ? std::optional<GeographicPoint>(point->own) : std::nullopt;
+}
+
+CheckPoint::Datum CheckPointPane::datum() const {
+    return datumBox->currentIndex() == 0 ? CheckPoint::Datum::Own : CheckPoint::Datum::Wgs84;
+}
+
+std::optional<CheckPoint> CheckPointPane::compute() const {
+    if (!system || !height->value())
+        return std::nullopt;
+    switch (source) {
+    case Source::Origin:
+        return CheckPoint::fromGrid(*system, origin, *height->value(), datum());
+    case Source::Place:
+        if (!latitude->value() || !longitude->value())
+            return std::nullopt;
+        return CheckPoint::fromGeographic(*system, {*latitude->value(), *longitude->value(), *height->value()},
+                                          datum());
+    case Source::Grid:
+        if (!easting->value() || !northing->value())
+            return std::nullopt;
+        return CheckPoint::fromGrid(*system, {*easting->value(), *northing->value()}, *height->value(), datum());
+    }
+    return std::nullopt;
+}
+
+/// Computes the point, and shows it in those fields that it was not computed from.
+void CheckPointPane::recompute() {
+    point = compute();
+    if (source != Source::Grid) {
+        point ? easting->setValue(point->grid.easting) : easting->clear();
+        point ? northing->setValue(point->grid.northing) : northing->clear();
+    }
+    if (source != Source::Place) {
+        point ? latitude->setValue(point->on(datum()).latitude) : latitude->clear();
+        point ? longitude->setValue(point->on(datum()).longitude) : longitude->clear();
+    }
+    showResults();
+}
+
+void CheckPointPane::_onPlaceEdited() {
+    source = Source::Place;
+    recompute();
+}
+
+void CheckPointPane::_onGridEdited() {
+    source = Source::Grid;
+    recompute();
+}
+
+void CheckPointPane::_onDatumChanged() {
+    recompute();
+}
+
+QString CheckPointPane::placeText(const GeographicPoint& place) const {
+    const bool decimal = AngleText::notation() == AngleNotation::DecimalDegrees;
+    const QString unit = decimal ? QStringLiteral("°") : QString();
+    return CheckField::angleText(place.latitude) + unit + ", " + CheckField::angleText(place.longitude) + unit + ", " +
+           QString::number(place.height, 'f', 4) + " m";
+}
+
+void CheckPointPane::showResults() {
+    const bool ownShown = datum() == CheckPoint::Datum::Own;
+    labels[OtherDatum]->setText(ownShown ? PanelText::tr("On WGS 84") : PanelText::tr("On the own datum"));
+    copyButton->setEnabled(point.has_value());
+    const bool typed = system && latitude->value() && longitude->value() && height->value();
+    if (!point) {
+        for (QLabel* result : results)
+            result->setText(QStringLiteral("–"));
+        if (typed || (system && easting->value() && northing->value()))
+            results[ScaleFactor]->setText(PanelText::tr("The projection gives no result for this point."));
+        return;
+    }
+    const LocalScale& scale = point->scale;
+    const bool conformal = scale.largest - scale.smallest < 1e-7;
+    results[ScaleFactor]->setText(conformal ? factorText(scale.mean)
+                                            : PanelText::tr("along the meridian %1\nalong the parallel %2")
+                                                  .arg(factorText(scale.meridian), factorText(scale.parallel)));
+    results[Convergence]->setText(
+        CheckField::angleText(scale.convergence, 7) +
+        (AngleText::notation() == AngleNotation::DecimalDegrees ? QStringLiteral("°") : QString()));
+    results[CombinedFactor]->setText(factorText(point->combinedFactor()));
+    results[OtherDatum]->setText(system->hasDatumShift() ? placeText(ownShown ? point->wgs84 : point->own)
+                                                         : PanelText::tr("the same: no datum shift is defined"));
+    showClosingError();
+}
+
+void CheckPointPane::showClosingError() {
+    const double error = point->closingError;
+    QString text =
+        error < 1.0 ? QString::number(error * 1000.0, 'f', 3) + " mm" : QString::number(error, 'f', 3) + " m";
+    if (error > unreliable)
+        text += "  " + PanelText::tr("The projection is not reliable here.");
+    results[ClosingError]->setText(text);
+    QPalette colors;
+    if (error > unreliable)
+        colors.setColor(QPalette::WindowText, MessageLine::textColor(*this, MessageLine::Tone::Error));
+    results[ClosingError]->setPalette(colors);
+}
+
+void CheckPointPane::_onCopy() {
+    QStringList lines{systemName, PanelText::tr("Datum") + '\t' + datumBox->currentText()};
+    for (const CheckField* field : {latitude, longitude, height, easting, northing})
+        lines.append(QString(field->labelText() + '\t' + field->text() + ' ' + field->unitText()).trimmed());
+    for (std::size_t i = 0; i < ResultCount; ++i)
+        lines.append(labels[i]->text() + '\t' + results[i]->text());
+    QApplication::clipboard()->setText(lines.join('\n') + '\n');
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "panel/computing/CheckPoint.h"
+
+#include <QWidget>
+
+#include <array>
+
+class CheckField;
+class ChoiceBox;
+class MessageLine;
+class QGridLayout;
+class QLabel;
+class QPushButton;
+
+/// A point in latitude and longitude and on the grid, each computed from the other while the user types, with scale
+/// factor, convergence and the closing error of the round trip.
+class CheckPointPane : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit CheckPointPane(QWidget* parent = nullptr);
+
+    /// Computes the shown point through `system`, which the caller keeps until the next call; null for no system. While
+    /// the user has typed no point, it is the one at `origin`. `systemName` heads the copied text.
+    void setSystem(const IProjectedSystem* system, const GridPoint& origin, const QString& systemName);
+
+    /// Shows angles anew in the notation chosen now.
+    void showNotation();
+
+    /// The point on the own datum, or nothing while there is none.
+    std::optional<GeographicPoint> place() const;
+
+private Q_SLOTS:
+    void _onPlaceEdited();
+    void _onGridEdited();
+    void _onDatumChanged();
+    void _onCopy();
+
+private:
+    enum class Source { Origin, Place, Grid };
+    enum Result { ScaleFactor, Convergence, CombinedFactor, OtherDatum, ClosingError, ResultCount };
+
+    void addPlaceFields(QGridLayout* grid);
+    void addGridFields(QGridLayout* grid);
+    void addResults(QGridLayout* grid);
+    CheckPoint::Datum datum() const;
+    std::optional<CheckPoint> compute() const;
+    void recompute();
+    void showResults();
+    void showClosingError();
+    QString placeText(const GeographicPoint& place) const;
+
+    const IProjectedSystem* system = nullptr;
+    GridPoint origin{0.0, 0.0};
+    QString systemName;
+    Source source = Source::Origin;
+    std::optional<CheckPoint> point;
+
+    ChoiceBox* datumBox;
+    CheckField* latitude;
+    CheckField* longitude;
+    CheckField* height;
+    CheckField* easting;
+    CheckField* northing;
+    MessageLine* placeMessage;
+    MessageLine* gridMessage;
+    std::array<QLabel*, ResultCount> labels;
+    std::array<QLabel*, ResultCount> results;
+    QPushButton* copyButton;
+};

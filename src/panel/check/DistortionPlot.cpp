@@ -1,0 +1,270 @@
+#include "panel/check/DistortionPlot.h"
+
+#include "panel/record/PanelText.h"
+
+#include <QMouseEvent>
+#include <qwt_color_map.h>
+#include <qwt_matrix_raster_data.h>
+#include <qwt_plot_canvas.h>
+#include <qwt_plot_curve.h>
+#include <qwt_plot_layout.h>
+#include <qwt_plot_marker.h>
+#include <qwt_plot_spectrogram.h>
+#include <qwt_scale_draw.h>
+#include <qwt_scale_widget.h>
+#include <qwt_symbol.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double metresPerKilometre = 1000.0;
+constexpr int pixelsPerNode = 4;
+constexpr int contourCount = 8;
+constexpr int parallelCount = 2;
+
+/// Numbers without the grouping of the system's language: northings have no room for it.
+class PlainScaleDraw : public QwtScaleDraw {
+public:
+    QwtText label(double value) const override { return QString::number(value, 'g', 10); }
+};
+
+/// Blue for negative, pale for the smallest, red for positive values; told apart by the colour-blind, too. Where all
+/// values have one sign, they have that sign's colours to themselves.
+class DistortionColours : public QwtLinearColorMap {
+public:
+    enum class Sign { Negative, Both, Positive };
+
+    explicit DistortionColours(Sign sign)
+        : QwtLinearColorMap(QColor(sign == Sign::Positive ? pale : blue), QColor(sign == Sign::Negative ? pale : red)) {
+        if (sign == Sign::Both) {
+            addColorStop(0.25, QColor(paleBlue));
+            addColorStop(0.5, QColor(pale));
+            addColorStop(0.75, QColor(paleRed));
+        } else {
+            addColorStop(0.5, QColor(sign == Sign::Negative ? paleBlue : paleRed));
+        }
+    }
+
+private:
+    static constexpr QRgb blue = 0x2166ac;
+    static constexpr QRgb paleBlue = 0x92c5de;
+    static constexpr QRgb pale = 0xffffff;
+    static constexpr QRgb paleRed = 0xf4a582;
+    static constexpr QRgb red = 0xb2182b;
+};
+
+QwtInterval interval(double centre, double width) {
+    return QwtInterval((centre - width / 2.0) / metresPerKilometre, (centre + width / 2.0) / metresPerKilometre);
+}
+
+double squaredDistance(const QPointF& left, const QPointF& right) {
+    const QPointF difference = left - right;
+    return QPointF::dotProduct(difference, difference);
+}
+
+} // namespace
+
+DistortionPlot::DistortionPlot(QWidget* parent)
+    : QwtPlot(parent), spectrogram(new QwtPlotSpectrogram), originMarker(new QwtPlotMarker(PanelText::tr("Origin"))) {
+    setAccessibleName(PanelText::tr("Picture of the linear distortion"));
+    setUpAxes();
+    spectrogram->setDisplayMode(QwtPlotSpectrogram::ContourMode, true);
+    spectrogram->setDefaultContourPen(QColor(0x50, 0x50, 0x50), 0.0);
+    spectrogram->setConrecFlag(QwtRasterData::IgnoreAllVerticesOnLevel, false);
+    spectrogram->attach(this);
+    meridian = newLine(PanelText::tr("Central meridian"), Qt::DashLine);
+    for (int i = 0; i < parallelCount; ++i)
+        parallels.append(newLine(PanelText::tr("Standard parallel"), Qt::DotLine));
+    originMarker->setSymbol(new QwtSymbol(QwtSymbol::Cross, QBrush(), QPen(Qt::black, 2.0), QSize(13, 13)));
+    originMarker->attach(this);
+
+    auto* frame = qobject_cast<QwtPlotCanvas*>(canvas());
+    frame->setFrameShape(QFrame::Box);
+    frame->setFrameShadow(QFrame::Plain);
+    frame->setMouseTracking(true);
+    frame->installEventFilter(this);
+    clear();
+}
+
+void DistortionPlot::setUpAxes() {
+    const QFont small = font();
+    for (const int axis : {int(xBottom), int(yLeft), int(yRight)}) {
+        QwtText title(axis == xBottom ? PanelText::tr("Easting, km")
+                      : axis == yLeft ? PanelText::tr("Northing, km")
+                                      : PanelText::tr("ppm"));
+        title.setFont(small);
+        setAxisTitle(axis, title);
+        setAxisFont(axis, small);
+        setAxisScaleDraw(axis, new PlainScaleDraw);
+        setAxisMaxMajor(axis, 5);
+        axisWidget(axis)->setMargin(0);
+    }
+    enableAxis(yRight);
+    axisWidget(yRight)->setColorBarEnabled(true);
+    axisWidget(yRight)->setColorBarWidth(12);
+    plotLayout()->setAlignCanvasToScales(true);
+}
+
+QwtPlotCurve* DistortionPlot::newLine(const QString& title, Qt::PenStyle style) {
+    auto* curve = new QwtPlotCurve(title);
+    curve->setPen(QColor(0x10, 0x50, 0x10), 2.0, style);
+    curve->setRenderHint(QwtPlotItem::RenderAntialiased);
+    curve->attach(this);
+    return curve;
+}
+
+DistortionArea DistortionPlot::areaAround(const GridPoint& centre, double width) const {
+    const QSize size = canvas()->contentsRect().size();
+    return {centre, width, width * std::max(1, size.height()) / std::max(1, size.width())};
+}
+
+QSize DistortionPlot::nodeCount() const {
+    const QSize size = canvas()->contentsRect().size() / pixelsPerNode;
+    return size.expandedTo(QSize(2, 2));
+}
+
+void DistortionPlot::showDistortion(const DistortionGrid& grid, const DistortionArea& area) {
+    if (grid.isEmpty()) {
+        clear();
+        return;
+    }
+    const QwtInterval easting = interval(area.centre.easting, area.width);
+    const QwtInterval northing = interval(area.centre.northing, area.height);
+    setAxisScale(xBottom, easting.minValue(), easting.maxValue());
+    setAxisScale(yLeft, northing.minValue(), northing.maxValue());
+    auto* raster = new QwtMatrixRasterData;
+    raster->setResampleMode(QwtMatrixRasterData::BilinearInterpolation);
+    raster->setValueMatrix(grid.values(), grid.columnCount());
+    // Qwt takes the values for those of cells' middles: the outer nodes lie half a cell inside.
+    const QSizeF cell(easting.width() / (grid.columnCount() - 1), northing.width() / (grid.rowCount() - 1));
+    raster->setInterval(Qt::XAxis,
+                        QwtInterval(easting.minValue() - cell.width() / 2.0, easting.maxValue() + cell.width() / 2.0));
+    raster->setInterval(
+        Qt::YAxis, QwtInterval(northing.minValue() - cell.height() / 2.0, northing.maxValue() + cell.height() / 2.0));
+    spectrogram->setData(raster);
+    spectrogram->setVisible(true);
+    setColours(grid);
+    const QList<double> levels = grid.contourLevels(contourCount).toList();
+    spectrogram->setContourLevels(levels);
+    updateAxes();
+    showLabels(levels);
+}
+
+void DistortionPlot::setColours(const DistortionGrid& grid) {
+    // Below a ten-thousandth of a ppm lies the noise of the computation.
+    const double low = grid.smallest() - 1e-4;
+    const double high = grid.largest() + 1e-4;
+    const double extreme = std::max(-low, high);
+    const auto sign = low >= 0.0    ? DistortionColours::Sign::Positive
+                      : high <= 0.0 ? DistortionColours::Sign::Negative
+                                    : DistortionColours::Sign::Both;
+    const QwtInterval colours =
+        sign == DistortionColours::Sign::Both ? QwtInterval(-extreme, extreme) : QwtInterval(low, high);
+    spectrogram->data()->setInterval(Qt::ZAxis, colours);
+    spectrogram->setColorMap(new DistortionColours(sign));
+    axisWidget(yRight)->setColorMap(colours, new DistortionColours(sign));
+    setAxisScale(yRight, low, high);
+}
+
+void DistortionPlot::showLabels(const QList<double>& levels) {
+    for (QwtPlotMarker* label : qAsConst(labels)) {
+        label->detach();
+        delete label;
+    }
+    labels.clear();
+    const QwtRasterData* const raster = spectrogram->data();
+    const QRectF area(axisInterval(xBottom).minValue(), axisInterval(yLeft).minValue(), axisInterval(xBottom).width(),
+                      axisInterval(yLeft).width());
+    const auto lines = raster->contourLines(area, nodeCount() / 2, levels, QwtRasterData::IgnoreOutOfRange);
+    // Each contour has a label where it comes nearest to the middle of the south-western and north-eastern quarters.
+    const QPointF quarter(area.width() / 4.0, area.height() / 4.0);
+    for (auto line = lines.constBegin(); line != lines.constEnd(); ++line) {
+        for (const QPointF& aim : {area.center() - quarter, area.center() + quarter}) {
+            const bool west = aim.x() < area.center().x();
+            const QPointF* best = nullptr;
+            for (const QPointF& point : line.value()) {
+                const bool fits = (point.x() < area.center().x()) == west;
+                if (fits && (!best || squaredDistance(point, aim) < squaredDistance(*best, aim)))
+                    best = &point;
+            }
+            if (best)
+                addLabel(line.key(), *best);
+        }
+    }
+}
+
+void DistortionPlot::addLabel(double level, const QPointF& place) {
+    QwtText text(QString::number(level, 'g', 7));
+    text.setColor(Qt::black);
+    text.setBackgroundBrush(QColor(255, 255, 255, 190));
+    text.setBorderRadius(2.0);
+    const QSizeF size = text.textSize(font());
+    // A label that would cover another one is left out.
+    const QPointF pixel(canvasMap(xBottom).transform(place.x()), canvasMap(yLeft).transform(place.y()));
+    const QRectF frame(pixel - QPointF(size.width() / 2.0, size.height() / 2.0), size);
+    const QRectF room = frame.adjusted(-6.0, -2.0, 6.0, 2.0);
+    for (const QwtPlotMarker* other : qAsConst(labels)) {
+        const QPointF otherPixel(canvasMap(xBottom).transform(other->xValue()),
+                                 canvasMap(yLeft).transform(other->yValue()));
+        const QSizeF otherSize = other->label().textSize(font());
+        if (room.intersects(QRectF(otherPixel - QPointF(otherSize.width() / 2.0, otherSize.height() / 2.0), otherSize)))
+            return;
+    }
+    if (!QRectF(canvas()->contentsRect()).contains(frame))
+        return;
+    auto* label = new QwtPlotMarker;
+    label->setItemAttribute(QwtPlotItem::Legend, false);
+    label->setLabel(text);
+    label->setValue(place);
+    label->setZ(30.0);
+    label->attach(this);
+    labels.append(label);
+}
+
+void DistortionPlot::drawLine(QwtPlotCurve* curve, const DistortionLines::Line& line) {
+    QVector<QPointF> points;
+    for (const GridPoint& point : line)
+        points.append(QPointF(point.easting, point.northing) / metresPerKilometre);
+    curve->setSamples(points);
+    curve->setVisible(!points.isEmpty());
+}
+
+void DistortionPlot::showLines(const DistortionLines& lines, const GridPoint& origin) {
+    drawLine(meridian, lines.centralMeridian());
+    for (int i = 0; i < parallelCount; ++i) {
+        const bool used = i < int(lines.standardParallels().size());
+        drawLine(parallels[i], used ? lines.standardParallels()[std::size_t(i)] : DistortionLines::Line());
+    }
+    originMarker->setValue(origin.easting / metresPerKilometre, origin.northing / metresPerKilometre);
+    originMarker->setVisible(true);
+    replot();
+}
+
+void DistortionPlot::clear() {
+    spectrogram->setVisible(false);
+    meridian->setVisible(false);
+    for (QwtPlotCurve* parallel : qAsConst(parallels))
+        parallel->setVisible(false);
+    originMarker->setVisible(false);
+    for (QwtPlotMarker* label : qAsConst(labels))
+        label->setVisible(false);
+    replot();
+}
+
+bool DistortionPlot::eventFilter(QObject* object, QEvent* event) {
+    if (object == canvas() && event->type() == QEvent::MouseMove && spectrogram->isVisible()) {
+        const QPoint position = static_cast<QMouseEvent*>(event)->pos();
+        Q_EMIT pointed(invTransform(xBottom, position.x()) * metresPerKilometre,
+                       invTransform(yLeft, position.y()) * metresPerKilometre);
+    } else if (object == canvas() && event->type() == QEvent::Leave) {
+        Q_EMIT left();
+    }
+    return QwtPlot::eventFilter(object, event);
+}
+
+void DistortionPlot::resizeEvent(QResizeEvent* event) {
+    QwtPlot::resizeEvent(event);
+    Q_EMIT resized();
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "panel/computing/DistortionLines.h"
+
+#include <QVector>
+#include <qwt_plot.h>
+
+class QwtPlotCurve;
+class QwtPlotMarker;
+class QwtPlotSpectrogram;
+
+/// The picture of a system's linear distortion: a map coloured by ppm with labelled contours, axes in grid kilometres,
+/// the central meridian, standard parallels and origin. White is no distortion, blue is grid shorter than ground, red
+/// longer.
+class DistortionPlot : public QwtPlot {
+    Q_OBJECT
+
+public:
+    explicit DistortionPlot(QWidget* parent = nullptr);
+
+    /// The area of `width` metres around `centre` that has the canvas's shape.
+    DistortionArea areaAround(const GridPoint& centre, double width) const;
+
+    /// How many nodes a picture of the canvas's size needs.
+    QSize nodeCount() const;
+
+    /// Shows the values of `grid` over `area`. The axes' numbers may need another width than before; then the canvas's
+    /// shape changes.
+    void showDistortion(const DistortionGrid& grid, const DistortionArea& area);
+    void showLines(const DistortionLines& lines, const GridPoint& origin);
+
+    /// No picture.
+    void clear();
+
+Q_SIGNALS:
+    /// The mouse is over this place of the grid (metres).
+    void pointed(double easting, double northing);
+    void left();
+
+    /// The plot has another size.
+    void resized();
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void setUpAxes();
+    void showLabels(const QList<double>& levels);
+    void setColours(const DistortionGrid& grid);
+    void addLabel(double level, const QPointF& place);
+    QwtPlotCurve* newLine(const QString& title, Qt::PenStyle style);
+    void drawLine(QwtPlotCurve* curve, const DistortionLines::Line& line);
+
+    QwtPlotSpectrogram* spectrogram;
+    QwtPlotCurve* meridian;
+    QVector<QwtPlotCurve*> parallels;
+    QwtPlotMarker* originMarker;
+    QVector<QwtPlotMarker*> labels;
+};

@@ -1,0 +1,64 @@
+#include "panel/computing/CheckPoint.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr double degree = 3.141592653589793 / 180.0;
+
+/// Metres between two places close to each other, on a sphere of the radius `radius`.
+double distance(const GeographicPoint& left, const GeographicPoint& right, double radius) {
+    const double north = (left.latitude - right.latitude) * degree * radius;
+    const double east =
+        std::remainder(left.longitude - right.longitude, 360.0) * degree * radius * std::cos(left.latitude * degree);
+    return std::hypot(north, east, left.height - right.height);
+}
+
+/// All but the grid point and the closing error, from `own`.
+std::optional<CheckPoint> describe(const IProjectedSystem& system, const GeographicPoint& own) {
+    const auto wgs84 = system.toWgs84(own);
+    const auto scale = system.localScale(own);
+    if (!wgs84 || !scale)
+        return std::nullopt;
+    const double radius = system.meanRadius(own.latitude);
+    return CheckPoint{own, *wgs84, {}, *scale, radius / (radius + own.height), 0.0};
+}
+
+} // namespace
+
+std::optional<CheckPoint> CheckPoint::fromGeographic(const IProjectedSystem& system, const GeographicPoint& point,
+                                                     Datum datum) {
+    const auto own = datum == Datum::Own ? point : system.fromWgs84(point);
+    const auto grid = own ? system.toGrid(*own) : std::nullopt;
+    const auto back = grid ? system.toGeographic(*grid, own->height) : std::nullopt;
+    auto result = back ? describe(system, *own) : std::nullopt;
+    const auto closing = back && datum == Datum::Wgs84 ? system.toWgs84(*back) : back;
+    if (!result || !closing)
+        return std::nullopt;
+    if (datum == Datum::Wgs84)
+        result->wgs84 = point;
+    result->grid = *grid;
+    result->closingError = distance(*closing, point, system.meanRadius(point.latitude));
+    return result;
+}
+
+std::optional<CheckPoint> CheckPoint::fromGrid(const IProjectedSystem& system, const GridPoint& point, double height,
+                                               Datum datum) {
+    auto own = system.toGeographic(point, height);
+    if (own && datum == Datum::Wgs84) {
+        // The shift changes heights by much the same everywhere near: once is enough.
+        const auto wgs84 = system.toWgs84(*own);
+        if (!wgs84)
+            return std::nullopt;
+        own->height += height - wgs84->height;
+    }
+    const auto grid = own ? system.toGrid(*own) : std::nullopt;
+    auto result = grid ? describe(system, *own) : std::nullopt;
+    if (!result)
+        return std::nullopt;
+    if (datum == Datum::Wgs84)
+        result->wgs84.height = height;
+    result->grid = point;
+    result->closingError = std::hypot(grid->easting - point.easting, grid->northing - point.northing);
+    return result;
+}

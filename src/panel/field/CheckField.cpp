@@ -1,0 +1,81 @@
+#include "panel/field/CheckField.h"
+
+#include "panel/field/FieldEdit.h"
+#include "panel/field/MessageLine.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+#include <cmath>
+
+CheckField::CheckField(const ParamField& field, MessageLine* message, QGridLayout* grid, int line)
+    : QObject(message)
+    , field(field)
+    , name(field.labelText())
+    , edit(new FieldEdit)
+    , unit(new QLabel(field.unitText(AngleText::notation())))
+    , message(message) {
+    auto* label = new QLabel(name);
+    label->setBuddy(edit);
+    edit->setAccessibleName(name);
+    edit->setFixedWidth(edit->fontMetrics().horizontalAdvance("-179°59'59.12345678\"") + 24);
+    grid->addWidget(label, line, 0);
+    grid->addWidget(edit, line, 1);
+    grid->addWidget(unit, line, 2);
+    connect(edit, SIGNAL(textEdited(QString)), this, SLOT(_onTextEdited(QString)));
+    connect(edit, SIGNAL(cancelled()), this, SLOT(_onCancelled()));
+}
+
+QString CheckField::angleText(double degrees, int decimals) {
+    const double steps = AngleText::notation() == AngleNotation::DecimalDegrees ? std::pow(10.0, decimals)
+                                                                                : 3600.0 * std::pow(10.0, decimals - 4);
+    return AngleText::format(std::round(degrees * steps) / steps + 0.0, AngleText::notation());
+}
+
+void CheckField::setValue(double value) {
+    number = lastGood = value;
+    edit->setText(field.isAngle() ? angleText(value) : QString::number(value, 'f', 4));
+    edit->setCursorPosition(0);
+    setError(QString());
+}
+
+void CheckField::clear() {
+    number.reset();
+    edit->clear();
+    setError(QString());
+}
+
+void CheckField::showNotation() {
+    unit->setText(field.unitText(AngleText::notation()));
+    if (field.isAngle() && number)
+        setValue(*number);
+}
+
+QString CheckField::text() const {
+    return edit->text();
+}
+
+QString CheckField::unitText() const {
+    return field.isAngle() ? QString() : unit->text();
+}
+
+void CheckField::_onTextEdited(const QString& text) {
+    const FieldInput input = field.parse(text);
+    number = input.valid ? std::optional<double>(input.value) : std::nullopt;
+    if (number)
+        lastGood = *number;
+    setError(input.reason);
+    Q_EMIT edited();
+}
+
+void CheckField::_onCancelled() {
+    setValue(lastGood);
+    edit->selectAll();
+    Q_EMIT edited();
+}
+
+void CheckField::setError(const QString& reason) {
+    edit->setMarked(!reason.isEmpty());
+    edit->setToolTip(reason);
+    message->setMessage(reason, MessageLine::Tone::Error);
+}

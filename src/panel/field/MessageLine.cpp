@@ -1,0 +1,58 @@
+#include "panel/field/MessageLine.h"
+
+#include <QPainter>
+#include <QPalette>
+#include <QStyle>
+
+MessageLine::MessageLine(QWidget* parent) : QWidget(parent) {
+    QFont small = font();
+    small.setPointSizeF(small.pointSizeF() * 0.9);
+    setFont(small);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void MessageLine::setMessage(const QString& text, Tone tone) {
+    if (text == message && tone == messageTone)
+        return;
+    message = text;
+    messageTone = tone;
+    setToolTip(text);
+    setAccessibleName(text);
+    update();
+}
+
+QColor MessageLine::textColor(const QWidget& widget, Tone tone) {
+    const bool dark = widget.palette().color(QPalette::Window).lightness() < 128;
+    switch (tone) {
+    case Tone::Error:
+        return dark ? QColor(0xff, 0x8a, 0x80) : QColor(0xb0, 0x00, 0x20);
+    case Tone::Warning:
+        return dark ? QColor(0xff, 0xc0, 0x4d) : QColor(0x8a, 0x55, 0x00);
+    case Tone::Hint:
+        break;
+    }
+    return dark ? QColor(0xb0, 0xb0, 0xb0) : QColor(0x60, 0x60, 0x60);
+}
+
+QSize MessageLine::sizeHint() const {
+    return minimumSizeHint(); // the text must not widen the form
+}
+
+QSize MessageLine::minimumSizeHint() const {
+    return QSize(0, fontMetrics().height());
+}
+
+void MessageLine::paintEvent(QPaintEvent*) {
+    if (message.isEmpty())
+        return;
+    const bool leftToRight = layoutDirection() == Qt::LeftToRight;
+    int indent = 0;
+    if (shownBelow)
+        indent = leftToRight ? shownBelow->x() - x() : geometry().right() - shownBelow->geometry().right();
+    indent = qBound(0, indent, qMax(0, width() - fontMetrics().horizontalAdvance(message) - 1));
+    QPainter painter(this);
+    painter.setPen(textColor(*this, messageTone));
+    painter.drawText(leftToRight ? rect().adjusted(indent, 0, 0, 0) : rect().adjusted(0, 0, -indent, 0),
+                     int(Qt::AlignVCenter | QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)),
+                     fontMetrics().elidedText(message, Qt::ElideRight, width()));
+}

@@ -1,0 +1,141 @@
+#include "panel/record/ProjectionAdvice.h"
+
+#include "catalogue/Dictionary.h"
+#include "import/CoordParamToProjDefine.h"
+#include "panel/record/DatumFields.h"
+#include "panel/record/NumberText.h"
+#include "panel/record/ProjectionFields.h"
+#include "panel/record/TrueScaleParallel.h"
+
+#include <QRegularExpression>
+
+#include <cmath>
+
+using namespace CoordParamKey;
+
+namespace {
+
+double number(const IDictionary& record, const char* key) {
+    return dictionary_number(record, key, 0.0);
+}
+
+bool isPolar(const IDictionary& record) {
+    return std::fabs(number(record, orgLat)) == 90.0;
+}
+
+bool isTransverseMercator(const ProjectionFields& kind) {
+    return kind.kind == ProjectionKind::TransverseMercator || kind.kind == ProjectionKind::TransverseMercatorScaled;
+}
+
+/// The distance between two longitudes in degrees, 0 to 180.
+double apart(double longitude, double other) {
+    return std::fabs(std::remainder(longitude - other, 360.0));
+}
+
+} // namespace
+
+QString ProjectionAdvice::problem(const IDictionary& record) {
+    const ProjectionFields* kind = ProjectionFields::ofRecord(record);
+    if (!coordParamDefinesProjection(record))
+        return missing(kind, record);
+    if (!kind || !isDegenerate(*kind, record))
+        return QString();
+    return kind->kind == ProjectionKind::ObliqueMercatorTwoPoints
+               ? tr("No projection: latitudes of the points equal, or the first 0.")
+               : tr("No projection: the standard parallels cancel out.");
+}
+
+QString ProjectionAdvice::missing(const ProjectionFields* kind, const IDictionary& record) {
+    if (!DatumFields::semiMajorAxis().isSound(record) || !DatumFields::inverseFlattening().isSound(record))
+        return tr("No projection yet: the system has no ellipsoid.");
+    const char* type = record.getValue(projectType);
+    if (!type)
+        return tr("No projection yet: choose the kind.");
+    if (!kind)
+        return tr("No projection: the kind \"%1\" is unknown.").arg(QString::fromLocal8Bit(type));
+    if (fitsNoKind(record))
+        return tr("No projection: the definition fits none of the kinds.");
+    for (const ParamField& field : kind->fields) {
+        if (!record.getValue(field.key) || !field.isSound(record))
+            return tr("No projection: \"%1\" is missing or wrong.").arg(field.labelText());
+    }
+    if (kind->kind == ProjectionKind::Stereographic && isPolar(record) && TrueScaleParallel::ofRecord(record))
+        return tr("No projection: a standard parallel needs the scale factor 1.");
+    return tr("No projection: the scale factor is missing.");
+}
+
+bool ProjectionAdvice::fitsNoKind(const IDictionary& record) {
+    const ProjectionFields* kind = ProjectionFields::ofRecord(record);
+    return kind && kind->kind == ProjectionKind::TransverseMercator && record.getValue(factor) &&
+           number(record, factor) != 1.0;
+}
+
+bool ProjectionAdvice::isDegenerate(const ProjectionFields& kind, const IDictionary& record) {
+    // The limits are PROJ's.
+    constexpr double same = 1e-10 * 180.0 / 3.141592653589793;
+    switch (kind.kind) {
+    case ProjectionKind::LambertOneParallel:
+        return std::fabs(number(record, parallel1Lat)) < same;
+    case ProjectionKind::LambertTwoParallels:
+        return std::fabs(number(record, parallel1Lat) + number(record, parallel2Lat)) < same;
+    case ProjectionKind::ObliqueMercatorTwoPoints:
+        return std::fabs(number(record, lat1) - number(record, lat2)) < same || std::fabs(number(record, lat1)) < same;
+    default:
+        return false;
+    }
+}
+
+QString ProjectionAdvice::warning(const ProjectionFields& kind, const ParamField& field, const IDictionary& record) {
+    double value;
+    if (!field.read(record, &value) || !field.accepts(value))
+        return QString();
+    if (field.quantity == Quantity::ScaleFactor)
+        return scaleWarning(kind, record, value);
+    if (field.quantity == Quantity::TrueScaleParallel)
+        return trueScaleWarning(kind, record, value);
+    if (field.is(parallel1Lat) || field.is(parallel2Lat))
+        return coneWarning(kind, record);
+    if (field.quantity == Quantity::Longitude && isTransverseMercator(kind))
+        return meridianWarning(record, value);
+    return QString();
+}
+
+QString ProjectionAdvice::scaleWarning(const ProjectionFields& kind, const IDictionary& record, double factor) {
+    if (kind.kind == ProjectionKind::Stereographic && isPolar(record) && TrueScaleParallel::ofRecord(record))
+        return factor == 1.0 ? QString() : tr("Must be 1: the standard parallel sets the scale.");
+    return std::fabs(factor - 1.0) > 0.01 ? tr("Unusual: scale factors lie close to 1.") : QString();
+}
+
+QString ProjectionAdvice::trueScaleWarning(const ProjectionFields& kind, const IDictionary& record, double latitude) {
+    if (kind.kind == ProjectionKind::Stereographic)
+        return isPolar(record) ? QString() : tr("Without effect: the origin is no pole.");
+    return latitude == 0.0 ? tr("With 0° this is the plain Mercator projection.") : QString();
+}
+
+QString ProjectionAdvice::coneWarning(const ProjectionFields& kind, const IDictionary& record) {
+    if (kind.kind == ProjectionKind::LambertOneParallel)
+        return number(record, parallel1Lat) != number(record, orgLat) ? tr("Usually equal to the latitude of origin.")
+                                                                      : QString();
+    // Where they cancel altogether, problem() says so.
+    return std::fabs(number(record, parallel1Lat) + number(record, parallel2Lat)) < 1.0
+               ? tr("The standard parallels nearly cancel out.")
+               : QString();
+}
+
+QString ProjectionAdvice::meridianWarning(const IDictionary& record, double meridian) {
+    // A system that calls itself UTM.
+    static const QRegularExpression utm("\\bUTM *(?:zone)? *([0-9]{1,2})(?![0-9])",
+                                        QRegularExpression::CaseInsensitiveOption);
+    const int utmZone = utm.match(QString::fromLocal8Bit(record.getValue(name))).captured(1).toInt();
+    if (utmZone >= 1 && utmZone <= 60 && apart(meridian, 6.0 * utmZone - 183.0) > 1e-9)
+        return tr("Zone %1 of UTM has the central meridian %2°.").arg(utmZone).arg(6 * utmZone - 183);
+
+    // Gauss-Krüger eastings begin with the zone: 3 or 6 degrees wide, or 1 degree in Finland. Below zone 8 some
+    // countries number otherwise.
+    const double easting = number(record, falseEast), zone = std::floor(easting / 1e6);
+    if (number(record, factor) != 1.0 || zone < 8.0 || zone > 120.0 || easting - zone * 1e6 != 500000.0)
+        return QString();
+    const bool fits =
+        apart(meridian, 3.0 * zone) < 1e-9 || apart(meridian, 6.0 * zone - 3.0) < 1e-9 || apart(meridian, zone) < 1e-9;
+    return fits ? QString() : tr("Does not fit zone %1 of the false easting.").arg(zone);
+}

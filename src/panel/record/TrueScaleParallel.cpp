@@ -1,0 +1,31 @@
+#include "panel/record/TrueScaleParallel.h"
+
+#include "catalogue/CoordParamKey.h"
+#include "catalogue/Dictionary.h"
+#include "panel/record/NumberText.h"
+
+#include <algorithm>
+#include <cmath>
+
+static constexpr double degree = 3.141592653589793 / 180.0;
+
+double TrueScaleParallel::radius(double semiMajorAxis, double latitude) {
+    return semiMajorAxis * std::cos(latitude * degree);
+}
+
+std::optional<double> TrueScaleParallel::ofRecord(const IDictionary& record) {
+    const double a = dictionary_number(record, CoordParamKey::ellipsoidA, 0.0);
+    const double kept = dictionary_number(record, CoordParamKey::cuttingRadius, 0.0);
+    double number;
+    // A text has six decimals; a number behind it is exact to the last bits.
+    const double tolerance = record.getNumber(CoordParamKey::cuttingRadius, &number) ? kept * 4e-16 : 5e-7;
+    if (!(a > 0.0) || kept < 1e-6 || kept > a + tolerance)
+        return std::nullopt;
+    const double latitude = std::acos(std::min(kept / a, 1.0)) / degree;
+    const bool isSouthern =
+        dictionary_number(record, CoordParamKey::projectType, -1.0) == int(ProjectionKind::Stereographic) &&
+        dictionary_number(record, CoordParamKey::orgLat, 0.0) < 0.0;
+    const double shortened =
+        NumberText::fewestDigits(latitude, kept, tolerance, [a](double phi) { return radius(a, phi); });
+    return isSouthern ? -shortened : shortened;
+}

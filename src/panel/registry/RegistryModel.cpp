@@ -1,0 +1,126 @@
+#include "panel/registry/RegistryModel.h"
+
+#include "catalogue/DictionaryGuard.h"
+#include "import/CoordParamToProjDefine.h"
+#include "panel/record/DefinitionImport.h"
+#include "panel/record/PanelText.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+bool covers(const RegistrySystem& system, double latitude, double longitude) {
+    if (!system.hasExtent || latitude < system.south || latitude > system.north)
+        return false;
+    const double east = std::remainder(longitude, 360.0);
+    return system.west <= system.east ? east >= system.west && east <= system.east
+                                      : east >= system.west || east <= system.east;
+}
+
+} // namespace
+
+RegistryModel::RegistryModel(IEpsgRegistry& registry, QObject* parent)
+    : QAbstractTableModel(parent), registry(registry) {
+    for (const RegistrySystem& system : registry.projectedSystems())
+        searchTexts.append(QString::fromUtf8(system.code + '\n' + system.name + '\n' + system.area).toCaseFolded());
+    setSearch({});
+}
+
+void RegistryModel::setSearch(const Search& search) {
+    const auto& systems = registry.projectedSystems();
+    const QStringList words = search.text.toCaseFolded().split(' ', Qt::SkipEmptyParts);
+    const auto isWanted = [&](int index) {
+        const RegistrySystem& system = systems[std::size_t(index)];
+        const QString& text = searchTexts[index];
+        return (search.deprecatedToo || !system.deprecated) &&
+               std::all_of(words.begin(), words.end(), [&](const QString& word) { return text.contains(word); }) &&
+               (!search.latitude || !search.longitude || covers(system, *search.latitude, *search.longitude));
+    };
+    beginResetModel();
+    rows.clear();
+    for (int index = 0; index < searchTexts.size(); ++index) {
+        if (isWanted(index))
+            rows.append(index);
+    }
+    endResetModel();
+}
+
+const RegistrySystem& RegistryModel::system(int row) const {
+    return registry.projectedSystems()[std::size_t(rows[row])];
+}
+
+int RegistryModel::rowOf(const QByteArray& code) const {
+    for (int row = 0; row < rows.size(); ++row) {
+        if (system(row).code == code)
+            return row;
+    }
+    return -1;
+}
+
+bool RegistryModel::isHeld(const RegistrySystem& system) const {
+    // As EPSG names them; the other methods that a kind holds do so for some parameters only.
+    static const QByteArrayList heldMethods = {"Transverse Mercator",
+                                               "Lambert Conic Conformal (1SP)",
+                                               "Lambert Conic Conformal (2SP)",
+                                               "Mercator (variant B)",
+                                               "Polar Stereographic (variant A)",
+                                               "Polar Stereographic (variant B)",
+                                               "Oblique Stereographic",
+                                               "Cassini-Soldner"};
+    if (heldMethods.contains(system.method))
+        return true;
+    const auto known = heldByCode.constFind(system.code);
+    if (known != heldByCode.constEnd())
+        return *known;
+    const DictionaryGuard record;
+    const bool held = DefinitionImport::read(registry.wkt(system.code, nullptr), record.get()) &&
+                      coordParamDefinesProjection(*record);
+    heldByCode.insert(system.code, held);
+    return held;
+}
+
+QString RegistryModel::reason(const RegistrySystem& system) const {
+    if (isHeld(system))
+        return QString();
+    return PanelText::tr("None of the kinds holds this projection exactly: %1.").arg(QString::fromUtf8(system.method));
+}
+
+int RegistryModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : rows.size();
+}
+
+int RegistryModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant RegistryModel::data(const QModelIndex& index, int role) const {
+    const RegistrySystem& shown = system(index.row());
+    switch (role) {
+    case Qt::DisplayRole: {
+        const QByteArray texts[ColumnCount] = {shown.code, shown.name, shown.area};
+        const QString text = QString::fromUtf8(texts[index.column()]);
+        return index.column() == Name && shown.deprecated ? PanelText::tr("%1 (deprecated)").arg(text) : text;
+    }
+    case Qt::ToolTipRole: {
+        const QString why = reason(shown);
+        return why.isEmpty() ? data(index, Qt::DisplayRole) : why;
+    }
+    case Qt::ForegroundRole:
+        if (!reason(shown).isEmpty())
+            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+        return {};
+    default:
+        return {};
+    }
+}
+
+QVariant RegistryModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (role != Qt::DisplayRole || orientation != Qt::Horizontal)
+        return {};
+    const QString texts[ColumnCount] = {PanelText::tr("EPSG"), PanelText::tr("Name"), PanelText::tr("Area")};
+    return texts[section];
+}

@@ -1,9 +1,0 @@
-#include "platform/projection/engine/ProjContext.h"
-
-ProjContext::ProjContext() : context(proj_context_create()) {
-    proj_log_func(context, nullptr, [](void*, int, const char*) {});
-}
-
-ProjContext::~ProjContext() {
-    proj_context_destroy(context);
-}

@@ -1,0 +1,125 @@
+#include "platform/projection/engine/computing/Geodesy.h"
+
+#include "platform/projection/engine/computing/ProjectedSystem.h"
+#include "platform/projection/engine/proj/BoundSystem.h"
+#include "platform/projection/engine/proj/ProjContext.h"
+
+#include <QByteArrayList>
+
+#include <proj_experimental.h>
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <utility>
+
+namespace {
+
+/// The three parts of a definition, each as items that PROJ reads.
+struct DefinitionParts {
+    QByteArray projection; ///< everything but the shift
+    QByteArray ellipsoid;
+    QByteArray shift; ///< the values of +towgs84, or empty
+};
+
+DefinitionParts splitDefinition(const QByteArray& definition) {
+    const QByteArray shiftKey = "+towgs84=";
+    static constexpr std::array ellipsoidKeys = {"+ellps=", "+datum=", "+a=", "+b=", "+rf=", "+f=", "+R="};
+    DefinitionParts parts;
+    for (const QByteArray& item : definition.simplified().split(' ')) {
+        if (item.startsWith(shiftKey)) {
+            parts.shift = item.mid(shiftKey.size());
+            continue;
+        }
+        if (item == "+type=crs")
+            continue;
+        parts.projection += item + ' ';
+        if (std::any_of(ellipsoidKeys.begin(), ellipsoidKeys.end(), [&](auto key) { return item.startsWith(key); }))
+            parts.ellipsoid += item + ' ';
+    }
+    return parts;
+}
+
+/// The steps from the own datum to WGS 84, or an empty text when the shift is not 3 or 7 values.
+QByteArray shiftPipeline(const DefinitionParts& parts) {
+    static constexpr std::array names = {" +x=", " +y=", " +z=", " +rx=", " +ry=", " +rz=", " +s="};
+    const QList<QByteArray> values = parts.shift.split(',');
+    if (values.size() != 3 && values.size() != 7)
+        return {};
+    QByteArray helmert = "+proj=helmert";
+    for (int i = 0; i < values.size(); ++i)
+        helmert += names[static_cast<std::size_t>(i)] + values[i];
+    if (values.size() == 7)
+        helmert += " +convention=position_vector";
+    return "+proj=pipeline +step +proj=cart " + parts.ellipsoid + "+step " + helmert +
+           " +step +inv +proj=cart +ellps=WGS84";
+}
+
+ProjObject parsedSystem(PJ_CONTEXT* context, const QByteArray& definition) {
+    return ProjObject(proj_create(context, (definition + " +type=crs").constData()));
+}
+
+/// The projected system of a definition without a shift. PROJ itself would leave its name open, name its ellipsoid only
+/// where it knows the axes, and draw a polar system's axes along 0 and 90 degrees whatever its central meridian.
+ProjObject namedSystem(PJ_CONTEXT* context, const QByteArray& definition, const QByteArray& name,
+                       const QByteArray& ellipsoidName) {
+    const ProjObject parsed = parsedSystem(context, definition);
+    const ProjObject ellipsoid(parsed ? proj_get_ellipsoid(context, parsed.get()) : nullptr);
+    const ProjObject conversion(parsed ? proj_crs_get_coordoperation(context, parsed.get()) : nullptr);
+    double a = 0.0;
+    double inverseFlattening = 0.0;
+    if (!ellipsoid || !conversion ||
+        proj_ellipsoid_get_parameters(context, ellipsoid.get(), &a, nullptr, nullptr, &inverseFlattening) == 0)
+        return nullptr;
+    const ProjObject angles(proj_create_ellipsoidal_2D_cs(context, PJ_ELLPS2D_LONGITUDE_LATITUDE, nullptr, 0.0));
+    const ProjObject axes(proj_create_cartesian_2D_cs(context, PJ_CART2D_EASTING_NORTHING, nullptr, 0.0));
+    const ProjObject geographic(proj_create_geographic_crs(context, "unknown", "unknown", ellipsoidName.constData(), a,
+                                                           inverseFlattening, "Greenwich", 0.0, nullptr, 0.0,
+                                                           angles.get()));
+    return ProjObject(
+        proj_create_projected_crs(context, name.constData(), geographic.get(), conversion.get(), axes.get()));
+}
+
+/// `wkt` with `name` to the letter as the system's name: in its ESRI dialect PROJ turns all but plain letters into "_".
+QByteArray withName(const QByteArray& wkt, QByteArray name) {
+    const int open = wkt.indexOf('"');
+    const int close = wkt.indexOf('"', open + 1);
+    return wkt.left(open + 1) + name.replace('"', "\"\"") + wkt.mid(close);
+}
+
+} // namespace
+
+std::unique_ptr<IProjectedSystem> Geodesy::createSystem(const QByteArray& definition) {
+    const DefinitionParts parts = splitDefinition(definition);
+    const ProjObject crs = parsedSystem(context.get(), parts.projection);
+    if (!crs || proj_get_type(crs.get()) != PJ_TYPE_PROJECTED_CRS)
+        return nullptr;
+    const ProjObject ellipsoid(proj_get_ellipsoid(context.get(), crs.get()));
+    ProjObject projection(proj_create(context.get(), parts.projection.constData()));
+    double a = 0.0;
+    double b = 0.0;
+    if (!ellipsoid || !projection ||
+        proj_ellipsoid_get_parameters(context.get(), ellipsoid.get(), &a, &b, nullptr, nullptr) == 0)
+        return nullptr;
+    ProjObject shift;
+    if (!parts.shift.isEmpty()) {
+        shift.reset(proj_create(context.get(), shiftPipeline(parts).constData()));
+        if (!shift)
+            return nullptr;
+    }
+    return std::make_unique<ProjectedSystem>(std::move(projection), std::move(shift), a, b);
+}
+
+QByteArray Geodesy::exportWkt(const QByteArray& definition, const QByteArray& name, const QByteArray& ellipsoidName,
+                              WktDialect dialect, bool indented) {
+    static constexpr PJ_WKT_TYPE types[] = {PJ_WKT1_GDAL, PJ_WKT1_ESRI, PJ_WKT2_2019};
+    const char* const options[] = {indented ? "MULTILINE=YES" : "MULTILINE=NO", nullptr};
+    const DefinitionParts parts = splitDefinition(definition);
+    ProjObject crs = namedSystem(context.get(), parts.projection, name, ellipsoidName);
+    if (crs && !parts.shift.isEmpty())
+        crs = boundToWgs84(context.get(), crs, parts.shift);
+    if (!crs)
+        return {};
+    const QByteArray wkt = proj_as_wkt(context.get(), crs.get(), types[static_cast<int>(dialect)], options);
+    return dialect == WktDialect::Wkt1Esri && !wkt.isEmpty() ? withName(wkt, name) : wkt;
+}
