@@ -1,4 +1,4 @@
-// Draws the picture of distortion at its default size for systems of several kinds, proposes a scale for it, and
+// Draws the picture of distortion at its default size for systems of several methods, proposes a scale for it, and
 // searches the registry; prints each cost, and the picture's beside the 100 ms in which it must be there.
 
 #include "catalogue/DictionaryGuard.h"

@@ -8,7 +8,7 @@ constexpr const char* name = "name";
 constexpr const char* ellipsoidName = "ellipsoid_name";
 constexpr const char* ellipsoidA = "ellipsoid_a";   ///< semi-major axis
 constexpr const char* ellipsoidF = "ellipsoid_f";   ///< inverse flattening a / (a - b); 0 for a sphere
-constexpr const char* projectType = "project_type"; ///< a ProjectionKind
+constexpr const char* projectType = "project_type"; ///< a ProjectionMethod
 constexpr const char* orgLon = "org_lon";           ///< longitude of the projection origin (central meridian)
 constexpr const char* orgLat = "org_lat";           ///< latitude of the projection origin
 constexpr const char* falseNorth = "false_north";
@@ -35,7 +35,7 @@ constexpr const char* geoidName = "geoid_name"; ///< geoid model of the system's
 } // namespace CoordParamKey
 
 /// The values of "project_type". There is no 5.
-enum class ProjectionKind {
+enum class ProjectionMethod {
     TransverseMercator = 0,       ///< with the scale factor 1 (Gauss-Kruger); with factor 0 no projection is defined
     TransverseMercatorScaled = 1, ///< with any other scale factor (UTM)
     Mercator = 2,

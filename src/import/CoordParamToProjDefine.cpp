@@ -154,34 +154,34 @@ void addCassiniSoldner(DefinitionText& definition) {
     definition.addFrom("lon_0", CoordParamKey::orgLon);
 }
 
-void addProjectionOfKind(DefinitionText& definition) {
-    const double kind = definition.number(CoordParamKey::projectType);
-    definition.require(kind >= 0 && kind <= 11 && kind == std::floor(kind));
+void addProjectionOfMethod(DefinitionText& definition) {
+    const double method = definition.number(CoordParamKey::projectType);
+    definition.require(method >= 0 && method <= 11 && method == std::floor(method));
     if (!definition.isComplete())
         return;
-    switch (static_cast<ProjectionKind>(static_cast<int>(kind))) {
-    case ProjectionKind::TransverseMercator:
+    switch (static_cast<ProjectionMethod>(static_cast<int>(method))) {
+    case ProjectionMethod::TransverseMercator:
         definition.require(definition.number(CoordParamKey::factor) == 1);
         return addTransverseMercator(definition);
-    case ProjectionKind::TransverseMercatorScaled:
+    case ProjectionMethod::TransverseMercatorScaled:
         return addTransverseMercator(definition);
-    case ProjectionKind::Mercator:
+    case ProjectionMethod::Mercator:
         return addMercator(definition);
-    case ProjectionKind::MercatorStandardParallel:
+    case ProjectionMethod::MercatorStandardParallel:
         return addMercatorStandardParallel(definition);
-    case ProjectionKind::ObliqueMercatorAzimuth:
+    case ProjectionMethod::ObliqueMercatorAzimuth:
         return addObliqueMercatorAzimuth(definition);
-    case ProjectionKind::Stereographic:
+    case ProjectionMethod::Stereographic:
         return addStereographic(definition);
-    case ProjectionKind::ObliqueStereographic:
+    case ProjectionMethod::ObliqueStereographic:
         return addObliqueStereographic(definition);
-    case ProjectionKind::LambertOneParallel:
+    case ProjectionMethod::LambertOneParallel:
         return addLambertOneParallel(definition);
-    case ProjectionKind::LambertTwoParallels:
+    case ProjectionMethod::LambertTwoParallels:
         return addLambertTwoParallels(definition);
-    case ProjectionKind::ObliqueMercatorTwoPoints:
+    case ProjectionMethod::ObliqueMercatorTwoPoints:
         return addObliqueMercatorTwoPoints(definition);
-    case ProjectionKind::CassiniSoldner:
+    case ProjectionMethod::CassiniSoldner:
         return addCassiniSoldner(definition);
     }
     definition.require(false);
@@ -215,7 +215,7 @@ void addShift(DefinitionText& definition, const IDictionary& record) {
 
 QByteArray coordParamToProjDefine(const IDictionary& record) {
     DefinitionText definition(record);
-    addProjectionOfKind(definition);
+    addProjectionOfMethod(definition);
     definition.addFrom("x_0", CoordParamKey::falseEast);
     definition.addFrom("y_0", CoordParamKey::falseNorth);
     addEllipsoid(definition);

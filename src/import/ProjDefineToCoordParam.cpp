@@ -28,7 +28,7 @@ struct Projection {
     double secondLongitude = 0;
     double centreLongitude = 0;
     double cuttingRadius = 0;
-    ProjectionKind kind = ProjectionKind::TransverseMercator;
+    ProjectionMethod method = ProjectionMethod::TransverseMercator;
 };
 
 /// The items whose value is taken as it stands.
@@ -69,31 +69,31 @@ void readItem(Projection& projection, const QString& key, const QString& value, 
 }
 
 /// Settles what depends on the projection's name and on which items the definition has.
-void applyKind(Projection& projection, const QString& text, double semiMajorAxis) {
+void applyMethod(Projection& projection, const QString& text, double semiMajorAxis) {
     const auto has = [&text](const char* item) { return text.contains(QLatin1String(item)); };
     const QString& name = projection.name;
     if (name == QLatin1String("tmerc") || name == QLatin1String("utm")) {
         if (!(projection.scaleFactor == 1.0))
-            projection.kind = ProjectionKind::TransverseMercatorScaled;
+            projection.method = ProjectionMethod::TransverseMercatorScaled;
     } else if (name == QLatin1String("merc")) {
         if (has("lat_ts") && std::abs(projection.cuttingRadius - semiMajorAxis) > 1e-7) {
-            projection.kind = ProjectionKind::MercatorStandardParallel;
+            projection.method = ProjectionMethod::MercatorStandardParallel;
         } else {
-            projection.kind = ProjectionKind::Mercator;
+            projection.method = ProjectionMethod::Mercator;
             projection.cuttingRadius = semiMajorAxis;
         }
     } else if (name == QLatin1String("omerc")) {
-        projection.kind =
-            has("alpha") ? ProjectionKind::ObliqueMercatorAzimuth : ProjectionKind::ObliqueMercatorTwoPoints;
+        projection.method =
+            has("alpha") ? ProjectionMethod::ObliqueMercatorAzimuth : ProjectionMethod::ObliqueMercatorTwoPoints;
         projection.centralLongitude = projection.centreLongitude;
     } else if (name == QLatin1String("stere")) {
-        projection.kind = ProjectionKind::Stereographic;
+        projection.method = ProjectionMethod::Stereographic;
     } else if (name == QLatin1String("sterea")) {
-        projection.kind = ProjectionKind::ObliqueStereographic;
+        projection.method = ProjectionMethod::ObliqueStereographic;
     } else if (name == QLatin1String("lcc")) {
-        projection.kind = has("lat_2") ? ProjectionKind::LambertTwoParallels : ProjectionKind::LambertOneParallel;
+        projection.method = has("lat_2") ? ProjectionMethod::LambertTwoParallels : ProjectionMethod::LambertOneParallel;
     } else if (name == QLatin1String("cass")) {
-        projection.kind = ProjectionKind::CassiniSoldner;
+        projection.method = ProjectionMethod::CassiniSoldner;
     }
 }
 
@@ -105,7 +105,7 @@ Projection parse(const char* definition, double semiMajorAxis) {
         if (pieces.size() == 2)
             readItem(projection, pieces[0], pieces[1], semiMajorAxis);
     }
-    applyKind(projection, text, semiMajorAxis);
+    applyMethod(projection, text, semiMajorAxis);
     return projection;
 }
 
@@ -127,7 +127,7 @@ void writeEllipsoid(IDictionary* record, const ProjEllipsoid& ellipsoid) {
 }
 
 void writeProjection(IDictionary* record, const Projection& projection) {
-    dic_set_value(record, CoordParamKey::projectType, "%d", static_cast<int>(projection.kind));
+    dic_set_value(record, CoordParamKey::projectType, "%d", static_cast<int>(projection.method));
     dic_set_value(record, CoordParamKey::orgLon, "%f", projection.centralLongitude);
     dic_set_value(record, CoordParamKey::orgLat, "%f", projection.originLatitude);
     dic_set_value(record, CoordParamKey::falseNorth, "%f", projection.falseNorthing);

@@ -142,7 +142,7 @@ QString DefinitionTab::remark(const QByteArray& text) const {
         return PanelText::tr("Does not come back with an import of this form: %1.").arg(lost.join(", "));
     // GDAL and PROJ read the method with false easting and northing at the projection centre.
     if (dictionary_number(record(), CoordParamKey::projectType, 0.0) ==
-        double(ProjectionKind::ObliqueMercatorTwoPoints))
+        double(ProjectionMethod::ObliqueMercatorTwoPoints))
         return PanelText::tr("Other software may count easting and northing from the natural origin.");
     return QString();
 }

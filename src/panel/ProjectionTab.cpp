@@ -18,7 +18,7 @@
 ProjectionTab::ProjectionTab(CoordParamEditor& editor, bool readOnly, QWidget* parent)
     : ParamTab(editor, readOnly, parent)
     , problemLine(new MessageLine)
-    , kindBox(new ChoiceBox)
+    , methodBox(new ChoiceBox)
     , notationBox(new AngleNotationBox) {
     auto* grid = new QGridLayout(this);
     grid->setVerticalSpacing(1);
@@ -26,35 +26,35 @@ ProjectionTab::ProjectionTab(CoordParamEditor& editor, bool readOnly, QWidget* p
     const QMargins margins = grid->contentsMargins();
     grid->setContentsMargins(margins.left(), 0, margins.right(), margins.bottom());
     grid->addWidget(problemLine, 0, 0, 1, 4);
-    addKind(grid, 1);
+    addMethod(grid, 1);
     grid->setRowMinimumHeight(2, 10);
     const int line = addRows(grid, 3);
     grid->setRowStretch(line, 1);
     addNotation(grid, line + 1);
 }
 
-void ProjectionTab::addKind(QGridLayout* grid, int line) {
-    auto* label = new QLabel(PanelText::tr("Kind"));
-    label->setBuddy(kindBox);
-    kindBox->setAccessibleName(PanelText::tr("Kind of projection"));
-    kindBox->setPlaceholderText(PanelText::tr("Choose the kind"));
-    kindBox->setEnabled(!isReadOnly());
-    kindBox->setMaxVisibleItems(20);
-    kindBox->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    for (const ProjectionFields& kind : ProjectionFields::all())
-        kindBox->addItem(kind.nameText(), int(kind.kind));
-    connect(kindBox, SIGNAL(activated(int)), this, SLOT(_onKindActivated(int)));
+void ProjectionTab::addMethod(QGridLayout* grid, int line) {
+    auto* label = new QLabel(PanelText::tr("Method"));
+    label->setBuddy(methodBox);
+    methodBox->setAccessibleName(PanelText::tr("Projection method"));
+    methodBox->setPlaceholderText(PanelText::tr("Choose the method"));
+    methodBox->setEnabled(!isReadOnly());
+    methodBox->setMaxVisibleItems(20);
+    methodBox->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    for (const ProjectionFields& projection : ProjectionFields::all())
+        methodBox->addItem(projection.nameText(), int(projection.method));
+    connect(methodBox, SIGNAL(activated(int)), this, SLOT(_onMethodActivated(int)));
     grid->addWidget(label, line, 0);
-    grid->addWidget(kindBox, line, 1, 1, 3);
+    grid->addWidget(methodBox, line, 1, 1, 3);
 }
 
-/// As many rows as the kind with the most fields needs; gives the first free line.
+/// As many rows as the method with the most fields needs; gives the first free line.
 int ProjectionTab::addRows(QGridLayout* grid, int line) {
     size_t most = 0;
-    int widest = 0; // of all kinds' labels, so that the fields stand still when the kind changes
-    for (const ProjectionFields& kind : ProjectionFields::all()) {
-        most = std::max(most, kind.fields.size());
-        for (const ParamField& field : kind.fields)
+    int widest = 0; // of all methods' labels, so that the fields stand still when the method changes
+    for (const ProjectionFields& projection : ProjectionFields::all()) {
+        most = std::max(most, projection.fields.size());
+        for (const ParamField& field : projection.fields)
             widest = std::max(widest, fontMetrics().horizontalAdvance(field.labelText()));
     }
     grid->setColumnMinimumWidth(0, widest);
@@ -82,21 +82,21 @@ QString ProjectionTab::title() const {
 
 void ProjectionTab::showRecord() {
     notationBox->showNotation();
-    showKind();
+    showMethod();
     for (int i = 0; i < rows.size(); ++i) {
-        const bool used = shownKind && size_t(i) < shownKind->fields.size();
-        rows[i]->setField(used ? &shownKind->fields[size_t(i)] : nullptr);
+        const bool used = shownProjection && size_t(i) < shownProjection->fields.size();
+        rows[i]->setField(used ? &shownProjection->fields[size_t(i)] : nullptr);
         rows[i]->showValue();
     }
     showAdvice();
 }
 
-void ProjectionTab::showKind() {
-    shownKind = ProjectionFields::ofRecord(record());
-    // The code 0 also stands where no kind fits; then there is nothing to show before the user has chosen one.
-    if (ProjectionAdvice::fitsNoKind(record()))
-        shownKind = nullptr;
-    kindBox->setCurrentIndex(shownKind ? kindBox->findData(int(shownKind->kind)) : -1);
+void ProjectionTab::showMethod() {
+    shownProjection = ProjectionFields::ofRecord(record());
+    // The code 0 also stands where no method fits; then there is nothing to show before the user has chosen one.
+    if (ProjectionAdvice::fitsNoMethod(record()))
+        shownProjection = nullptr;
+    methodBox->setCurrentIndex(shownProjection ? methodBox->findData(int(shownProjection->method)) : -1);
 }
 
 void ProjectionTab::showAdvice() {
@@ -104,15 +104,15 @@ void ProjectionTab::showAdvice() {
     problemLine->setMessage(problem, MessageLine::Tone::Error);
     for (FieldRow* row : qAsConst(rows)) {
         if (row->field())
-            row->setWarning(ProjectionAdvice::warning(*shownKind, *row->field(), record()));
+            row->setWarning(ProjectionAdvice::warning(*shownProjection, *row->field(), record()));
     }
 }
 
-void ProjectionTab::_onKindActivated(int index) {
-    const auto kind = ProjectionKind(kindBox->itemData(index).toInt());
-    if (shownKind && shownKind->kind == kind)
+void ProjectionTab::_onMethodActivated(int index) {
+    const auto method = ProjectionMethod(methodBox->itemData(index).toInt());
+    if (shownProjection && shownProjection->method == method)
         return;
-    editor().setKind(kind);
+    editor().setMethod(method);
     showRecord();
     recordChanged();
 }
@@ -124,8 +124,8 @@ void ProjectionTab::_onNotationChosen() {
 }
 
 void ProjectionTab::_onEdited() {
-    // A scale factor makes the one transverse Mercator kind of the other; their fields are the same.
-    showKind();
+    // A scale factor makes the one transverse Mercator method of the other; their fields are the same.
+    showMethod();
     showAdvice();
     recordChanged();
 }

@@ -11,7 +11,7 @@ class MessageLine;
 class QGridLayout;
 struct ProjectionFields;
 
-/// The tab "Projection": the kind and the fields of that kind.
+/// The tab "Projection": the method and the fields of that method.
 class ProjectionTab : public ParamTab {
     Q_OBJECT
 
@@ -24,20 +24,20 @@ protected:
     void showRecord() override;
 
 private Q_SLOTS:
-    void _onKindActivated(int index);
+    void _onMethodActivated(int index);
     void _onNotationChosen();
     void _onEdited();
 
 private:
-    void addKind(QGridLayout* grid, int line);
+    void addMethod(QGridLayout* grid, int line);
     int addRows(QGridLayout* grid, int line);
     void addNotation(QGridLayout* grid, int line);
-    void showKind();
+    void showMethod();
     void showAdvice();
 
     MessageLine* problemLine;
-    ChoiceBox* kindBox;
+    ChoiceBox* methodBox;
     AngleNotationBox* notationBox;
     QVector<FieldRow*> rows;
-    const ProjectionFields* shownKind = nullptr;
+    const ProjectionFields* shownProjection = nullptr;
 };

@@ -19,7 +19,7 @@
 using namespace CoordParamKey;
 
 Q_DECLARE_METATYPE(AngleRole)
-Q_DECLARE_METATYPE(ProjectionKind)
+Q_DECLARE_METATYPE(ProjectionMethod)
 
 namespace {
 
@@ -55,11 +55,11 @@ DictionaryGuard fresh() {
 }
 
 /// What an import writes.
-DictionaryGuard imported(ProjectionKind kind) {
+DictionaryGuard imported(ProjectionMethod method) {
     DictionaryGuard record = fresh();
-    dic_set_value(record.get(), projectType, "%d", int(kind));
+    dic_set_value(record.get(), projectType, "%d", int(method));
     dic_set_value(record.get(), shiftType, "%d", 2);
-    dic_set_value(record.get(), factor, "%f", kind == ProjectionKind::TransverseMercator ? 1.0 : 0.9999);
+    dic_set_value(record.get(), factor, "%f", method == ProjectionMethod::TransverseMercator ? 1.0 : 0.9999);
     dic_set_value(record.get(), cuttingRadius, "%f", 6378137.0 * std::cos(30 * degree));
     const QByteArray numbers =
         "org_lon=9.1234567890123 org_lat=49.83333333333334 false_north=0 false_east=500000 parallel_1_lat=46.3 "
@@ -73,13 +73,13 @@ DictionaryGuard imported(ProjectionKind kind) {
     return record;
 }
 
-void chooseKind(const PanelOnScreen& screen, ProjectionKind kind) {
-    const auto* box = screen.find<QComboBox>("Kind of projection");
-    screen.choose("Kind of projection", box->findData(int(kind)));
+void chooseMethod(const PanelOnScreen& screen, ProjectionMethod method) {
+    const auto* box = screen.find<QComboBox>("Projection method");
+    screen.choose("Projection method", box->findData(int(method)));
 }
 
-int shownKind(const PanelOnScreen& screen) {
-    return screen.find<QComboBox>("Kind of projection")->currentData().toInt();
+int shownMethod(const PanelOnScreen& screen) {
+    return screen.find<QComboBox>("Projection method")->currentData().toInt();
 }
 
 } // namespace
@@ -101,11 +101,11 @@ using RefusesAngles = Rows<AngleRole>;
 using FormatsAngles = Rows<double, QString, QString>;
 using ReadsNumbers = Rows<QString>;
 using GivesBackUneditedRecord = Rows<int>;
-using EditsEveryField = Rows<ProjectionKind, int>;
-using DefinesFreshSystem = Rows<ProjectionKind>;
-using KeepsTrueScaleParallel = Rows<ProjectionKind, double, double>;
+using EditsEveryField = Rows<ProjectionMethod, int>;
+using DefinesFreshSystem = Rows<ProjectionMethod>;
+using KeepsTrueScaleParallel = Rows<ProjectionMethod, double, double>;
 using KeepsLastGoodValue = Rows<int, QByteArray, QString, QString, QString>;
-using SaysWhatIsWrong = Rows<ProjectionKind, QByteArrayList, QString>;
+using SaysWhatIsWrong = Rows<ProjectionMethod, QByteArrayList, QString>;
 using FitsItsWindow = Rows<bool>;
 
 class PanelEditingTest : public QObject {
@@ -191,22 +191,22 @@ private Q_SLOTS:
     }
 
     void givesBackUneditedRecord_data() {
-        // kind: -1: a fresh one, -2: odd texts, -3: nothing
+        // method: -1: a fresh one, -2: odd texts, -3: nothing
         const GivesBackUneditedRecord row;
-        for (const ProjectionFields& kind : ProjectionFields::all())
-            row(kind.name, int(kind.kind));
+        for (const ProjectionFields& projection : ProjectionFields::all())
+            row(projection.name, int(projection.method));
         row("fresh", -1);
         row("odd texts", -2);
         row("empty", -3);
     }
 
     void givesBackUneditedRecord() {
-        const auto [kind] = GivesBackUneditedRecord::current();
-        const DictionaryGuard record = kind >= 0    ? imported(ProjectionKind(kind))
-                                       : kind == -1 ? fresh()
-                                       : kind == -2 ? imported(ProjectionKind::LambertTwoParallels)
-                                                    : DictionaryGuard();
-        if (kind == -2) {
+        const auto [method] = GivesBackUneditedRecord::current();
+        const DictionaryGuard record = method >= 0    ? imported(ProjectionMethod(method))
+                                       : method == -1 ? fresh()
+                                       : method == -2 ? imported(ProjectionMethod::LambertTwoParallels)
+                                                      : DictionaryGuard();
+        if (method == -2) {
             for (const char* key : {ellipsoidA, orgLat, factor, parallel1Lat, shiftRx, cuttingRadius, geoidName})
                 record->setText(key, "1,5 \xe2\x82\xac %s");
             record->setText(orgLon, "  +0009.50 ");
@@ -237,22 +237,22 @@ private Q_SLOTS:
 
     void editsEveryField_data() {
         const EditsEveryField row;
-        for (const ProjectionFields& kind : ProjectionFields::all()) {
-            for (size_t i = 0; i < kind.fields.size(); ++i)
-                QTest::addRow("%d %s", int(kind.kind), kind.fields[i].key) << kind.kind << int(i);
+        for (const ProjectionFields& projection : ProjectionFields::all()) {
+            for (size_t i = 0; i < projection.fields.size(); ++i)
+                QTest::addRow("%d %s", int(projection.method), projection.fields[i].key) << projection.method << int(i);
         }
     }
 
     void editsEveryField() {
-        const auto [kind, index] = EditsEveryField::current();
-        const ProjectionFields* fields = ProjectionFields::find(int(kind));
+        const auto [method, index] = EditsEveryField::current();
+        const ProjectionFields* fields = ProjectionFields::find(int(method));
         const ParamField& field = fields->fields[size_t(index)];
-        const DictionaryGuard record = imported(kind);
-        if (kind == ProjectionKind::Stereographic)
+        const DictionaryGuard record = imported(method);
+        if (method == ProjectionMethod::Stereographic)
             dic_set_value(record.get(), factor, "%f", 1.0);
         const QStringList before = recordText(*record);
         PanelOnScreen screen(*record);
-        QCOMPARE(shownKind(screen), int(kind));
+        QCOMPARE(shownMethod(screen), int(method));
 
         // The field stands where the table says, with its unit, and shows the record's number with all its digits.
         const bool isScale = field.quantity == Quantity::ScaleFactor;
@@ -270,7 +270,7 @@ private Q_SLOTS:
         // Every keystroke is in the record at once, but "0" and "0.", "-", and what leaves a computed radius as it is.
         QCOMPARE(screen.edits.count(), typed.size() - (isScale || isParallel ? 2 : typed.startsWith('-') ? 1 : 0));
         QStringList expected(field.key);
-        if (kind == ProjectionKind::TransverseMercator && isScale)
+        if (method == ProjectionMethod::TransverseMercator && isScale)
             expected << projectType;
         expected.sort();
         QCOMPARE(changedKeys(before, screen.record()), expected);
@@ -291,14 +291,14 @@ private Q_SLOTS:
 
     void definesFreshSystem_data() {
         const DefinesFreshSystem row;
-        for (const ProjectionFields& kind : ProjectionFields::all())
-            row(kind.name, kind.kind);
+        for (const ProjectionFields& projection : ProjectionFields::all())
+            row(projection.name, projection.method);
     }
 
     void definesFreshSystem() {
-        const auto [kind] = DefinesFreshSystem::current();
+        const auto [method] = DefinesFreshSystem::current();
         PanelOnScreen screen(*fresh());
-        // As created, as the import writes a definition that fits no kind, and without even an ellipsoid.
+        // As created, as the import writes a definition that fits no method, and without even an ellipsoid.
         for (int state = 0; state < 3; ++state) {
             const DictionaryGuard record = state < 2 ? fresh() : DictionaryGuard();
             if (state == 1) {
@@ -311,7 +311,7 @@ private Q_SLOTS:
             QVERIFY(!coordParamDefinesProjection(screen.record()));
             QCOMPARE(screen.messages().size(), 1);
             QVERIFY(!screen.field("False easting"));
-            chooseKind(screen, kind);
+            chooseMethod(screen, method);
             QCOMPARE(screen.edits.count(), 1);
             if (state == 2) {
                 screen.panel.setCurrentIndex(PanelOnScreen::Ellipsoid);
@@ -319,20 +319,20 @@ private Q_SLOTS:
             }
             QVERIFY(coordParamDefinesProjection(screen.record()));
             QCOMPARE(ProjectionAdvice::problem(screen.record()), QString());
-            QCOMPARE(screen.number(projectType), double(kind));
-            const ParamField* scale = ProjectionFields::find(int(kind))->field(factor);
+            QCOMPARE(screen.number(projectType), double(method));
+            const ParamField* scale = ProjectionFields::find(int(method))->field(factor);
             if (scale && !scale->optional)
-                QCOMPARE(screen.number(factor), kind == ProjectionKind::TransverseMercatorScaled ? 0.9996 : 1.0);
+                QCOMPARE(screen.number(factor), method == ProjectionMethod::TransverseMercatorScaled ? 0.9996 : 1.0);
         }
     }
 
     void definesByItsFields_data() { definesFreshSystem_data(); }
 
-    /// The keys that the kind's fields write are those that make its definition, and no others.
+    /// The keys that the method's fields write are those that make its definition, and no others.
     void definesByItsFields() {
-        const auto [kind] = DefinesFreshSystem::current();
-        const DictionaryGuard record = imported(kind);
-        if (kind == ProjectionKind::Stereographic) {
+        const auto [method] = DefinesFreshSystem::current();
+        const DictionaryGuard record = imported(method);
+        if (method == ProjectionMethod::Stereographic) {
             record->setText(orgLat, "90");
             record->setText(factor, "1");
         }
@@ -349,35 +349,35 @@ private Q_SLOTS:
         }
     }
 
-    void keepsValuesOfOtherKinds() {
-        const DictionaryGuard record = imported(ProjectionKind::MercatorStandardParallel);
+    void keepsValuesOfOtherMethods() {
+        const DictionaryGuard record = imported(ProjectionMethod::MercatorStandardParallel);
         const QStringList before = recordText(*record);
         PanelOnScreen screen(*record);
-        for (const ProjectionFields& kind : ProjectionFields::all())
-            chooseKind(screen, kind.kind);
-        chooseKind(screen, ProjectionKind::Mercator);
+        for (const ProjectionFields& projection : ProjectionFields::all())
+            chooseMethod(screen, projection.method);
+        chooseMethod(screen, ProjectionMethod::Mercator);
         QCOMPARE(screen.number(cuttingRadius), 6378137.0);
-        chooseKind(screen, ProjectionKind::TransverseMercator);
+        chooseMethod(screen, ProjectionMethod::TransverseMercator);
         QCOMPARE(screen.value(factor), "1.000000");
-        chooseKind(screen, ProjectionKind::TransverseMercatorScaled);
+        chooseMethod(screen, ProjectionMethod::TransverseMercatorScaled);
         QCOMPARE(screen.shown("Scale factor"), QString("0.9999"));
-        chooseKind(screen, ProjectionKind::MercatorStandardParallel);
+        chooseMethod(screen, ProjectionMethod::MercatorStandardParallel);
         QCOMPARE(recordText(screen.record()), before);
 
         // What was typed under another kind stays typed.
-        chooseKind(screen, ProjectionKind::TransverseMercator);
+        chooseMethod(screen, ProjectionMethod::TransverseMercator);
         screen.type("Scale factor", "0.9997");
-        chooseKind(screen, ProjectionKind::Mercator);
+        chooseMethod(screen, ProjectionMethod::Mercator);
         QCOMPARE(screen.shown("Scale factor"), QString("0.9997"));
     }
 
     void followsScaleFactor() {
-        PanelOnScreen screen(*imported(ProjectionKind::TransverseMercator));
+        PanelOnScreen screen(*imported(ProjectionMethod::TransverseMercator));
         const QList<QPair<QString, int>> steps = {{"0.9996", 1}, {"1", 0}, {"1.0000", 0}, {"1.00002", 1}, {"x", 1}};
         for (const auto& step : steps) {
             screen.type("Scale factor", step.first);
             QCOMPARE(screen.value(projectType), QByteArray::number(step.second).constData());
-            QCOMPARE(shownKind(screen), step.second);
+            QCOMPARE(shownMethod(screen), step.second);
             QVERIFY(coordParamDefinesProjection(screen.record()));
         }
         QCOMPARE(screen.value(factor), "1.00002");
@@ -385,23 +385,23 @@ private Q_SLOTS:
 
     void keepsTrueScaleParallel_data() {
         const KeepsTrueScaleParallel row;
-        row("Mercator", ProjectionKind::MercatorStandardParallel, 0.0, 41.0);
-        row("Mercator, all digits", ProjectionKind::MercatorStandardParallel, 0.0, 20.123456789012);
-        row("Mercator, near the equator", ProjectionKind::MercatorStandardParallel, 0.0, 0.5);
-        row("North pole", ProjectionKind::Stereographic, 90.0, 71.0);
-        row("South pole", ProjectionKind::Stereographic, -90.0, -71.0);
-        row("plain Mercator", ProjectionKind::Mercator, 0.0, 0.0);
+        row("Mercator", ProjectionMethod::MercatorStandardParallel, 0.0, 41.0);
+        row("Mercator, all digits", ProjectionMethod::MercatorStandardParallel, 0.0, 20.123456789012);
+        row("Mercator, near the equator", ProjectionMethod::MercatorStandardParallel, 0.0, 0.5);
+        row("North pole", ProjectionMethod::Stereographic, 90.0, 71.0);
+        row("South pole", ProjectionMethod::Stereographic, -90.0, -71.0);
+        row("plain Mercator", ProjectionMethod::Mercator, 0.0, 0.0);
     }
 
     void keepsTrueScaleParallel() {
-        const auto [kind, latitude, parallel] = KeepsTrueScaleParallel::current();
+        const auto [method, latitude, parallel] = KeepsTrueScaleParallel::current();
         PanelOnScreen screen(*fresh());
-        chooseKind(screen, kind);
-        if (kind == ProjectionKind::Stereographic) {
+        chooseMethod(screen, method);
+        if (method == ProjectionMethod::Stereographic) {
             QCOMPARE(screen.shown("Standard parallel"), QString());
             screen.type("Latitude of origin", QString::number(latitude));
         }
-        if (kind != ProjectionKind::Mercator)
+        if (method != ProjectionMethod::Mercator)
             screen.type("Standard parallel", QString::number(parallel, 'g', 15));
         const double cosine = std::cos(parallel * degree);
         QVERIFY(qAbs(screen.number(cuttingRadius) - 6378137.0 * cosine) < 1e-8);
@@ -415,11 +415,11 @@ private Q_SLOTS:
         Q_EMIT screen.find<SearchBox>("Ellipsoid")->chosen("WGS 84");
         QVERIFY(qAbs(screen.number(cuttingRadius) - 6378137.0 * cosine) < 1e-8);
         screen.panel.setCurrentIndex(PanelOnScreen::Projection);
-        if (kind != ProjectionKind::Mercator)
+        if (method != ProjectionMethod::Mercator)
             QCOMPARE(screen.shown("Standard parallel"), QString::number(parallel, 'g', 15));
         QVERIFY(coordParamDefinesProjection(screen.record()));
 
-        if (kind == ProjectionKind::Stereographic) {
+        if (method == ProjectionMethod::Stereographic) {
             screen.type("Standard parallel", "");
             QCOMPARE(screen.number(cuttingRadius), 0.0);
         }
@@ -434,7 +434,7 @@ private Q_SLOTS:
 
     void keepsLastGoodValue() {
         const auto [tab, label, good, bad, range] = KeepsLastGoodValue::current();
-        const DictionaryGuard record = imported(ProjectionKind::LambertTwoParallels);
+        const DictionaryGuard record = imported(ProjectionMethod::LambertTwoParallels);
         PanelOnScreen screen(*record, PanelOnScreen::Tab(tab));
         QLineEdit* edit = screen.type(label, good);
         QCOMPARE(screen.messages().filter(range), QStringList());
@@ -467,13 +467,13 @@ private Q_SLOTS:
     void saysWhatIsWrong_data() {
         const SaysWhatIsWrong row;
         for (const QByteArrayList& line : textTable("problems.txt"))
-            row(line[0], ProjectionKind(line[1].toInt()), line[2].split(' '), line[3]);
+            row(line[0], ProjectionMethod(line[1].toInt()), line[2].split(' '), line[3]);
     }
 
     void saysWhatIsWrong() {
-        const auto [kind, values, message] = SaysWhatIsWrong::current();
-        const DictionaryGuard record = imported(kind);
-        if (kind == ProjectionKind::LambertOneParallel)
+        const auto [method, values, message] = SaysWhatIsWrong::current();
+        const DictionaryGuard record = imported(method);
+        if (method == ProjectionMethod::LambertOneParallel)
             record->setText(orgLat, "46.3");
         for (const QByteArray& item : values) {
             const QByteArray key = item.split('=').first();
@@ -491,7 +491,7 @@ private Q_SLOTS:
     }
 
     void showsAnglesAsChosen() {
-        const DictionaryGuard record = imported(ProjectionKind::TransverseMercator);
+        const DictionaryGuard record = imported(ProjectionMethod::TransverseMercator);
         PanelOnScreen screen(*record);
         QLineEdit* meridian = screen.type("Central meridian", "117 30 00.5");
         QVERIFY(screen.messages().contains("= 117°30'00.5\""));
@@ -516,7 +516,7 @@ private Q_SLOTS:
     }
 
     void showsAllDigits() {
-        const DictionaryGuard record = imported(ProjectionKind::TransverseMercator);
+        const DictionaryGuard record = imported(ProjectionMethod::TransverseMercator);
         dic_set_value(record.get(), ellipsoidF, "%f", 298.257223563);
         record->setText(falseNorth, "12.500000");
         record->setText(falseEast, "500000.50");
@@ -533,7 +533,7 @@ private Q_SLOTS:
     }
 
     void choosesEllipsoid() {
-        const DictionaryGuard record = imported(ProjectionKind::TransverseMercator);
+        const DictionaryGuard record = imported(ProjectionMethod::TransverseMercator);
         record->setText(ellipsoidName, "Ours");
         PanelOnScreen screen(*record, PanelOnScreen::Ellipsoid);
         auto* box = screen.find<SearchBox>("Ellipsoid");
@@ -565,7 +565,7 @@ private Q_SLOTS:
     }
 
     void searchesEllipsoid() {
-        PanelOnScreen screen(*imported(ProjectionKind::TransverseMercator), PanelOnScreen::Ellipsoid);
+        PanelOnScreen screen(*imported(ProjectionMethod::TransverseMercator), PanelOnScreen::Ellipsoid);
         auto* box = screen.find<SearchBox>("Ellipsoid");
         const auto found = [box] { return box->completer()->completionModel()->rowCount(); };
         const auto search = [box](const QString& typed) {
@@ -640,7 +640,7 @@ private Q_SLOTS:
     }
 
     void choosesGeoid() {
-        const DictionaryGuard record = imported(ProjectionKind::TransverseMercator);
+        const DictionaryGuard record = imported(ProjectionMethod::TransverseMercator);
         const QStringList before = recordText(*record);
         PanelOnScreen screen(*record, PanelOnScreen::Height);
         auto* box = screen.find<SearchBox>("Geoid model");
@@ -664,10 +664,10 @@ private Q_SLOTS:
 
     void takesOverValues() {
         CoordParamEditor editor;
-        editor.setRecord(*imported(ProjectionKind::TransverseMercator));
+        editor.setRecord(*imported(ProjectionMethod::TransverseMercator));
         const DictionaryGuard values;
 
-        // A better scale factor makes the other kind of it.
+        // A better scale factor makes the other method of it.
         dic_set_value(values.get(), factor, "%f", 0.99987654321);
         QStringList before = recordText(editor.record());
         editor.replaceValues(*values);
@@ -675,7 +675,7 @@ private Q_SLOTS:
         QCOMPARE(dictionary_number(editor.record(), factor, 0), 0.99987654321);
 
         // A whole definition: the name and foreign keys stay, the shift that it lacks goes.
-        dictionary_assign(values.get(), imported(ProjectionKind::LambertTwoParallels).get());
+        dictionary_assign(values.get(), imported(ProjectionMethod::LambertTwoParallels).get());
         for (const ParamField& field : DatumFields::shift())
             values->remove(field.key);
         dic_set_value(values.get(), shiftType, "%d", 0);
@@ -689,7 +689,7 @@ private Q_SLOTS:
     }
 
     void refusesEditsWhenReadOnly() {
-        const DictionaryGuard record = imported(ProjectionKind::TransverseMercator);
+        const DictionaryGuard record = imported(ProjectionMethod::TransverseMercator);
         PanelOnScreen screen(*record, PanelOnScreen::Ellipsoid, true);
         for (int tab = 0; tab < 4; ++tab) {
             screen.show(*record, tab);
@@ -708,10 +708,10 @@ private Q_SLOTS:
 
     void goesThroughFieldsByTab() {
         PanelOnScreen screen(*fresh());
-        for (const ProjectionFields& kind : ProjectionFields::all()) {
-            screen.show(*imported(kind.kind), PanelOnScreen::Projection);
-            screen.find<QComboBox>("Kind of projection")->setFocus();
-            for (const ParamField& field : kind.fields) {
+        for (const ProjectionFields& projection : ProjectionFields::all()) {
+            screen.show(*imported(projection.method), PanelOnScreen::Projection);
+            screen.find<QComboBox>("Projection method")->setFocus();
+            for (const ParamField& field : projection.fields) {
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
                 QCOMPARE(QApplication::focusWidget()->accessibleName(), DlgCoordParam::tr(field.label));
             }
@@ -743,10 +743,10 @@ private Q_SLOTS:
             const auto* area = screen.panel.currentWidget()->findChild<QScrollArea*>();
             return area->horizontalScrollBar()->maximum() == 0 && area->verticalScrollBar()->maximum() == 0;
         };
-        for (const ProjectionFields& kind : ProjectionFields::all()) {
+        for (const ProjectionFields& projection : ProjectionFields::all()) {
             for (int tab = 0; tab < 4; ++tab) {
-                screen.show(*imported(kind.kind), tab);
-                QVERIFY2(needsNoScrolling(), qPrintable(QString("%1, tab %2").arg(kind.name).arg(tab)));
+                screen.show(*imported(projection.method), tab);
+                QVERIFY2(needsNoScrolling(), qPrintable(QString("%1, tab %2").arg(projection.name).arg(tab)));
             }
         }
         QApplication::setFont(usual);

@@ -116,7 +116,7 @@ private Q_SLOTS:
             for (const SampleRecord& sample : SampleRecord::all())
                 // ESRI's Mercator has a parallel of true scale in place of a factor: the same grid, another kind.
                 add(sample, isEsri && sample.title == "British grid" ? QStringList{"the datum shift"}
-                            : isEsri && sample.title == "Mercator"   ? QStringList{"the kind of projection"}
+                            : isEsri && sample.title == "Mercator"   ? QStringList{"the projection method"}
                                                                      : QStringList());
             SampleRecord odd = SampleRecord::named("UTM").with("name", "Bär's grid [1:1000] 100%");
             odd.title = "odd name";
@@ -156,10 +156,10 @@ private Q_SLOTS:
         row("factor=0.9996012718", "factor", "0.9996012718", "Scale factor");
         row("org_lon=-2.00000001", "org_lon", "-2.00000001", "Central meridian");
         row("org_lon=-2.0000000000001", "org_lon", "-2.0000000000001", {});
-        row("project_type=7", "project_type", "7", "the kind of projection");
+        row("project_type=7", "project_type", "7", "the projection method");
         row("_7ry=0", "_7ry", "0", "the datum shift");
         row("_7type=0", "_7type", "0", "the datum shift");
-        row("lat1=7", "lat1", "7", {}); // no value of this kind
+        row("lat1=7", "lat1", "7", {}); // no value of this method
     }
 
     void differencesAreNamed() {
@@ -667,7 +667,7 @@ private Q_SLOTS:
         });
         screen.find<QPushButton>("From registry...")->click();
         QVERIFY(!enabled);
-        QVERIFY(texts.join('\n').contains("None of the kinds holds this projection exactly"));
+        QVERIFY(texts.join('\n').contains("None of the methods holds this projection exactly"));
     }
 };
 

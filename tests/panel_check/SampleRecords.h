@@ -5,7 +5,7 @@
 #include <QByteArray>
 #include <QVector>
 
-/// One system of every kind, and of every way to state a kind's scale, for tests that must hold for all.
+/// One system of every method, and of every way to state a method's scale, for tests that must hold for all.
 struct SampleRecord {
     QByteArray title;
     QVector<QPair<QByteArray, QByteArray>> values;

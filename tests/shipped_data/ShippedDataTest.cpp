@@ -121,8 +121,8 @@ private Q_SLOTS:
         // figures: longitude, latitude, factor, easting, northing, parallels
         const SystemFigures row;
 
-        const int scaled = int(ProjectionKind::TransverseMercatorScaled);
-        const int lambert = int(ProjectionKind::LambertTwoParallels);
+        const int scaled = int(ProjectionMethod::TransverseMercatorScaled);
+        const int lambert = int(ProjectionMethod::LambertTwoParallels);
         // NGA.SIG.0012, the UTM grids
         row("WGS 84 / UTM zone 32N", "WGS 84 / UTM North", scaled, {9, 0, 0.9996, 500000, 0});
         row("WGS 84 / UTM zone 33S", "WGS 84 / UTM South", scaled, {15, 0, 0.9996, 500000, 10000000});
@@ -130,13 +130,13 @@ private Q_SLOTS:
         row("OSGB36 / British National Grid", "Great Britain and Ireland", scaled,
             {-2, 49, 0.9996012717, 400000, -100000});
         // IOGP 373-7-2, the example of the double stereographic projection
-        row("Amersfoort / RD New", "Europe / National Grids", int(ProjectionKind::ObliqueStereographic),
+        row("Amersfoort / RD New", "Europe / National Grids", int(ProjectionMethod::ObliqueStereographic),
             {5.38763888888889, 52.1561605555556, 0.9999079, 155000, 463000});
         // IGN, Systèmes de référence
         row("RGF93 v2b / Lambert-93", "France", lambert, {3, 46.5, 1, 700000, 6600000, 49, 44});
         // GB/T 17798-2007, zones of 3 degrees
         row("CGCS2000 / 3-degree Gauss-Kruger zone 39", "CGCS2000 / 3-degree Gauss-Kruger",
-            int(ProjectionKind::TransverseMercator), {117, 0, 1, 39500000, 0});
+            int(ProjectionMethod::TransverseMercator), {117, 0, 1, 39500000, 0});
         // LINZS25002
         row("NZGD2000 / New Zealand Transverse Mercator 2000", "New Zealand", scaled,
             {173, 0, 0.9996, 1600000, 10000000});
@@ -148,11 +148,11 @@ private Q_SLOTS:
     }
 
     void systemFigures() {
-        auto [group, kind, figures] = SystemFigures::current();
+        auto [group, method, figures] = SystemFigures::current();
         const CoordSysGroup* found = systems.groups.find(group);
         const CatalogueRecord* system = found ? found->systems.find(QTest::currentDataTag()) : nullptr;
         QVERIFY(system);
-        QCOMPARE(static_cast<int>(number(*system, CoordParamKey::projectType)), kind);
+        QCOMPARE(static_cast<int>(number(*system, CoordParamKey::projectType)), method);
         const char* keys[] = {CoordParamKey::orgLon,      CoordParamKey::orgLat,     CoordParamKey::factor,
                               CoordParamKey::falseEast,   CoordParamKey::falseNorth, CoordParamKey::parallel1Lat,
                               CoordParamKey::parallel2Lat};

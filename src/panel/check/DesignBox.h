@@ -25,7 +25,7 @@ public:
     /// Whether to propose the line as well.
     bool placesLine() const;
 
-    /// Shows a proposal, or that there is none. `possible` says whether the kind has a scale factor to choose, `line`
+    /// Shows a proposal, or that there is none. `possible` says whether the method has a scale factor to choose, `line`
     /// which line it can place (may be null).
     void showProposal(bool possible, const ParamField* line, const std::optional<DesignProposal>& proposal);
 

@@ -117,22 +117,22 @@ void placeBestLine(CoordParamEditor& editor, const ParamField& line, const QVect
 } // namespace
 
 bool DesignProposal::isPossible(const IDictionary& record) {
-    const ProjectionFields* const kind = ProjectionFields::ofRecord(record);
-    if (!kind || !kind->field(factor))
+    const ProjectionFields* const projection = ProjectionFields::ofRecord(record);
+    if (!projection || !projection->field(factor))
         return false;
-    return kind->kind != ProjectionKind::Stereographic || !TrueScaleParallel::ofRecord(record);
+    return projection->method != ProjectionMethod::Stereographic || !TrueScaleParallel::ofRecord(record);
 }
 
 const ParamField* DesignProposal::lineField(const IDictionary& record) {
-    const ProjectionFields* const kind = ProjectionFields::ofRecord(record);
-    if (!kind)
+    const ProjectionFields* const projection = ProjectionFields::ofRecord(record);
+    if (!projection)
         return nullptr;
-    switch (kind->kind) {
-    case ProjectionKind::TransverseMercator:
-    case ProjectionKind::TransverseMercatorScaled:
-        return kind->field(orgLon);
-    case ProjectionKind::LambertOneParallel:
-        return kind->field(parallel1Lat);
+    switch (projection->method) {
+    case ProjectionMethod::TransverseMercator:
+    case ProjectionMethod::TransverseMercatorScaled:
+        return projection->field(orgLon);
+    case ProjectionMethod::LambertOneParallel:
+        return projection->field(parallel1Lat);
     default:
         return nullptr;
     }
@@ -150,17 +150,17 @@ std::optional<DesignProposal> DesignProposal::make(const IDictionary& record, IG
     const ParamField* const line = placeLine ? lineField(record) : nullptr;
     if (line)
         placeBestLine(editor, *line, points, trial);
-    const ProjectionFields& kind = *ProjectionFields::ofRecord(record);
+    const ProjectionFields& projection = *ProjectionFields::ofRecord(record);
     // A cone that starts on its parallel goes on doing so.
-    if (line && kind.kind == ProjectionKind::LambertOneParallel &&
+    if (line && projection.method == ProjectionMethod::LambertOneParallel &&
         dictionary_number(record, orgLat, 0.0) == dictionary_number(record, parallel1Lat, 1.0))
-        put(editor, *kind.field(orgLat), dictionary_number(editor.record(), parallel1Lat, 0.0));
+        put(editor, *projection.field(orgLat), dictionary_number(editor.record(), parallel1Lat, 0.0));
 
     const auto range = trial.scales(editor.record());
     if (!range)
         return std::nullopt;
     const double present = dictionary_number(record, factor, 1.0);
-    put(editor, *kind.field(factor), rounded(2.0 * present / (range->smallest + range->largest), 7));
+    put(editor, *projection.field(factor), rounded(2.0 * present / (range->smallest + range->largest), 7));
     const auto after = trial.ppm(editor.record());
     if (!after)
         return std::nullopt;
@@ -168,7 +168,7 @@ std::optional<DesignProposal> DesignProposal::make(const IDictionary& record, IG
     DesignProposal proposal;
     proposal.rangeBefore = *before;
     proposal.rangeAfter = *after;
-    for (const ParamField& field : kind.fields) {
+    for (const ParamField& field : projection.fields) {
         const double old = dictionary_number(record, field.key, 0.0);
         const double proposed = dictionary_number(editor.record(), field.key, 0.0);
         if (old != proposed)

@@ -10,7 +10,7 @@ class CoordParamEditor;
 class IDictionary;
 struct ParamField;
 
-/// A better scale factor for an area at a mean height, and, where the kind has one line of constant scale to place
+/// A better scale factor for an area at a mean height, and, where the method has one line of constant scale to place
 /// (transverse Mercator: the central meridian; Lambert with one parallel: the parallel), a better line.
 ///
 /// Method: of all values, those whose largest distortion over the area is smallest (Chebyshev's criterion, 1856). With
@@ -34,7 +34,7 @@ public:
         double largest;
     };
 
-    /// Whether the kind has a scale factor to choose. A polar stereographic one with a standard parallel has none.
+    /// Whether the method has a scale factor to choose. A polar stereographic one with a standard parallel has none.
     static bool isPossible(const IDictionary& record);
 
     /// Proposes for `points` (one or more, on the system's datum; their heights play no part) at the ellipsoidal height

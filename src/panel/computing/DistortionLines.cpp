@@ -31,18 +31,18 @@ DistortionLines::Line draw(const IProjectedSystem& system, const DistortionArea&
     return visible ? line : DistortionLines::Line();
 }
 
-/// The latitudes of true scale (or of the scale factor) that the kind states.
-std::vector<double> standardLatitudes(const IDictionary& record, const ProjectionFields& kind) {
+/// The latitudes of true scale (or of the scale factor) that the method states.
+std::vector<double> standardLatitudes(const IDictionary& record, const ProjectionFields& projection) {
     std::vector<double> latitudes;
     for (const char* key : {CoordParamKey::parallel1Lat, CoordParamKey::parallel2Lat}) {
-        if (kind.field(key))
+        if (projection.field(key))
             latitudes.push_back(dictionary_number(record, key, 0.0));
     }
     const auto trueScale =
-        kind.field(CoordParamKey::cuttingRadius) ? TrueScaleParallel::ofRecord(record) : std::nullopt;
+        projection.field(CoordParamKey::cuttingRadius) ? TrueScaleParallel::ofRecord(record) : std::nullopt;
     if (!trueScale)
         return latitudes;
-    if (kind.kind == ProjectionKind::MercatorStandardParallel) {
+    if (projection.method == ProjectionMethod::MercatorStandardParallel) {
         latitudes.push_back(*trueScale);
         latitudes.push_back(-*trueScale);
     } else if (std::abs(dictionary_number(record, CoordParamKey::orgLat, 0.0)) == 90.0) {
@@ -55,17 +55,17 @@ std::vector<double> standardLatitudes(const IDictionary& record, const Projectio
 
 DistortionLines::DistortionLines(const IDictionary& record, const IProjectedSystem& system,
                                  const DistortionArea& area) {
-    const ProjectionFields* const kind = ProjectionFields::ofRecord(record);
+    const ProjectionFields* const projection = ProjectionFields::ofRecord(record);
     const double centre = dictionary_number(record, CoordParamKey::orgLon, 0.0);
     const auto seen = extent(system, area, centre);
-    if (!kind || !seen)
+    if (!projection || !seen)
         return;
-    const bool isOblique = kind->kind == ProjectionKind::ObliqueMercatorAzimuth;
-    if (kind->field(CoordParamKey::orgLon) && !isOblique)
+    const bool isOblique = projection->method == ProjectionMethod::ObliqueMercatorAzimuth;
+    if (projection->field(CoordParamKey::orgLon) && !isOblique)
         meridian = draw(system, area, [&](double part) {
             return GeographicPoint{seen->south + (seen->north - seen->south) * part, centre, 0.0};
         });
-    for (const double latitude : standardLatitudes(record, *kind)) {
+    for (const double latitude : standardLatitudes(record, *projection)) {
         Line parallel = draw(system, area, [&](double part) {
             return GeographicPoint{latitude, seen->west + (seen->east - seen->west) * part, 0.0};
         });
@@ -80,11 +80,11 @@ GridPoint DistortionLines::origin(const IDictionary& record) {
 }
 
 std::optional<GridPoint> DistortionLines::middleOfParallels(const IDictionary& record, const IProjectedSystem& system) {
-    const ProjectionFields* const kind = ProjectionFields::ofRecord(record);
-    std::vector<double> latitudes = kind ? standardLatitudes(record, *kind) : std::vector<double>();
+    const ProjectionFields* const projection = ProjectionFields::ofRecord(record);
+    std::vector<double> latitudes = projection ? standardLatitudes(record, *projection) : std::vector<double>();
     if (latitudes.empty())
         return std::nullopt;
-    if (kind->kind == ProjectionKind::MercatorStandardParallel)
+    if (projection->method == ProjectionMethod::MercatorStandardParallel)
         latitudes.resize(1);
     const double middle = (latitudes.front() + latitudes.back()) / 2.0;
     return system.toGrid({middle, dictionary_number(record, CoordParamKey::orgLon, 0.0), 0.0});

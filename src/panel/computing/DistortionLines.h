@@ -16,7 +16,7 @@ public:
     /// `record` defines `system`.
     DistortionLines(const IDictionary& record, const IProjectedSystem& system, const DistortionArea& area);
 
-    /// Empty where the kind has none, or outside the area.
+    /// Empty where the method has none, or outside the area.
     const Line& centralMeridian() const { return meridian; }
     const std::vector<Line>& standardParallels() const { return parallels; }
 
@@ -24,7 +24,7 @@ public:
     static GridPoint origin(const IDictionary& record);
 
     /// On the central meridian in the middle of the standard parallels (of Mercator's two, on the northern one);
-    /// nothing where the kind has none.
+    /// nothing where the method has none.
     static std::optional<GridPoint> middleOfParallels(const IDictionary& record, const IProjectedSystem& system);
 
 private:

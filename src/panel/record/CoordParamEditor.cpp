@@ -18,9 +18,9 @@ bool sameText(const char* text, const char* other) {
     return text && other && std::strcmp(text, other) == 0;
 }
 
-/// Whether the kind's parallel of true scale is for the user to choose.
-bool hasParallel(std::optional<ProjectionKind> kind) {
-    return kind == ProjectionKind::MercatorStandardParallel || kind == ProjectionKind::Stereographic;
+/// Whether the method's parallel of true scale is for the user to choose.
+bool hasParallel(std::optional<ProjectionMethod> method) {
+    return method == ProjectionMethod::MercatorStandardParallel || method == ProjectionMethod::Stereographic;
 }
 
 } // namespace
@@ -77,18 +77,18 @@ void CoordParamEditor::setEllipsoid(const IDictionary& ellipsoid) {
     followAxis(axis, parallel);
 }
 
-std::optional<ProjectionKind> CoordParamEditor::kind() const {
+std::optional<ProjectionMethod> CoordParamEditor::method() const {
     const ProjectionFields* fields = ProjectionFields::ofRecord(*values);
-    return fields ? std::optional<ProjectionKind>(fields->kind) : std::nullopt;
+    return fields ? std::optional<ProjectionMethod>(fields->method) : std::nullopt;
 }
 
 void CoordParamEditor::followFactor() {
-    const std::optional<ProjectionKind> now = kind();
-    if (now != ProjectionKind::TransverseMercator && now != ProjectionKind::TransverseMercatorScaled)
+    const std::optional<ProjectionMethod> now = method();
+    if (now != ProjectionMethod::TransverseMercator && now != ProjectionMethod::TransverseMercatorScaled)
         return;
-    const ProjectionKind right = dictionary_number(*values, factor, 0.0) == 1.0
-                                     ? ProjectionKind::TransverseMercator
-                                     : ProjectionKind::TransverseMercatorScaled;
+    const ProjectionMethod right = dictionary_number(*values, factor, 0.0) == 1.0
+                                       ? ProjectionMethod::TransverseMercator
+                                       : ProjectionMethod::TransverseMercatorScaled;
     if (right != now)
         dic_set_value(values.get(), projectType, "%d", int(right));
 }
@@ -96,11 +96,11 @@ void CoordParamEditor::followFactor() {
 void CoordParamEditor::followAxis(std::optional<double> axisBefore, std::optional<double> parallel) {
     if (semiMajorAxis() == axisBefore)
         return;
-    if (kind() == ProjectionKind::Mercator)
+    if (method() == ProjectionMethod::Mercator)
         setParallel(0.0);
-    else if (kind() == ProjectionKind::MercatorStandardParallel)
+    else if (method() == ProjectionMethod::MercatorStandardParallel)
         setParallel(parallel.value_or(0.0));
-    else if (kind() == ProjectionKind::Stereographic)
+    else if (method() == ProjectionMethod::Stereographic)
         setParallel(parallel);
 }
 
@@ -110,19 +110,19 @@ void CoordParamEditor::setParallel(std::optional<double> parallel) {
         putNumber(cuttingRadius, parallel ? TrueScaleParallel::radius(*a, *parallel) : 0.0);
 }
 
-void CoordParamEditor::setKind(ProjectionKind chosen) {
+void CoordParamEditor::setMethod(ProjectionMethod chosen) {
     const ProjectionFields* fields = ProjectionFields::find(int(chosen));
     if (!fields)
         return;
-    const std::optional<ProjectionKind> before = kind();
+    const std::optional<ProjectionMethod> before = method();
     restoreReplaced();
     dic_set_value(values.get(), projectType, "%d", int(chosen));
     chooseParallel(before);
     complete(*fields);
 }
 
-void CoordParamEditor::chooseParallel(std::optional<ProjectionKind> before) {
-    const bool hadParallel = hasParallel(before), hasParallelNow = hasParallel(kind());
+void CoordParamEditor::chooseParallel(std::optional<ProjectionMethod> before) {
+    const bool hadParallel = hasParallel(before), hasParallelNow = hasParallel(method());
     if (hadParallel && !hasParallelNow) {
         for (const char* key : {ellipsoidA, cuttingRadius})
             dictionary_copy(replacedRadius.get(), values.get(), key, noSeparator);
@@ -132,16 +132,16 @@ void CoordParamEditor::chooseParallel(std::optional<ProjectionKind> before) {
             setParallel(TrueScaleParallel::ofRecord(*replacedRadius));
     }
     const std::optional<double> parallel = TrueScaleParallel::ofRecord(*values);
-    if (kind() == ProjectionKind::Mercator || (kind() == ProjectionKind::MercatorStandardParallel && !parallel))
+    if (method() == ProjectionMethod::Mercator || (method() == ProjectionMethod::MercatorStandardParallel && !parallel))
         setParallel(0.0);
-    else if (kind() == ProjectionKind::Stereographic && (!parallel || *parallel == 0.0))
+    else if (method() == ProjectionMethod::Stereographic && (!parallel || *parallel == 0.0))
         setParallel(std::nullopt); // the equator is no parallel of a polar projection
 }
 
 double CoordParamEditor::initialValue(const ProjectionFields& fields, const ParamField& field) const {
     // With one parallel the origin usually lies on it.
     const double origin = dictionary_number(*values, orgLat, 0.0);
-    const bool isOriginsParallel = fields.kind == ProjectionKind::LambertOneParallel && field.is(parallel1Lat) &&
+    const bool isOriginsParallel = fields.method == ProjectionMethod::LambertOneParallel && field.is(parallel1Lat) &&
                                    origin != 0.0 && field.accepts(origin);
     return isOriginsParallel ? origin : field.initial;
 }
@@ -158,9 +158,9 @@ void CoordParamEditor::complete(const ProjectionFields& fields) {
     }
     // Gauss-Krüger has the scale factor 1, and only Gauss-Krüger; beside a parallel of true scale it is 1 as well.
     const bool isScaleOne = dictionary_number(*values, factor, 0.0) == 1.0;
-    const bool mustBeOne = fields.kind == ProjectionKind::TransverseMercator ||
-                           (fields.kind == ProjectionKind::Stereographic && TrueScaleParallel::ofRecord(*values));
-    if ((mustBeOne && !isScaleOne) || (fields.kind == ProjectionKind::TransverseMercatorScaled && isScaleOne))
+    const bool mustBeOne = fields.method == ProjectionMethod::TransverseMercator ||
+                           (fields.method == ProjectionMethod::Stereographic && TrueScaleParallel::ofRecord(*values));
+    if ((mustBeOne && !isScaleOne) || (fields.method == ProjectionMethod::TransverseMercatorScaled && isScaleOne))
         put(factor, fields.field(factor)->initial);
 }
 

@@ -10,7 +10,7 @@ struct ParamField;
 struct ProjectionFields;
 
 /// Edits one parameter record. A change of one key also changes the keys that depend on it by definition, and no other:
-/// - transverse Mercator is kind 0 with the scale factor 1 and kind 1 with any other;
+/// - transverse Mercator is method 0 with the scale factor 1 and method 1 with any other;
 /// - "cutting_radius" follows the semi-major axis, so that the parallel of true scale stays where it is.
 class CoordParamEditor {
 public:
@@ -26,10 +26,10 @@ public:
     /// Takes over name, axis and flattening of an ellipsoid record, with the numbers behind the texts.
     void setEllipsoid(const IDictionary& ellipsoid);
 
-    /// Makes the record a system of that kind. Values that the kind needs and that the record lacks, or that can't
-    /// stand in that kind, get initial values; the values that were there before come back with the next kind they fit,
-    /// unless they were edited since. Other kinds' values stay in the record.
-    void setKind(ProjectionKind chosen);
+    /// Makes the record a system of that method. Values that the method needs and that the record lacks, or that can't
+    /// stand in that method, get initial values; the values that were there before come back with the next method they
+    /// fit, unless they were edited since. Other methods' values stay in the record.
+    void setMethod(ProjectionMethod chosen);
 
     /// No datum shift, or a seven-parameter one; parameters that are missing then start with 0.
     void setShift(bool sevenParameters);
@@ -45,7 +45,7 @@ public:
     void replaceValues(const IDictionary& source);
 
 private:
-    std::optional<ProjectionKind> kind() const;
+    std::optional<ProjectionMethod> method() const;
     std::optional<double> semiMajorAxis() const;
 
     bool putNumber(const char* key, double value);
@@ -54,13 +54,13 @@ private:
     void forgetReplaced();
     double initialValue(const ProjectionFields& fields, const ParamField& field) const;
     void complete(const ProjectionFields& fields);
-    void chooseParallel(std::optional<ProjectionKind> before);
+    void chooseParallel(std::optional<ProjectionMethod> before);
     void setParallel(std::optional<double> parallel);
     void followFactor();
     void followAxis(std::optional<double> axisBefore, std::optional<double> parallel);
 
     DictionaryGuard values;
-    DictionaryGuard replaced;       ///< values that the choice of a kind replaced
+    DictionaryGuard replaced;       ///< values that the choice of a method replaced
     DictionaryGuard initial;        ///< and by what
-    DictionaryGuard replacedRadius; ///< radius and axis of the parallel of true scale of a kind the user came from
+    DictionaryGuard replacedRadius; ///< radius and axis of the parallel of true scale of a method the user came from
 };

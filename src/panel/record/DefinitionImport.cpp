@@ -87,11 +87,11 @@ QStringList DefinitionImport::differences(const IDictionary& record, const IDict
         if (!hasSameNumber(record, imported, *field))
             lost.append(field->labelText());
     }
-    const ProjectionFields* kind = ProjectionFields::ofRecord(record);
-    if (!kind || kind != ProjectionFields::ofRecord(imported)) {
-        lost.append(PanelText::tr("the kind of projection"));
+    const ProjectionFields* projection = ProjectionFields::ofRecord(record);
+    if (!projection || projection != ProjectionFields::ofRecord(imported)) {
+        lost.append(PanelText::tr("the projection method"));
     } else {
-        for (const ParamField& field : kind->fields) {
+        for (const ParamField& field : projection->fields) {
             if (!hasSameNumber(record, imported, field))
                 lost.append(field.labelText());
         }

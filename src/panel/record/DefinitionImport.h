@@ -13,7 +13,7 @@ public:
     /// with the record untouched, when it holds no projected system or the projection module is missing.
     static bool read(const QByteArray& wkt, IDictionary* record);
 
-    /// What of `record` is not in `imported`, named as on the panel: the name, the ellipsoid, fields of the kind, the
+    /// What of `record` is not in `imported`, named as on the panel: the name, the ellipsoid, fields of the method, the
     /// datum shift. Numbers count as equal when what is between them matters less than 0.1 mm on the ground.
     static QStringList differences(const IDictionary& record, const IDictionary& imported);
 };

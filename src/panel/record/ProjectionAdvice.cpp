@@ -23,8 +23,9 @@ bool isPolar(const IDictionary& record) {
     return std::fabs(number(record, orgLat)) == 90.0;
 }
 
-bool isTransverseMercator(const ProjectionFields& kind) {
-    return kind.kind == ProjectionKind::TransverseMercator || kind.kind == ProjectionKind::TransverseMercatorScaled;
+bool isTransverseMercator(const ProjectionFields& projection) {
+    return projection.method == ProjectionMethod::TransverseMercator ||
+           projection.method == ProjectionMethod::TransverseMercatorScaled;
 }
 
 /// The distance between two longitudes in degrees, 0 to 180.
@@ -35,85 +36,87 @@ double apart(double longitude, double other) {
 } // namespace
 
 QString ProjectionAdvice::problem(const IDictionary& record) {
-    const ProjectionFields* kind = ProjectionFields::ofRecord(record);
+    const ProjectionFields* projection = ProjectionFields::ofRecord(record);
     if (!coordParamDefinesProjection(record))
-        return missing(kind, record);
-    if (!kind || !isDegenerate(*kind, record))
+        return missing(projection, record);
+    if (!projection || !isDegenerate(*projection, record))
         return QString();
-    return kind->kind == ProjectionKind::ObliqueMercatorTwoPoints
+    return projection->method == ProjectionMethod::ObliqueMercatorTwoPoints
                ? tr("No projection: latitudes of the points equal, or the first 0.")
                : tr("No projection: the standard parallels cancel out.");
 }
 
-QString ProjectionAdvice::missing(const ProjectionFields* kind, const IDictionary& record) {
+QString ProjectionAdvice::missing(const ProjectionFields* projection, const IDictionary& record) {
     if (!DatumFields::semiMajorAxis().isSound(record) || !DatumFields::inverseFlattening().isSound(record))
         return tr("No projection yet: the system has no ellipsoid.");
     const char* type = record.getValue(projectType);
     if (!type)
-        return tr("No projection yet: choose the kind.");
-    if (!kind)
-        return tr("No projection: the kind \"%1\" is unknown.").arg(QString::fromLocal8Bit(type));
-    if (fitsNoKind(record))
-        return tr("No projection: the definition fits none of the kinds.");
-    for (const ParamField& field : kind->fields) {
+        return tr("No projection yet: choose the method.");
+    if (!projection)
+        return tr("No projection: the method \"%1\" is unknown.").arg(QString::fromLocal8Bit(type));
+    if (fitsNoMethod(record))
+        return tr("No projection: the definition fits none of the methods.");
+    for (const ParamField& field : projection->fields) {
         if (!record.getValue(field.key) || !field.isSound(record))
             return tr("No projection: \"%1\" is missing or wrong.").arg(field.labelText());
     }
-    if (kind->kind == ProjectionKind::Stereographic && isPolar(record) && TrueScaleParallel::ofRecord(record))
+    if (projection->method == ProjectionMethod::Stereographic && isPolar(record) && TrueScaleParallel::ofRecord(record))
         return tr("No projection: a standard parallel needs the scale factor 1.");
     return tr("No projection: the scale factor is missing.");
 }
 
-bool ProjectionAdvice::fitsNoKind(const IDictionary& record) {
-    const ProjectionFields* kind = ProjectionFields::ofRecord(record);
-    return kind && kind->kind == ProjectionKind::TransverseMercator && record.getValue(factor) &&
+bool ProjectionAdvice::fitsNoMethod(const IDictionary& record) {
+    const ProjectionFields* projection = ProjectionFields::ofRecord(record);
+    return projection && projection->method == ProjectionMethod::TransverseMercator && record.getValue(factor) &&
            number(record, factor) != 1.0;
 }
 
-bool ProjectionAdvice::isDegenerate(const ProjectionFields& kind, const IDictionary& record) {
+bool ProjectionAdvice::isDegenerate(const ProjectionFields& projection, const IDictionary& record) {
     // The limits are PROJ's.
     constexpr double same = 1e-10 * 180.0 / 3.141592653589793;
-    switch (kind.kind) {
-    case ProjectionKind::LambertOneParallel:
+    switch (projection.method) {
+    case ProjectionMethod::LambertOneParallel:
         return std::fabs(number(record, parallel1Lat)) < same;
-    case ProjectionKind::LambertTwoParallels:
+    case ProjectionMethod::LambertTwoParallels:
         return std::fabs(number(record, parallel1Lat) + number(record, parallel2Lat)) < same;
-    case ProjectionKind::ObliqueMercatorTwoPoints:
+    case ProjectionMethod::ObliqueMercatorTwoPoints:
         return std::fabs(number(record, lat1) - number(record, lat2)) < same || std::fabs(number(record, lat1)) < same;
     default:
         return false;
     }
 }
 
-QString ProjectionAdvice::warning(const ProjectionFields& kind, const ParamField& field, const IDictionary& record) {
+QString ProjectionAdvice::warning(const ProjectionFields& projection, const ParamField& field,
+                                  const IDictionary& record) {
     double value;
     if (!field.read(record, &value) || !field.accepts(value))
         return QString();
     if (field.quantity == Quantity::ScaleFactor)
-        return scaleWarning(kind, record, value);
+        return scaleWarning(projection, record, value);
     if (field.quantity == Quantity::TrueScaleParallel)
-        return trueScaleWarning(kind, record, value);
+        return trueScaleWarning(projection, record, value);
     if (field.is(parallel1Lat) || field.is(parallel2Lat))
-        return coneWarning(kind, record);
-    if (field.quantity == Quantity::Longitude && isTransverseMercator(kind))
+        return coneWarning(projection, record);
+    if (field.quantity == Quantity::Longitude && isTransverseMercator(projection))
         return meridianWarning(record, value);
     return QString();
 }
 
-QString ProjectionAdvice::scaleWarning(const ProjectionFields& kind, const IDictionary& record, double factor) {
-    if (kind.kind == ProjectionKind::Stereographic && isPolar(record) && TrueScaleParallel::ofRecord(record))
+QString ProjectionAdvice::scaleWarning(const ProjectionFields& projection, const IDictionary& record, double factor) {
+    if (projection.method == ProjectionMethod::Stereographic && isPolar(record) && TrueScaleParallel::ofRecord(record))
         return factor == 1.0 ? QString() : tr("Must be 1: the standard parallel sets the scale.");
     return std::fabs(factor - 1.0) > 0.01 ? tr("Unusual: scale factors lie close to 1.") : QString();
 }
 
-QString ProjectionAdvice::trueScaleWarning(const ProjectionFields& kind, const IDictionary& record, double latitude) {
-    if (kind.kind == ProjectionKind::Stereographic)
+QString ProjectionAdvice::trueScaleWarning(const ProjectionFields& projection, const IDictionary& record,
+                                           double latitude) {
+    if (projection.method == ProjectionMethod::Stereographic)
         return isPolar(record) ? QString() : tr("Without effect: the origin is no pole.");
     return latitude == 0.0 ? tr("With 0° this is the plain Mercator projection.") : QString();
 }
 
-QString ProjectionAdvice::coneWarning(const ProjectionFields& kind, const IDictionary& record) {
-    if (kind.kind == ProjectionKind::LambertOneParallel)
+QString ProjectionAdvice::coneWarning(const ProjectionFields& projection, const IDictionary& record) {
+    if (projection.method == ProjectionMethod::LambertOneParallel)
         return number(record, parallel1Lat) != number(record, orgLat) ? tr("Usually equal to the latitude of origin.")
                                                                       : QString();
     // Where they cancel altogether, problem() says so.

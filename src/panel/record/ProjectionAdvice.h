@@ -15,19 +15,20 @@ public:
     /// Why the record defines no projection, in one line; empty when it defines one.
     static QString problem(const IDictionary& record);
 
-    /// Whether the record says that none of the kinds holds its projection: kind 0 with a scale factor other than 1.
-    static bool fitsNoKind(const IDictionary& record);
+    /// Whether the record says that none of the methods holds its projection: method 0 with a scale factor other
+    /// than 1.
+    static bool fitsNoMethod(const IDictionary& record);
 
     /// Whether values that are sound one by one exclude each other: parallels that cancel out, points without a line.
-    static bool isDegenerate(const ProjectionFields& kind, const IDictionary& record);
+    static bool isDegenerate(const ProjectionFields& projection, const IDictionary& record);
 
     /// A remark on a sound but unusual value of `field`; empty when there is none.
-    static QString warning(const ProjectionFields& kind, const ParamField& field, const IDictionary& record);
+    static QString warning(const ProjectionFields& projection, const ParamField& field, const IDictionary& record);
 
 private:
-    static QString missing(const ProjectionFields* kind, const IDictionary& record);
-    static QString scaleWarning(const ProjectionFields& kind, const IDictionary& record, double factor);
-    static QString trueScaleWarning(const ProjectionFields& kind, const IDictionary& record, double latitude);
-    static QString coneWarning(const ProjectionFields& kind, const IDictionary& record);
+    static QString missing(const ProjectionFields* projection, const IDictionary& record);
+    static QString scaleWarning(const ProjectionFields& projection, const IDictionary& record, double factor);
+    static QString trueScaleWarning(const ProjectionFields& projection, const IDictionary& record, double latitude);
+    static QString coneWarning(const ProjectionFields& projection, const IDictionary& record);
     static QString meridianWarning(const IDictionary& record, double meridian);
 };

@@ -66,21 +66,21 @@ const std::vector<ProjectionFields>& ProjectionFields::all() {
         cuttingRadius, Quantity::TrueScaleParallel, standardParallel, -90.0, 90.0, 0.0, true};
     static const ParamField polarParallel = {
         cuttingRadius, Quantity::TrueScaleParallel, standardParallel, -90.0, 90.0, 0.0, false, true};
-    static const std::vector<ProjectionFields> kinds = {
-        {ProjectionKind::TransverseMercator, QT_TRANSLATE_NOOP("DlgCoordParam", "Gauss-Krüger (scale factor 1)"),
+    static const std::vector<ProjectionFields> methods = {
+        {ProjectionMethod::TransverseMercator, QT_TRANSLATE_NOOP("DlgCoordParam", "Gauss-Krüger (scale factor 1)"),
          transverseMercator(1.0)},
-        // With the scale of UTM at first: the scale 1 would make it the kind above.
-        {ProjectionKind::TransverseMercatorScaled, QT_TRANSLATE_NOOP("DlgCoordParam", "Transverse Mercator"),
+        // With the scale of UTM at first: the scale 1 would make it the method above.
+        {ProjectionMethod::TransverseMercatorScaled, QT_TRANSLATE_NOOP("DlgCoordParam", "Transverse Mercator"),
          transverseMercator(0.9996)},
-        {ProjectionKind::Mercator,
+        {ProjectionMethod::Mercator,
          QT_TRANSLATE_NOOP("DlgCoordParam", "Mercator"),
          {longitude(orgLon, centralMeridian), scale(scaleFactor), length(falseEast, falseEasting),
           length(falseNorth, falseNorthing)}},
-        {ProjectionKind::MercatorStandardParallel,
+        {ProjectionMethod::MercatorStandardParallel,
          QT_TRANSLATE_NOOP("DlgCoordParam", "Mercator (standard parallel)"),
          {mercatorParallel, longitude(orgLon, centralMeridian), length(falseEast, falseEasting),
           length(falseNorth, falseNorthing)}},
-        {ProjectionKind::ObliqueMercatorAzimuth,
+        {ProjectionMethod::ObliqueMercatorAzimuth,
          QT_TRANSLATE_NOOP("DlgCoordParam", "Oblique Mercator (azimuth)"),
          {latitude(orgLat, latitudeOfCentre, 0.0),
           longitude(orgLon, longitudeOfCentre),
@@ -88,41 +88,41 @@ const std::vector<ProjectionFields>& ProjectionFields::all() {
           scale(scaleFactor),
           length(falseEast, eastingAtCentre),
           length(falseNorth, northingAtCentre)}},
-        {ProjectionKind::Stereographic,
+        {ProjectionMethod::Stereographic,
          QT_TRANSLATE_NOOP("DlgCoordParam", "Stereographic"),
          {originLatitude(latitudeOfOrigin), longitude(orgLon, longitudeOfOrigin), polarParallel, additionalScale(),
           length(falseEast, falseEasting), length(falseNorth, falseNorthing)}},
-        {ProjectionKind::ObliqueStereographic,
+        {ProjectionMethod::ObliqueStereographic,
          QT_TRANSLATE_NOOP("DlgCoordParam", "Oblique Stereographic (double)"),
          {originLatitude(latitudeOfOrigin), longitude(orgLon, longitudeOfOrigin), scale(scaleFactor),
           length(falseEast, falseEasting), length(falseNorth, falseNorthing)}},
-        {ProjectionKind::LambertOneParallel,
+        {ProjectionMethod::LambertOneParallel,
          QT_TRANSLATE_NOOP("DlgCoordParam", "Lambert Conic Conformal (1SP)"),
          {originLatitude(latitudeOfOrigin, 45.0), longitude(orgLon, centralMeridian),
           latitude(parallel1Lat, standardParallel, 45.0), scale(scaleFactor), length(falseEast, falseEasting),
           length(falseNorth, falseNorthing)}},
-        {ProjectionKind::LambertTwoParallels,
+        {ProjectionMethod::LambertTwoParallels,
          QT_TRANSLATE_NOOP("DlgCoordParam", "Lambert Conic Conformal (2SP)"),
          {originLatitude(latitudeOfOrigin), longitude(orgLon, centralMeridian),
           latitude(parallel1Lat, firstParallel, 30.0), latitude(parallel2Lat, secondParallel, 60.0), additionalScale(),
           length(falseEast, falseEasting), length(falseNorth, falseNorthing)}},
-        {ProjectionKind::ObliqueMercatorTwoPoints,
+        {ProjectionMethod::ObliqueMercatorTwoPoints,
          QT_TRANSLATE_NOOP("DlgCoordParam", "Oblique Mercator (two points)"),
          {latitude(orgLat, latitudeOfCentre, 0.0), latitude(lat1, firstLatitude, 30.0), longitude(lon1, firstLongitude),
           latitude(lat2, secondLatitude, 60.0), longitude(lon2, secondLongitude, 30.0), scale(scaleFactor),
           length(falseEast, eastingAtCentre), length(falseNorth, northingAtCentre)}},
-        {ProjectionKind::CassiniSoldner,
+        {ProjectionMethod::CassiniSoldner,
          QT_TRANSLATE_NOOP("DlgCoordParam", "Cassini-Soldner"),
          {originLatitude(latitudeOfOrigin), longitude(orgLon, centralMeridian), length(falseEast, falseEasting),
           length(falseNorth, falseNorthing)}},
     };
-    return kinds;
+    return methods;
 }
 
 const ProjectionFields* ProjectionFields::find(int code) {
-    for (const ProjectionFields& kind : all()) {
-        if (int(kind.kind) == code)
-            return &kind;
+    for (const ProjectionFields& projection : all()) {
+        if (int(projection.method) == code)
+            return &projection;
     }
     return nullptr;
 }

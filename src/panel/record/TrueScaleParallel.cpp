@@ -23,7 +23,7 @@ std::optional<double> TrueScaleParallel::ofRecord(const IDictionary& record) {
         return std::nullopt;
     const double latitude = std::acos(std::min(kept / a, 1.0)) / degree;
     const bool isSouthern =
-        dictionary_number(record, CoordParamKey::projectType, -1.0) == int(ProjectionKind::Stereographic) &&
+        dictionary_number(record, CoordParamKey::projectType, -1.0) == int(ProjectionMethod::Stereographic) &&
         dictionary_number(record, CoordParamKey::orgLat, 0.0) < 0.0;
     const double shortened =
         NumberText::fewestDigits(latitude, kept, tolerance, [a](double phi) { return radius(a, phi); });

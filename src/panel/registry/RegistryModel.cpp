@@ -62,7 +62,7 @@ int RegistryModel::rowOf(const QByteArray& code) const {
 }
 
 bool RegistryModel::isHeld(const RegistrySystem& system) const {
-    // As EPSG names them; the other methods that a kind holds do so for some parameters only.
+    // As EPSG names them; those that a record holds for some parameters only are left out.
     static const QByteArrayList heldMethods = {"Transverse Mercator",
                                                "Lambert Conic Conformal (1SP)",
                                                "Lambert Conic Conformal (2SP)",
@@ -86,7 +86,8 @@ bool RegistryModel::isHeld(const RegistrySystem& system) const {
 QString RegistryModel::reason(const RegistrySystem& system) const {
     if (isHeld(system))
         return QString();
-    return PanelText::tr("None of the kinds holds this projection exactly: %1.").arg(QString::fromUtf8(system.method));
+    return PanelText::tr("None of the methods holds this projection exactly: %1.")
+        .arg(QString::fromUtf8(system.method));
 }
 
 int RegistryModel::rowCount(const QModelIndex& parent) const {

@@ -9,7 +9,7 @@
 
 #include <optional>
 
-/// The registry's projected systems as a table that a search narrows down: code, name, area. A system that no kind of
+/// The registry's projected systems as a table that a search narrows down: code, name, area. A system that no method of
 /// the record holds is grey, and says so in its tooltip.
 class RegistryModel : public QAbstractTableModel {
     Q_OBJECT
@@ -35,7 +35,7 @@ public:
     /// The row of the system `code`, or -1 when it is not listed.
     int rowOf(const QByteArray& code) const;
 
-    /// Why the record can't hold the system, translated; empty when it can. Methods that a kind holds whatever their
+    /// Why the record can't hold the system, translated; empty when it can. Methods that it holds whatever their
     /// parameters are known; systems of any other are tried, once, which takes some milliseconds.
     QString reason(const RegistrySystem& system) const;
 

@@ -43,7 +43,7 @@ class IProjectedSystem {
 public:
     virtual ~IProjectedSystem() = default;
 
-    /// From latitude and longitude on the system's own datum; the height plays no part. Within a kind's useful area
+    /// From latitude and longitude on the system's own datum; the height plays no part. Within a method's useful area
     /// PROJ is exact to better than 1e-6 m (transverse Mercator: Poder/Engsager, within 80 degrees of the central
     /// meridian).
     virtual std::optional<GridPoint> toGrid(const GeographicPoint& point) const = 0;

@@ -22,9 +22,9 @@ struct ProjTowgs84 {
 ProjHandle InitializeProj(const char* definition);
 
 /// The normalised definition, items "+key=value" separated by blanks: lon_0, k_0, x_0, y_0 for a utm zone, longitudes
-/// from Greenwich, lengths in metres, k_0=1 where the kind has a scale and none is given; numbers with all their digits
-/// and without "+" inside. A definition that no kind of the parameter record holds exactly comes back without its
-/// projection and scale. Owned by the library.
+/// from Greenwich, lengths in metres, k_0=1 where the method has a scale and none is given; numbers with all their
+/// digits and without "+" inside. A definition that no method of the parameter record holds exactly comes back without
+/// its projection and scale. Owned by the library.
 const char* GetProjDefine(ProjHandle handle);
 
 ProjEllipsoid GetProjEllipsoid(ProjHandle handle);

@@ -5,7 +5,7 @@
 struct Ellipsoid;
 class ProjItems;
 
-/// A definition's projection in the parameters that the parameter record's kinds have: +lat_0, +lon_0 and +k_0 for
+/// A definition's projection in the parameters that the parameter record's methods have: +lat_0, +lon_0 and +k_0 for
 /// tmerc (utm as well), stere (ups as well), sterea, lcc and cass, +lon_0 and +k_0 for merc, +lonc and +alpha or two
 /// points for omerc, +lat_ts where a parallel has true scale. Longitudes are counted from Greenwich, -180 to 180
 /// degrees; +x_0 and +y_0 in metres; +k_0=1 where no scale is given. Empty when the projection is none of these or a
