@@ -25,11 +25,18 @@ function(add_room name)
   target_link_libraries(${name} PUBLIC vorn_options ${ROOM_PUBLIC} PRIVATE ${ROOM_PRIVATE})
 endfunction()
 
-# The test program of a room: tests/<folder>/*.cpp, run offscreen by CTest under the name <name>.
+# The test program of a room: tests/<folder>/*.cpp, run offscreen by CTest under the name <name>. Its main function is
+# support/main_gui.cpp where it links test_gui, else support/main.cpp.
 #   add_room_test(<name> <libraries>...)
 function(add_room_test name)
   file(GLOB sources CONFIGURE_DEPENDS *.h *.cpp)
-  add_executable(${name} ${sources})
+  set(support ${PROJECT_SOURCE_DIR}/tests/support)
+  if(test_gui IN_LIST ARGN)
+    list(APPEND sources ${support}/main_gui.cpp)
+  else()
+    list(APPEND sources ${support}/main.cpp)
+  endif()
+  add_executable(${name} ${sources} ${support}/RoomTest.cpp)
   target_link_libraries(${name} PRIVATE vorn_options ${ARGN} Qt5::Test)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_CURRENT_SOURCE_DIR}")

@@ -46,9 +46,6 @@ double Radian2Angle(double* value) {
     return *value;
 }
 
-using TitleComesFromTheConfiguration = Rows<QString>;
-using Closing = Rows<bool, QVector<int>, QStringList, bool, bool>;
-
 class VornCoordSysMainWindowTest : public QObject {
     Q_OBJECT
 
@@ -91,14 +88,14 @@ private Q_SLOTS:
     }
 
     void titleComesFromTheConfiguration_data() {
-        const TitleComesFromTheConfiguration row;
+        const Rows<QString> row({"name"});
         row("as configured", "Coordinate Systems – é %1");
         row("empty", "");
         row("none", {});
     }
 
     void titleComesFromTheConfiguration() {
-        const auto [name] = TitleComesFromTheConfiguration::current();
+        QFETCH(QString, name);
         if (name.isNull())
             config->parameters->remove("name");
         else
@@ -187,7 +184,8 @@ private Q_SLOTS:
     }
 
     void closing_data() {
-        const Closing row;
+        const Rows<bool, QVector<int>, QStringList, bool, bool> row(
+            {"dirty", "answers", "messages", "saved", "closed"});
         const QString changed = "?Warning|Data is changed!";
         const QString leave = "?information|Do you want to exit program?";
         row("clean, exit", false, {1}, {leave}, false, true);
@@ -198,7 +196,11 @@ private Q_SLOTS:
     }
 
     void closing() {
-        const auto [dirty, answers, messages, saved, closed] = Closing::current();
+        QFETCH(bool, dirty);
+        QFETCH(QVector<int>, answers);
+        QFETCH(QStringList, messages);
+        QFETCH(bool, saved);
+        QFETCH(bool, closed);
         startWindow();
         if (dirty)
             panelEdit("0.5");
@@ -271,5 +273,5 @@ private:
     std::unique_ptr<VornCoordSysMainWindow> window;
 };
 
-ROOM_TEST_MAIN(VornCoordSysMainWindowTest)
+ROOM_TEST(VornCoordSysMainWindowTest)
 #include "VornCoordSysMainWindowTest.moc"

@@ -123,16 +123,6 @@ void process_resolve_path(char* buffer, int size, const char* format, ...) {
     pathBufferSize = size;
 }
 
-using Modes = Rows<QString, int, QString, QStringList, QStringList>;
-using Selection = Rows<QString, bool>;
-using EmptyList = Rows<QString, bool>;
-using Confirm = Rows<QString, int, QString, QStringList, QString, int, bool>;
-using Nested = Rows<QString, QString, QString>;
-using Deletion = Rows<QString, int>;
-using TypedNameStaysTyped = Rows<QString>;
-using TypedNumber = Rows<QString, QString>;
-using ModelFile = Rows<int, QStringList, QString, QString, int>;
-
 class CustomCatalogueTest : public QObject {
     Q_OBJECT
 
@@ -152,7 +142,8 @@ private Q_SLOTS:
     void cleanup() { QCOMPARE(dictionary_alive_count(), aliveAtStart); }
 
     void modes_data() {
-        const Modes row;
+        const Rows<QString, int, QString, QStringList, QStringList> row(
+            {"kind", "mode", "name", "values", "expectedButtons"});
         const QStringList wgs84{"6378000", "298.30"}, file{"WGS 84.ggf", "WGS 84"};
         row("ellipsoid list", ellipsoid, 0, "WGS 84", wgs84, {"Add", "(Edit)", "(Delete)"});
         row("ellipsoid add", ellipsoid, 1, "", {"", ""}, {"OK", "Cancel"});
@@ -163,7 +154,11 @@ private Q_SLOTS:
     }
 
     void modes() {
-        const auto [kind, mode, name, values, expectedButtons] = Modes::current();
+        QFETCH(QString, kind);
+        QFETCH(int, mode);
+        QFETCH(QString, name);
+        QFETCH(QStringList, values);
+        QFETCH(QStringList, expectedButtons);
         RecordingCatalogue catalogue;
         fill(catalogue, kind);
         const auto dialog = create(kind, &catalogue, mode);
@@ -195,7 +190,7 @@ private Q_SLOTS:
     }
 
     void selection_data() {
-        const Selection row;
+        const Rows<QString, bool> row({"flag", "own"});
         row("0", "0", true);
         row("1", "1", false);
         row("missing", QString(), false);
@@ -207,7 +202,8 @@ private Q_SLOTS:
 
     /// What the list enables for an entry that is selected, and what it shows of one without values.
     void selection() {
-        const auto [flag, own] = Selection::current();
+        QFETCH(QString, flag);
+        QFETCH(bool, own);
         for (const QString& kind : {ellipsoid, geoid}) {
             RecordingCatalogue catalogue;
             fill(catalogue, kind);
@@ -227,7 +223,7 @@ private Q_SLOTS:
     }
 
     void emptyList_data() {
-        const EmptyList row;
+        const Rows<QString, bool> row({"kind", "nullList"});
         for (const QString& kind : {ellipsoid, geoid}) {
             row(kind.toLatin1() + ", empty", kind, false);
             row(kind.toLatin1() + ", null", kind, true);
@@ -235,7 +231,8 @@ private Q_SLOTS:
     }
 
     void emptyList() {
-        const auto [kind, nullList] = EmptyList::current();
+        QFETCH(QString, kind);
+        QFETCH(bool, nullList);
         RecordingCatalogue catalogue;
         catalogue.nullLists = nullList;
         const auto dialog = create(kind, &catalogue, ListMode);
@@ -258,7 +255,8 @@ private Q_SLOTS:
 
     void confirm_data() {
         // Kind, mode, name, values, message, answer to it (1 confirmed, 0 declined), whether accepted.
-        const Confirm row;
+        const Rows<QString, int, QString, QStringList, QString, int, bool> row(
+            {"kind", "mode", "name", "values", "message", "answer", "accepted"});
 
         for (const QString& kind : {ellipsoid, geoid}) {
             const auto add = [&](const char* title, const QString& name, const QStringList& values,
@@ -302,7 +300,13 @@ private Q_SLOTS:
     }
 
     void confirm() {
-        const auto [kind, mode, name, values, message, answer, accepted] = Confirm::current();
+        QFETCH(QString, kind);
+        QFETCH(int, mode);
+        QFETCH(QString, name);
+        QFETCH(QStringList, values);
+        QFETCH(QString, message);
+        QFETCH(int, answer);
+        QFETCH(bool, accepted);
         RecordingCatalogue catalogue;
         fill(catalogue, kind);
         const QStringList before = stored(catalogue, kind, name);
@@ -335,7 +339,7 @@ private Q_SLOTS:
 
     void nested_data() {
         // current: in the list afterwards; "mine" before
-        const Nested row;
+        const Rows<QString, QString, QString> row({"opener", "closer", "current"});
         row("add", "Add", "OK", "new");
         row("add, cancelled", "Add", "Cancel", "mine");
         row("edit", "Edit", "OK", "mine");
@@ -344,7 +348,9 @@ private Q_SLOTS:
     }
 
     void nested() {
-        const auto [opener, closer, current] = Nested::current();
+        QFETCH(QString, opener);
+        QFETCH(QString, closer);
+        QFETCH(QString, current);
         const bool edit = opener == "Edit", confirmed = closer == "OK";
         const QString closing = closer;
         for (const QString& kind : {ellipsoid, geoid}) {
@@ -375,7 +381,7 @@ private Q_SLOTS:
     }
 
     void deletion_data() {
-        const Deletion row;
+        const Rows<QString, int> row({"name", "answer"});
         row("confirmed", "mine", 1);
         row("declined", "mine", 0);
         row("place marker in the name", "%1 %2", 1);
@@ -383,7 +389,8 @@ private Q_SLOTS:
     }
 
     void deletion() {
-        const auto [name, answer] = Deletion::current();
+        QFETCH(QString, name);
+        QFETCH(int, answer);
         for (const QString& kind : {ellipsoid, geoid}) {
             RecordingCatalogue catalogue;
             if (name != "only")
@@ -413,14 +420,14 @@ private Q_SLOTS:
     }
 
     void typedNameStaysTyped_data() {
-        const TypedNameStaysTyped row;
+        const Rows<QString> row({"typed"});
         for (const char* typed : {"WGS", "wgs 84", "mine"})
             row(typed, typed);
     }
 
     /// Neither the name nor the values typed before it turn into those of an entry.
     void typedNameStaysTyped() {
-        const auto [typed] = TypedNameStaysTyped::current();
+        QFETCH(QString, typed);
         RecordingCatalogue catalogue;
         fill(catalogue, ellipsoid);
         const auto dialog = create(ellipsoid, &catalogue, AddMode);
@@ -446,7 +453,7 @@ private Q_SLOTS:
     }
 
     void typedNumber_data() {
-        const TypedNumber row;
+        const Rows<QString, QString> row({"keys", "text"});
         row("semi-major axis", "6378137.000", "6378137.000");
         row("inverse flattening", "298.257223563", "298.257223563");
         row("decimal comma", "298,25", "298,25");
@@ -457,7 +464,8 @@ private Q_SLOTS:
 
     /// The keys that the number fields take, in a locale whose decimal separator is a comma.
     void typedNumber() {
-        const auto [keys, text] = TypedNumber::current();
+        QFETCH(QString, keys);
+        QFETCH(QString, text);
         RecordingCatalogue catalogue;
         const auto dialog = create(ellipsoid, &catalogue, AddMode);
         for (int i : {0, 1}) {
@@ -469,7 +477,7 @@ private Q_SLOTS:
     void modelFile_data() {
         // Mode; what is chosen one after the other, "" cancelling the file dialog; what is stored; the content of that
         // file in the geoid data folder afterwards; the answer whether "mine" is covered, -1 for a new name.
-        const ModelFile row;
+        const Rows<int, QStringList, QString, QString, int> row({"mode", "chosen", "file", "content", "answer"});
         const QString copy = QString::fromUtf8("modèle 10%s.ggf");
         row("from elsewhere", AddMode, {copy}, copy, "elsewhere", -1);
         row("edited", EditMode, {copy}, copy, "elsewhere", -1);
@@ -484,7 +492,11 @@ private Q_SLOTS:
     }
 
     void modelFile() {
-        const auto [mode, chosen, file, content, answer] = ModelFile::current();
+        QFETCH(int, mode);
+        QFETCH(QStringList, chosen);
+        QFETCH(QString, file);
+        QFETCH(QString, content);
+        QFETCH(int, answer);
         const QTemporaryDir root;
         QDir(root.path()).mkpath("bin");
         QDir(root.path()).mkpath("elsewhere");
@@ -531,5 +543,5 @@ private:
     int aliveAtStart = 0;
 };
 
-ROOM_TEST_MAIN(CustomCatalogueTest)
+ROOM_TEST(CustomCatalogueTest)
 #include "CustomCatalogueTest.moc"

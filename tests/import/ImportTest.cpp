@@ -4,6 +4,7 @@
 #include "import/CoordParamToProjDefine.h"
 #include "import/ProjDefineToCoordParam.h"
 #include "import/WktFile.h"
+#include "support/RoomTest.h"
 #include "support/Rows.h"
 #include "support/TextTable.h"
 
@@ -12,11 +13,6 @@
 #include <QtTest>
 
 #include <limits>
-
-using TwoTexts = Rows<QByteArray, QByteArray>;
-using Definitions = Rows<QByteArray>;
-using Ellipsoids = Rows<QByteArray, QByteArray, double, QByteArray>;
-using Shifts = Rows<QList<double>, QByteArray>;
 
 static const QByteArray gaussKruger = "+proj=tmerc +lat_0=0 +lon_0=117 +k=1 +x_0=500000 +y_0=0";
 
@@ -72,18 +68,19 @@ private Q_SLOTS:
     }
 
     void conversions_data() {
-        const TwoTexts row;
+        const Rows<QByteArray, QByteArray> row({"definition", "items"});
         for (const QByteArrayList& columns : textTable("conversions.txt"))
             row(columns[0], columns[1], columns[2]);
     }
     void conversions() {
-        const auto [definition, items] = TwoTexts::current();
+        QFETCH(QByteArray, definition);
+        QFETCH(QByteArray, items);
         convert(definition);
         QCOMPARE(inRecord(*record, items), items);
     }
 
     void ellipsoids_data() {
-        const Ellipsoids row;
+        const Rows<QByteArray, QByteArray, double, QByteArray> row({"id", "name", "b", "items"});
         const double b = 6356752.314140356;
         row("name", "id", "A%sname", b, "ellipsoid_name=A%sname ellipsoid_f=298.257222");
         row("id", "id", "", b, "ellipsoid_name=id ellipsoid_f=298.257222");
@@ -91,7 +88,10 @@ private Q_SLOTS:
         row("sphere", "", "", 6378137, "ellipsoid_name=unknown ellipsoid_f=0.000000");
     }
     void ellipsoids() {
-        const auto [id, name, b, items] = Ellipsoids::current();
+        QFETCH(QByteArray, id);
+        QFETCH(QByteArray, name);
+        QFETCH(double, b);
+        QFETCH(QByteArray, items);
         library.ellipsoid = {id.isEmpty() ? nullptr : id.constData(), 6378137, b,
                              name.isEmpty() ? nullptr : name.constData()};
         convert("");
@@ -99,7 +99,7 @@ private Q_SLOTS:
     }
 
     void shifts_data() {
-        const Shifts row;
+        const Rows<QList<double>, QByteArray> row({"shift", "items"});
         row("none", {0, 0, 0, 0, 0, 0, 0}, "_7type=0 _7dx _7rx _7ppm");
         row("none, negative zeros", {-0.0, 0, 0, 0, 0, -0.0, 0}, "_7type=0 _7dx");
         row("ppm only", {0, 0, 0, 0, 0, 0, 1.5}, "_7type=2 _7dx=0.000000 _7rz=0.000000 _7ppm=1.500000");
@@ -108,7 +108,8 @@ private Q_SLOTS:
         row("not a number", {std::numeric_limits<double>::quiet_NaN(), 0, 0, 0, 0, 0, 0}, "_7type=2 _7dx=nan");
     }
     void shifts() {
-        const auto [shift, items] = Shifts::current();
+        QFETCH(QList<double>, shift);
+        QFETCH(QByteArray, items);
         library.shift = {shift[0], shift[1], shift[2], shift[3], shift[4], shift[5], shift[6]};
         convert("");
         QCOMPARE(inRecord(*record, items), items);
@@ -128,12 +129,12 @@ private Q_SLOTS:
     }
 
     void thereAndBack_data() {
-        const Definitions row;
+        const Rows<QByteArray> row({"definition"});
         for (const QByteArrayList& columns : textTable("there_and_back.txt"))
             row(columns[0], columns[1]);
     }
     void thereAndBack() {
-        const auto [definition] = Definitions::current();
+        QFETCH(QByteArray, definition);
         library.shift = {446.448, -125.157, 542.06, 0.1502, 0.247, 0.8421, -20.4894};
         convert(definition.contains("k_0") ? definition : definition + " +k_0=1");
         QCOMPARE(coordParamToProjDefine(*record),
@@ -147,12 +148,12 @@ private Q_SLOTS:
     }
 
     void withoutAProjection_data() {
-        const Definitions row;
+        const Rows<QByteArray> row({"items"});
         for (const QByteArrayList& columns : textTable("records_without_projection.txt"))
             row(columns[0], columns[1]);
     }
     void withoutAProjection() {
-        const auto [items] = Definitions::current();
+        QFETCH(QByteArray, items);
         convert(gaussKruger);
         QVERIFY(coordParamDefinesProjection(*record));
         for (const QByteArray& item : items.split(' ')) {
@@ -184,7 +185,7 @@ private Q_SLOTS:
     }
 
     void textOfAFile_data() {
-        const TwoTexts row;
+        const Rows<QByteArray, QByteArray> row({"content", "text"});
         row("plain", "PROJCS[]", "PROJCS[]");
         row("Windows line ends", "PROJCS[\r\n]\r\n", "PROJCS[\n]");
         row("byte-order mark", "\xEF\xBB\xBFPROJCS[]", "PROJCS[]");
@@ -197,7 +198,8 @@ private Q_SLOTS:
         row("UTF-8 cut in two", "PROJCS[\xC3", "PROJCS[\xC3\x83");
     }
     void textOfAFile() {
-        const auto [content, text] = TwoTexts::current();
+        QFETCH(QByteArray, content);
+        QFETCH(QByteArray, text);
         QVERIFY(setContent(path, content));
         const WktFile file(path);
         QCOMPARE(library.readText, text);
@@ -255,5 +257,5 @@ private:
     const QString path = folder.filePath("file.prj");
 };
 
-QTEST_GUILESS_MAIN(ImportTest)
+ROOM_TEST(ImportTest)
 #include "ImportTest.moc"

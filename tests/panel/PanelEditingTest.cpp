@@ -96,18 +96,6 @@ public:
     }
 };
 
-using ReadsAngles = Rows<AngleRole, double, QString>;
-using RefusesAngles = Rows<AngleRole>;
-using FormatsAngles = Rows<double, QString, QString>;
-using ReadsNumbers = Rows<QString>;
-using GivesBackUneditedRecord = Rows<int>;
-using EditsEveryField = Rows<ProjectionMethod, int>;
-using DefinesFreshSystem = Rows<ProjectionMethod>;
-using KeepsTrueScaleParallel = Rows<ProjectionMethod, double, double>;
-using KeepsLastGoodValue = Rows<int, QByteArray, QString, QString, QString>;
-using SaysWhatIsWrong = Rows<ProjectionMethod, QByteArrayList, QString>;
-using FitsItsWindow = Rows<bool>;
-
 class PanelEditingTest : public QObject {
     Q_OBJECT
 
@@ -115,13 +103,15 @@ private Q_SLOTS:
     void init() { AngleText::setNotation(AngleNotation::DecimalDegrees); }
 
     void readsAngles_data() {
-        const ReadsAngles row;
+        const Rows<AngleRole, double, QString> row({"role", "degrees", "stored"});
         for (const QByteArrayList& line : textTable("angles.txt"))
             row(QByteArray(line[0]).replace('~', ' '), role(line[1]), line[2].toDouble(), line[3]);
     }
 
     void readsAngles() {
-        const auto [role, degrees, stored] = ReadsAngles::current();
+        QFETCH(AngleRole, role);
+        QFETCH(double, degrees);
+        QFETCH(QString, stored);
         const AngleInput input = AngleText::parse(QTest::currentDataTag(), role);
         QVERIFY2(input.valid, qPrintable(input.reason));
         QVERIFY(qAbs(input.degrees - degrees) <= 1e-13);
@@ -131,7 +121,7 @@ private Q_SLOTS:
     }
 
     void refusesAngles_data() {
-        const RefusesAngles row;
+        const Rows<AngleRole> row({"role"});
         for (const char* typed :
              {"117,5",  "117 60 00",      "117 30 60", "117.5 30", "117 30.5 10", "-45S", "+45N", "N45S", "45 30 20 10",
               "45 -30", "4 5 .",          "1e2",       "nan",      "inf",         "0x10", "--45", "45°°", "45.5.5",
@@ -143,14 +133,14 @@ private Q_SLOTS:
     }
 
     void refusesAngles() {
-        const auto [role] = RefusesAngles::current();
+        QFETCH(AngleRole, role);
         const AngleInput input = AngleText::parse(QString::fromUtf8(QTest::currentDataTag()), role);
         QVERIFY(!input.valid);
         QVERIFY(!input.reason.isEmpty());
     }
 
     void formatsAngles_data() {
-        const FormatsAngles row;
+        const Rows<double, QString, QString> row({"degrees", "decimal", "expected"});
         row("half", 117.5, "117.5", "117°30'00\"");
         row("seconds", 117 + 1800.5 / 3600, "117.50013888888888", "117°30'00.5\"");
         row("third", 49.83333333333334, "49.83333333333334", "49°50'00\"");
@@ -161,7 +151,9 @@ private Q_SLOTS:
     }
 
     void formatsAngles() {
-        const auto [degrees, decimal, expected] = FormatsAngles::current();
+        QFETCH(double, degrees);
+        QFETCH(QString, decimal);
+        QFETCH(QString, expected);
         QCOMPARE(AngleText::format(degrees, AngleNotation::DecimalDegrees), decimal);
         const QString sexagesimal = AngleText::format(degrees, AngleNotation::DegreesMinutesSeconds);
         QCOMPARE(sexagesimal, expected);
@@ -170,7 +162,7 @@ private Q_SLOTS:
 
     void readsNumbers_data() {
         // stored: empty: refused
-        const ReadsNumbers row;
+        const Rows<QString> row({"stored"});
         row(" 500000.50 ", "500000.50");
         row("+1", "1");
         row("−0.1", "-0.1");
@@ -181,7 +173,7 @@ private Q_SLOTS:
     }
 
     void readsNumbers() {
-        const auto [stored] = ReadsNumbers::current();
+        QFETCH(QString, stored);
         const QString typed = QString::fromUtf8(QTest::currentDataTag());
         double number = 0;
         QString plain;
@@ -192,7 +184,7 @@ private Q_SLOTS:
 
     void givesBackUneditedRecord_data() {
         // method: -1: a fresh one, -2: odd texts, -3: nothing
-        const GivesBackUneditedRecord row;
+        const Rows<int> row({"method"});
         for (const ProjectionFields& projection : ProjectionFields::all())
             row(projection.name, int(projection.method));
         row("fresh", -1);
@@ -201,7 +193,7 @@ private Q_SLOTS:
     }
 
     void givesBackUneditedRecord() {
-        const auto [method] = GivesBackUneditedRecord::current();
+        QFETCH(int, method);
         const DictionaryGuard record = method >= 0    ? imported(ProjectionMethod(method))
                                        : method == -1 ? fresh()
                                        : method == -2 ? imported(ProjectionMethod::LambertTwoParallels)
@@ -236,7 +228,7 @@ private Q_SLOTS:
     }
 
     void editsEveryField_data() {
-        const EditsEveryField row;
+        const Rows<ProjectionMethod, int> row({"method", "index"});
         for (const ProjectionFields& projection : ProjectionFields::all()) {
             for (size_t i = 0; i < projection.fields.size(); ++i)
                 QTest::addRow("%d %s", int(projection.method), projection.fields[i].key) << projection.method << int(i);
@@ -244,7 +236,8 @@ private Q_SLOTS:
     }
 
     void editsEveryField() {
-        const auto [method, index] = EditsEveryField::current();
+        QFETCH(ProjectionMethod, method);
+        QFETCH(int, index);
         const ProjectionFields* fields = ProjectionFields::find(int(method));
         const ParamField& field = fields->fields[size_t(index)];
         const DictionaryGuard record = imported(method);
@@ -290,13 +283,13 @@ private Q_SLOTS:
     }
 
     void definesFreshSystem_data() {
-        const DefinesFreshSystem row;
+        const Rows<ProjectionMethod> row({"method"});
         for (const ProjectionFields& projection : ProjectionFields::all())
             row(projection.name, projection.method);
     }
 
     void definesFreshSystem() {
-        const auto [method] = DefinesFreshSystem::current();
+        QFETCH(ProjectionMethod, method);
         PanelOnScreen screen(*fresh());
         // As created, as the import writes a definition that fits no method, and without even an ellipsoid.
         for (int state = 0; state < 3; ++state) {
@@ -330,7 +323,7 @@ private Q_SLOTS:
 
     /// The keys that the method's fields write are those that make its definition, and no others.
     void definesByItsFields() {
-        const auto [method] = DefinesFreshSystem::current();
+        QFETCH(ProjectionMethod, method);
         const DictionaryGuard record = imported(method);
         if (method == ProjectionMethod::Stereographic) {
             record->setText(orgLat, "90");
@@ -384,7 +377,7 @@ private Q_SLOTS:
     }
 
     void keepsTrueScaleParallel_data() {
-        const KeepsTrueScaleParallel row;
+        const Rows<ProjectionMethod, double, double> row({"method", "latitude", "parallel"});
         row("Mercator", ProjectionMethod::MercatorStandardParallel, 0.0, 41.0);
         row("Mercator, all digits", ProjectionMethod::MercatorStandardParallel, 0.0, 20.123456789012);
         row("Mercator, near the equator", ProjectionMethod::MercatorStandardParallel, 0.0, 0.5);
@@ -394,7 +387,9 @@ private Q_SLOTS:
     }
 
     void keepsTrueScaleParallel() {
-        const auto [method, latitude, parallel] = KeepsTrueScaleParallel::current();
+        QFETCH(ProjectionMethod, method);
+        QFETCH(double, latitude);
+        QFETCH(double, parallel);
         PanelOnScreen screen(*fresh());
         chooseMethod(screen, method);
         if (method == ProjectionMethod::Stereographic) {
@@ -426,14 +421,18 @@ private Q_SLOTS:
     }
 
     void keepsLastGoodValue_data() {
-        const KeepsLastGoodValue row;
+        const Rows<int, QByteArray, QString, QString, QString> row({"tab", "label", "good", "bad", "range"});
         for (const QByteArrayList& line : textTable("refused_values.txt"))
             row(line.mid(1, 3).join(' '), line[0].toInt(), line[1], line[2], QByteArray(line[3]).replace('~', ' '),
                 line[4]);
     }
 
     void keepsLastGoodValue() {
-        const auto [tab, label, good, bad, range] = KeepsLastGoodValue::current();
+        QFETCH(int, tab);
+        QFETCH(QByteArray, label);
+        QFETCH(QString, good);
+        QFETCH(QString, bad);
+        QFETCH(QString, range);
         const DictionaryGuard record = imported(ProjectionMethod::LambertTwoParallels);
         PanelOnScreen screen(*record, PanelOnScreen::Tab(tab));
         QLineEdit* edit = screen.type(label, good);
@@ -465,13 +464,15 @@ private Q_SLOTS:
     }
 
     void saysWhatIsWrong_data() {
-        const SaysWhatIsWrong row;
+        const Rows<ProjectionMethod, QByteArrayList, QString> row({"method", "values", "message"});
         for (const QByteArrayList& line : textTable("problems.txt"))
             row(line[0], ProjectionMethod(line[1].toInt()), line[2].split(' '), line[3]);
     }
 
     void saysWhatIsWrong() {
-        const auto [method, values, message] = SaysWhatIsWrong::current();
+        QFETCH(ProjectionMethod, method);
+        QFETCH(QByteArrayList, values);
+        QFETCH(QString, message);
         const DictionaryGuard record = imported(method);
         if (method == ProjectionMethod::LambertOneParallel)
             record->setText(orgLat, "46.3");
@@ -721,13 +722,13 @@ private Q_SLOTS:
     }
 
     void fitsItsWindow_data() {
-        const FitsItsWindow row;
+        const Rows<bool> row({"longTexts"});
         row("English", false);
         row("40 % longer", true);
     }
 
     void fitsItsWindow() {
-        const auto [longTexts] = FitsItsWindow::current();
+        QFETCH(bool, longTexts);
         LongTranslation translation;
         if (longTexts)
             QVERIFY(QCoreApplication::installTranslator(&translation));
@@ -753,5 +754,5 @@ private Q_SLOTS:
     }
 };
 
-ROOM_TEST_MAIN(PanelEditingTest)
+ROOM_TEST(PanelEditingTest)
 #include "PanelEditingTest.moc"

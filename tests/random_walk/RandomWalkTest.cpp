@@ -13,6 +13,7 @@
 #include <QMap>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
+#include <QtTest>
 #include <QtWidgets>
 
 /// Thousands of commands in random order, always the same ones: after each of them the tree, the catalogue, the panel
@@ -219,5 +220,5 @@ private:
     QString did; ///< the last step, for the message of a failure
 };
 
-ROOM_TEST_MAIN(RandomWalkTest)
+ROOM_TEST(RandomWalkTest)
 #include "RandomWalkTest.moc"

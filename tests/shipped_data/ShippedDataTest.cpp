@@ -5,6 +5,7 @@
 #include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
 #include "platform/sdk/CatalogueFile.h"
+#include "support/RoomTest.h"
 #include "support/Rows.h"
 
 #include <QHash>
@@ -61,10 +62,6 @@ double number(const CatalogueRecord& record, const char* key) {
 
 } // namespace
 
-using EllipsoidFigures = Rows<QByteArray, QByteArray>;
-using SystemFigures = Rows<QByteArray, int, QVector<double>>;
-using SystemsStandInTheirOrder = Rows<QString, QString>;
-
 /// The files that the build makes, as the tool finds them.
 class ShippedDataTest : public QObject {
     Q_OBJECT
@@ -79,7 +76,7 @@ private Q_SLOTS:
     }
 
     void ellipsoidFigures_data() {
-        const EllipsoidFigures row;
+        const Rows<QByteArray, QByteArray> row({"a", "f"});
 
         // EPSG registry, by the ellipsoid's code.
         row("WGS 84", "6378137.0", "298.257223563");         // 7030
@@ -92,7 +89,8 @@ private Q_SLOTS:
     }
 
     void ellipsoidFigures() {
-        const auto [a, f] = EllipsoidFigures::current();
+        QFETCH(QByteArray, a);
+        QFETCH(QByteArray, f);
         const CatalogueRecord* ellipsoid = ellipsoids.records.find(QTest::currentDataTag());
         QVERIFY(ellipsoid);
         QCOMPARE(QByteArray(ellipsoid->values->getValue(EllipsoidKey::a)), a);
@@ -119,7 +117,7 @@ private Q_SLOTS:
 
     void systemFigures_data() {
         // figures: longitude, latitude, factor, easting, northing, parallels
-        const SystemFigures row;
+        const Rows<QByteArray, int, QVector<double>> row({"group", "method", "figures"});
 
         const int scaled = int(ProjectionMethod::TransverseMercatorScaled);
         const int lambert = int(ProjectionMethod::LambertTwoParallels);
@@ -148,7 +146,9 @@ private Q_SLOTS:
     }
 
     void systemFigures() {
-        auto [group, method, figures] = SystemFigures::current();
+        QFETCH(QByteArray, group);
+        QFETCH(int, method);
+        QFETCH(QVector<double>, figures);
         const CoordSysGroup* found = systems.groups.find(group);
         const CatalogueRecord* system = found ? found->systems.find(QTest::currentDataTag()) : nullptr;
         QVERIFY(system);
@@ -220,7 +220,7 @@ private Q_SLOTS:
 
     void systemsStandInTheirOrder_data() {
         // name: of every system, with %1 for what counts
-        const SystemsStandInTheirOrder row;
+        const Rows<QString, QString> row({"name", "counted"});
         row("WGS 84 / UTM North", "WGS 84 / UTM zone %1N", "1 2 3 4 5 6 7 8 9 10 11 12");
         row("CGCS2000 / 3-degree Gauss-Kruger", "CGCS2000 / 3-degree Gauss-Kruger CM %1E",
             "75 78 81 84 87 90 93 96 99 102 105");
@@ -230,7 +230,8 @@ private Q_SLOTS:
 
     /// A group begins with these; the first group is the first that a user sees.
     void systemsStandInTheirOrder() {
-        const auto [name, counted] = SystemsStandInTheirOrder::current();
+        QFETCH(QString, name);
+        QFETCH(QString, counted);
         QCOMPARE(systems.groups.begin()->name, QByteArray("WGS 84 / UTM North"));
         const CoordSysGroup* group = systems.groups.find(QTest::currentDataTag());
         QVERIFY(group);
@@ -245,5 +246,5 @@ private:
     SystemFile systems;
 };
 
-QTEST_GUILESS_MAIN(ShippedDataTest)
+ROOM_TEST(ShippedDataTest)
 #include "ShippedDataTest.moc"

@@ -1,14 +1,21 @@
 #pragma once
 
-#include "platform/desktop/Applicationx.h"
+#include <QObject>
 
-#include <QTest>
+#include <memory>
 
-/// The main function of a test program with widgets: the tool's own application object, so that any locale carries any
-/// name.
-#define ROOM_TEST_MAIN(TestClass)                                                                                      \
-    int main(int argc, char** argv) {                                                                                  \
-        const Applicationx application(argc, argv, "test", "test");                                                    \
-        TestClass test;                                                                                                \
-        return QTest::qExec(&test, argc, argv);                                                                        \
-    }
+/// The test classes of one program. Each says ROOM_TEST(Class) in its own file; the program runs them one after another
+/// with the command line's arguments, or only the class that the first argument names.
+class RoomTest {
+public:
+    using Create = std::unique_ptr<QObject> (*)();
+
+    RoomTest(const char* name, Create create);
+
+    /// Runs the classes; how many of them failed.
+    static int run(int argc, char** argv);
+};
+
+#define ROOM_TEST(TestClass)                                                                                           \
+    static const RoomTest registered##TestClass(                                                                       \
+        #TestClass, []() -> std::unique_ptr<QObject> { return std::make_unique<TestClass>(); });

@@ -2,29 +2,25 @@
 
 #include <QTest>
 
-#include <tuple>
 #include <utility>
 
-/// The table of a test, with a column of each type: `_data()` makes one and calls it for every row, and the test takes
-/// its row apart, as in `const auto [text, number] = Table::current()`.
+/// The table of a test: `_data()` makes one, whose columns have names and types, and calls it for every row. The test
+/// takes its row with QFETCH.
+///
+///     const Rows<QByteArray, double> row({"text", "degrees"});
+///     row("with a sign", "-0:45", -0.75);
 template <typename... Columns> class Rows {
 public:
-    Rows() { addColumns(std::index_sequence_for<Columns...>()); }
+    using Names = const char* const (&)[sizeof...(Columns)];
+
+    explicit Rows(Names names) { addColumns(names, std::index_sequence_for<Columns...>()); }
 
     void operator()(const QByteArray& title, const Columns&... values) const {
         (QTest::newRow(title) << ... << values);
     }
 
-    static std::tuple<Columns...> current() { return current(std::index_sequence_for<Columns...>()); }
-
 private:
-    static constexpr const char* names[] = {"1", "2", "3", "4", "5", "6", "7"};
-
-    template <size_t... I> static void addColumns(std::index_sequence<I...>) {
+    template <size_t... I> static void addColumns(Names names, std::index_sequence<I...>) {
         (QTest::addColumn<Columns>(names[I]), ...);
-    }
-
-    template <size_t... I> static std::tuple<Columns...> current(std::index_sequence<I...>) {
-        return {*static_cast<Columns*>(QTest::qData(names[I], qMetaTypeId<Columns>()))...};
     }
 };

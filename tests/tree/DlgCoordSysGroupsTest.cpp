@@ -80,12 +80,6 @@ void answerNameDialog(const QString& typed) {
 
 } // namespace
 
-using TreeMirrorsTheCatalogue = Rows<QString, bool, QString>;
-using FirstSystemIsAnnounced = Rows<QStringList, QStringList, QString>;
-using MenuFollowsTheItem = Rows<QString, QStringList>;
-using Command = Rows<QString, QString, QString, QString, QStringList, QString, QString>;
-using NameDialogChecks = Rows<int, QString, QString>;
-
 class DlgCoordSysGroupsTest : public QObject {
     Q_OBJECT
 
@@ -106,7 +100,7 @@ private Q_SLOTS:
     }
 
     void treeMirrorsTheCatalogue_data() {
-        const TreeMirrorsTheCatalogue row;
+        const Rows<QString, bool, QString> row({"rawGroupNames", "nullLists", "expected"});
         row("catalogue order", {}, false, "A[a1 same a2] B[b1 same] C[]");
         row("empty parts dropped, nothing trimmed", ",B,, D,A,", false, "B[b1 same]  D[] A[a1 same a2]");
         row("only commas", ",,,", false, {});
@@ -114,7 +108,9 @@ private Q_SLOTS:
     }
 
     void treeMirrorsTheCatalogue() {
-        const auto [rawGroupNames, nullLists, expected] = TreeMirrorsTheCatalogue::current();
+        QFETCH(QString, rawGroupNames);
+        QFETCH(bool, nullLists);
+        QFETCH(QString, expected);
         catalogue->rawGroupNames = rawGroupNames;
         catalogue->nullLists = nullLists;
         tree = std::make_unique<DlgCoordSysGroups>(catalogue.get(), nullptr);
@@ -135,14 +131,16 @@ private Q_SLOTS:
 
     void firstSystemIsAnnounced_data() {
         // groups: name, systems ... per group
-        const FirstSystemIsAnnounced row;
+        const Rows<QStringList, QStringList, QString> row({"groups", "expected", "current"});
         row("empty catalogue", {}, {}, "CoordSysGroup");
         row("first group empty", {"E", "A:a1"}, {}, "CoordSysGroup");
         row("first of several", {"A:a1 a2", "B:b1"}, {"treeItemClicked(A,a1)"}, "A/a1");
     }
 
     void firstSystemIsAnnounced() {
-        const auto [groups, expected, current] = FirstSystemIsAnnounced::current();
+        QFETCH(QStringList, groups);
+        QFETCH(QStringList, expected);
+        QFETCH(QString, current);
         catalogue->groups.clear();
         for (const QString& group : groups)
             catalogue->addTestGroup(group.section(':', 0, 0), group.section(':', 1).split(' ', Qt::SkipEmptyParts));
@@ -168,7 +166,7 @@ private Q_SLOTS:
     }
 
     void menuFollowsTheItem_data() {
-        const MenuFollowsTheItem row;
+        const Rows<QString, QStringList> row({"path", "expected"});
         const QStringList rootEntries{"AddSysGroup", "Edit Ellipsoid", "AddGeoid"};
         row("empty space", "empty", rootEntries);
         row("root", "root", rootEntries);
@@ -177,7 +175,8 @@ private Q_SLOTS:
     }
 
     void menuFollowsTheItem() {
-        const auto [path, expected] = MenuFollowsTheItem::current();
+        QFETCH(QString, path);
+        QFETCH(QStringList, expected);
         startTree();
         QStringList entries;
         rightClick(path, QString(), &entries);
@@ -189,7 +188,8 @@ private Q_SLOTS:
     void command_data() {
         // Left-clicked first, right-clicked or "button" for the window's Add, entry, name typed or "yes"/"no" to a
         // question, log, tree and current item afterwards.
-        const Command row;
+        const Rows<QString, QString, QString, QString, QStringList, QString, QString> row(
+            {"clicked", "on", "entry", "typed", "log", "treeAfter", "currentAfter"});
         const auto added = [](const QString& group, const QString& name, const QStringList& bottom) {
             const QString get = "getGroup(" + group + ")", prefix = group + ".", of = "(" + name + ")";
             return QStringList{get, prefix + "getCoordSystem" + of, get, prefix + "hasCoordSystem" + of} + bottom +
@@ -227,7 +227,13 @@ private Q_SLOTS:
     }
 
     void command() {
-        const auto [clicked, on, entry, typed, log, treeAfter, currentAfter] = Command::current();
+        QFETCH(QString, clicked);
+        QFETCH(QString, on);
+        QFETCH(QString, entry);
+        QFETCH(QString, typed);
+        QFETCH(QStringList, log);
+        QFETCH(QString, treeAfter);
+        QFETCH(QString, currentAfter);
         startTree();
         leftClick(clicked);
         catalogue->takeCalls();
@@ -341,7 +347,7 @@ private Q_SLOTS:
     }
 
     void nameDialogChecks_data() {
-        const NameDialogChecks row;
+        const Rows<int, QString, QString> row({"nameType", "typed", "message"});
         const QString content = "please input valid content!";
         const QString sameGroup = "has same as coord group name!", sameSystem = "has same as coord system name!";
         for (const int type : {0, 1}) {
@@ -359,7 +365,9 @@ private Q_SLOTS:
     }
 
     void nameDialogChecks() {
-        const auto [nameType, typed, message] = NameDialogChecks::current();
+        QFETCH(int, nameType);
+        QFETCH(QString, typed);
+        QFETCH(QString, message);
         DlgInputName dialog(nullptr, catalogue.get());
         QCOMPARE(dialog.windowTitle(), QString("please input name"));
         dialog.groupName = "A";
@@ -411,5 +419,5 @@ private:
     std::unique_ptr<DlgCoordSysGroups> tree;
 };
 
-ROOM_TEST_MAIN(DlgCoordSysGroupsTest)
+ROOM_TEST(DlgCoordSysGroupsTest)
 #include "DlgCoordSysGroupsTest.moc"

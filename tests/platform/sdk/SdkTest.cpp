@@ -6,6 +6,7 @@
 #include "platform/sdk/Catalogue.h"
 #include "support/Files.h"
 #include "support/RecordText.h"
+#include "support/RoomTest.h"
 #include "support/Rows.h"
 
 #include <QDir>
@@ -153,11 +154,6 @@ static QByteArray answerOf(QProcess& process) {
     return process.readLine().trimmed();
 }
 
-using NamesThatAreRefused = Rows<QByteArray>;
-using TextsSurvive = Rows<QByteArray, QByteArray>;
-using DamagedFile = Rows<QByteArray, int>;
-using Instances = Rows<QString>;
-
 class SdkTest : public QObject {
     Q_OBJECT
 
@@ -216,14 +212,14 @@ private Q_SLOTS:
     }
 
     void namesThatAreRefused_data() {
-        const NamesThatAreRefused row;
+        const Rows<QByteArray> row({"name"});
         row("empty", "");
         row("comma", "UTM, zone 33");
         row("taken", "taken");
     }
 
     void namesThatAreRefused() {
-        const auto [name] = NamesThatAreRefused::current();
+        QFETCH(QByteArray, name);
         const Folders folders;
         Session session(folders);
         session.add("taken", "taken");
@@ -373,7 +369,7 @@ private Q_SLOTS:
     }
 
     void textsSurvive_data() {
-        const TextsSurvive row;
+        const Rows<QByteArray, QByteArray> row({"codec", "text"});
         const QByteArray utf8("UTF-8");
         row("quotes", utf8, "\"a\" 'b' `c`");
         row("markup", utf8, "<a href=\"x\">&amp;&#65;</a>]]>-->");
@@ -393,7 +389,8 @@ private Q_SLOTS:
     }
 
     void textsSurvive() {
-        const auto [codec, text] = TextsSurvive::current();
+        QFETCH(QByteArray, codec);
+        QFETCH(QByteArray, text);
         QTextCodec* local = QTextCodec::codecForName(codec);
         QVERIFY(local);
         QTextCodec::setCodecForLocale(local);
@@ -555,7 +552,7 @@ private Q_SLOTS:
 
     void damagedFile_data() {
         // The content, with "%" for a good file's content without its root element, and how many systems can be read.
-        const DamagedFile row;
+        const Rows<QByteArray, int> row({"content", "systems"});
         const QByteArray root = "<coordinate_systems version=\"1\">%";
         row("empty", "", 0);
         row("zeros", QByteArray(3000, '\0'), 0);
@@ -571,7 +568,8 @@ private Q_SLOTS:
     }
 
     void damagedFile() {
-        auto [content, systems] = DamagedFile::current();
+        QFETCH(QByteArray, content);
+        QFETCH(int, systems);
         const Folders folders;
         saveNineSystems(folders);
         const QByteArray good = contentOf(folders.systems());
@@ -643,7 +641,7 @@ private Q_SLOTS:
     }
 
     void instances_data() {
-        const Instances row;
+        const Rows<QString> row({"name"});
         row("plain", "home");
         row("not ASCII", QString::fromUtf8("Gr\xC3\xB6\xC3\x9F"
                                            "e \xE6\x96\xB0"));
@@ -651,7 +649,7 @@ private Q_SLOTS:
     }
 
     void instances() {
-        const auto [name] = Instances::current();
+        QFETCH(QString, name);
         const QTemporaryDir dir;
         const QString home = dir.filePath(name);
         for (int round = 0; round < 3; ++round) {
@@ -697,5 +695,5 @@ private:
     int alive = 0;
 };
 
-QTEST_GUILESS_MAIN(SdkTest)
+ROOM_TEST(SdkTest)
 #include "SdkTest.moc"

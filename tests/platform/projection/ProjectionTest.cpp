@@ -1,6 +1,7 @@
 #include "platform/projection/IProjectionModule.h"
 #include "platform/projection/IWktReader.h"
 #include "platform/projection/ProjectionLibrary.h"
+#include "support/RoomTest.h"
 #include "support/Rows.h"
 #include "support/TextTable.h"
 
@@ -106,12 +107,6 @@ QByteArray boundWkt(const char* method, int sign) {
 
 } // namespace
 
-using Definitions = Rows<QByteArray>;
-using TwoTexts = Rows<QByteArray, QByteArray>;
-using Ellipsoids = Rows<QByteArray, QByteArray, QByteArray, double, double>;
-using Shifts = Rows<QByteArray, QList<double>>;
-using Contents = Rows<QByteArray, int, QByteArray>;
-
 class ProjectionTest : public QObject {
     Q_OBJECT
 
@@ -122,12 +117,13 @@ private Q_SLOTS:
     }
 
     void normalised_data() {
-        const TwoTexts row;
+        const Rows<QByteArray, QByteArray> row({"given", "expected"});
         for (const QByteArrayList& columns : textTable("normalised.txt"))
             row(columns[0], columns[1], columns[2]);
     }
     void normalised() {
-        const auto [given, expected] = TwoTexts::current();
+        QFETCH(QByteArray, given);
+        QFETCH(QByteArray, expected);
         QCOMPARE(define(given), expected + noShift);
         QCOMPARE(define(define(given)), define(given));
         const QByteArray shiftless = QByteArray(given).replace("+nadgrids=@null", "").replace("+datum=", "+ellps=");
@@ -138,12 +134,12 @@ private Q_SLOTS:
     }
 
     void undefined_data() {
-        const Definitions row;
+        const Rows<QByteArray> row({"given"});
         for (const QByteArrayList& columns : textTable("undefined.txt"))
             row(columns[0], columns[1]);
     }
     void undefined() {
-        const auto [given] = Definitions::current();
+        QFETCH(QByteArray, given);
         const QByteArray text = define(given);
         QVERIFY2(!text.isEmpty() && !text.contains("proj=") && !text.contains("k_0=") && !text.contains("nan"),
                  text.constData());
@@ -151,7 +147,7 @@ private Q_SLOTS:
     }
 
     void unreadable_data() {
-        const Definitions row;
+        const Rows<QByteArray> row({"given"});
         for (const char* text :
              {"", " ", "hello world", "+", "=", "+=", "+proj=", "+proj=tmerc +ellps=unheard",
               "+proj=tmerc +datum=unheard", "+proj=tmerc +towgs84=1,2", "+proj=tmerc +towgs84=1,2,x",
@@ -160,7 +156,7 @@ private Q_SLOTS:
             row(text, text);
     }
     void unreadable() {
-        const auto [given] = Definitions::current();
+        QFETCH(QByteArray, given);
         const ProjHandle handle = InitializeProj(given.isEmpty() ? nullptr : given.constData());
         QCOMPARE(QByteArray(GetProjDefine(handle)), QByteArray());
         const ProjEllipsoid ellipsoid = GetProjEllipsoid(handle);
@@ -171,7 +167,7 @@ private Q_SLOTS:
     }
 
     void plainDefinitionsComputeTheSame_data() {
-        const Definitions row;
+        const Rows<QByteArray> row({"pattern"});
         for (const char* pattern :
              {"+proj=tmerc +lat_0=%lat +lon_0=%lon +k=%k +x_0=%x +y_0=%x", "+proj=utm +zone=%zone",
               "+proj=utm +zone=%zone +south", "+proj=merc +lon_0=%lon +k=%k +x_0=%x",
@@ -187,7 +183,7 @@ private Q_SLOTS:
             row(pattern, pattern);
     }
     void plainDefinitionsComputeTheSame() {
-        const auto [pattern] = Definitions::current();
+        QFETCH(QByteArray, pattern);
         QRandomGenerator random(20);
         const QList<QByteArray> ends{" +ellps=GRS80",
                                      " +ellps=bessel +pm=ferro",
@@ -224,12 +220,16 @@ private Q_SLOTS:
     }
 
     void ellipsoids_data() {
-        const Ellipsoids row;
+        const Rows<QByteArray, QByteArray, QByteArray, double, double> row({"items", "id", "name", "a", "b"});
         for (const QByteArrayList& columns : textTable("ellipsoids.txt"))
             row(columns[0], columns[0], columns[1], columns[2], columns[3].toDouble(), columns[4].toDouble());
     }
     void ellipsoids() {
-        const auto [items, id, name, a, b] = Ellipsoids::current();
+        QFETCH(QByteArray, items);
+        QFETCH(QByteArray, id);
+        QFETCH(QByteArray, name);
+        QFETCH(double, a);
+        QFETCH(double, b);
         const ProjEllipsoid ellipsoid = GetProjEllipsoid(InitializeProj(("+proj=tmerc " + items).constData()));
         QCOMPARE(QByteArray(ellipsoid.id), id);
         QCOMPARE(QByteArray(ellipsoid.name), name);
@@ -240,7 +240,7 @@ private Q_SLOTS:
     }
 
     void shifts_data() {
-        const Shifts rows;
+        const Rows<QByteArray, QList<double>> rows({"items", "shift"});
         const auto row = [&rows](const char* items, const QList<double>& shift) { rows(items, items, shift); };
         const QList<double> none{0, 0, 0, 0, 0, 0, 0};
         row("+ellps=GRS80", none);
@@ -259,7 +259,8 @@ private Q_SLOTS:
         row("+datum=OSGB36 +nadgrids=@null", none);
     }
     void shifts() {
-        const auto [items, shift] = Shifts::current();
+        QFETCH(QByteArray, items);
+        QFETCH(QList<double>, shift);
         QCOMPARE(shiftOf("+proj=tmerc " + items), shift);
         QVERIFY(define("+proj=tmerc " + items).startsWith("+proj=tmerc"));
     }
@@ -277,7 +278,7 @@ private Q_SLOTS:
     }
 
     void wktContents_data() {
-        const Contents rows;
+        const Rows<QByteArray, int, QByteArray> rows({"text", "content", "name"});
         const auto row = [&rows](const char* title, const QByteArray& text, WktSystem::Content content,
                                  const char* name = "") { rows(title, text, int(content), name); };
         const auto projected = WktSystem::Content::Projected;
@@ -325,14 +326,16 @@ private Q_SLOTS:
         row("more than GDAL takes", system + QByteArray(200000, 'x'), unreadable);
     }
     void wktContents() {
-        const auto [text, content, name] = Contents::current();
+        QFETCH(QByteArray, text);
+        QFETCH(int, content);
+        QFETCH(QByteArray, name);
         const WktSystem system = projectionModule()->wktReader().read(text);
         QCOMPARE(int(system.content), content);
         QCOMPARE(system.name, name);
     }
 
     void wktDefinitions_data() {
-        const TwoTexts rows;
+        const Rows<QByteArray, QByteArray> rows({"text", "start"});
         // The start of the normalised definition; empty when the projection is undefined.
         const auto row = [&rows](const char* title, const QByteArray& text, const char* start = "") {
             rows(title, text, start);
@@ -405,7 +408,8 @@ private Q_SLOTS:
                                       R"w(AXIS["(N)",south,MERIDIAN[180,ANGLEUNIT["degree",0.0174532925199433]]])w"));
     }
     void wktDefinitions() {
-        const auto [text, start] = TwoTexts::current();
+        QFETCH(QByteArray, text);
+        QFETCH(QByteArray, start);
         const WktSystem system = projectionModule()->wktReader().read(text);
         QCOMPARE(int(system.content), int(WktSystem::Content::Projected));
         const QByteArray definition = define(system.definition);
@@ -420,7 +424,7 @@ private Q_SLOTS:
     }
 
     void wktShifts_data() {
-        const Shifts row;
+        const Rows<QByteArray, QList<double>> row({"text", "shift"});
         const QList<double> british{446.448, -125.157, 542.06, 0.1502, 0.247, 0.8421, -20.4894};
         row("position vector", boundWkt("Position Vector transformation (geog2D domain)", 1), british);
         row("coordinate frame", boundWkt("Coordinate Frame rotation (geog2D domain)", -1), british);
@@ -432,7 +436,8 @@ private Q_SLOTS:
             {1, 2, 3, 4, 5, 6, 7});
     }
     void wktShifts() {
-        const auto [text, shift] = Shifts::current();
+        QFETCH(QByteArray, text);
+        QFETCH(QList<double>, shift);
         const QList<double> read = shiftOf(projectionModule()->wktReader().read(text).definition);
         for (int i = 0; i < 7; ++i)
             QVERIFY2(std::abs(read[i] - shift[i]) < 1e-10, qPrintable(QString::number(read[i], 'g', 17)));
@@ -453,5 +458,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ProjectionTest)
+ROOM_TEST(ProjectionTest)
 #include "ProjectionTest.moc"

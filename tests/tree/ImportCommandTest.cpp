@@ -38,8 +38,6 @@ public:
 
 } // namespace
 
-using Import = Rows<bool, QStringList, QStringList, QStringList>;
-
 class ImportCommandTest : public QObject {
     Q_OBJECT
 
@@ -65,7 +63,7 @@ private Q_SLOTS:
 
     void import_data() {
         // Whether a system of the target group was clicked before, files, messages, systems added in their order.
-        const Import row;
+        const Rows<bool, QStringList, QStringList, QStringList> row({"clicked", "files", "messages", "added"});
         row("cancelled", true, {}, {}, {});
         row("messages in file order", true, {"same.prj", "rubbish.txt", "two.txt", "geographic.prj"},
             {exists, failed, notProjected}, {"Two"});
@@ -79,7 +77,10 @@ private Q_SLOTS:
     }
 
     void import() {
-        const auto [clicked, files, messages, added] = Import::current();
+        QFETCH(bool, clicked);
+        QFETCH(QStringList, files);
+        QFETCH(QStringList, messages);
+        QFETCH(QStringList, added);
         startTree();
         if (clicked)
             tree->selectFirstCoordSystem();
@@ -178,5 +179,5 @@ private:
     std::unique_ptr<DlgCoordSysGroups> tree;
 };
 
-ROOM_TEST_MAIN(ImportCommandTest)
+ROOM_TEST(ImportCommandTest)
 #include "ImportCommandTest.moc"

@@ -1,9 +1,10 @@
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/DictionaryGuard.h"
-#include "geodesy_computing/PublishedValues.h"
 #include "import/CoordParamToProjDefine.h"
 #include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
+#include "platform/projection/computing/PublishedValues.h"
+#include "support/RoomTest.h"
 #include "support/Rows.h"
 
 #include <QTest>
@@ -49,11 +50,6 @@ void showDifference(double value, double expected, double tolerance) {
 
 } // namespace
 
-using PublishedValue = Rows<PublishedSystem, PublishedRow>;
-using ScaleIsTheDerivative = Rows<PublishedSystem>;
-using UnusableDefinition = Rows<QByteArray>;
-using ImpossiblePoint = Rows<GeographicPoint>;
-
 /// What the tool computes, against published values and against itself.
 class GeodesyComputingTest : public QObject {
     Q_OBJECT
@@ -62,7 +58,7 @@ private Q_SLOTS:
     void initTestCase() { QVERIFY2(projectionModule(), "the projection module was not found"); }
 
     void publishedValue_data() {
-        const PublishedValue rows;
+        const Rows<PublishedSystem, PublishedRow> rows({"published", "row"});
         const auto systems = readPublishedValues(TEST_DATA_DIR "/published_values.txt");
         QVERIFY(systems.size() >= 20);
         for (const PublishedSystem& published : systems) {
@@ -73,7 +69,8 @@ private Q_SLOTS:
     }
 
     void publishedValue() {
-        const auto [published, row] = PublishedValue::current();
+        QFETCH(PublishedSystem, published);
+        QFETCH(PublishedRow, row);
         const auto system = createSystem(published);
         QVERIFY(system);
         const auto& n = row.numbers;
@@ -102,14 +99,14 @@ private Q_SLOTS:
     }
 
     void scaleIsTheDerivative_data() {
-        const ScaleIsTheDerivative row;
+        const Rows<PublishedSystem> row({"published"});
         for (const PublishedSystem& published : readPublishedValues(TEST_DATA_DIR "/published_values.txt"))
             row(published.name, published);
     }
 
     /// Scale factors and convergence are those of 200 m along the meridian and the parallel through the point.
     void scaleIsTheDerivative() {
-        const auto [published] = ScaleIsTheDerivative::current();
+        QFETCH(PublishedSystem, published);
         const auto system = createSystem(published);
         QVERIFY(system);
         const DictionaryGuard record = recordOf(published);
@@ -139,7 +136,7 @@ private Q_SLOTS:
     }
 
     void unusableDefinition_data() {
-        const UnusableDefinition row;
+        const Rows<QByteArray> row({"definition"});
         row("empty", {});
         row("no projection", "+a=6378137 +rf=298.257222101 +units=m");
         row("unknown projection", "+proj=nowhere +a=6378137 +rf=298");
@@ -149,12 +146,12 @@ private Q_SLOTS:
     }
 
     void unusableDefinition() {
-        const auto [definition] = UnusableDefinition::current();
+        QFETCH(QByteArray, definition);
         QVERIFY(!projectionModule()->geodesy().createSystem(definition));
     }
 
     void impossiblePoint_data() {
-        const ImpossiblePoint row;
+        const Rows<GeographicPoint> row({"place"});
         const double nan = std::nan("");
         row("beyond the pole", GeographicPoint{90.001, 0.0, 0.0});
         row("twice around", GeographicPoint{0.0, 361.0, 0.0});
@@ -165,7 +162,7 @@ private Q_SLOTS:
 
     /// Nothing comes back, and the next point is computed as if nothing had been asked.
     void impossiblePoint() {
-        const auto [place] = ImpossiblePoint::current();
+        QFETCH(GeographicPoint, place);
         const auto system = projectionModule()->geodesy().createSystem("+proj=lcc +lat_1=40 +lat_2=50 +ellps=GRS80");
         QVERIFY(!system->toGrid(place) && !system->localScale(place));
         QVERIFY(!system->toGeographic({std::nan(""), 0.0}, 0.0));
@@ -194,5 +191,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(GeodesyComputingTest)
+ROOM_TEST(GeodesyComputingTest)
 #include "GeodesyComputingTest.moc"

@@ -1,4 +1,4 @@
-#include "panel_check/SampleRecords.h"
+#include "panel/check/SampleRecords.h"
 
 #include "support/TextTable.h"
 

@@ -1,6 +1,7 @@
 #include "catalogue/DictionaryGuard.h"
 #include "catalogue/Path.h"
 #include "support/RecordText.h"
+#include "support/RoomTest.h"
 #include "support/Rows.h"
 
 #include <QCoreApplication>
@@ -22,9 +23,13 @@ static bool useDecimalComma(const QTemporaryDir& folder) {
     return setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;
 }
 
-using Formats = Rows<QByteArray, double, QByteArray, bool>;
-using NumberOfAText = Rows<QByteArray, double>;
-using ResolvePath = Rows<QByteArray, QByteArray, QByteArray>;
+static QByteArray resolvedPath() {
+    char path[4096];
+    process_resolve_path(path, sizeof path, "$(APP_DIR)/%s", "x");
+    return path;
+}
+
+static const QByteArray pathBeforeTheApplication = resolvedPath();
 
 class UtilityTest : public QObject {
     Q_OBJECT
@@ -93,7 +98,7 @@ private Q_SLOTS:
     }
 
     void formats_data() {
-        const Formats row;
+        const Rows<QByteArray, double, QByteArray, bool> row({"format", "number", "text", "keepsNumber"});
         row("%f", "%f", 298.257222101, "298.257222", true);
         row("negative zero", "%f", -0.0, "-0.000000", true);
         row("largest", "%.0f", 1e300, QByteArray::number(1e300, 'f', 0), true);
@@ -106,7 +111,10 @@ private Q_SLOTS:
     }
 
     void formats() {
-        const auto [format, number, text, keepsNumber] = Formats::current();
+        QFETCH(QByteArray, format);
+        QFETCH(double, number);
+        QFETCH(QByteArray, text);
+        QFETCH(bool, keepsNumber);
         DictionaryGuard record;
         dic_set_value(record.get(), "key", format.constData(), number);
         QCOMPARE(QByteArray(record->getValue("key")), text);
@@ -164,7 +172,7 @@ private Q_SLOTS:
 
     void numberOfAText_data() {
         // number: -1 where the text is none
-        const NumberOfAText row;
+        const Rows<QByteArray, double> row({"text", "number"});
         row("plain", "6378137.000", 6378137.0);
         row("blanks around", " \t-0.5\n", -0.5);
         row("exponent", "1e3", 1000.0);
@@ -174,7 +182,8 @@ private Q_SLOTS:
     }
 
     void numberOfAText() {
-        const auto [text, number] = NumberOfAText::current();
+        QFETCH(QByteArray, text);
+        QFETCH(double, number);
         DictionaryGuard record;
         record->setText("key", text.constData());
         QCOMPARE(dictionary_number(*record, "key", -1.0), number);
@@ -205,7 +214,7 @@ private Q_SLOTS:
     }
 
     void resolvePath_data() {
-        const ResolvePath row;
+        const Rows<QByteArray, QByteArray, QByteArray> row({"format", "value", "path"});
         const QByteArray folder = QCoreApplication::applicationDirPath().toLocal8Bit();
         QVERIFY(!folder.isEmpty());
         row("folder", "$(APP_DIR)/../etc/%s", {}, folder + "/../etc/");
@@ -216,7 +225,9 @@ private Q_SLOTS:
     }
 
     void resolvePath() {
-        const auto [format, value, path] = ResolvePath::current();
+        QFETCH(QByteArray, format);
+        QFETCH(QByteArray, value);
+        QFETCH(QByteArray, path);
         char buffer[1000];
         process_resolve_path(buffer, sizeof buffer, format.constData(), value.constData());
         QCOMPARE(QByteArray(buffer), path);
@@ -237,22 +248,14 @@ private Q_SLOTS:
         QCOMPARE(buffer, guard);
     }
 
+    void folderIsKnownBeforeTheApplication() {
+        QVERIFY(!pathBeforeTheApplication.isEmpty());
+        QCOMPARE(resolvedPath(), pathBeforeTheApplication);
+    }
+
 private:
     int alive = 0;
 };
 
-/// Asks before there is an application object and again with one: both must name the same folder.
-int main(int argc, char** argv) {
-    char early[4096], late[4096];
-    process_resolve_path(early, sizeof early, "$(APP_DIR)/%s", "x");
-    QCoreApplication application(argc, argv);
-    process_resolve_path(late, sizeof late, "$(APP_DIR)/%s", "x");
-    if (std::strcmp(early, late) != 0 || !late[0]) {
-        qCritical("\"%s\" without an application object, \"%s\" with one", early, late);
-        return 1;
-    }
-    UtilityTest test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+ROOM_TEST(UtilityTest)
 #include "UtilityTest.moc"

@@ -5,6 +5,7 @@
 #include "import/WktFile.h"
 #include "panel/check/CheckPointPane.h"
 #include "panel/check/DistortionPane.h"
+#include "panel/check/SampleRecords.h"
 #include "panel/computing/CheckPoint.h"
 #include "panel/computing/DesignProposal.h"
 #include "panel/computing/DistortionGrid.h"
@@ -14,7 +15,6 @@
 #include "panel/record/DefinitionImport.h"
 #include "panel/record/ParamField.h"
 #include "panel/registry/RegistryModel.h"
-#include "panel_check/SampleRecords.h"
 #include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
 #include "support/Files.h"
@@ -85,16 +85,6 @@ QVector<GeographicPoint> around(double latitude, double longitude, double size) 
 
 } // namespace
 
-using SavedDefinitionImportsAgain = Rows<SampleRecord, int, QStringList>;
-using DifferencesAreNamed = Rows<QByteArray, QByteArray, QString>;
-using PointGoesThereAndBack = Rows<SampleRecord, bool>;
-using ContourLevels = Rows<double, double>;
-using LinesAreWhereTheyBelong = Rows<bool, int, bool>;
-using ProposalIsTheBest = Rows<QByteArray, bool, double, GeographicPoint, double>;
-using NoProposal = Rows<QByteArray>;
-using RegistrySearch = Rows<RegistryModel::Search, QByteArrayList, QByteArrayList>;
-using NoProjection = Rows<SampleRecord>;
-
 /// The tabs "Check" and "Definition", and what they compute, over the real projection module.
 class PanelCheckTest : public QObject {
     Q_OBJECT
@@ -106,7 +96,7 @@ private Q_SLOTS:
     }
 
     void savedDefinitionImportsAgain_data() {
-        const SavedDefinitionImportsAgain row;
+        const Rows<SampleRecord, int, QStringList> row({"sample", "dialect", "lost"});
         const char* const dialects[] = {"GDAL", "ESRI", "2019"};
         for (int dialect = 0; dialect < 3; ++dialect) {
             const auto add = [&](const SampleRecord& sample, const QStringList& lost) {
@@ -132,7 +122,9 @@ private Q_SLOTS:
     }
 
     void savedDefinitionImportsAgain() {
-        const auto [sample, dialect, lost] = SavedDefinitionImportsAgain::current();
+        QFETCH(SampleRecord, sample);
+        QFETCH(int, dialect);
+        QFETCH(QStringList, lost);
         const DictionaryGuard record = sample.record();
         const QByteArray wkt = geodesy().exportWkt(
             coordParamToProjDefine(*record), QString::fromLocal8Bit(record->getValue(CoordParamKey::name)).toUtf8(),
@@ -150,7 +142,7 @@ private Q_SLOTS:
     }
 
     void differencesAreNamed_data() {
-        const DifferencesAreNamed row;
+        const Rows<QByteArray, QByteArray, QString> row({"key", "text", "lost"});
         row("name=another", "name", "another", "the name");
         row("ellipsoid_name=another", "ellipsoid_name", "another", "the ellipsoid's name");
         row("factor=0.9996012718", "factor", "0.9996012718", "Scale factor");
@@ -163,7 +155,9 @@ private Q_SLOTS:
     }
 
     void differencesAreNamed() {
-        const auto [key, text, lost] = DifferencesAreNamed::current();
+        QFETCH(QByteArray, key);
+        QFETCH(QByteArray, text);
+        QFETCH(QString, lost);
         const SampleRecord& british = SampleRecord::named("British grid");
         const QStringList differences =
             DefinitionImport::differences(*british.record(), *british.with(key, text).record());
@@ -171,7 +165,7 @@ private Q_SLOTS:
     }
 
     void pointGoesThereAndBack_data() {
-        const PointGoesThereAndBack row;
+        const Rows<SampleRecord, bool> row({"sample", "wgs84"});
         for (const SampleRecord& sample : SampleRecord::all()) {
             row(sample.title + ", own datum", sample, false);
             row(sample.title + ", WGS 84", sample, true);
@@ -179,7 +173,8 @@ private Q_SLOTS:
     }
 
     void pointGoesThereAndBack() {
-        const auto [sample, wgs84] = PointGoesThereAndBack::current();
+        QFETCH(SampleRecord, sample);
+        QFETCH(bool, wgs84);
         const auto system = systemOf(sample);
         const DictionaryGuard record = sample.record();
         const GridPoint origin = DistortionLines::origin(*record);
@@ -201,7 +196,7 @@ private Q_SLOTS:
     }
 
     void contourLevels_data() {
-        const ContourLevels row;
+        const Rows<double, double> row({"factor", "height"});
         // UTM at 400 km from the meridian reaches about 1600 ppm from -400; a wider or higher area changes range and
         // sign.
         for (const double factor : {0.9996, 1.0, 1.01})
@@ -210,7 +205,8 @@ private Q_SLOTS:
     }
 
     void contourLevels() {
-        const auto [factor, height] = ContourLevels::current();
+        QFETCH(double, factor);
+        QFETCH(double, height);
         const auto system = systemOf(SampleRecord::named("UTM").with("factor", QByteArray::number(factor)));
         for (const double width : {2e3, 5e4, 5e5, 2e6}) {
             const DistortionGrid grid(*system, {{500000.0, 5000000.0}, width, width / 2.0}, 31, 17, height);
@@ -245,7 +241,7 @@ private Q_SLOTS:
     }
 
     void linesAreWhereTheyBelong_data() {
-        const LinesAreWhereTheyBelong row;
+        const Rows<bool, int, bool> row({"meridian", "parallels", "trueScale"});
         row("UTM", true, 0, false);
         row("Mercator with parallel", true, 1, true);
         row("Polar with parallel", true, 1, true);
@@ -258,7 +254,9 @@ private Q_SLOTS:
     }
 
     void linesAreWhereTheyBelong() {
-        const auto [meridian, parallels, trueScale] = LinesAreWhereTheyBelong::current();
+        QFETCH(bool, meridian);
+        QFETCH(int, parallels);
+        QFETCH(bool, trueScale);
         const QByteArray title = QTest::currentDataTag();
         const SampleRecord& sample = SampleRecord::named(title);
         const DictionaryGuard record = sample.record();
@@ -282,7 +280,8 @@ private Q_SLOTS:
     }
 
     void proposalIsTheBest_data() {
-        const ProposalIsTheBest rows;
+        const Rows<QByteArray, bool, double, GeographicPoint, double> rows(
+            {"title", "placeLine", "height", "centre", "line"});
         const auto row = [&rows](const QByteArray& title, bool placeLine, double height, const GeographicPoint& centre,
                                  double line) {
             rows(title + (placeLine ? " with line at " : " at ") + QByteArray::number(height), title, placeLine, height,
@@ -302,7 +301,11 @@ private Q_SLOTS:
 
     /// No other factor, and no other line with its best factor, leaves less; and what is said of the distortion is so.
     void proposalIsTheBest() {
-        const auto [title, placeLine, height, centre, line] = ProposalIsTheBest::current();
+        QFETCH(QByteArray, title);
+        QFETCH(bool, placeLine);
+        QFETCH(double, height);
+        QFETCH(GeographicPoint, centre);
+        QFETCH(double, line);
         const DictionaryGuard record = SampleRecord::named(title).record();
         const auto points = around(centre.latitude, centre.longitude, 0.5);
         const auto proposal = DesignProposal::make(*record, geodesy(), points, height, placeLine);
@@ -350,20 +353,20 @@ private Q_SLOTS:
     }
 
     void noProposal_data() {
-        const NoProposal row;
+        const Rows<QByteArray> row({"title"});
         for (const char* title : {"Mercator with parallel", "Polar with parallel", "Cassini"})
             row(title, title);
     }
 
     void noProposal() {
-        const auto [title] = NoProposal::current();
+        QFETCH(QByteArray, title);
         const DictionaryGuard record = SampleRecord::named(title).record();
         QVERIFY(!DesignProposal::isPossible(*record));
         QVERIFY(!DesignProposal::make(*record, geodesy(), around(45.0, 0.0, 1.0), 0.0, true));
     }
 
     void registrySearch_data() {
-        const RegistrySearch row;
+        const Rows<RegistryModel::Search, QByteArrayList, QByteArrayList> row({"search", "found", "missing"});
         const std::optional<double> none;
         row("all", {"", none, none, false}, {"27700", "32633", "3857"}, {"2171"});
         row("deprecated too", {"", none, none, true}, {"27700", "2171"}, {});
@@ -380,7 +383,9 @@ private Q_SLOTS:
     }
 
     void registrySearch() {
-        const auto [search, found, missing] = RegistrySearch::current();
+        QFETCH(RegistryModel::Search, search);
+        QFETCH(QByteArrayList, found);
+        QFETCH(QByteArrayList, missing);
         RegistryModel model(registry());
         model.setSearch(search);
         for (const QByteArray& code : found)
@@ -592,7 +597,7 @@ private Q_SLOTS:
     }
 
     void noProjection_data() {
-        const NoProjection row;
+        const Rows<SampleRecord> row({"sample"});
         row("type 0 with factor 0", SampleRecord::named("Gauss-Kruger").with("factor", "0"));
         row("unknown type", SampleRecord::named("UTM").with("project_type", "5"));
         row("no ellipsoid", SampleRecord::named("UTM").with("ellipsoid_a", "0"));
@@ -603,7 +608,7 @@ private Q_SLOTS:
 
     /// One line says why, nothing is computed, and the next good system is.
     void noProjection() {
-        const auto [sample] = NoProjection::current();
+        QFETCH(SampleRecord, sample);
         for (const auto tab : {PanelOnScreen::Check, PanelOnScreen::Definition}) {
             PanelOnScreen screen(*sample.record(), tab);
             QCOMPARE(screen.messages().size(), 1);
@@ -671,5 +676,5 @@ private Q_SLOTS:
     }
 };
 
-ROOM_TEST_MAIN(PanelCheckTest)
+ROOM_TEST(PanelCheckTest)
 #include "PanelCheckTest.moc"

@@ -1,4 +1,4 @@
-#include "geodesy_computing/PublishedValues.h"
+#include "platform/projection/computing/PublishedValues.h"
 
 #include <QFile>
 #include <QHash>
