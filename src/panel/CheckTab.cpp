@@ -10,7 +10,6 @@
 #include "panel/record/CoordParamEditor.h"
 #include "panel/record/DefinitionState.h"
 #include "panel/record/PanelText.h"
-#include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
 
 #include <QTabWidget>
@@ -54,7 +53,7 @@ void CheckTab::showRecord() {
     if (state.definition.isEmpty())
         system.reset();
     else if (state.definition != definition)
-        system = projectionModule()->geodesy().createSystem(state.definition);
+        system = projectionModule()->createSystem(state.definition);
     definition = state.definition;
     problemLine->setMessage(state.problem, MessageLine::Tone::Error);
     problemLine->setVisible(!state.problem.isEmpty());

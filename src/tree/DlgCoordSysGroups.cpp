@@ -6,8 +6,8 @@
 #include "catalogue/ICoordSystem.h"
 #include "geodesy/DlgEllipsoid.h"
 #include "geodesy/DlgGeoid.h"
-#include "import/ProjDefineToCoordParam.h"
 #include "import/WktFile.h"
+#include "import/WktToCoordParam.h"
 #include "platform/desktop/VornMessageBox.h"
 #include "tree/DlgInputName.h"
 #include "tree/ImportProgress.h"
@@ -347,24 +347,24 @@ void DlgCoordSysGroups::_onImpCoordSystem() {
 }
 
 DlgCoordSysGroups::ImportResult DlgCoordSysGroups::importFile(const QString& path) {
-    const WktFile file(path);
-    switch (file.content()) {
-    case WktFile::Content::NotOpened:
+    const WktSystem system = WktFile::read(path);
+    switch (system.content) {
+    case WktSystem::Content::NotOpened:
         return ImportResult::Skipped;
-    case WktFile::Content::Unreadable:
+    case WktSystem::Content::Unreadable:
         return ImportResult::Failed;
-    case WktFile::Content::NotProjected:
+    case WktSystem::Content::NotProjected:
         return ImportResult::NotProjected;
-    case WktFile::Content::Projected:
+    case WktSystem::Content::Projected:
         break;
     }
 
     const DictionaryGuard record;
-    projDefineToCoordParam(InitializeProj(file.definition().constData()), record.get());
+    WktToCoordParam::convert(system, record.get());
     ICoordSysGroup* group = coordSystem->getGroup(currentGroupName.toLocal8Bit().constData());
     if (!group)
         return ImportResult::NoGroup;
-    const QByteArray name = file.name().toLocal8Bit();
+    const QByteArray name = WktToCoordParam::nameInCatalogue(system);
     dic_set_value(record.get(), CoordParamKey::name, "%s", name.constData());
     if (group->hasCoordSystem(name.constData()))
         return ImportResult::Exists;

@@ -2,8 +2,9 @@
 #include "catalogue/CoordParamKey.h"
 #include "import/CoordParamToProjDefine.h"
 #include "platform/projection/IEpsgRegistry.h"
-#include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
+#include "platform/projection/engine/proj/ProjContext.h"
+#include "platform/projection/engine/proj/ProjObject.h"
 #include "platform/sdk/CatalogueFile.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
@@ -12,35 +13,26 @@
 #include <QSet>
 #include <QTest>
 
-#include <proj.h>
-
 #include <cmath>
-#include <memory>
 
 namespace {
-
-using ProjObject = std::unique_ptr<PJ, decltype(&proj_destroy)>;
-
-ProjObject owned(PJ* object) {
-    return ProjObject(object, &proj_destroy);
-}
 
 /// PROJ's own conversion from longitude and latitude (degrees, from Greenwich, on the system's datum) to the projected
 /// system of an EPSG code.
 class RegistryConversion {
 public:
     RegistryConversion(PJ_CONTEXT* context, const QByteArray& code) {
-        const auto system = owned(proj_create_from_database(context, "EPSG", code, PJ_CATEGORY_CRS, 0, nullptr));
-        const auto geodetic = owned(proj_crs_get_geodetic_crs(context, system.get()));
-        const auto axes = owned(proj_crs_get_coordinate_system(context, geodetic.get()));
+        const ProjObject system(proj_create_from_database(context, "EPSG", code, PJ_CATEGORY_CRS, 0, nullptr));
+        const ProjObject geodetic(proj_crs_get_geodetic_crs(context, system.get()));
+        const ProjObject axes(proj_crs_get_coordinate_system(context, geodetic.get()));
         proj_cs_get_axis_info(context, axes.get(), 0, nullptr, nullptr, nullptr, &unit, nullptr, nullptr, nullptr);
-        const auto meridian = owned(proj_get_prime_meridian(context, geodetic.get()));
+        const ProjObject meridian(proj_get_prime_meridian(context, geodetic.get()));
         double meridianUnit = 0.0;
         proj_prime_meridian_get_parameters(context, meridian.get(), &meridianLongitude, &meridianUnit, nullptr);
         meridianLongitude *= meridianUnit;
-        const auto operation =
-            owned(proj_create_crs_to_crs_from_pj(context, geodetic.get(), system.get(), nullptr, nullptr));
-        conversion = owned(proj_normalize_for_visualization(context, operation.get()));
+        const ProjObject operation(
+            proj_create_crs_to_crs_from_pj(context, geodetic.get(), system.get(), nullptr, nullptr));
+        conversion.reset(proj_normalize_for_visualization(context, operation.get()));
     }
 
     GridPoint toGrid(double longitude, double latitude) const {
@@ -53,7 +45,7 @@ public:
 private:
     double unit = 0.0;              // of the system's angles, in radians
     double meridianLongitude = 0.0; // radians
-    ProjObject conversion = owned(nullptr);
+    ProjObject conversion;
 };
 
 double number(const CatalogueRecord& record, const char* key) {
@@ -193,15 +185,14 @@ private Q_SLOTS:
             if (!system.deprecated)
                 registry.insert(QByteArray(system.name).replace(',', '-'), system);
         }
-        const std::unique_ptr<PJ_CONTEXT, decltype(&proj_context_destroy)> context(proj_context_create(),
-                                                                                   &proj_context_destroy);
+        const ProjContext context;
         for (const CoordSysGroup& group : systems.groups) {
             for (const CatalogueRecord& system : group.systems) {
                 QVERIFY2(registry.contains(system.name), system.name);
                 const RegistrySystem& entry = registry[system.name];
                 const double width = entry.east - entry.west + (entry.east < entry.west ? 360.0 : 0.0);
                 const RegistryConversion conversion(context.get(), entry.code);
-                const auto projected = module->geodesy().createSystem(coordParamToProjDefine(*system.values));
+                const auto projected = module->createSystem(coordParamToProjDefine(*system.values));
                 QVERIFY2(projected, system.name);
                 for (const double part : {0.2, 0.5, 0.8}) {
                     const double latitude = entry.south + part * (entry.north - entry.south);

@@ -160,7 +160,7 @@ void DistortionPane::propose() {
     designProposal.reset();
     if (system && module)
         designProposal =
-            DesignProposal::make(*record, module->geodesy(), designPoints(), heightBox->value(), design->placesLine());
+            DesignProposal::make(*record, *module, designPoints(), heightBox->value(), design->placesLine());
     design->showProposal(record && DesignProposal::isPossible(*record),
                          record ? DesignProposal::lineField(*record) : nullptr, designProposal);
 }

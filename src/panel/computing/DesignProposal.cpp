@@ -6,7 +6,7 @@
 #include "panel/record/CoordParamEditor.h"
 #include "panel/record/NumberText.h"
 #include "panel/record/ProjectionFields.h"
-#include "panel/record/TrueScaleParallel.h"
+#include "panel/record/StandardParallel.h"
 
 #include <algorithm>
 #include <cmath>
@@ -27,12 +27,12 @@ double rounded(double value, int decimals) {
 /// What the area's points say of one candidate.
 class Trial {
 public:
-    Trial(IGeodesy& geodesy, const QVector<GeographicPoint>& points, double height)
-        : geodesy(geodesy), points(points), height(height) {}
+    Trial(IProjectionModule& module, const QVector<GeographicPoint>& points, double height)
+        : module(module), points(points), height(height) {}
 
     /// Smallest and largest k * R / (R + h) of the system that `record` defines.
     std::optional<DesignProposal::Range> scales(const IDictionary& record) const {
-        const auto system = geodesy.createSystem(coordParamToProjDefine(record));
+        const auto system = module.createSystem(coordParamToProjDefine(record));
         if (!system)
             return std::nullopt;
         DesignProposal::Range range{std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()};
@@ -40,8 +40,7 @@ public:
             const auto scale = system->localScale(point);
             if (!scale)
                 return std::nullopt;
-            const double radius = system->meanRadius(point.latitude);
-            const double combined = scale->mean * radius / (radius + height);
+            const double combined = scale->mean * system->elevationFactor(point.latitude, height);
             range.smallest = std::min(range.smallest, combined);
             range.largest = std::max(range.largest, combined);
         }
@@ -63,7 +62,7 @@ public:
     }
 
 private:
-    IGeodesy& geodesy;
+    IProjectionModule& module;
     const QVector<GeographicPoint>& points;
     double height;
 };
@@ -120,7 +119,7 @@ bool DesignProposal::isPossible(const IDictionary& record) {
     const ProjectionFields* const projection = ProjectionFields::ofRecord(record);
     if (!projection || !projection->field(factor))
         return false;
-    return projection->method != ProjectionMethod::Stereographic || !TrueScaleParallel::ofRecord(record);
+    return projection->method != ProjectionMethod::Stereographic || !StandardParallel::ofRecord(record);
 }
 
 const ParamField* DesignProposal::lineField(const IDictionary& record) {
@@ -138,10 +137,10 @@ const ParamField* DesignProposal::lineField(const IDictionary& record) {
     }
 }
 
-std::optional<DesignProposal> DesignProposal::make(const IDictionary& record, IGeodesy& geodesy,
+std::optional<DesignProposal> DesignProposal::make(const IDictionary& record, IProjectionModule& module,
                                                    const QVector<GeographicPoint>& points, double height,
                                                    bool placeLine) {
-    const Trial trial(geodesy, points, height);
+    const Trial trial(module, points, height);
     const auto before = trial.ppm(record);
     if (!isPossible(record) || points.isEmpty() || !before)
         return std::nullopt;

@@ -1,8 +1,8 @@
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/DictionaryGuard.h"
 #include "import/CoordParamToProjDefine.h"
-#include "import/ProjDefineToCoordParam.h"
 #include "import/WktFile.h"
+#include "import/WktToCoordParam.h"
 #include "panel/check/CheckPointPane.h"
 #include "panel/check/DistortionPane.h"
 #include "panel/check/SampleRecords.h"
@@ -12,10 +12,9 @@
 #include "panel/computing/DistortionLines.h"
 #include "panel/record/AngleText.h"
 #include "panel/record/CoordParamEditor.h"
-#include "panel/record/DefinitionImport.h"
 #include "panel/record/ParamField.h"
+#include "panel/record/RecordDifferences.h"
 #include "panel/registry/RegistryModel.h"
-#include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
 #include "support/Files.h"
 #include "support/MessageBoxDouble.h"
@@ -35,25 +34,21 @@ Q_DECLARE_METATYPE(RegistryModel::Search)
 
 namespace {
 
-IGeodesy& geodesy() {
-    return projectionModule()->geodesy();
-}
-
 IEpsgRegistry& registry() {
     return projectionModule()->registry();
 }
 
 std::unique_ptr<IProjectedSystem> systemOf(const SampleRecord& sample) {
-    return geodesy().createSystem(coordParamToProjDefine(*sample.record()));
+    return projectionModule()->createSystem(coordParamToProjDefine(*sample.record()));
 }
 
 /// Reads a .prj file with the code of the import command.
 bool importFile(const QString& path, IDictionary* record) {
-    const WktFile file(path);
-    if (file.content() != WktFile::Content::Projected)
+    const WktSystem system = WktFile::read(path);
+    if (system.content != WktSystem::Content::Projected)
         return false;
-    projDefineToCoordParam(InitializeProj(file.definition()), record);
-    record->setText(CoordParamKey::name, file.name().toLocal8Bit());
+    WktToCoordParam::convert(system, record);
+    record->setText(CoordParamKey::name, WktToCoordParam::nameInCatalogue(system));
     return true;
 }
 
@@ -126,7 +121,7 @@ private Q_SLOTS:
         QFETCH(int, dialect);
         QFETCH(QStringList, lost);
         const DictionaryGuard record = sample.record();
-        const QByteArray wkt = geodesy().exportWkt(
+        const QByteArray wkt = projectionModule()->exportWkt(
             coordParamToProjDefine(*record), QString::fromLocal8Bit(record->getValue(CoordParamKey::name)).toUtf8(),
             record->getValue(CoordParamKey::ellipsoidName), WktDialect(dialect), false);
         QVERIFY(!wkt.isEmpty() && !wkt.contains('\n'));
@@ -134,11 +129,11 @@ private Q_SLOTS:
         QVERIFY(setContent(folder.filePath("saved.prj"), wkt));
         const DictionaryGuard imported;
         QVERIFY(importFile(folder.filePath("saved.prj"), imported.get()));
-        QCOMPARE(DefinitionImport::differences(*record, *imported).join(", "), lost.join(", "));
+        QCOMPARE(recordDifferences(*record, *imported).join(", "), lost.join(", "));
         // The tab's own look at the text comes to the same.
         const DictionaryGuard reread;
-        QVERIFY(DefinitionImport::read(wkt, reread.get()));
-        QCOMPARE(DefinitionImport::differences(*imported, *reread), QStringList());
+        QVERIFY(WktToCoordParam::write(wkt, reread.get()));
+        QCOMPARE(recordDifferences(*imported, *reread), QStringList());
     }
 
     void differencesAreNamed_data() {
@@ -159,8 +154,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, text);
         QFETCH(QString, lost);
         const SampleRecord& british = SampleRecord::named("British grid");
-        const QStringList differences =
-            DefinitionImport::differences(*british.record(), *british.with(key, text).record());
+        const QStringList differences = recordDifferences(*british.record(), *british.with(key, text).record());
         QCOMPARE(differences.join(", "), lost);
     }
 
@@ -308,7 +302,7 @@ private Q_SLOTS:
         QFETCH(double, line);
         const DictionaryGuard record = SampleRecord::named(title).record();
         const auto points = around(centre.latitude, centre.longitude, 0.5);
-        const auto proposal = DesignProposal::make(*record, geodesy(), points, height, placeLine);
+        const auto proposal = DesignProposal::make(*record, *projectionModule(), points, height, placeLine);
         QVERIFY(proposal && !proposal->changes().isEmpty());
         QVERIFY(largest(proposal->after()) <= largest(proposal->before()));
         QVERIFY(std::abs(proposal->after().smallest + proposal->after().largest) < 0.11);
@@ -316,7 +310,7 @@ private Q_SLOTS:
         CoordParamEditor editor;
         editor.setRecord(*record);
         proposal->apply(editor);
-        const auto again = DesignProposal::make(editor.record(), geodesy(), points, height, false);
+        const auto again = DesignProposal::make(editor.record(), *projectionModule(), points, height, false);
         QVERIFY(again && again->changes().isEmpty());
         QCOMPARE(again->before().largest, proposal->after().largest);
         const bool isLambert = title.startsWith("Lambert");
@@ -331,7 +325,7 @@ private Q_SLOTS:
             const DictionaryGuard moved;
             dictionary_assign(moved.get(), &editor.record());
             moved->setText(lineKey, QByteArray::number(other));
-            const auto worse = DesignProposal::make(*moved, geodesy(), points, height, false);
+            const auto worse = DesignProposal::make(*moved, *projectionModule(), points, height, false);
             QVERIFY(worse && largest(worse->after()) > largest(proposal->after()));
         }
     }
@@ -339,7 +333,7 @@ private Q_SLOTS:
     /// At one point: the line through it, and the scale that the height asks for.
     void proposalForPoint() {
         const DictionaryGuard record = SampleRecord::named("Gauss-Kruger").record();
-        const auto proposal = DesignProposal::make(*record, geodesy(), {{40.0, 115.1234, 0.0}}, 1000.0, true);
+        const auto proposal = DesignProposal::make(*record, *projectionModule(), {{40.0, 115.1234, 0.0}}, 1000.0, true);
         QVERIFY(proposal);
         CoordParamEditor editor;
         editor.setRecord(*record);
@@ -362,7 +356,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, title);
         const DictionaryGuard record = SampleRecord::named(title).record();
         QVERIFY(!DesignProposal::isPossible(*record));
-        QVERIFY(!DesignProposal::make(*record, geodesy(), around(45.0, 0.0, 1.0), 0.0, true));
+        QVERIFY(!DesignProposal::make(*record, *projectionModule(), around(45.0, 0.0, 1.0), 0.0, true));
     }
 
     void registrySearch_data() {
@@ -407,7 +401,7 @@ private Q_SLOTS:
         for (int row = 0; row < model.rowCount(); row += 40) {
             const RegistrySystem& system = model.system(row);
             const DictionaryGuard record;
-            const bool defines = DefinitionImport::read(registry().wkt(system.code, nullptr), record.get()) &&
+            const bool defines = WktToCoordParam::write(registry().wkt(system.code, nullptr), record.get()) &&
                                  coordParamDefinesProjection(*record);
             QVERIFY2(defines == model.reason(system).isEmpty(), system.code);
             ++(defines ? held : grey);
@@ -592,7 +586,7 @@ private Q_SLOTS:
         QCOMPARE(offered, QString("A_B_ grid.prj"));
         const DictionaryGuard imported;
         QVERIFY(importFile(folder.filePath("saved.prj"), imported.get()));
-        QCOMPARE(DefinitionImport::differences(screen.record(), *imported), QStringList());
+        QCOMPARE(recordDifferences(screen.record(), *imported), QStringList());
         QVERIFY(MessageBoxDouble::messages.isEmpty());
     }
 

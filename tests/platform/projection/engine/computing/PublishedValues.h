@@ -5,7 +5,7 @@
 #include <QPair>
 #include <QVector>
 
-/// One row of a system's block: "point", "scale", "turn" or "shift" with its numbers.
+/// One row of a system's block: "point", "scale", "turn", "radius" or "shift" with its numbers.
 struct PublishedRow {
     int line;
     QByteArray what;

@@ -1,4 +1,4 @@
-#include "platform/projection/computing/PublishedValues.h"
+#include "PublishedValues.h"
 
 #include <QFile>
 #include <QHash>
@@ -27,7 +27,7 @@ double number(QByteArray text, int line) {
 } // namespace
 
 QVector<PublishedSystem> readPublishedValues(const QByteArray& path) {
-    static const QHash<QByteArray, int> rowSizes{{"point", 5}, {"scale", 4}, {"turn", 4}, {"shift", 7}};
+    static const QHash<QByteArray, int> rowSizes{{"point", 5}, {"scale", 4}, {"turn", 4}, {"radius", 3}, {"shift", 7}};
     QFile file(QString::fromLocal8Bit(path));
     if (!file.open(QIODevice::ReadOnly))
         qFatal("can't read %s", path.constData());

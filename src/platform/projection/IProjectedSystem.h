@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QByteArray>
-
 #include <cstddef>
-#include <memory>
 #include <optional>
 
 /// A place on or above an ellipsoid. Latitude -90 to 90 and longitude -360 to 360 in decimal degrees, north and east
@@ -28,13 +25,10 @@ struct LocalScale {
     double smallest; ///< over all directions, the minor semi-axis of Tissot's indicatrix
     double largest;  ///< over all directions, the major semi-axis
     double convergence; ///< degrees; a true azimuth is the grid bearing plus the convergence
-};
 
-/// The text forms of a definition that other software reads.
-enum class WktDialect {
-    Wkt1Gdal,  ///< OGC 01-009 as GDAL writes it; holds the shift as TOWGS84
-    Wkt1Esri,  ///< a shapefile's .prj; can't hold a shift
-    Wkt2_2019, ///< ISO 19162:2019; holds the shift as a BOUNDCRS
+    /// Whether the scale is the same in every direction. Where Tissot's axes differ by less than 1e-7, the difference
+    /// is noise of the numerical differentiation.
+    bool isConformal() const { return largest - smallest < 1e-7; }
 };
 
 /// One projected system: an ellipsoid, a projection onto a plane and, where the definition has one, a seven-parameter
@@ -66,24 +60,15 @@ public:
     /// The mean radius of curvature sqrt(M N) of the ellipsoid at a latitude, in metres.
     virtual double meanRadius(double latitude) const = 0;
 
+    /// R / (R + height) with R = meanRadius(latitude): what lengths at an ellipsoidal height (metres) shrink by on
+    /// their way to the ellipsoid (NOAA Manual NOS NGS 5, section 4.2).
+    double elevationFactor(double latitude, double height) const {
+        const double radius = meanRadius(latitude);
+        return radius / (radius + height);
+    }
+
     /// Linear distortion in ppm at `count` grid points for lines at the ellipsoidal height `height` (metres):
-    /// (scale * R / (R + height) - 1) 1e6 with R = meanRadius() (NOAA Manual NOS NGS 5, section 4.2). The scale is
-    /// LocalScale's mean, or, where the projection is not conformal, that of the direction with the largest distortion.
-    /// A point without a result gives NaN.
+    /// (scale * elevationFactor() - 1) 1e6. The scale is LocalScale's mean, or, where the projection is not conformal,
+    /// that of the direction with the largest distortion. A point without a result gives NaN.
     virtual void linearDistortion(const GridPoint* points, std::size_t count, double height, double* ppm) const = 0;
-};
-
-/// The geodesy that PROJ offers, for definitions in PROJ's text form. Texts are UTF-8.
-class IGeodesy {
-public:
-    virtual ~IGeodesy() = default;
-
-    /// The system of a definition "+proj=... +a=... ..." with lengths in metres and longitudes from Greenwich; null
-    /// when PROJ can't make a projection of it. An item +towgs84 (3 or 7 values) is the shift.
-    virtual std::unique_ptr<IProjectedSystem> createSystem(const QByteArray& definition) = 0;
-
-    /// The definition as WKT, the system and its ellipsoid named as given; numbers with 15 digits. On one line, as
-    /// files hold it, or `indented` on many for reading. Empty when the dialect can't express the definition.
-    virtual QByteArray exportWkt(const QByteArray& definition, const QByteArray& name, const QByteArray& ellipsoidName,
-                                 WktDialect dialect, bool indented) = 0;
 };

@@ -1,19 +1,13 @@
-#include "panel/record/TrueScaleParallel.h"
+#include "panel/record/StandardParallel.h"
 
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/Dictionary.h"
+#include "import/ParallelRadius.h"
 #include "panel/record/NumberText.h"
 
 #include <algorithm>
-#include <cmath>
 
-static constexpr double degree = 3.141592653589793 / 180.0;
-
-double TrueScaleParallel::radius(double semiMajorAxis, double latitude) {
-    return semiMajorAxis * std::cos(latitude * degree);
-}
-
-std::optional<double> TrueScaleParallel::ofRecord(const IDictionary& record) {
+std::optional<double> StandardParallel::ofRecord(const IDictionary& record) {
     const double a = dictionary_number(record, CoordParamKey::ellipsoidA, 0.0);
     const double kept = dictionary_number(record, CoordParamKey::cuttingRadius, 0.0);
     double number;
@@ -21,11 +15,11 @@ std::optional<double> TrueScaleParallel::ofRecord(const IDictionary& record) {
     const double tolerance = record.getNumber(CoordParamKey::cuttingRadius, &number) ? kept * 4e-16 : 5e-7;
     if (!(a > 0.0) || kept < 1e-6 || kept > a + tolerance)
         return std::nullopt;
-    const double latitude = std::acos(std::min(kept / a, 1.0)) / degree;
+    const double latitude = ParallelRadius::toLatitude(a, std::min(kept, a));
     const bool isSouthern =
         dictionary_number(record, CoordParamKey::projectType, -1.0) == int(ProjectionMethod::Stereographic) &&
         dictionary_number(record, CoordParamKey::orgLat, 0.0) < 0.0;
-    const double shortened =
-        NumberText::fewestDigits(latitude, kept, tolerance, [a](double phi) { return radius(a, phi); });
+    const double shortened = NumberText::fewestDigits(latitude, kept, tolerance,
+                                                      [a](double phi) { return ParallelRadius::ofLatitude(a, phi); });
     return isSouthern ? -shortened : shortened;
 }

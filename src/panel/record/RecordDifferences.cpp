@@ -1,21 +1,17 @@
-#include "panel/record/DefinitionImport.h"
+#include "panel/record/RecordDifferences.h"
 
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/Dictionary.h"
-#include "import/ProjDefineToCoordParam.h"
 #include "panel/record/DatumFields.h"
 #include "panel/record/PanelText.h"
 #include "panel/record/ProjectionFields.h"
-#include "platform/projection/IProjectionModule.h"
-#include "platform/projection/IWktReader.h"
-#include "platform/projection/ProjectionLibrary.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
 
-using namespace CoordParamKey;
+namespace Key = CoordParamKey;
 
 /// What a text form rounds away, in the unit in which the record keeps the value; each is far below 0.1 mm on the
 /// ground.
@@ -23,7 +19,7 @@ double tolerance(const ParamField& field) {
     switch (field.quantity) {
     case Quantity::Length:
         return 1e-6;
-    case Quantity::TrueScaleParallel:
+    case Quantity::StandardParallel:
         return 1e-5; // a radius in metres
     case Quantity::ScaleFactor:
         return 1e-13;
@@ -53,7 +49,7 @@ bool hasSameText(const IDictionary& left, const IDictionary& right, const char* 
 }
 
 bool hasShift(const IDictionary& record) {
-    return dictionary_number(record, shiftType, 0.0) == 2.0;
+    return dictionary_number(record, Key::shiftType, 0.0) == 2.0;
 }
 
 bool hasSameShift(const IDictionary& left, const IDictionary& right) {
@@ -67,21 +63,11 @@ bool hasSameShift(const IDictionary& left, const IDictionary& right) {
 
 } // namespace
 
-bool DefinitionImport::read(const QByteArray& wkt, IDictionary* record) {
-    IProjectionModule* const module = projectionModule();
-    const WktSystem system = module ? module->wktReader().read(wkt) : WktSystem();
-    if (system.content != WktSystem::Content::Projected)
-        return false;
-    projDefineToCoordParam(InitializeProj(system.definition), record);
-    record->setText(name, QString::fromUtf8(system.name).replace(',', '-').toLocal8Bit());
-    return true;
-}
-
-QStringList DefinitionImport::differences(const IDictionary& record, const IDictionary& imported) {
+QStringList recordDifferences(const IDictionary& record, const IDictionary& imported) {
     QStringList lost;
-    if (!hasSameText(record, imported, name))
+    if (!hasSameText(record, imported, Key::name))
         lost.append(PanelText::tr("the name"));
-    if (!hasSameText(record, imported, ellipsoidName))
+    if (!hasSameText(record, imported, Key::ellipsoidName))
         lost.append(PanelText::tr("the ellipsoid's name"));
     for (const ParamField* field : {&DatumFields::semiMajorAxis(), &DatumFields::inverseFlattening()}) {
         if (!hasSameNumber(record, imported, *field))

@@ -1,9 +1,9 @@
+#include "PublishedValues.h"
+#include "catalogue/Angle.h"
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/DictionaryGuard.h"
 #include "import/CoordParamToProjDefine.h"
-#include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
-#include "platform/projection/computing/PublishedValues.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 
@@ -17,14 +17,13 @@ Q_DECLARE_METATYPE(GeographicPoint)
 
 namespace {
 
-constexpr double degree = 3.141592653589793 / 180.0;
 constexpr double meanEarthRadius = 6371000.0;
 
 /// How far two places lie apart, in metres; good for small distances.
 double distance(const GeographicPoint& left, const GeographicPoint& right) {
-    const double north = (left.latitude - right.latitude) * degree * meanEarthRadius;
-    const double east = std::remainder(left.longitude - right.longitude, 360.0) * degree * meanEarthRadius *
-                        std::cos(left.latitude * degree);
+    const double north = Angle::toRadians(left.latitude - right.latitude) * meanEarthRadius;
+    const double east = Angle::toRadians(std::remainder(left.longitude - right.longitude, 360.0)) * meanEarthRadius *
+                        std::cos(Angle::toRadians(left.latitude));
     return std::hypot(north, east, left.height - right.height);
 }
 
@@ -40,7 +39,7 @@ DictionaryGuard recordOf(const PublishedSystem& published) {
 }
 
 std::unique_ptr<IProjectedSystem> createSystem(const PublishedSystem& published) {
-    return projectionModule()->geodesy().createSystem(coordParamToProjDefine(*recordOf(published)));
+    return projectionModule()->createSystem(coordParamToProjDefine(*recordOf(published)));
 }
 
 void showDifference(double value, double expected, double tolerance) {
@@ -51,7 +50,7 @@ void showDifference(double value, double expected, double tolerance) {
 } // namespace
 
 /// What the tool computes, against published values and against itself.
-class GeodesyComputingTest : public QObject {
+class ProjectedSystemTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -84,6 +83,8 @@ private Q_SLOTS:
             showDifference(grid->easting, expected.easting, tolerance);
             showDifference(grid->northing, expected.northing, tolerance);
             showDifference(distance(*back, place), 0.0, tolerance * std::sqrt(2.0));
+        } else if (row.what == "radius") {
+            showDifference(system->meanRadius(n[0]), n[1], tolerance);
         } else if (row.what == "shift") {
             const GeographicPoint expected{n[3], n[4], n[5]};
             const auto wgs84 = system->toWgs84(place);
@@ -115,13 +116,13 @@ private Q_SLOTS:
         const double e2 = flattening * (2.0 - flattening);
         const auto& row = published.rows.first().numbers;
         const GeographicPoint place{row[0], row[1], 0.0};
-        const double w = std::sqrt(1.0 - e2 * std::pow(std::sin(place.latitude * degree), 2));
+        const double w = std::sqrt(1.0 - e2 * std::pow(std::sin(Angle::toRadians(place.latitude)), 2));
         const double meridianRadius = a * (1.0 - e2) / (w * w * w);
-        const double parallelRadius = a / w * std::cos(place.latitude * degree);
+        const double parallelRadius = a / w * std::cos(Angle::toRadians(place.latitude));
 
         const double step = 100.0;
-        const double dLat = step / meridianRadius / degree;
-        const double dLon = step / parallelRadius / degree;
+        const double dLat = Angle::toDegrees(step / meridianRadius);
+        const double dLon = Angle::toDegrees(step / parallelRadius);
         const auto south = system->toGrid({place.latitude - dLat, place.longitude, 0.0});
         const auto north = system->toGrid({place.latitude + dLat, place.longitude, 0.0});
         const auto west = system->toGrid({place.latitude, place.longitude - dLon, 0.0});
@@ -131,23 +132,9 @@ private Q_SLOTS:
         showDifference(scale->meridian, distance(*north, *south) / (2.0 * step), 5e-9);
         showDifference(scale->parallel, distance(*east, *west) / (2.0 * step), 5e-9);
         // The meridian's azimuth is 0, its grid bearing minus the convergence.
-        const double bearing = std::atan2(north->easting - south->easting, north->northing - south->northing) / degree;
+        const double bearing =
+            Angle::toDegrees(std::atan2(north->easting - south->easting, north->northing - south->northing));
         showDifference(std::remainder(scale->convergence + bearing, 360.0), 0.0, 1e-6);
-    }
-
-    void unusableDefinition_data() {
-        const Rows<QByteArray> row({"definition"});
-        row("empty", {});
-        row("no projection", "+a=6378137 +rf=298.257222101 +units=m");
-        row("unknown projection", "+proj=nowhere +a=6378137 +rf=298");
-        row("geographic", "+proj=longlat +a=6378137 +rf=298");
-        row("parallels cancel", "+proj=lcc +lat_1=30 +lat_2=-30 +a=6378137 +rf=298");
-        row("shift of four numbers", "+proj=tmerc +a=6378137 +rf=298 +towgs84=1,2,3,4 +units=m");
-    }
-
-    void unusableDefinition() {
-        QFETCH(QByteArray, definition);
-        QVERIFY(!projectionModule()->geodesy().createSystem(definition));
     }
 
     void impossiblePoint_data() {
@@ -163,7 +150,7 @@ private Q_SLOTS:
     /// Nothing comes back, and the next point is computed as if nothing had been asked.
     void impossiblePoint() {
         QFETCH(GeographicPoint, place);
-        const auto system = projectionModule()->geodesy().createSystem("+proj=lcc +lat_1=40 +lat_2=50 +ellps=GRS80");
+        const auto system = projectionModule()->createSystem("+proj=lcc +lat_1=40 +lat_2=50 +ellps=GRS80");
         QVERIFY(!system->toGrid(place) && !system->localScale(place));
         QVERIFY(!system->toGeographic({std::nan(""), 0.0}, 0.0));
         QVERIFY(system->toGrid({45.0, 3.0, 0.0}) && system->localScale({45.0, 3.0, 0.0}));
@@ -171,8 +158,8 @@ private Q_SLOTS:
 
     /// On the central meridian at a height, the distortion is that of the scale factor and of R / (R + h).
     void distortionAtHeight() {
-        const auto system = projectionModule()->geodesy().createSystem(
-            "+proj=tmerc +lon_0=9 +k_0=0.9996 +x_0=500000 +a=6371000 +b=6371000");
+        const auto system =
+            projectionModule()->createSystem("+proj=tmerc +lon_0=9 +k_0=0.9996 +x_0=500000 +a=6371000 +b=6371000");
         const GridPoint points[] = {{500000.0, 5000000.0}, {1e9, 1e9}};
         double ppm[2];
         system->linearDistortion(points, 2, 0.0, ppm);
@@ -183,13 +170,12 @@ private Q_SLOTS:
 
         // Not conformal: what counts is the meridians' stretching, 1 / cos(x / R) at x = 100 km (Snyder 1987, Cassini
         // projection).
-        const auto cassini =
-            projectionModule()->geodesy().createSystem("+proj=cass +lat_0=50 +lon_0=9 +a=6371000 +b=6371000");
+        const auto cassini = projectionModule()->createSystem("+proj=cass +lat_0=50 +lon_0=9 +a=6371000 +b=6371000");
         const GridPoint east{100000.0, 0.0};
         cassini->linearDistortion(&east, 1, 0.0, ppm);
         showDifference(ppm[0], (1.0 / std::cos(100000.0 / 6371000.0) - 1.0) * 1e6, 0.01);
     }
 };
 
-ROOM_TEST(GeodesyComputingTest)
-#include "GeodesyComputingTest.moc"
+ROOM_TEST(ProjectedSystemTest)
+#include "ProjectedSystemTest.moc"
