@@ -47,11 +47,13 @@ void ModalDriver::onNextDialog(const std::function<void(QDialog*)>& act) {
     });
 }
 
-void ModalDriver::onNextMenu(const QString& choose, QStringList* entries) {
-    whenever([choose, entries] {
+void ModalDriver::onNextMenu(const QString& choose, QStringList* entries, QPoint* place) {
+    whenever([choose, entries, place] {
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         if (!menu)
             return false;
+        if (place)
+            *place = menu->pos();
         QAction* chosen = nullptr;
         for (QAction* action : menu->actions()) {
             if (entries)
