@@ -6,6 +6,7 @@
 #include "geodesy/DlgEllipsoid.h"
 #include "geodesy/DlgGeoid.h"
 #include "support/Files.h"
+#include "support/MarkingTranslator.h"
 #include "support/MessageBoxDouble.h"
 #include "support/ModalDriver.h"
 #include "support/RecordingCatalogue.h"
@@ -19,15 +20,14 @@
 #include <cstdio>
 #include <memory>
 
-using namespace CustomCatalogue;
-
 namespace {
 
 const QString ellipsoid = QStringLiteral("Ellipsoid");
 const QString geoid = QStringLiteral("Geoid");
 const QString refused = QStringLiteral("information|please input correct param!");
 
-QString appFolder; ///< what "$(APP_DIR)" stands for
+QString appFolder;         ///< what "$(APP_DIR)" stands for
+QStringList resolvedPaths; ///< what was resolved: format and argument
 int pathBufferSize = 0;
 
 std::unique_ptr<QDialog> create(const QString& kind, ICoordSystem* catalogue, int mode) {
@@ -93,8 +93,26 @@ QStringList stored(const RecordingCatalogue& catalogue, const QString& kind, con
     const IDictionary* record = (kind == ellipsoid ? catalogue.ellipsoids : catalogue.geoids).find(name);
     QStringList texts;
     for (int i = 0; record && i < record->count(); ++i)
-        texts << text(*record, record->getKey(i));
+        texts << CustomCatalogue::text(*record, record->getKey(i));
     return texts;
+}
+
+/// Whether a model file is in its place when its entry comes: it is copied first.
+class GeoidsThatLookForTheFile : public RecordingCatalogue {
+public:
+    void addGeoid(IDictionary* record) override {
+        fileWasThere = QFile::exists(file);
+        RecordingCatalogue::addGeoid(record);
+    }
+
+    QString file;
+    bool fileWasThere = false;
+};
+
+/// The stretch factors of a dialog's two rows.
+QPoint stretches(const QLayout* layout) {
+    const auto* box = qobject_cast<const QBoxLayout*>(layout);
+    return {box->stretch(0), box->stretch(1)};
 }
 
 void choose(const QDialog* dialog, const QString& path) {
@@ -114,8 +132,11 @@ void choose(const QDialog* dialog, const QString& path) {
 /// In place of the utility library's: the folder of the executable is the test's to choose.
 void process_resolve_path(char* buffer, int size, const char* format, ...) {
     const QByteArray resolved = QByteArray(format).replace("$(APP_DIR)", appFolder.toLocal8Bit());
-    va_list values;
+    va_list values, again;
     va_start(values, format);
+    va_copy(again, values);
+    resolvedPaths << QString(format) + '|' + QString::fromLocal8Bit(va_arg(again, const char*));
+    va_end(again);
     const int length = std::vsnprintf(buffer, static_cast<size_t>(size), resolved.constData(), values);
     va_end(values);
     if (length >= size)
@@ -178,15 +199,87 @@ private Q_SLOTS:
 
         QCOMPARE(nameBox(dialog.get())->currentText(), name);
         QCOMPARE(nameBox(dialog.get())->count(), 4);
-        QCOMPARE(nameBox(dialog.get())->isEditable(), mode == AddMode);
-        QCOMPARE(nameBox(dialog.get())->isEnabled(), mode != EditMode);
+        QCOMPARE(nameBox(dialog.get())->isEditable(), mode == CustomCatalogue::AddMode);
+        QCOMPARE(nameBox(dialog.get())->isEnabled(), mode != CustomCatalogue::EditMode);
         QCOMPARE(fields(kind, dialog.get()), values);
-        QCOMPARE(child<QLineEdit>(dialog.get(), 0)->isReadOnly(), kind == geoid || mode == ListMode);
+        QCOMPARE(child<QLineEdit>(dialog.get(), 0)->isReadOnly(), kind == geoid || mode == CustomCatalogue::ListMode);
         if (isEllipsoid)
-            QCOMPARE(child<QLineEdit>(dialog.get(), 1)->isReadOnly(), mode == ListMode);
+            QCOMPARE(child<QLineEdit>(dialog.get(), 1)->isReadOnly(), mode == CustomCatalogue::ListMode);
         else
-            QCOMPARE(child<QComboBox>(dialog.get(), 1)->isEnabled(), mode != ListMode);
+            QCOMPARE(child<QComboBox>(dialog.get(), 1)->isEnabled(), mode != CustomCatalogue::ListMode);
         QVERIFY(!button(dialog.get(), "OK") || child<QDialogButtonBox>(dialog.get(), 0));
+    }
+
+    void layout() {
+        RecordingCatalogue catalogue;
+        fill(catalogue, geoid);
+        for (const int mode : {0, 1, 2}) {
+            const auto ellipsoids = create(ellipsoid, &catalogue, mode);
+            const QLayout* rows = ellipsoids->layout();
+            auto* columns = qobject_cast<QHBoxLayout*>(rows->itemAt(0)->layout());
+            QCOMPARE(QPoint(columns->stretch(0), columns->stretch(1)), QPoint(0, 1));
+            QCOMPARE(stretches(rows), QPoint(1, 0));
+            for (const int row : {0, 1, 2}) {
+                auto* label = qobject_cast<QLabel*>(columns->itemAt(0)->layout()->itemAt(row)->widget());
+                QCOMPARE(label->text(), QStringList({"Ellipsoid Name", "ellipsoid a(m)", "ellipsoid f"})[row]);
+                QWidget* field = columns->itemAt(1)->layout()->itemAt(row)->widget();
+                QCOMPARE(label->buddy(), field);
+                const auto* validator = field->findChild<QDoubleValidator*>();
+                QCOMPARE(validator != nullptr, row > 0);
+                if (!validator)
+                    continue;
+                QCOMPARE(qobject_cast<QLineEdit*>(field)->validator(), validator);
+                QCOMPARE(validator->bottom(), 0.0);
+                QCOMPARE(validator->top(), 65535.0);
+                QCOMPARE(validator->decimals(), 12);
+            }
+            const auto geoids = create(geoid, &catalogue, mode);
+            QCOMPARE(stretches(geoids->layout()), QPoint(0, 0));
+            auto* grid = qobject_cast<QGridLayout*>(geoids->layout()->itemAt(0)->layout());
+            QStringList cells;
+            for (int cell = 0; cell < 9; ++cell) {
+                QLayoutItem* item = grid->itemAtPosition(cell / 3, cell % 3);
+                cells << (item ? item->widget()->metaObject()->className() : "");
+            }
+            QCOMPARE(cells, QStringList({"QLabel", "QComboBox", "", "QLabel", "QLineEdit", "QPushButton", "QLabel",
+                                         "QComboBox", ""}));
+            for (const QDialog* dialog : {ellipsoids.get(), geoids.get()}) {
+                QLayoutItem* below = dialog->layout()->itemAt(1);
+                QCOMPARE(qobject_cast<QDialogButtonBox*>(below->widget()) != nullptr, mode != 0);
+                if (mode == 0)
+                    for (const int i : {0, 1, 2})
+                        QCOMPARE(below->layout()->itemAt(i)->widget(),
+                                 button(dialog, QStringList({"Add", "Edit", "Delete"})[i]));
+            }
+        }
+    }
+
+    void textsAreTranslated() {
+        const MarkingTranslator translator;
+        for (const QString& kind : {ellipsoid, geoid}) {
+            RecordingCatalogue catalogue;
+            fill(catalogue, kind);
+            const auto list = create(kind, &catalogue, CustomCatalogue::ListMode);
+            QStringList texts{list->windowTitle()};
+            for (const QLabel* each : list->findChildren<QLabel*>())
+                texts << each->text();
+            for (const QPushButton* each : list->findChildren<QPushButton*>())
+                texts << each->text();
+            CustomCatalogue::selectName(nameBox(list.get()), "mine");
+            button(list.get(), "QObject:Delete")->click();
+
+            const auto add = create(kind, &catalogue, CustomCatalogue::AddMode);
+            auto* confirm = add->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+            for (const char* name : {"", "WGS 84", "mine"}) {
+                enter(kind, add.get(), name, {"1", kind == ellipsoid ? "2" : "WGS 84"});
+                confirm->click();
+            }
+            for (QString text : texts + MessageBoxDouble::texts())
+                for (const QString& part : text.remove('?').split('|'))
+                    QVERIFY2(part.startsWith("QObject:"), qPrintable(part));
+            QCOMPARE(MessageBoxDouble::messages.count(), 4);
+            MessageBoxDouble::reset();
+        }
     }
 
     void selection_data() {
@@ -208,7 +301,7 @@ private Q_SLOTS:
             RecordingCatalogue catalogue;
             fill(catalogue, kind);
             addEntry(catalogue, kind, "last", flag);
-            const auto dialog = create(kind, &catalogue, ListMode);
+            const auto dialog = create(kind, &catalogue, CustomCatalogue::ListMode);
             nameBox(dialog.get())->setCurrentIndex(4);
             QCOMPARE(button(dialog.get(), "Edit")->isEnabled(), own);
             QCOMPARE(button(dialog.get(), "Delete")->isEnabled(), own);
@@ -235,7 +328,7 @@ private Q_SLOTS:
         QFETCH(bool, nullList);
         RecordingCatalogue catalogue;
         catalogue.nullLists = nullList;
-        const auto dialog = create(kind, &catalogue, ListMode);
+        const auto dialog = create(kind, &catalogue, CustomCatalogue::ListMode);
         QCOMPARE(nameBox(dialog.get())->count(), 0);
         QCOMPARE(fields(kind, dialog.get()), QStringList({"", ""}));
         for (const char* text : {"Add", "Edit", "Delete"})
@@ -260,7 +353,8 @@ private Q_SLOTS:
 
         for (const QString& kind : {ellipsoid, geoid}) {
             const auto add = [&](const char* title, const QString& name, const QStringList& values,
-                                 const QString& message, int answer, bool accepted, int mode = AddMode) {
+                                 const QString& message, int answer, bool accepted,
+                                 int mode = CustomCatalogue::AddMode) {
                 row(kind.toLatin1() + ": " + title, kind, mode, name, values, message, answer, accepted);
             };
             const bool isEllipsoid = kind == ellipsoid;
@@ -283,19 +377,19 @@ private Q_SLOTS:
             add("name of an entry without a flag", "plain", good, shipped, 1, false);
             add("own name, covered", "mine", good, cover, 1, true);
             add("own name, declined", "mine", good, cover, 0, false);
-            add("edit", "mine", good, "", 0, true, EditMode);
-            add("edit without a value", "mine", {"", good[1]}, refused, 0, false, EditMode);
+            add("edit", "mine", good, "", 0, true, CustomCatalogue::EditMode);
+            add("edit without a value", "mine", {"", good[1]}, refused, 0, false, CustomCatalogue::EditMode);
         }
 
         for (const QByteArray number : {"6378137", "6378137.", ".5", "6.378137e6", "0065536.10", "1E-3"}) {
-            row("a " + number, ellipsoid, AddMode, "new", {number, "300"}, "", 0, true);
-            row("f " + number, ellipsoid, AddMode, "new", {"1", number}, "", 0, true);
+            row("a " + number, ellipsoid, CustomCatalogue::AddMode, "new", {number, "300"}, "", 0, true);
+            row("f " + number, ellipsoid, CustomCatalogue::AddMode, "new", {"1", number}, "", 0, true);
         }
         for (const QByteArray number :
              {"0", "0.0", "-0", ".", "-6378137", "1e999", "1e-999", "nan", "inf", "-inf", "Infinity", "0x10", "1p3",
               "6378137,0", "6,378,137", "6 378 137", "6378137m", "1.2.3", "\u0661\u0662"}) {
-            row("a " + number, ellipsoid, EditMode, "mine", {number, "300"}, refused, 0, false);
-            row("f " + number, ellipsoid, AddMode, "new", {"1", number}, refused, 0, false);
+            row("a " + number, ellipsoid, CustomCatalogue::EditMode, "mine", {number, "300"}, refused, 0, false);
+            row("f " + number, ellipsoid, CustomCatalogue::AddMode, "new", {"1", number}, refused, 0, false);
         }
     }
 
@@ -311,7 +405,7 @@ private Q_SLOTS:
         fill(catalogue, kind);
         const QStringList before = stored(catalogue, kind, name);
         const auto dialog = create(kind, &catalogue, mode);
-        selectName(nameBox(dialog.get()), name);
+        CustomCatalogue::selectName(nameBox(dialog.get()), name);
         enter(kind, dialog.get(), name, values);
         dialog->show();
         catalogue.takeCalls();
@@ -323,9 +417,9 @@ private Q_SLOTS:
         if (!message.isEmpty())
             QCOMPARE(MessageBoxDouble::messages[0].parent, dialog.get());
         QStringList calls;
-        if (mode == AddMode && message != refused)
+        if (mode == CustomCatalogue::AddMode && message != refused)
             calls << "get" + kind + "(" + name + ")";
-        if (accepted && mode == EditMode && kind == ellipsoid)
+        if (accepted && mode == CustomCatalogue::EditMode && kind == ellipsoid)
             calls << "deleteEllipsoid(" + name + ")";
         if (accepted)
             calls << "add" + kind + "(" + name + ")" << saves(kind);
@@ -356,8 +450,8 @@ private Q_SLOTS:
         for (const QString& kind : {ellipsoid, geoid}) {
             RecordingCatalogue catalogue;
             fill(catalogue, kind);
-            const auto list = create(kind, &catalogue, ListMode);
-            selectName(nameBox(list.get()), "mine");
+            const auto list = create(kind, &catalogue, CustomCatalogue::ListMode);
+            CustomCatalogue::selectName(nameBox(list.get()), "mine");
             const QStringList before = fields(kind, list.get());
             const QStringList entered = kind == ellipsoid ? QStringList{"7.0", "8.00"} : QStringList{"b.vgf", "WGS 84"};
             ModalDriver::onNextDialog([&](QDialog* dialog) {
@@ -395,10 +489,14 @@ private Q_SLOTS:
             RecordingCatalogue catalogue;
             if (name != "only")
                 fill(catalogue, kind);
+            else if (kind == geoid)
+                for (const char* each : {"Bessel", "WGS 84"})
+                    catalogue.addTestEllipsoid(each, "1", "2", "1");
             if (stored(catalogue, kind, name).isEmpty())
                 addEntry(catalogue, kind, name, "0");
-            const auto list = create(kind, &catalogue, ListMode);
-            selectName(nameBox(list.get()), name);
+            const auto list = create(kind, &catalogue, CustomCatalogue::ListMode);
+            CustomCatalogue::selectName(nameBox(list.get()), name);
+            const QStringList before = fields(kind, list.get());
             catalogue.takeCalls();
             MessageBoxDouble::reset();
             MessageBoxDouble::answers = {answer};
@@ -410,8 +508,11 @@ private Q_SLOTS:
                      answer ? QStringList("delete" + kind + "(" + name + ")") + saves(kind) : QStringList());
             QCOMPARE(stored(catalogue, kind, name).isEmpty(), answer == 1);
             if (name == "only") {
+                // With nothing to show, an ellipsoid's fields are empty; a geoid's stay as they were.
                 QCOMPARE(nameBox(list.get())->count(), 0);
-                QCOMPARE(fields(kind, list.get())[0], QString());
+                QCOMPARE(fields(kind, list.get()), kind == ellipsoid ? QStringList({"", ""}) : before);
+                for (const char* text : {"Add", "Edit", "Delete"})
+                    QVERIFY(button(list.get(), text)->isEnabled());
                 continue;
             }
             QCOMPARE(nameBox(list.get())->currentText(), answer ? QString("WGS 84") : name);
@@ -430,7 +531,7 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         RecordingCatalogue catalogue;
         fill(catalogue, ellipsoid);
-        const auto dialog = create(ellipsoid, &catalogue, AddMode);
+        const auto dialog = create(ellipsoid, &catalogue, CustomCatalogue::AddMode);
         dialog->show();
         QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
         auto* a = child<QLineEdit>(dialog.get(), 0);
@@ -467,7 +568,7 @@ private Q_SLOTS:
         QFETCH(QString, keys);
         QFETCH(QString, text);
         RecordingCatalogue catalogue;
-        const auto dialog = create(ellipsoid, &catalogue, AddMode);
+        const auto dialog = create(ellipsoid, &catalogue, CustomCatalogue::AddMode);
         for (int i : {0, 1}) {
             QTest::keyClicks(child<QLineEdit>(dialog.get(), i), keys);
             QCOMPARE(child<QLineEdit>(dialog.get(), i)->text(), text);
@@ -479,16 +580,16 @@ private Q_SLOTS:
         // file in the geoid data folder afterwards; the answer whether "mine" is covered, -1 for a new name.
         const Rows<int, QStringList, QString, QString, int> row({"mode", "chosen", "file", "content", "answer"});
         const QString copy = QString::fromUtf8("modèle 10%s.ggf");
-        row("from elsewhere", AddMode, {copy}, copy, "elsewhere", -1);
-        row("edited", EditMode, {copy}, copy, "elsewhere", -1);
-        row("edited without a choice", EditMode, {}, "mine.ggf", "(missing)", -1);
-        row("an existing one stays", AddMode, {"there.ggf"}, "there.ggf", "there", -1);
-        row("the existing one itself", AddMode, {"folder/there.ggf"}, "there.ggf", "there", -1);
-        row("the last choice counts", AddMode, {"there.ggf", copy}, copy, "elsewhere", -1);
-        row("a cancelled choice does not", AddMode, {copy, ""}, copy, "elsewhere", -1);
-        row("covered", AddMode, {copy}, copy, "elsewhere", 1);
-        row("not covered", AddMode, {copy}, copy, "(missing)", 0);
-        row("folder's path too long", AddMode, {copy}, copy, "too long", -1);
+        row("from elsewhere", CustomCatalogue::AddMode, {copy}, copy, "elsewhere", -1);
+        row("edited", CustomCatalogue::EditMode, {copy}, copy, "elsewhere", -1);
+        row("edited without a choice", CustomCatalogue::EditMode, {}, "mine.ggf", "(missing)", -1);
+        row("an existing one stays", CustomCatalogue::AddMode, {"there.ggf"}, "there.ggf", "there", -1);
+        row("the existing one itself", CustomCatalogue::AddMode, {"folder/there.ggf"}, "there.ggf", "there", -1);
+        row("the last choice counts", CustomCatalogue::AddMode, {"there.ggf", copy}, copy, "elsewhere", -1);
+        row("a cancelled choice does not", CustomCatalogue::AddMode, {copy, ""}, copy, "elsewhere", -1);
+        row("covered", CustomCatalogue::AddMode, {copy}, copy, "elsewhere", 1);
+        row("not covered", CustomCatalogue::AddMode, {copy}, copy, "(missing)", 0);
+        row("folder's path too long", CustomCatalogue::AddMode, {copy}, copy, "too long", -1);
     }
 
     void modelFile() {
@@ -507,11 +608,13 @@ private Q_SLOTS:
         for (const QString& name : {QString("there.ggf"), file})
             QVERIFY(setContent(root.path() + "/elsewhere/" + name, "elsewhere"));
 
-        RecordingCatalogue catalogue;
+        GeoidsThatLookForTheFile catalogue;
+        catalogue.file = folder + file;
         fill(catalogue, geoid);
         const auto dialog = create(geoid, &catalogue, mode);
-        selectName(nameBox(dialog.get()), "mine");
-        if (mode == AddMode)
+        CustomCatalogue::selectName(nameBox(dialog.get()), "mine");
+        resolvedPaths.clear();
+        if (mode == CustomCatalogue::AddMode)
             nameBox(dialog.get())->setEditText(answer < 0 ? "new" : "mine");
         for (QString path : chosen) {
             if (!path.isEmpty() && !path.startsWith("folder/"))
@@ -529,6 +632,14 @@ private Q_SLOTS:
         QCOMPARE(contentOf(folder + file), content == "too long" ? QByteArray("(missing)") : content.toLatin1());
         QCOMPARE(contentOf(folder + "there.ggf"), QByteArray("there"));
         QCOMPARE(QDir(folder).entryList(QDir::Files).count(), content == "elsewhere" ? 2 : 1);
+        QCOMPARE(catalogue.fileWasThere, answer != 0 && (content == "elsewhere" || content == "there"));
+        const QString dataFolder = "$(APP_DIR)/../etc/Vornhalde/data/GeoidData/";
+        QStringList resolved;
+        for (int i = 0; i < chosen.count(); ++i)
+            resolved << dataFolder + "|";
+        if (!chosen.isEmpty() && answer != 0)
+            resolved << dataFolder + "%s|" + file;
+        QCOMPARE(resolvedPaths, resolved);
         QVERIFY(chosen.isEmpty() || pathBufferSize == 1000);
         QVERIFY(!QApplication::overrideCursor());
     }
