@@ -4,6 +4,7 @@
 #include "catalogue/Dictionary.h"
 #include "geodesy/DlgEllipsoid.h"
 #include "geodesy/DlgGeoid.h"
+#include "support/Files.h"
 #include "support/MarkingTranslator.h"
 #include "support/MessageBoxDouble.h"
 #include "support/ModalDriver.h"
@@ -266,6 +267,53 @@ private Q_SLOTS:
         if (question)
             QCOMPARE(MessageBoxDouble::messages[0].parent, tree.get());
         QVERIFY(tree->currentItem()->parent() == nullptr || tree->currentItem()->parent()->isExpanded());
+    }
+
+    void currentNames_data() {
+        // What is done, with the name typed; then the group that an import goes to and the system that is current.
+        const Rows<QStringList, QString, QString, QString> row({"clicked", "command", "group", "system"});
+        row("nothing", {}, "", "", "");
+        row("click", {"B/b1"}, "", "B", "b1");
+        row("click on a group", {"B/b1", "A"}, "", "B", "b1");
+        row("add a group", {"A/same"}, "root|AddSysGroup|N", "N", "same");
+        row("rename a group", {"A/same"}, "B|EditSysGroup|B2", "B2", "same");
+        row("rename a system", {"A/same"}, "B/b1|EditSys|b2", "A", "b2");
+        row("add a system", {"A/same"}, "B|AddCoordSys|new", "A", "same");
+        row("delete the group", {"A/same"}, "A|DelSysGroup", "A", "same");
+    }
+
+    /// Who writes the tree's current names. An import, whose rebuild keeps both, shows the group; renaming a group
+    /// announces the system.
+    void currentNames() {
+        QFETCH(QStringList, clicked);
+        QFETCH(QString, command);
+        QFETCH(QString, group);
+        QFETCH(QString, system);
+        const QTemporaryDir folder;
+        const QString file = folder.filePath("a.prj");
+        QVERIFY(setContent(file, R"(PROJCS["new one",GEOGCS["g",DATUM["d",SPHEROID["s",6378137,298.25]],PRIMEM["p",0],)"
+                                 R"(UNIT["degree",0.0174532925199433]],PROJECTION["Mercator_1SP"],UNIT["metre",1]])"));
+        startTree();
+        for (const QString& path : clicked)
+            leftClick(path);
+        MessageBoxDouble::answers = {1};
+        if (command.count('|') == 2)
+            answerNameDialog(command.section('|', 2));
+        if (!command.isEmpty())
+            rightClick(command.section('|', 0, 0), command.section('|', 1, 1));
+        for (int i = 0; i < 2; ++i) {
+            catalogue->takeCalls();
+            ModalDriver::onNextDialog([&](QDialog* dialog) {
+                dialog->findChild<QLineEdit*>("fileNameEdit")->setText(file);
+                QMetaObject::invokeMethod(dialog, "accept");
+            });
+            QMetaObject::invokeMethod(tree.get(), "_onImpCoordSystem");
+            QCOMPARE(catalogue->takeCalls().value(0), "getGroup(" + group + ")");
+        }
+        tree->expandAll();
+        answerNameDialog("C2");
+        rightClick("C", "EditSysGroup");
+        QVERIFY(catalogue->takeCalls().contains("treeItemClicked(C2," + system + ")"));
     }
 
     void toolTipIsTheNameLetterForLetter_data() {

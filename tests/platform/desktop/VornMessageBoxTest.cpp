@@ -8,42 +8,31 @@
 
 Q_DECLARE_METATYPE(QMessageBox::StandardButton)
 
-namespace {
-
-QWidget* focused(QWidget* box) {
-    return box->focusWidget() ? box->focusWidget() : box;
-}
-
-/// Closes a box that a failed test leaves open, so that it does not wait for ever.
-auto leaver(QMessageBox* box) {
-    return qScopeGuard([box] {
-        if (box->isVisible())
-            box->done(-1);
-    });
-}
-
-} // namespace
-
 /// The real boxes, in the hands of a user.
 class VornMessageBoxTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void question_data() {
-        const Rows<QVector<int>, QMessageBox::StandardButton> row({"keys", "answer"});
-        row("its letter: Yes", {Qt::Key_Y}, QMessageBox::Yes);
-        row("its letter: No", {Qt::Key_N}, QMessageBox::No);
-        row("Tab and Space", {Qt::Key_Tab, Qt::Key_Space}, QMessageBox::NoButton);
-        row("Tab and Enter", {Qt::Key_Tab, Qt::Key_Return}, QMessageBox::NoButton);
-        row("Tab twice and Space", {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space}, QMessageBox::NoButton);
-        row("Tab twice and Enter", {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Enter}, QMessageBox::NoButton);
-        row("mouse: Yes", {}, QMessageBox::Yes);
-        row("mouse: No", {}, QMessageBox::No);
+    void box_data() {
+        // Keys, or none for a press of the mouse; the button that answers, NoButton for the one that has the focus
+        // then.
+        const Rows<bool, QVector<int>, QMessageBox::StandardButton> row({"question", "keys", "answer"});
+        const auto focus = QMessageBox::NoButton;
+        row("its letter: Yes", true, {Qt::Key_Y}, QMessageBox::Yes);
+        row("its letter: No", true, {Qt::Key_N}, QMessageBox::No);
+        row("Tab and Space", true, {Qt::Key_Tab, Qt::Key_Space}, focus);
+        row("Tab and Enter", true, {Qt::Key_Tab, Qt::Key_Return}, focus);
+        row("Tab twice and Space", true, {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space}, focus);
+        row("Tab twice and Enter", true, {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Enter}, focus);
+        row("mouse: Yes", true, {}, QMessageBox::Yes);
+        row("mouse: No", true, {}, QMessageBox::No);
+        row("notice: mouse", false, {}, QMessageBox::Ok);
+        for (const auto key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space})
+            row("notice: " + QByteArray::number(key, 16), false, {key}, QMessageBox::Ok);
     }
 
-    /// Before `keys` (or else a click) answer it, what must not answer it does not. NoButton: the focused button
-    /// counts.
-    void question() {
+    void box() {
+        QFETCH(bool, question);
         QFETCH(QVector<int>, keys);
         QFETCH(QMessageBox::StandardButton, answer);
         QWidget parent;
@@ -51,68 +40,45 @@ private Q_SLOTS:
         ModalDriver::onNextDialog([&](QDialog* dialog) {
             auto* box = qobject_cast<QMessageBox*>(dialog);
             QVERIFY(QTest::qWaitForWindowActive(box));
-            const auto leave = leaver(box);
             QCOMPARE(box->windowTitle(), title);
             QCOMPARE(box->text(), text);
             QCOMPARE(box->textFormat(), Qt::PlainText);
-            QCOMPARE(box->icon(), QMessageBox::Question);
+            QCOMPARE(box->icon(), question ? QMessageBox::Question : QMessageBox::Information);
             QCOMPARE(box->parentWidget(), &parent);
-            QCOMPARE(int(box->standardButtons()), int(QMessageBox::Yes | QMessageBox::No));
-            for (QPushButton* button : box->findChildren<QPushButton*>())
-                QVERIFY(!button->isDefault() && !button->hasFocus());
-
-            for (const int key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Delete})
-                QTest::keyClick(focused(box), Qt::Key(key));
-            box->close();
-            QTest::qWait(150); // a button pressed by its letter is down for a moment
-            QVERIFY(box->isVisible());
-
+            QCOMPARE(int(box->standardButtons()), int(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok));
+            if (question)
+                noneAnswersByAccident(box);
             for (const int key : keys) {
-                if (auto* button = qobject_cast<QPushButton*>(focused(box))) {
-                    QTest::keyClick(button, Qt::Key_Escape);
-                    answer = box->standardButton(button);
-                }
                 QVERIFY(box->isVisible());
-                QTest::keyClick(focused(box), Qt::Key(key));
+                if (answer == QMessageBox::NoButton && key != Qt::Key_Tab) {
+                    answer = box->standardButton(qobject_cast<QPushButton*>(box->focusWidget()));
+                    QTest::keyClick(box->focusWidget(), Qt::Key_Escape);
+                }
+                QTest::keyClick(box->focusWidget(), Qt::Key(key));
             }
             if (keys.isEmpty())
                 QTest::mouseClick(box->button(answer), Qt::LeftButton);
             QTRY_VERIFY(!box->isVisible());
         });
-        const int result = VornMessageBox::information(&parent, title, text);
-        QVERIFY(answer != QMessageBox::NoButton);
-        QCOMPARE(result, answer == QMessageBox::Yes ? 1 : 0);
-    }
-
-    void notice_data() {
-        const Rows<int> row({"key"});
-        row("Enter", Qt::Key_Return);
-        row("Escape", Qt::Key_Escape);
-        row("Space", Qt::Key_Space);
-        row("the frame's close button", 0);
-    }
-
-    void notice() {
-        QFETCH(int, key);
-        QWidget parent;
-        ModalDriver::onNextDialog([&](QDialog* dialog) {
-            auto* box = qobject_cast<QMessageBox*>(dialog);
-            QVERIFY(QTest::qWaitForWindowActive(box));
-            const auto leave = leaver(box);
-            QCOMPARE(box->windowTitle(), QString("information"));
-            QCOMPARE(box->text(), QString("<b>x</b>"));
-            QCOMPARE(box->textFormat(), Qt::PlainText);
-            QCOMPARE(box->icon(), QMessageBox::Information);
-            QCOMPARE(box->parentWidget(), &parent);
-            QCOMPARE(int(box->standardButtons()), int(QMessageBox::Ok));
-            if (key == 0)
-                box->close();
-            else
-                QTest::keyClick(focused(box), Qt::Key(key));
-            QTRY_VERIFY(!box->isVisible());
-        });
-        VornMessageBox::information_ok(&parent, "information", "<b>x</b>");
+        int result = -1;
+        if (question)
+            result = VornMessageBox::information(&parent, title, text);
+        else
+            VornMessageBox::information_ok(&parent, title, text);
         QCOMPARE(ModalDriver::pending(), 0);
+        QVERIFY(answer != QMessageBox::NoButton);
+        QCOMPARE(result, question ? (answer == QMessageBox::Yes ? 1 : 0) : -1);
+    }
+
+private:
+    static void noneAnswersByAccident(QMessageBox* box) {
+        for (QPushButton* button : box->findChildren<QPushButton*>())
+            QVERIFY(!button->isDefault() && !button->hasFocus());
+        for (const auto key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Delete})
+            QTest::keyClick(box->focusWidget(), key);
+        box->close();
+        QTest::qWait(150); // a button pressed by its letter is down for a moment
+        QVERIFY(box->isVisible());
     }
 };
 
