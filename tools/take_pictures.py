@@ -17,7 +17,7 @@ from desktop import Desktop, ask, hands, press, type_text, wait_for  # noqa: E40
 from screen import window_picture  # noqa: E402
 
 IMAGES = os.path.join(ROOT, "docs", "images")
-COUNTRY = "Great Britain and Ireland"
+COUNTRY = "United Kingdom"
 GRID = "OSGB36 / British National Grid"
 
 
