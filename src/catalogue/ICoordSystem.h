@@ -7,8 +7,7 @@ class IDictionary;
 /// from the GUI thread only.
 ///
 /// Texts are NUL-terminated 8-bit strings in the local encoding. Lists of names come back as one text, the names joined
-/// by
-/// "," in catalogue order; they stay valid until the next call. Names are compared exactly. Groups and records that
+/// by "," in catalogue order; they stay valid until the next call. Names are compared exactly. Groups and records that
 /// come back belong to the catalogue; records that are handed in stay the caller's, the catalogue keeps a copy.
 class ICoordSystem {
 public:

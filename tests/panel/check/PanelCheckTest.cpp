@@ -99,7 +99,7 @@ private Q_SLOTS:
             };
             const bool isEsri = WktDialect(dialect) == WktDialect::Wkt1Esri;
             for (const SampleRecord& sample : SampleRecord::all())
-                // ESRI's Mercator has a parallel of true scale in place of a factor: the same grid, another kind.
+                // ESRI's Mercator has a standard parallel in place of a factor: the same grid, another kind.
                 add(sample, isEsri && sample.title == "British grid" ? QStringList{"the datum shift"}
                             : isEsri && sample.title == "Mercator"   ? QStringList{"the projection method"}
                                                                      : QStringList());
