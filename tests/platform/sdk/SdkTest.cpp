@@ -635,8 +635,6 @@ private Q_SLOTS:
         config->getParameters()->setText("name", "changed");
         config->reload();
         QCOMPARE(config->getParameters()->getValue("name"), "Coordinate System Manager");
-        double degrees = 49.0;
-        QCOMPARE(Radian2Angle(&degrees), 49.0);
         QCOMPARE(get_instance_ICoordSystem("", 0), get_instance_ICoordSystem("", 0));
     }
 
