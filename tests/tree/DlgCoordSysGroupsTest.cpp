@@ -19,6 +19,7 @@
 namespace {
 
 const char* const cancel = "<cancel>";
+const QString own = "DlgCoordSysGroups:"; ///< the context in which the tree's own texts are translated
 
 // The catalogue of most rows: two groups that share a system's name, and an empty one.
 void fillCatalogue(RecordingCatalogue& catalogue) {
@@ -123,7 +124,7 @@ private Q_SLOTS:
         QVERIFY(tree->isAnimated() && tree->isHeaderHidden());
         QTreeWidgetItem* root = tree->topLevelItem(0);
         QCOMPARE(tree->topLevelItemCount(), 1);
-        QCOMPARE(root->text(0), QString("CoordSysGroup"));
+        QCOMPARE(root->text(0), own + "CoordSysGroup");
         QVERIFY(root->isExpanded());
         QCOMPARE(tree->currentItem(), root);
         for (QTreeWidgetItemIterator it(tree.get()); *it; ++it) {
@@ -137,8 +138,8 @@ private Q_SLOTS:
     void firstSystemIsAnnounced_data() {
         // groups: name, systems ... per group
         const Rows<QStringList, QStringList, QString> row({"groups", "expected", "current"});
-        row("empty catalogue", {}, {}, "CoordSysGroup");
-        row("first group empty", {"E", "A:a1"}, {}, "CoordSysGroup");
+        row("empty catalogue", {}, {}, own + "CoordSysGroup");
+        row("first group empty", {"E", "A:a1"}, {}, own + "CoordSysGroup");
         row("first of several", {"A:a1 a2", "B:b1"}, {"treeItemClicked(A,a1)"}, "A/a1");
     }
 
@@ -172,11 +173,11 @@ private Q_SLOTS:
 
     void menuFollowsTheItem_data() {
         const Rows<QString, QStringList> row({"path", "expected"});
-        const QStringList rootEntries{"AddSysGroup", "Edit Ellipsoid", "AddGeoid"};
+        const QStringList rootEntries{own + "AddSysGroup", "QObject:Edit Ellipsoid", "QObject:AddGeoid"};
         row("empty space", "empty", rootEntries);
         row("root", "root", rootEntries);
-        row("group", "B", {"ImportCoordSys", "AddCoordSys", "EditSysGroup", "DelSysGroup"});
-        row("system", "A/a1", {"EditSys", "DelSys"});
+        row("group", "B", {own + "ImportCoordSys", own + "AddCoordSys", own + "EditSysGroup", own + "DelSysGroup"});
+        row("system", "A/a1", {own + "EditSys", own + "DelSys"});
     }
 
     void menuFollowsTheItem() {
@@ -208,7 +209,7 @@ private Q_SLOTS:
 
         row("add group, whatever is current", "A/a1", "empty", "AddSysGroup", "N %s",
             {"hasGroup(N %s)", "hasGroup(N %s)", "addGroup(N %s)"}, "N %s[] " + unchanged, "N %s");
-        row("add group cancelled", "A/a1", "root", "AddSysGroup", cancel, {}, unchanged, "CoordSysGroup");
+        row("add group cancelled", "A/a1", "root", "AddSysGroup", cancel, {}, unchanged, own + "CoordSysGroup");
         row("add system", "A/a1", "B", "AddCoordSys", "a1", added("B", "a1", {"B.getCoordSystem(same)"}),
             "A[a1 same a2] B[a1 b1 same] C[]", "B/a1");
         row("add system to an empty group", "A/a1", "C", "AddCoordSys", "100% é", added("C", "100% é", {}),
@@ -262,7 +263,8 @@ private Q_SLOTS:
         QCOMPARE(tree->currentItem()->toolTip(0),
                  tree->currentItem() == tree->topLevelItem(0) ? QString() : tree->currentItem()->text(0));
         const QString what = on.contains('/') ? "system " : "system group ";
-        const QString asked = "?Warning|are you sure delete coord " + what + on.section('/', -1) + " ?";
+        const QString asked =
+            "?QObject:Warning|" + own + "are you sure delete coord " + what + on.section('/', -1) + " ?";
         QCOMPARE(MessageBoxDouble::texts(), question ? QStringList(asked) : QStringList());
         if (question)
             QCOMPARE(MessageBoxDouble::messages[0].parent, tree.get());
@@ -346,38 +348,10 @@ private Q_SLOTS:
         QToolTip::hideText();
     }
 
-    void textsAreTranslated() {
-        const MarkingTranslator translator;
-        startTree();
-        const QString own = "DlgCoordSysGroups:";
-        QCOMPARE(tree->topLevelItem(0)->text(0), own + "CoordSysGroup");
-        QStringList entries;
-        for (const char* path : {"root", "B", "A/a1"})
-            rightClick(path, QString(), &entries);
-        QCOMPARE(entries, (QStringList{own + "AddSysGroup", "QObject:Edit Ellipsoid", "QObject:AddGeoid",
-                                       own + "ImportCoordSys", own + "AddCoordSys", own + "EditSysGroup",
-                                       own + "DelSysGroup", own + "EditSys", own + "DelSys"}));
-        const QVector<QPair<QString, QString>> naming{
-            {"root", "AddSysGroup"}, {"B", "AddCoordSys"}, {"B", "EditSysGroup"}, {"A/a1", "EditSys"}};
-        for (const auto& command : naming) {
-            ModalDriver::onNextDialog([&](QDialog* dialog) {
-                QCOMPARE(dialog->windowTitle(), own + command.second);
-                dialog->reject();
-            });
-            rightClick(command.first, own + command.second);
-            QCOMPARE(ModalDriver::pending(), 0);
-        }
-        rightClick("B", own + "DelSysGroup");
-        rightClick("A/a1", own + "DelSys");
-        QCOMPARE(MessageBoxDouble::texts(),
-                 (QStringList{"?QObject:Warning|" + own + "are you sure delete coord system group B ?",
-                              "?QObject:Warning|" + own + "are you sure delete coord system a1 ?"}));
-    }
-
     void catalogueDialogs_data() {
         // `announced` is empty where nothing is.
         const Rows<QString, QString, QString> row({"clicked", "announced", "currentAfter"});
-        row("nothing was clicked", "", "", "CoordSysGroup");
+        row("nothing was clicked", "", "", own + "CoordSysGroup");
         row("announced anew", "A/a1", "treeItemClicked(A,a1)", "A/a1");
         row("the last item of that name, though hidden", "A/same", "treeItemClicked(B,same)", "B/same");
         row("the last item is a group", "A/C", "", "C");
@@ -403,7 +377,7 @@ private Q_SLOTS:
                 catalogue->takeCalls();
                 dialog->reject();
             });
-            rightClick("root", geoids ? "AddGeoid" : "Edit Ellipsoid");
+            rightClick("root", geoids ? "QObject:AddGeoid" : "QObject:Edit Ellipsoid");
             QCOMPARE(ModalDriver::pending(), 0);
             QCOMPARE(catalogue->takeCalls(), announced.isEmpty() ? QStringList() : QStringList(announced));
             QCOMPARE(pathOf(tree->currentItem()), currentAfter);
@@ -495,8 +469,8 @@ private Q_SLOTS:
                 rightClick(command.first, command.second);
             }
         }
-        const QStringList once{"EditSys|A|a1|1|a1|a1", "AddCoordSys|B||1||", "EditSysGroup|B||0|B|B",
-                               "AddSysGroup|||0||"};
+        const QStringList once{own + "EditSys|A|a1|1|a1|a1", own + "AddCoordSys|B||1||", own + "EditSysGroup|B||0|B|B",
+                               own + "AddSysGroup|||0||"};
         QCOMPARE(seen, once + once);
     }
 
@@ -524,7 +498,7 @@ private:
                     QPoint* place = nullptr) {
         const QPoint pos = path == "empty" ? QPoint(20, tree->viewport()->height() - 5)
                                            : tree->visualItemRect(itemAtPath(*tree, path)).center();
-        ModalDriver::onNextMenu(entry, entries, place);
+        ModalDriver::onNextMenu(entry.contains(':') ? entry : own + entry, entries, place);
         QTest::mousePress(tree->viewport(), Qt::RightButton, Qt::NoModifier, pos);
         QContextMenuEvent event(QContextMenuEvent::Mouse, pos, tree->viewport()->mapToGlobal(pos));
         QApplication::sendEvent(tree->viewport(), &event);
@@ -534,6 +508,7 @@ private:
         QCoreApplication::processEvents();
     }
 
+    const MarkingTranslator translator;
     int aliveAtStart = 0;
     std::unique_ptr<RecordingCatalogue> catalogue;
     std::unique_ptr<DlgCoordSysGroups> tree;
