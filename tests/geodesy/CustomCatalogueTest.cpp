@@ -426,7 +426,7 @@ private Q_SLOTS:
         const Rows<QString, int> row({"name", "answer"});
         row("confirmed", "mine", 1);
         row("declined", "mine", 0);
-        row("place marker in the name", "%1 %2", 1);
+        row("place marker and markup in the name", "%1 <b>2</b>", 1);
         row("the only one", "only", 1);
     }
 

@@ -24,7 +24,7 @@ const QString own = "DlgCoordSysGroups:"; ///< the context in which the tree's o
 // The catalogue of most rows: two groups that share a system's name, and an empty one.
 void fillCatalogue(RecordingCatalogue& catalogue) {
     catalogue.addTestGroup("A", {"a1", "same"});
-    catalogue.addTestSystem("A", "a2",
+    catalogue.addTestSystem("A", "a<2>",
                             {"ellipsoid_name", "Bessel 1841", "ellipsoid_a", "6377397.155000", "ellipsoid_f",
                              "299.152813", "factor", "1.000000"});
     catalogue.addTestGroup("B", {"b1", "same"});
@@ -106,8 +106,8 @@ private Q_SLOTS:
 
     void treeMirrorsTheCatalogue_data() {
         const Rows<QString, bool, QString> row({"rawGroupNames", "nullLists", "expected"});
-        row("catalogue order", {}, false, "A[a1 same a2] B[b1 same] C[]");
-        row("empty parts dropped, nothing trimmed", ",B,, D,A,", false, "B[b1 same]  D[] A[a1 same a2]");
+        row("catalogue order", {}, false, "A[a1 same a<2>] B[b1 same] C[]");
+        row("empty parts dropped, nothing trimmed", ",B,, D,A,", false, "B[b1 same]  D[] A[a1 same a<2>]");
         row("only commas", ",,,", false, {});
         row("null lists", {}, true, {});
     }
@@ -140,7 +140,7 @@ private Q_SLOTS:
         const Rows<QStringList, QStringList, QString> row({"groups", "expected", "current"});
         row("empty catalogue", {}, {}, own + "CoordSysGroup");
         row("first group empty", {"E", "A:a1"}, {}, own + "CoordSysGroup");
-        row("first of several", {"A:a1 a2", "B:b1"}, {"treeItemClicked(A,a1)"}, "A/a1");
+        row("first of several", {"A:a1 a<2>", "B:b1"}, {"treeItemClicked(A,a1)"}, "A/a1");
     }
 
     void firstSystemIsAnnounced() {
@@ -205,34 +205,34 @@ private Q_SLOTS:
                    QStringList{prefix + "addCoordSystem" + of, "treeItemClicked(" + group + "," + name + ")",
                                "dataChanged()"};
         };
-        const QString unchanged = "A[a1 same a2] B[b1 same] C[]";
+        const QString unchanged = "A[a1 same a<2>] B[b1 same] C[]";
 
         row("add group, whatever is current", "A/a1", "empty", "AddSysGroup", "N %s",
             {"hasGroup(N %s)", "hasGroup(N %s)", "addGroup(N %s)"}, "N %s[] " + unchanged, "N %s");
         row("add group cancelled", "A/a1", "root", "AddSysGroup", cancel, {}, unchanged, own + "CoordSysGroup");
         row("add system", "A/a1", "B", "AddCoordSys", "a1", added("B", "a1", {"B.getCoordSystem(same)"}),
-            "A[a1 same a2] B[a1 b1 same] C[]", "B/a1");
+            "A[a1 same a<2>] B[a1 b1 same] C[]", "B/a1");
         row("add system to an empty group", "A/a1", "C", "AddCoordSys", "100% é", added("C", "100% é", {}),
-            "A[a1 same a2] B[b1 same] C[100% é]", "C/100% é");
+            "A[a1 same a<2>] B[b1 same] C[100% é]", "C/100% é");
         row("Add button on the root", "root", "button", "", "N", {"hasGroup(N)", "hasGroup(N)", "addGroup(N)"},
             "N[] " + unchanged, "N");
         row("Add button on a system", "B/b1", "button", "", "N", added("B", "N", {"B.getCoordSystem(same)"}),
-            "A[a1 same a2] B[N b1 same] C[]", "B/N");
+            "A[a1 same a<2>] B[N b1 same] C[]", "B/N");
         row("Add button on a system, cancelled", "B/b1", "button", "", cancel, {}, unchanged, "B");
         row("rename group announces the current system's name", "A/a1", "B", "EditSysGroup", "B2",
             {"hasGroup(B2)", "renameGroup(B,B2)", "treeItemClicked(B2,a1)", "dataChanged()"},
-            "A[a1 same a2] B2[b1 same] C[]", "B2");
+            "A[a1 same a<2>] B2[b1 same] C[]", "B2");
         row("rename group cancelled", "A/a1", "B", "EditSysGroup", cancel, {}, unchanged, "B");
         row("rename system", "A/a1", "B/b1", "EditSys", "b2",
             {"getGroup(B)", "B.getCoordSystem(b2)", "getGroup(B)", "B.renameCoordSystem(b1,b2)",
              "treeItemClicked(B,b2)", "dataChanged()"},
-            "A[a1 same a2] B[b2 same] C[]", "B/b2");
+            "A[a1 same a<2>] B[b2 same] C[]", "B/b2");
         row("delete group", "A/a1", "A", "DelSysGroup", "yes", {"deleteGroup(A)", "dataChanged()"},
-            "-A[a1 same a2] B[b1 same] C[]", "A");
+            "-A[a1 same a<2>] B[b1 same] C[]", "A");
         row("delete group declined", "A/a1", "A", "DelSysGroup", "no", {}, unchanged, "A");
         row("delete system from its own group", "A/same", "B/same", "DelSys", "yes",
-            {"getGroup(B)", "B.deleteCoordSystem(same)", "dataChanged()"}, "A[a1 same a2] B[b1 -same] C[]", "B/same");
-        row("delete system declined", "A/same", "B/same", "DelSys", "no", {}, unchanged, "B/same");
+            {"getGroup(B)", "B.deleteCoordSystem(same)", "dataChanged()"}, "A[a1 same a<2>] B[b1 -same] C[]", "B/same");
+        row("delete system declined", "A/same", "A/a<2>", "DelSys", "no", {}, unchanged, "A/a<2>");
     }
 
     void command() {
@@ -399,11 +399,11 @@ private Q_SLOTS:
 
         // The bottom item is hidden once its system is deleted: it then gives nothing.
         MessageBoxDouble::answers = {1};
-        rightClick("A/a2", "DelSys");
+        rightClick("A/a<2>", "DelSys");
         QCOMPARE(added("newer"), QStringList("name=newer"));
 
         // A catalogue that still holds the hidden item's system gives its ellipsoid.
-        catalogue->addTestSystem("A", "a2", {"ellipsoid_name", "Krassowsky 1940"});
+        catalogue->addTestSystem("A", "a<2>", {"ellipsoid_name", "Krassowsky 1940"});
         QVERIFY(added("newest").contains("ellipsoid_name=Krassowsky 1940"));
     }
 
@@ -436,7 +436,7 @@ private Q_SLOTS:
         // Its name is free again.
         answerNameDialog("B");
         rightClick("empty", "AddSysGroup");
-        QCOMPARE(dump(*tree), QString("B[] A[a1 same a2] -B[b1 same] C[]"));
+        QCOMPARE(dump(*tree), QString("B[] A[a1 same a<2>] -B[b1 same] C[]"));
     }
 
     void nameDialogIsPreparedAnew() {
