@@ -21,8 +21,9 @@
 
 #include <algorithm>
 
-DlgCoordParam::DlgCoordParam(ICoordSystem* coordSystem, QWidget* parent, bool readOnly) : QTabWidget(parent) {
-    addHeader(readOnly);
+DlgCoordParam::DlgCoordParam(ICoordSystem* coordSystem, QWidget* parent, bool readOnly)
+    : QTabWidget(parent), readOnly(readOnly) {
+    addHeader();
     addParamTab(new EllipsoidTab(coordSystem, editor, readOnly, nullptr));
     addParamTab(new ProjectionTab(editor, readOnly, nullptr));
     addParamTab(new DatumShiftTab(editor, readOnly, nullptr));
@@ -65,12 +66,11 @@ const IDictionary& DlgCoordParam::getMetaData() const {
     return editor.record();
 }
 
-void DlgCoordParam::addHeader(bool readOnly) {
+void DlgCoordParam::addHeader() {
     header = new QWidget(this);
     nameLine = new SystemNameLine;
     backButton = new QPushButton;
     backButton->setFixedHeight(backButton->fontMetrics().height() + 6); // so that the longest form fits its window
-    backButton->setVisible(!readOnly);
     connect(backButton, SIGNAL(clicked()), this, SLOT(_onBack()));
     auto* layout = new QHBoxLayout(header);
     // The tab below has margins of its own; the name stands where its content does.
@@ -78,6 +78,7 @@ void DlgCoordParam::addHeader(bool readOnly) {
     layout->setContentsMargins(margin, margin / 4, margin, 0);
     layout->addWidget(nameLine, 1);
     layout->addWidget(backButton);
+    layout->addStrut(backButton->height()); // also while the button makes room for what is to be done
 }
 
 void DlgCoordParam::addParamTab(ParamTab* tab) {
@@ -119,6 +120,7 @@ void DlgCoordParam::showHeader() {
     for (ParamTab* tab : qAsConst(tabs))
         tab->setEnabled(hasRecord);
     const bool isForward = editor.canGoForward();
+    backButton->setVisible(takesEdits && !readOnly);
     backButton->setText(isForward ? tr("Forward to the edited values") : tr("Back to the values before"));
     backButton->setEnabled(isForward || editor.canGoBack());
 }

@@ -45,7 +45,7 @@ private Q_SLOTS:
     void _onFocusChanged(QWidget* old, QWidget* now);
 
 private:
-    void addHeader(bool readOnly);
+    void addHeader();
     void addParamTab(ParamTab* tab);
     void refreshTabs(const QObject* except);
     void showHeader();
@@ -56,5 +56,6 @@ private:
     SystemNameLine* nameLine;
     QPushButton* backButton;
     QPointer<QWidget> keyboardBefore; ///< what had the keyboard before what has it now
+    bool readOnly;
     bool hasRecord = false;
 };
