@@ -586,7 +586,8 @@ private Q_SLOTS:
         QCOMPARE(offered, QString("A_B_ grid.prj"));
         const DictionaryGuard imported;
         QVERIFY(importFile(folder.filePath("saved.prj"), imported.get()));
-        QCOMPARE(recordDifferences(screen.record(), *imported), QStringList());
+        // ESRI's dialect, with which the list of dialects starts, has no datum shift.
+        QCOMPARE(recordDifferences(screen.record(), *imported), QStringList("the datum shift"));
         QVERIFY(MessageBoxDouble::messages.isEmpty());
     }
 
