@@ -1,5 +1,7 @@
 #include "panel/check/CheckPointPane.h"
 
+#include "panel/computing/DistortionLines.h"
+#include "panel/computing/ShownSystem.h"
 #include "panel/field/CheckField.h"
 #include "panel/field/ChoiceBox.h"
 #include "panel/field/MessageLine.h"
@@ -109,11 +111,13 @@ void CheckPointPane::addResults(QGridLayout* grid) {
     labels[ClosingError]->setToolTip(PanelText::tr("How far the point is off when it is computed there and back."));
 }
 
-void CheckPointPane::setSystem(const IProjectedSystem* newSystem, const GridPoint& newOrigin, const QString& name) {
-    system = newSystem;
-    origin = newOrigin;
-    systemName = name;
+void CheckPointPane::setSystem(const std::shared_ptr<const ShownSystem>& shown) {
+    system = shown;
     recompute();
+}
+
+const IProjectedSystem* CheckPointPane::projection() const {
+    return system ? system->projection() : nullptr;
 }
 
 void CheckPointPane::showNotation() {
@@ -131,20 +135,21 @@ CheckPoint::Datum CheckPointPane::datum() const {
 }
 
 std::optional<CheckPoint> CheckPointPane::compute() const {
-    if (!system || !height->value())
+    const IProjectedSystem* const projected = projection();
+    if (!projected || !height->value())
         return std::nullopt;
     switch (source) {
     case Source::Origin:
-        return CheckPoint::fromGrid(*system, origin, *height->value(), datum());
+        return CheckPoint::fromGrid(*projected, DistortionLines::origin(system->record()), *height->value(), datum());
     case Source::Place:
         if (!latitude->value() || !longitude->value())
             return std::nullopt;
-        return CheckPoint::fromGeographic(*system, {*latitude->value(), *longitude->value(), *height->value()},
+        return CheckPoint::fromGeographic(*projected, {*latitude->value(), *longitude->value(), *height->value()},
                                           datum());
     case Source::Grid:
         if (!easting->value() || !northing->value())
             return std::nullopt;
-        return CheckPoint::fromGrid(*system, {*easting->value(), *northing->value()}, *height->value(), datum());
+        return CheckPoint::fromGrid(*projected, {*easting->value(), *northing->value()}, *height->value(), datum());
     }
     return std::nullopt;
 }
@@ -188,11 +193,11 @@ void CheckPointPane::showResults() {
     const bool ownShown = datum() == CheckPoint::Datum::Own;
     labels[OtherDatum]->setText(ownShown ? PanelText::tr("On WGS 84") : PanelText::tr("On the own datum"));
     copyButton->setEnabled(point.has_value());
-    const bool typed = system && latitude->value() && longitude->value() && height->value();
+    const bool typed = projection() && latitude->value() && longitude->value() && height->value();
     if (!point) {
         for (QLabel* result : results)
             result->setText(QStringLiteral("–"));
-        if (typed || (system && easting->value() && northing->value()))
+        if (typed || (projection() && easting->value() && northing->value()))
             results[ScaleFactor]->setText(PanelText::tr("The projection gives no result for this point."));
         return;
     }
@@ -205,8 +210,8 @@ void CheckPointPane::showResults() {
         CheckField::angleText(scale.convergence, 7) +
         (AngleText::notation() == AngleNotation::DecimalDegrees ? QStringLiteral("°") : QString()));
     results[CombinedFactor]->setText(factorText(point->combinedFactor()));
-    results[OtherDatum]->setText(system->hasDatumShift() ? placeText(ownShown ? point->wgs84 : point->own)
-                                                         : PanelText::tr("the same: no datum shift is defined"));
+    results[OtherDatum]->setText(projection()->hasDatumShift() ? placeText(ownShown ? point->wgs84 : point->own)
+                                                               : PanelText::tr("the same: no datum shift is defined"));
     showClosingError();
 }
 
@@ -224,7 +229,7 @@ void CheckPointPane::showClosingError() {
 }
 
 void CheckPointPane::_onCopy() {
-    QStringList lines{systemName, PanelText::tr("Datum") + '\t' + datumBox->currentText()};
+    QStringList lines{system->name(), PanelText::tr("Datum") + '\t' + datumBox->currentText()};
     for (const CheckField* field : {latitude, longitude, height, easting, northing})
         lines.append(QString(field->labelText() + '\t' + field->text() + ' ' + field->unitText()).trimmed());
     for (std::size_t i = 0; i < ResultCount; ++i)

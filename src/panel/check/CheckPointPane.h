@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <array>
+#include <memory>
 
 class CheckField;
 class ChoiceBox;
@@ -12,6 +13,7 @@ class MessageLine;
 class QGridLayout;
 class QLabel;
 class QPushButton;
+class ShownSystem;
 
 /// A point in latitude and longitude and on the grid, each computed from the other while the user types, with scale
 /// factor, convergence and the closing error of the round trip.
@@ -21,9 +23,8 @@ class CheckPointPane : public QWidget {
 public:
     explicit CheckPointPane(QWidget* parent = nullptr);
 
-    /// Computes the shown point through `system`, which the caller keeps until the next call; null for no system. While
-    /// the user has typed no point, it is the one at `origin`. `systemName` heads the copied text.
-    void setSystem(const IProjectedSystem* system, const GridPoint& origin, const QString& systemName);
+    /// Computes the shown point through `system`. While the user has typed no point, it is the system's origin.
+    void setSystem(const std::shared_ptr<const ShownSystem>& system);
 
     /// Shows angles anew in the notation chosen now.
     void showNotation();
@@ -45,15 +46,14 @@ private:
     void addGridFields(QGridLayout* grid);
     void addResults(QGridLayout* grid);
     CheckPoint::Datum datum() const;
+    const IProjectedSystem* projection() const;
     std::optional<CheckPoint> compute() const;
     void recompute();
     void showResults();
     void showClosingError();
     QString placeText(const GeographicPoint& place) const;
 
-    const IProjectedSystem* system = nullptr;
-    GridPoint origin{0.0, 0.0};
-    QString systemName;
+    std::shared_ptr<const ShownSystem> system;
     Source source = Source::Origin;
     std::optional<CheckPoint> point;
 

@@ -2,6 +2,7 @@
 
 #include "panel/check/DesignBox.h"
 #include "panel/check/DistortionPlot.h"
+#include "panel/computing/ShownSystem.h"
 #include "panel/field/CheckField.h"
 #include "panel/field/ChoiceBox.h"
 #include "panel/record/PanelText.h"
@@ -75,10 +76,9 @@ DistortionPane::DistortionPane(bool readOnly, QWidget* parent)
     _onLeft();
 }
 
-void DistortionPane::setSystem(const IDictionary* newRecord, const IProjectedSystem* newSystem,
+void DistortionPane::setSystem(const std::shared_ptr<const ShownSystem>& shown,
                                const std::optional<GeographicPoint>& place) {
-    record = newRecord;
-    system = newSystem;
+    system = shown;
     checkedPlace = place;
     _onSettingsChanged();
 }
@@ -96,20 +96,25 @@ void DistortionPane::showEvent(QShowEvent* event) {
     _onSettingsChanged();
 }
 
+const IProjectedSystem* DistortionPane::projection() const {
+    return system ? system->projection() : nullptr;
+}
+
 GridPoint DistortionPane::centre() const {
     std::optional<GridPoint> place;
     if (centreBox->currentIndex() == Parallels)
-        place = DistortionLines::middleOfParallels(*record, *system);
+        place = DistortionLines::middleOfParallels(system->record(), *projection());
     else if (centreBox->currentIndex() == CheckedPoint && checkedPlace)
-        place = system->toGrid(*checkedPlace);
-    return place ? *place : DistortionLines::origin(*record);
+        place = projection()->toGrid(*checkedPlace);
+    return place ? *place : DistortionLines::origin(system->record());
 }
 
 /// Greys what the system does not have; chosen all the same, it stands for the origin.
 void DistortionPane::offerCentres() {
     auto* items = qobject_cast<QStandardItemModel*>(centreBox->model());
-    items->item(Parallels)->setEnabled(system && DistortionLines::middleOfParallels(*record, *system));
-    items->item(CheckedPoint)->setEnabled(system && checkedPlace);
+    items->item(Parallels)->setEnabled(projection() &&
+                                       DistortionLines::middleOfParallels(system->record(), *projection()));
+    items->item(CheckedPoint)->setEnabled(projection() && checkedPlace);
 }
 
 void DistortionPane::_onSettingsChanged() {
@@ -126,7 +131,7 @@ void DistortionPane::_onPlotResized() {
 }
 
 void DistortionPane::draw() {
-    if (!system) {
+    if (!projection()) {
         plot->clear();
         return;
     }
@@ -140,8 +145,8 @@ void DistortionPane::draw() {
 void DistortionPane::drawOnce() {
     area = plot->areaAround(centre(), widthBox->currentData().toInt() * 1000.0);
     const QSize nodes = plot->nodeCount();
-    plot->showDistortion(DistortionGrid(*system, area, nodes.width(), nodes.height(), heightBox->value()), area);
-    plot->showLines(DistortionLines(*record, *system, area), DistortionLines::origin(*record));
+    plot->showDistortion(DistortionGrid(*projection(), area, nodes.width(), nodes.height(), heightBox->value()), area);
+    plot->showLines(DistortionLines(system->record(), *projection(), area), DistortionLines::origin(system->record()));
 }
 
 QVector<GeographicPoint> DistortionPane::designPoints() const {
@@ -149,7 +154,7 @@ QVector<GeographicPoint> DistortionPane::designPoints() const {
         return checkedPlace ? QVector<GeographicPoint>{*checkedPlace} : QVector<GeographicPoint>();
     QVector<GeographicPoint> points;
     for (const GridPoint& node : DistortionGrid::nodes(area, designNodes, designNodes)) {
-        if (const auto place = system->toGeographic(node, 0.0))
+        if (const auto place = projection()->toGeographic(node, 0.0))
             points.append(*place);
     }
     return points;
@@ -158,20 +163,20 @@ QVector<GeographicPoint> DistortionPane::designPoints() const {
 void DistortionPane::propose() {
     IProjectionModule* const module = projectionModule();
     designProposal.reset();
-    if (system && module)
-        designProposal =
-            DesignProposal::make(*record, module->geodesy(), designPoints(), heightBox->value(), design->placesLine());
-    design->showProposal(record && DesignProposal::isPossible(*record),
-                         record ? DesignProposal::lineField(*record) : nullptr, designProposal);
+    if (projection() && module)
+        designProposal = DesignProposal::make(system->record(), module->geodesy(), designPoints(), heightBox->value(),
+                                              design->placesLine());
+    design->showProposal(system && DesignProposal::isPossible(system->record()),
+                         system ? DesignProposal::lineField(system->record()) : nullptr, designProposal);
 }
 
 void DistortionPane::_onPointed(double easting, double northing) {
-    if (!system)
+    if (!projection())
         return;
     const GridPoint point{easting, northing};
     double ppm = 0.0;
-    system->linearDistortion(&point, 1, heightBox->value(), &ppm);
-    const auto place = system->toGeographic(point, 0.0);
+    projection()->linearDistortion(&point, 1, heightBox->value(), &ppm);
+    const auto place = projection()->toGeographic(point, 0.0);
     if (!place || std::isnan(ppm))
         return _onLeft();
     const int decimals = 5; // a metre on the ground: more than a pixel tells

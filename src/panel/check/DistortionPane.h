@@ -3,15 +3,16 @@
 #include "panel/computing/DesignProposal.h"
 #include "panel/computing/DistortionGrid.h"
 
-#include <QByteArray>
 #include <QWidget>
+
+#include <memory>
 
 class ChoiceBox;
 class DesignBox;
 class DistortionPlot;
-class IDictionary;
 class QLabel;
 class QSpinBox;
+class ShownSystem;
 
 /// The linear distortion of the system over an area at a mean height: the picture, the value under the mouse, and the
 /// scale factor that would make it smallest. Computed and drawn only while it is visible.
@@ -21,10 +22,9 @@ class DistortionPane : public QWidget {
 public:
     explicit DistortionPane(bool readOnly, QWidget* parent = nullptr);
 
-    /// The system to show: `record`, and `system` which it defines; both stay the caller's until the next call. Null
-    /// for none. `checkedPlace` is the point that the user checks, on the system's datum: the other place to look
-    /// around.
-    void setSystem(const IDictionary* record, const IProjectedSystem* system,
+    /// The system to show. `checkedPlace` is the point that the user checks, on the system's datum: the other place to
+    /// look around.
+    void setSystem(const std::shared_ptr<const ShownSystem>& system,
                    const std::optional<GeographicPoint>& checkedPlace);
 
     void setCheckedPlace(const std::optional<GeographicPoint>& place);
@@ -48,6 +48,7 @@ private Q_SLOTS:
 private:
     enum Centre { Origin, Parallels, CheckedPoint };
 
+    const IProjectedSystem* projection() const;
     void draw();
     void drawOnce();
     void propose();
@@ -55,8 +56,7 @@ private:
     GridPoint centre() const;
     QVector<GeographicPoint> designPoints() const;
 
-    const IDictionary* record = nullptr;
-    const IProjectedSystem* system = nullptr;
+    std::shared_ptr<const ShownSystem> system;
     std::optional<GeographicPoint> checkedPlace;
     DistortionArea area{{0.0, 0.0}, 0.0, 0.0};
     std::optional<DesignProposal> designProposal;

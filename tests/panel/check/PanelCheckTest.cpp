@@ -624,6 +624,24 @@ private Q_SLOTS:
         }
     }
 
+    /// Whatever reaches the picture between a change of system and its refresh, it looks at nothing that is gone.
+    void pictureKeepsWhatItShows() {
+        PanelOnScreen screen(*SampleRecord::named("UTM").record(), PanelOnScreen::Check);
+        showDistortion(screen);
+        for (const bool resizes : {true, false}) {
+            // The line with the reason takes room from the picture, which is drawn once more.
+            screen.show(*SampleRecord::named("UTM").with("project_type", "5").record());
+            QCOMPARE(screen.messages().size(), 1);
+            if (resizes)
+                screen.panel.resize(screen.panel.width() + 40, screen.panel.height() - 40);
+            QFont font = screen.panel.font();
+            font.setPointSizeF(font.pointSizeF() * 1.1);
+            screen.panel.setFont(font);
+            QApplication::processEvents();
+            screen.show(*SampleRecord::named("UTM").record());
+        }
+    }
+
     void fromRegistry() {
         PanelOnScreen screen(
             *SampleRecord::named("Mercator with parallel").with("name", "Mine").with("unknown_key", "kept").record(),
