@@ -61,6 +61,7 @@ void CheckTab::_onProposalAccepted() {
     const auto proposal = distortionPane->proposal();
     if (!proposal)
         return;
+    pointPane->keepPlace();
     proposal->apply(editor());
     showRecord();
     recordChanged();

@@ -4,14 +4,13 @@
 #include "panel/computing/ShownSystem.h"
 #include "panel/field/CheckField.h"
 #include "panel/field/ChoiceBox.h"
+#include "panel/field/CopyButton.h"
 #include "panel/field/MessageLine.h"
 #include "panel/record/PanelText.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPushButton>
+#include <QStandardItemModel>
 
 #include <cmath>
 
@@ -57,7 +56,7 @@ CheckPointPane::CheckPointPane(QWidget* parent) : QWidget(parent) {
     addPlaceFields(grid);
     addGridFields(grid);
     addResults(grid);
-    copyButton = new QPushButton(PanelText::tr("Copy as text"));
+    copyButton = new CopyButton(PanelText::tr("Copy as text"));
     grid->addWidget(copyButton, grid->rowCount(), 1, Qt::AlignLeft);
     grid->setRowStretch(grid->rowCount(), 1);
     connect(copyButton, SIGNAL(clicked()), this, SLOT(_onCopy()));
@@ -126,6 +125,11 @@ void CheckPointPane::showNotation() {
     showResults();
 }
 
+void CheckPointPane::keepPlace() {
+    if (source == Source::Grid && point)
+        source = Source::Place;
+}
+
 std::optional<GeographicPoint> CheckPointPane::place() const {
     return point ? std::optional<GeographicPoint>(point->own) : std::nullopt;
 }
@@ -162,8 +166,8 @@ void CheckPointPane::recompute() {
         point ? northing->setValue(point->grid.northing) : northing->clear();
     }
     if (source != Source::Place) {
-        point ? latitude->setValue(point->on(datum()).latitude) : latitude->clear();
-        point ? longitude->setValue(point->on(datum()).longitude) : longitude->clear();
+        point ? latitude->setValue(point->on(datum())->latitude) : latitude->clear();
+        point ? longitude->setValue(point->on(datum())->longitude) : longitude->clear();
     }
     showResults();
 }
@@ -189,15 +193,27 @@ QString CheckPointPane::placeText(const GeographicPoint& place) const {
            QString::number(place.height, 'f', 4) + " m";
 }
 
+bool CheckPointPane::isComplete() const {
+    const bool isPlace = latitude->value() && longitude->value();
+    const bool isGridPoint = easting->value() && northing->value();
+    return projection() && height->value() && (isPlace || isGridPoint);
+}
+
 void CheckPointPane::showResults() {
     const bool ownShown = datum() == CheckPoint::Datum::Own;
+    const bool isShiftKnown = !projection() || projection()->hasDatumShift();
+    // Chosen all the same, it gives no result.
+    qobject_cast<QStandardItemModel*>(datumBox->model())->item(int(CheckPoint::Datum::Wgs84))->setEnabled(isShiftKnown);
     labels[OtherDatum]->setText(ownShown ? PanelText::tr("On WGS 84") : PanelText::tr("On the own datum"));
     copyButton->setEnabled(point.has_value());
-    const bool typed = projection() && latitude->value() && longitude->value() && height->value();
+    for (QLabel* result : results)
+        result->setText(QStringLiteral("–"));
+    if (!isShiftKnown)
+        results[OtherDatum]->setText(PanelText::tr("unknown: the system defines no datum shift"));
+    else if (point)
+        results[OtherDatum]->setText(placeText(ownShown ? *point->wgs84 : point->own));
     if (!point) {
-        for (QLabel* result : results)
-            result->setText(QStringLiteral("–"));
-        if (typed || (projection() && easting->value() && northing->value()))
+        if (isComplete() && (ownShown || isShiftKnown))
             results[ScaleFactor]->setText(PanelText::tr("The projection gives no result for this point."));
         return;
     }
@@ -210,8 +226,6 @@ void CheckPointPane::showResults() {
         CheckField::angleText(scale.convergence, 7) +
         (AngleText::notation() == AngleNotation::DecimalDegrees ? QStringLiteral("°") : QString()));
     results[CombinedFactor]->setText(factorText(point->combinedFactor()));
-    results[OtherDatum]->setText(projection()->hasDatumShift() ? placeText(ownShown ? point->wgs84 : point->own)
-                                                               : PanelText::tr("the same: no datum shift is defined"));
     showClosingError();
 }
 
@@ -234,5 +248,5 @@ void CheckPointPane::_onCopy() {
         lines.append(QString(field->labelText() + '\t' + field->text() + ' ' + field->unitText()).trimmed());
     for (std::size_t i = 0; i < ResultCount; ++i)
         lines.append(labels[i]->text() + '\t' + results[i]->text());
-    QApplication::clipboard()->setText(lines.join('\n') + '\n');
+    copyButton->copy(lines.join('\n') + '\n');
 }

@@ -12,7 +12,7 @@ class ChoiceBox;
 class MessageLine;
 class QGridLayout;
 class QLabel;
-class QPushButton;
+class CopyButton;
 class ShownSystem;
 
 /// A point in latitude and longitude and on the grid, each computed from the other while the user types, with scale
@@ -28,6 +28,9 @@ public:
 
     /// Shows angles anew in the notation chosen now.
     void showNotation();
+
+    /// Keeps a point that was typed on the grid where it is on the ground, whatever becomes of the grid.
+    void keepPlace();
 
     /// The point on the own datum, or nothing while there is none.
     std::optional<GeographicPoint> place() const;
@@ -49,6 +52,7 @@ private:
     const IProjectedSystem* projection() const;
     std::optional<CheckPoint> compute() const;
     void recompute();
+    bool isComplete() const;
     void showResults();
     void showClosingError();
     QString placeText(const GeographicPoint& place) const;
@@ -67,5 +71,5 @@ private:
     MessageLine* gridMessage;
     std::array<QLabel*, ResultCount> labels;
     std::array<QLabel*, ResultCount> results;
-    QPushButton* copyButton;
+    CopyButton* copyButton;
 };

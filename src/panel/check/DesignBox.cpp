@@ -16,9 +16,9 @@
 namespace {
 
 /// "-12.3 to 4.5", without a minus before zeros.
-QString rangeText(const DesignProposal::Range& range) {
+QString rangeText(const DesignProposal::Distortion& distortion) {
     const auto text = [](double ppm) { return QString::number(std::round(ppm * 10.0) / 10.0 + 0.0, 'f', 1); };
-    return PanelText::tr("%1 to %2").arg(text(range.smallest), text(range.largest));
+    return PanelText::tr("%1 to %2").arg(text(distortion.smallest), text(distortion.largest));
 }
 
 QString changeText(const DesignProposal::Change& change) {
@@ -64,7 +64,7 @@ DesignBox::DesignBox(bool readOnly, QWidget* parent)
     layout->addWidget(effectLabel);
     connect(goalBox, SIGNAL(currentIndexChanged(int)), this, SIGNAL(goalChanged()));
     connect(lineBox, SIGNAL(toggled(bool)), this, SIGNAL(goalChanged()));
-    connect(acceptButton, SIGNAL(clicked()), this, SIGNAL(accepted()));
+    connect(acceptButton, SIGNAL(clicked()), this, SLOT(_onAcceptClicked()));
 }
 
 bool DesignBox::isForPoint() const {
@@ -95,4 +95,19 @@ void DesignBox::showProposal(bool possible, const ParamField* line, const std::o
                                             : changes.join(",  "));
     effectLabel->setText(
         PanelText::tr("Distortion in ppm: %1 → %2").arg(rangeText(proposal->before()), rangeText(proposal->after())));
+}
+
+void DesignBox::clear() {
+    goalBox->setEnabled(false);
+    lineBox->setVisible(false);
+    acceptButton->setEnabled(false);
+    changesLabel->clear();
+    effectLabel->clear();
+}
+
+/// The keyboard stays beside the button, which has nothing more to take over then.
+void DesignBox::_onAcceptClicked() {
+    if (acceptButton->hasFocus())
+        goalBox->setFocus();
+    Q_EMIT accepted();
 }

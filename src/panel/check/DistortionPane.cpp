@@ -21,6 +21,12 @@ namespace {
 constexpr int designNodes = 15;
 constexpr int defaultWidth = 500; ///< kilometres
 
+bool isSamePlace(const GeographicPoint& left, const GeographicPoint& right) {
+    constexpr double closing = 1e-7; // degrees: a centimetre
+    return std::abs(left.latitude - right.latitude) < closing &&
+           std::abs(std::remainder(left.longitude - right.longitude, 360.0)) < closing;
+}
+
 } // namespace
 
 DistortionPane::DistortionPane(bool readOnly, QWidget* parent)
@@ -34,19 +40,22 @@ DistortionPane::DistortionPane(bool readOnly, QWidget* parent)
     centreBox->addItem(PanelText::tr("Around the origin"));
     centreBox->addItem(PanelText::tr("Around the standard parallels"));
     centreBox->addItem(PanelText::tr("Around the checked point"));
+    centreBox->addItem(PanelText::tr("Around the designed area"));
     centreBox->setAccessibleName(PanelText::tr("Area"));
     for (const int kilometres : {2, 5, 10, 20, 50, 100, 200, 500, 1000, 2000, 5000})
         widthBox->addItem(QString::number(kilometres) + " km", kilometres);
     widthBox->setCurrentIndex(widthBox->findData(defaultWidth));
     widthBox->setAccessibleName(PanelText::tr("Width of the area"));
-    widthBox->setToolTip(widthBox->accessibleName());
+    widthBox->setToolTip(PanelText::tr("Side of the square area; the map shows all of it."));
     heightBox->setRange(-1000, 9000);
     heightBox->setSingleStep(50);
     heightBox->setSuffix(" m");
     heightBox->setToolTip(PanelText::tr("Mean ellipsoidal height of the ground; 0 shows the grid's own distortion."));
     auto* heightLabel = new QLabel(PanelText::tr("Mean height"));
     heightLabel->setBuddy(heightBox);
-    readout->setTextInteractionFlags(Qt::NoTextInteraction);
+    // Its text changes while the map is resized. If that changed the least width of the form, a scroll bar could come
+    // and go without end.
+    readout->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     plot->setMinimumSize(260, 170);
     for (ChoiceBox* box : {centreBox, widthBox}) {
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -72,12 +81,17 @@ DistortionPane::DistortionPane(bool readOnly, QWidget* parent)
     connect(plot, SIGNAL(left()), this, SLOT(_onLeft()));
     connect(plot, SIGNAL(resized()), this, SLOT(_onPlotResized()));
     connect(design, SIGNAL(goalChanged()), this, SLOT(_onSettingsChanged()));
-    connect(design, SIGNAL(accepted()), this, SIGNAL(proposalAccepted()));
+    connect(design, SIGNAL(accepted()), this, SLOT(_onAccepted()));
     _onLeft();
 }
 
 void DistortionPane::setSystem(const std::shared_ptr<const ShownSystem>& shown,
                                const std::optional<GeographicPoint>& place) {
+    // Another system is seen where it belongs.
+    if (centreBox->currentIndex() == DesignedArea && system && system->name() != shown->name()) {
+        const QSignalBlocker silent(centreBox);
+        centreBox->setCurrentIndex(Origin);
+    }
     system = shown;
     checkedPlace = place;
     _onSettingsChanged();
@@ -106,6 +120,8 @@ GridPoint DistortionPane::centre() const {
         place = DistortionLines::middleOfParallels(system->record(), *projection());
     else if (centreBox->currentIndex() == CheckedPoint && checkedPlace)
         place = projection()->toGrid(*checkedPlace);
+    else if (centreBox->currentIndex() == DesignedArea && designedPlace)
+        place = projection()->toGrid(*designedPlace);
     return place ? *place : DistortionLines::origin(system->record());
 }
 
@@ -115,6 +131,7 @@ void DistortionPane::offerCentres() {
     items->item(Parallels)->setEnabled(projection() &&
                                        DistortionLines::middleOfParallels(system->record(), *projection()));
     items->item(CheckedPoint)->setEnabled(projection() && checkedPlace);
+    items->item(DesignedArea)->setEnabled(projection() && designedPlace);
 }
 
 void DistortionPane::_onSettingsChanged() {
@@ -143,19 +160,59 @@ void DistortionPane::draw() {
 }
 
 void DistortionPane::drawOnce() {
-    area = plot->areaAround(centre(), widthBox->currentData().toInt() * 1000.0);
+    const DistortionLines::Line outline = designOutline();
+    const DistortionArea area = mapArea(outline);
     const QSize nodes = plot->nodeCount();
     plot->showDistortion(DistortionGrid(*projection(), area, nodes.width(), nodes.height(), heightBox->value()), area);
-    plot->showLines(DistortionLines(system->record(), *projection(), area), DistortionLines::origin(system->record()));
+    plot->showLines(DistortionLines(system->record(), *projection(), area));
+    const bool isCheckedShown = checkedPlace && centreBox->currentIndex() == CheckedPoint;
+    plot->showPlaces(DistortionLines::origin(system->record()),
+                     isCheckedShown ? projection()->toGrid(*checkedPlace) : std::nullopt, outline);
+}
+
+double DistortionPane::side() const {
+    return widthBox->currentData().toInt() * 1000.0;
+}
+
+/// The area to design for, around the map's centre and as wide as it says; nothing where the projection ends.
+std::optional<DesignArea> DistortionPane::designArea() const {
+    const auto place = projection()->toGeographic(centre(), 0.0);
+    return place ? std::optional<DesignArea>(DesignArea(*place, side())) : std::nullopt;
+}
+
+DistortionLines::Line DistortionPane::designOutline() const {
+    DistortionLines::Line line;
+    const auto area = designArea();
+    for (const GeographicPoint& place : area ? area->outline() : QVector<GeographicPoint>()) {
+        if (const auto point = projection()->toGrid(place))
+            line.push_back(*point);
+    }
+    return line;
+}
+
+/// What the map shows: all of the area to design for and a little around it, however that is turned on the grid.
+DistortionArea DistortionPane::mapArea(const DistortionLines::Line& outline) const {
+    constexpr double margin = 1.04;
+    const GridPoint middle = centre();
+    double width = side(), height = side();
+    for (const GridPoint& point : outline) {
+        width = std::max(width, 2.0 * std::abs(point.easting - middle.easting));
+        height = std::max(height, 2.0 * std::abs(point.northing - middle.northing));
+    }
+    // Towards the end of a projection the grid has no end.
+    const double most = 2.0 * side();
+    return plot->fitted({middle, margin * std::min(width, most), margin * std::min(height, most)});
 }
 
 QVector<GeographicPoint> DistortionPane::designPoints() const {
     if (design->isForPoint())
         return checkedPlace ? QVector<GeographicPoint>{*checkedPlace} : QVector<GeographicPoint>();
     QVector<GeographicPoint> points;
-    for (const GridPoint& node : DistortionGrid::nodes(area, designNodes, designNodes)) {
-        if (const auto place = projection()->toGeographic(node, 0.0))
-            points.append(*place);
+    const auto area = designArea();
+    for (const GeographicPoint& place : area ? area->nodes(designNodes) : QVector<GeographicPoint>()) {
+        // What lies beyond the projection's end can't be made better.
+        if (projection()->localScale(place))
+            points.append(place);
     }
     return points;
 }
@@ -166,8 +223,11 @@ void DistortionPane::propose() {
     if (projection() && module)
         designProposal = DesignProposal::make(system->record(), module->geodesy(), designPoints(), heightBox->value(),
                                               design->placesLine());
-    design->showProposal(system && DesignProposal::isPossible(system->record()),
-                         system ? DesignProposal::lineField(system->record()) : nullptr, designProposal);
+    if (projection())
+        design->showProposal(DesignProposal::isPossible(system->record()), DesignProposal::lineField(system->record()),
+                             designProposal);
+    else
+        design->clear();
 }
 
 void DistortionPane::_onPointed(double easting, double northing) {
@@ -190,4 +250,18 @@ void DistortionPane::_onPointed(double easting, double northing) {
 
 void DistortionPane::_onLeft() {
     readout->setText(PanelText::tr("Point at the map for the distortion there."));
+}
+
+/// The area stays where it is on the ground, though what it is around may move.
+void DistortionPane::_onAccepted() {
+    if (!projection())
+        return;
+    const auto before = projection()->toGeographic(centre(), 0.0);
+    Q_EMIT proposalAccepted();
+    const auto after = projection() ? projection()->toGeographic(centre(), 0.0) : std::nullopt;
+    if (!before || !after || design->isForPoint() || isSamePlace(*before, *after))
+        return;
+    designedPlace = before;
+    centreBox->setCurrentIndex(DesignedArea);
+    _onSettingsChanged();
 }

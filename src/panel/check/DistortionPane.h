@@ -1,7 +1,8 @@
 #pragma once
 
+#include "panel/computing/DesignArea.h"
 #include "panel/computing/DesignProposal.h"
-#include "panel/computing/DistortionGrid.h"
+#include "panel/computing/DistortionLines.h"
 
 #include <QWidget>
 
@@ -44,9 +45,10 @@ private Q_SLOTS:
     void _onPlotResized();
     void _onPointed(double easting, double northing);
     void _onLeft();
+    void _onAccepted();
 
 private:
-    enum Centre { Origin, Parallels, CheckedPoint };
+    enum Centre { Origin, Parallels, CheckedPoint, DesignedArea };
 
     const IProjectedSystem* projection() const;
     void draw();
@@ -54,11 +56,15 @@ private:
     void propose();
     void offerCentres();
     GridPoint centre() const;
+    std::optional<DesignArea> designArea() const;
+    DistortionLines::Line designOutline() const;
+    DistortionArea mapArea(const DistortionLines::Line& outline) const;
+    double side() const;
     QVector<GeographicPoint> designPoints() const;
 
     std::shared_ptr<const ShownSystem> system;
     std::optional<GeographicPoint> checkedPlace;
-    DistortionArea area{{0.0, 0.0}, 0.0, 0.0};
+    std::optional<GeographicPoint> designedPlace; ///< the middle of the area whose proposal was taken over last
     std::optional<DesignProposal> designProposal;
 
     ChoiceBox* centreBox;

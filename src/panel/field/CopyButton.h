@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QPushButton>
+
+/// Copies a text, and says for a moment that it did.
+class CopyButton : public QPushButton {
+    Q_OBJECT
+
+public:
+    /// `text` is what stands on the button.
+    explicit CopyButton(const QString& text, QWidget* parent = nullptr);
+
+    /// Puts `copied` on the clipboard.
+    void copy(const QString& copied);
+
+private Q_SLOTS:
+    void _onAnswered();
+
+private:
+    QString usualText;
+};
