@@ -51,7 +51,7 @@ QString factorText(double factor) {
 
 CheckPointPane::CheckPointPane(QWidget* parent) : QWidget(parent) {
     auto* grid = new QGridLayout(this);
-    grid->setVerticalSpacing(4);
+    grid->setVerticalSpacing(3);
     grid->setColumnStretch(3, 1);
     addPlaceFields(grid);
     addGridFields(grid);

@@ -38,9 +38,11 @@ DesignBox::DesignBox(bool readOnly, QWidget* parent)
     , effectLabel(new QLabel)
     , acceptButton(new QPushButton(PanelText::tr("Take over"))) {
     goalBox->addItem(PanelText::tr("For this area"));
-    goalBox->addItem(PanelText::tr("For the checked point"));
+    goalBox->addItem(PanelText::tr("For the point"));
     goalBox->setAccessibleName(PanelText::tr("Least distortion"));
-    goalBox->setToolTip(PanelText::tr("Where the largest distortion at the mean height is to be smallest."));
+    goalBox->setToolTip(
+        PanelText::tr("Where the largest distortion at that height is to be smallest: in the square on the "
+                      "map, or at the checked point."));
     changesLabel->setWordWrap(true);
     effectLabel->setWordWrap(true);
     goalBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

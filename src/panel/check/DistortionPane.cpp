@@ -37,11 +37,12 @@ DistortionPane::DistortionPane(bool readOnly, QWidget* parent)
     , plot(new DistortionPlot)
     , readout(new QLabel)
     , design(new DesignBox(readOnly)) {
-    centreBox->addItem(PanelText::tr("Around the origin"));
-    centreBox->addItem(PanelText::tr("Around the standard parallels"));
-    centreBox->addItem(PanelText::tr("Around the checked point"));
-    centreBox->addItem(PanelText::tr("Around the designed area"));
+    centreBox->addItem(PanelText::tr("Origin"));
+    centreBox->addItem(PanelText::tr("Standard parallels"));
+    centreBox->addItem(PanelText::tr("Checked point"));
+    centreBox->addItem(PanelText::tr("Designed area"));
     centreBox->setAccessibleName(PanelText::tr("Area"));
+    centreBox->setToolTip(PanelText::tr("What the map is around."));
     for (const int kilometres : {2, 5, 10, 20, 50, 100, 200, 500, 1000, 2000, 5000})
         widthBox->addItem(QString::number(kilometres) + " km", kilometres);
     widthBox->setCurrentIndex(widthBox->findData(defaultWidth));
@@ -51,7 +52,7 @@ DistortionPane::DistortionPane(bool readOnly, QWidget* parent)
     heightBox->setSingleStep(50);
     heightBox->setSuffix(" m");
     heightBox->setToolTip(PanelText::tr("Mean ellipsoidal height of the ground; 0 shows the grid's own distortion."));
-    auto* heightLabel = new QLabel(PanelText::tr("Mean height"));
+    auto* heightLabel = new QLabel(PanelText::tr("Height"));
     heightLabel->setBuddy(heightBox);
     // Its text changes while the map is resized. If that changed the least width of the form, a scroll bar could come
     // and go without end.
@@ -241,15 +242,15 @@ void DistortionPane::_onPointed(double easting, double northing) {
         return _onLeft();
     const int decimals = 5; // a metre on the ground: more than a pixel tells
     readout->setText(
-        PanelText::tr("E %1 km  N %2 km   %3, %4   %5 ppm")
-            .arg(easting / 1000.0, 0, 'f', 3)
-            .arg(northing / 1000.0, 0, 'f', 3)
+        PanelText::tr("%1 ppm   %2, %3\nE %4 km  N %5 km")
+            .arg(ppm, 0, 'f', 1)
             .arg(CheckField::angleText(place->latitude, decimals), CheckField::angleText(place->longitude, decimals))
-            .arg(ppm, 0, 'f', 1));
+            .arg(easting / 1000.0, 0, 'f', 3)
+            .arg(northing / 1000.0, 0, 'f', 3));
 }
 
 void DistortionPane::_onLeft() {
-    readout->setText(PanelText::tr("Point at the map for the distortion there."));
+    readout->setText(PanelText::tr("Point at the map for the distortion there.") + '\n');
 }
 
 /// The area stays where it is on the ground, though what it is around may move.

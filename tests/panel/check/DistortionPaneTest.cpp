@@ -37,7 +37,7 @@ public:
         find<QComboBox>("Area")->setCurrentIndex(2);
     }
 
-    /// The words under the map with the mouse at its middle: "E 500.000 km N 0.000 km 0, 15 -400.0 ppm".
+    /// The words under the map with the mouse at its middle: "-400.0 ppm 0, 15 E 500.000 km N 0.000 km".
     QStringList pointAtMiddle() const {
         QWidget* const canvas = plot->canvas();
         QMouseEvent move(QEvent::MouseMove, canvas->contentsRect().center(), Qt::NoButton, Qt::NoButton,
@@ -48,8 +48,8 @@ public:
 
     QStringList readout() const {
         for (const QLabel* label : findAll<QLabel>()) {
-            if (label->text().startsWith("E ") && label->text().endsWith(" ppm"))
-                return label->text().split(QRegularExpression("[ ,]+"));
+            if (label->text().contains(" ppm ") && label->text().endsWith(" km"))
+                return label->text().split(QRegularExpression("[\\s,]+"));
         }
         return {};
     }
@@ -130,19 +130,19 @@ private Q_SLOTS:
         const double pixel = 10.0 / screen.plot->canvas()->height();
         QStringList words = screen.pointAtMiddle();
         QCOMPARE(words.size(), 10);
-        QVERIFY(std::abs(words[1].toDouble() - 500.0) <= pixel && std::abs(words[4].toDouble()) <= pixel);
-        QCOMPARE(words[8], QString("-400.0"));
+        QVERIFY(std::abs(words[5].toDouble() - 500.0) <= pixel && std::abs(words[8].toDouble()) <= pixel);
+        QCOMPARE(words[0], QString("-400.0"));
         screen.checkPoint("Latitude", "50", "Longitude", "16.2");
         words = screen.pointAtMiddle();
         const auto system = SampleRecord::named("UTM").system();
         const GeographicPoint place{50.0, 16.2, 0.0};
-        QVERIFY(std::abs(words[1].toDouble() - system->toGrid(place)->easting / 1000.0) <= pixel);
-        QVERIFY(std::abs(words[6].remove(',').toDouble() - 50.0) < 1e-3 && std::abs(words[7].toDouble() - 16.2) < 1e-3);
-        const double ppm = words[8].toDouble();
+        QVERIFY(std::abs(words[5].toDouble() - system->toGrid(place)->easting / 1000.0) <= pixel);
+        QVERIFY(std::abs(words[2].toDouble() - 50.0) < 1e-3 && std::abs(words[3].toDouble() - 16.2) < 1e-3);
+        const double ppm = words[0].toDouble();
         QVERIFY(std::abs(ppm - (system->localScale(place)->mean - 1.0) * 1e6) < 0.5);
         // The mouse rests; what it is over changes.
         screen.panel.findChild<QSpinBox*>()->setValue(1000);
-        QVERIFY(std::abs(screen.readout()[8].toDouble() - ppm + 1e9 / 6379000.0) < 1.0);
+        QVERIFY(std::abs(screen.readout()[0].toDouble() - ppm + 1e9 / 6379000.0) < 1.0);
         QEvent leave(QEvent::Leave);
         QCoreApplication::sendEvent(screen.plot->canvas(), &leave);
         QVERIFY(screen.readout().isEmpty());
