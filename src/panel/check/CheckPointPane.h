@@ -23,8 +23,9 @@ class CheckPointPane : public QWidget {
 public:
     explicit CheckPointPane(QWidget* parent = nullptr);
 
-    /// Computes the shown point through `system`. While the user has typed no point, it is the system's origin.
-    void setSystem(const std::shared_ptr<const ShownSystem>& system);
+    /// Computes the shown point through the system `shown`. While the user has typed no point, it is the system's
+    /// origin.
+    void setSystem(const std::shared_ptr<const ShownSystem>& shown);
 
     /// Shows angles anew in the notation chosen now.
     void showNotation();

@@ -23,10 +23,9 @@ class DistortionPane : public QWidget {
 public:
     explicit DistortionPane(bool readOnly, QWidget* parent = nullptr);
 
-    /// The system to show. `checkedPlace` is the point that the user checks, on the system's datum: the other place to
+    /// Shows the system `shown`. `place` is the point that the user checks, on the system's datum: another place to
     /// look around.
-    void setSystem(const std::shared_ptr<const ShownSystem>& system,
-                   const std::optional<GeographicPoint>& checkedPlace);
+    void setSystem(const std::shared_ptr<const ShownSystem>& shown, const std::optional<GeographicPoint>& place);
 
     void setCheckedPlace(const std::optional<GeographicPoint>& place);
 
