@@ -23,6 +23,11 @@ public:
                area.match(QString::fromUtf8(system.area)).hasMatch();
     }
 
+    /// What is left for a country's group without a line: the systems that are used in the country first.
+    static Rule ofCountry(const QString& country) {
+        return Rule(".*" + separator() + QRegularExpression::escape(country) + "(?![-\\w])");
+    }
+
     QString text;
 
 private:
@@ -53,16 +58,26 @@ std::vector<StarterGroup> selectStarterGroups(const QString& rulesPath, const st
                  [](const RegistrySystem& system) { return !system.deprecated; });
     std::vector<StarterGroup> groups;
     std::vector<RegistrySystem> leftOut;
+    bool hasRule = true; // the last group
+    const auto closeGroup = [&] {
+        if (!hasRule)
+            take(Rule::ofCountry(groups.back().name), systems, groups.back().systems);
+    };
     QFile file(rulesPath);
     file.open(QIODevice::ReadOnly);
     while (!file.atEnd()) {
         const QString line = QString::fromUtf8(file.readLine()).trimmed();
-        if (line.startsWith('['))
+        if (line.startsWith('[')) {
+            closeGroup();
             groups.push_back({line.mid(1, line.size() - 2), {}});
-        else if (line.startsWith('!'))
+            hasRule = false;
+        } else if (line.startsWith('!')) {
             take(Rule(line.mid(1).trimmed()), systems, leftOut);
-        else if (!line.isEmpty() && !line.startsWith('#'))
+        } else if (!line.isEmpty() && !line.startsWith('#')) {
             take(Rule(line), systems, groups.back().systems);
+            hasRule = true;
+        }
     }
+    closeGroup();
     return groups;
 }

@@ -1,11 +1,9 @@
-#include "RegistryEllipsoids.h"
+#include "ShippedEllipsoid.h"
 #include "StarterSelection.h"
 #include "catalogue/CatalogueRecordKey.h"
-#include "catalogue/CoordParamKey.h"
 #include "import/CoordParamToProjDefine.h"
-#include "import/ProjDefineToCoordParam.h"
+#include "import/WktToCoordParam.h"
 #include "platform/projection/IProjectionModule.h"
-#include "platform/projection/IWktReader.h"
 #include "platform/sdk/CatalogueFile.h"
 
 #include <QCoreApplication>
@@ -15,9 +13,9 @@
 
 namespace {
 
-RecordFile ellipsoidContent() {
+RecordFile ellipsoidContent(IEpsgRegistry& registry) {
     RecordFile file(ellipsoidFile);
-    for (const RegistryEllipsoid& ellipsoid : registryEllipsoids()) {
+    for (const ShippedEllipsoid& ellipsoid : shippedEllipsoids(registry.ellipsoids())) {
         const DictionaryGuard record;
         record->setText(EllipsoidKey::name, ellipsoid.name.constData());
         record->setText(EllipsoidKey::a, ellipsoid.a.constData());
@@ -29,24 +27,20 @@ RecordFile ellipsoidContent() {
 }
 
 /// The system as an import of its WKT gives it, added to the group where a record can hold it.
-void addSystem(CoordSysGroup& group, IProjectionModule& module, const QByteArray& code) {
-    if (module.registry().unitName(code) != "metre")
+void addSystem(CoordSysGroup& group, IEpsgRegistry& registry, const QByteArray& code) {
+    if (registry.unitName(code) != "metre")
         return;
-    WktSystem system = module.wktReader().read(module.registry().wkt(code, nullptr));
     const DictionaryGuard record;
-    projDefineToCoordParam(InitializeProj(system.definition.constData()), record.get());
-    if (!coordParamDefinesProjection(*record))
-        return;
-    record->setText(CoordParamKey::name, system.name.replace(',', '-').constData());
-    group.systems.append(record.get());
+    if (WktToCoordParam::write(registry.wkt(code, nullptr), record.get()) && coordParamDefinesProjection(*record))
+        group.systems.append(record.get());
 }
 
-SystemFile systemContent(IProjectionModule& module, const QString& rulesPath) {
+SystemFile systemContent(IEpsgRegistry& registry, const QString& rulesPath) {
     SystemFile file;
-    for (const StarterGroup& starter : selectStarterGroups(rulesPath, module.registry().projectedSystems())) {
+    for (const StarterGroup& starter : selectStarterGroups(rulesPath, registry.projectedSystems())) {
         CoordSysGroup* group = file.groups.append(starter.name.toUtf8());
         for (const RegistrySystem& system : starter.systems)
-            addSystem(*group, module, system.code);
+            addSystem(*group, registry, system.code);
         if (group->systems.isEmpty())
             file.groups.remove(group->name);
     }
@@ -73,8 +67,8 @@ int main(int argc, char** argv) {
     if (!module)
         return fail("The projection module can't be loaded.");
 
-    const RecordFile ellipsoids = ellipsoidContent();
-    const SystemFile systems = systemContent(*module, arguments[1]);
+    const RecordFile ellipsoids = ellipsoidContent(module->registry());
+    const SystemFile systems = systemContent(module->registry(), arguments[1]);
     if (ellipsoids.isEmpty() || systems.isEmpty())
         return fail("PROJ's database or the rules can't be read.");
     const QDir folder(arguments[2]);

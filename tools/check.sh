@@ -28,19 +28,17 @@ done
 
 lint() {
     local findings status=0
-    echo "$1"
+    if [ -t 2 ]; then
+        printf '\r\033[K%s' "$1" >&2
+    fi
     # -Werror would turn clang's own warnings into errors that no check can switch off.
     findings=$(clang-tidy -p build/release --quiet --extra-arg=-Wno-error "$1" 2>&1) || status=$?
-    grep -v 'warnings generated\.$' <<<"$findings" || true
+    grep -vE '^$|warnings generated\.$' <<<"$findings" || true
     return "$status"
 }
 export -f lint
-lint_all() {
-    printf '%s\0' "${sources[@]}" | xargs -0 -n 1 -P "$(nproc)" bash -c 'lint "$1"' lint
-}
-if ! step "Linting ${#sources[@]} sources" lint.log lint_all; then
-    echo "All findings:" >&2
-    grep -E '(error|warning): ' "$logs/lint.log" | sort -u >&2
-    exit 1
+echo "Linting ${#sources[@]} sources ..."
+if ! printf '%s\0' "${sources[@]}" | xargs -0 -n 1 -P "$(nproc)" bash -c 'lint "$1"' lint; then
+    fail "The linter has findings."
 fi
 echo "Rooms, format and lint: ${#sources[@]} sources, no findings"

@@ -71,6 +71,12 @@ for room in $(find . -name '*.h' -printf '%P\n' -o -name '*.cpp' -printf '%P\n' 
         \<gdal* | \<ogr* | \<cpl* | \<proj* | \<geodesic*)
             [[ $room == "$engine"* ]] || complain "$place" "only $engine uses $header"
             ;;
+        \<pugi*)
+            [ "$room" = platform/sdk ] || complain "$place" "only platform/sdk uses $header"
+            ;;
+        \<qwt* | \<Qwt*)
+            [ "$room" = panel/check ] || complain "$place" "only panel/check uses $header"
+            ;;
         *)
             case " $without_widgets " in
             *" $room "*)

@@ -1,4 +1,4 @@
-# Shared by the scripts in tools/, which source it: where things lie, installing, building, and how steps report.
+# Shared by the scripts in tools/, which source it: where things lie, installing, building.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -11,44 +11,13 @@ fail() {
     exit 1
 }
 
-# Waits without a child process that would outlive the waiting shell.
-exec {never}<> <(:)
-pause() {
-    read -rt "$1" -u "$never" || true
-}
-
-# While a step runs: nothing for its first two seconds, then its title and how far its log has come.
-follow() {
-    local title=$1 log=$2 started=$SECONDS line
-    pause 2
-    if [ ! -t 1 ]; then
-        echo "$title ..."
-    fi
-    while kill -0 $$ 2>/dev/null; do
-        line=$(tail -n 1 "$log" 2>/dev/null | tr '\r' '\n' | tail -n 1 | cut -c 1-70)
-        if [ -t 1 ]; then
-            printf '\r\033[K%s (%d s) %s' "$title" $((SECONDS - started)) "$line"
-            pause 0.5
-        else
-            pause 30
-            echo "  $((SECONDS - started)) s: $line"
-        fi
-    done
-}
-
-# step TITLE LOG COMMAND...: runs a command quietly. Its output goes to build/log/LOG, whose end is shown if it fails.
+# step TITLE LOG COMMAND...: runs a command whose output is long and seldom read. It goes to build/log/LOG, whose end is
+# shown if the command fails.
 step() {
-    local title=$1 log=$logs/$2 watcher status=0
+    local title=$1 log=$logs/$2 status=0
     shift 2
-    : >"$log"
-    follow "$title" "$log" &
-    watcher=$!
-    "$@" >>"$log" 2>&1 </dev/null || status=$?
-    kill "$watcher" 2>/dev/null || true
-    wait "$watcher" 2>/dev/null || true
-    if [ -t 1 ]; then
-        printf '\r\033[K'
-    fi
+    echo "$title ..."
+    "$@" >"$log" 2>&1 </dev/null || status=$?
     if [ "$status" -ne 0 ]; then
         tail -n 60 "$log" >&2
         echo "$title: failed with exit code $status; the whole output is in $log" >&2
@@ -86,7 +55,7 @@ install_packages() {
         "${as_root[@]}" install -y --no-install-recommends $missing
 }
 
-# build PRESET: configures build/PRESET the first time and builds it.
+# build PRESET [TARGETS...]: configures build/PRESET the first time and builds it.
 build() {
     local preset=$1 options=()
     cd "$root"
@@ -96,5 +65,13 @@ build() {
         fi
         step "Configuring ($preset)" "configure-$preset.log" cmake --preset "$preset" "${options[@]}"
     fi
-    step "Building ($preset)" "build-$preset.log" cmake --build --preset "$preset"
+    shift
+    # Ninja overwrites its own line on a terminal; elsewhere it would print one for each of its commands.
+    if [ ! -t 1 ]; then
+        echo "Building ($preset) ..."
+        options=(-- --quiet)
+    else
+        options=()
+    fi
+    cmake --build --preset "$preset" ${1:+--target "$@"} "${options[@]}"
 }

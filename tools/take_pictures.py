@@ -5,10 +5,8 @@ The tool is driven as in the end-to-end tests, on its starter catalogue.
 """
 
 import os
-import subprocess
 import sys
 import tempfile
-import time
 
 sys.dont_write_bytecode = True
 ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
@@ -16,9 +14,10 @@ sys.path.insert(0, os.path.join(ROOT, "tests", "end_to_end"))
 
 import tool  # noqa: E402
 from desktop import Desktop, ask, hands, press, type_text, wait_for  # noqa: E402
+from screen import window_picture  # noqa: E402
 
 IMAGES = os.path.join(ROOT, "docs", "images")
-COUNTRY = "Great Britain and Ireland"
+COUNTRY = "United Kingdom"
 GRID = "OSGB36 / British National Grid"
 
 
@@ -30,25 +29,10 @@ class Photographer:
     def take(self, name):
         """Saves what the main window's place on the screen shows, its frame included, once it holds still."""
         hands("mousemove", 1, 1)
-        with tempfile.TemporaryDirectory() as folder:
-            shots = [os.path.join(folder, f"{i}.png") for i in (0, 1)]
-
-            def still():
-                for shot in shots:
-                    self.desktop.picture(shot)
-                    time.sleep(0.3)
-                return not subprocess.run(["cmp", "-s", *shots], check=False).returncode
-
-            wait_for(still, "the picture to hold still")
-            window = ask("xdotool", "search", "--onlyvisible", "--name", f"^{tool.TITLE}$").split()[0]
-            frame = ask("xprop", "-id", window, "_NET_FRAME_EXTENTS").split("=")[1].split(",")
-            left, right, top, bottom = (int(extent) for extent in frame)
-            x, y, width, height = self.tool.main.place
-            area = f"{width + left + right}x{height + top + bottom}+{x - left}+{y - top}"
-            target = os.path.join(IMAGES, name + ".png")
-            subprocess.run(["convert", shots[1], "-crop", area, "+repage", "-strip", "+dither", "-colors", "255", target],
-                           check=True)
-            print(target)
+        window = ask("xdotool", "search", "--onlyvisible", "--name", f"^{tool.TITLE}$").split()[0]
+        target = os.path.join(IMAGES, name + ".png")
+        window_picture(window, target, "-strip", "+dither", "-colors", "255")
+        print(target)
 
     def window(self):
         self.tool.item(tool.ROOT)

@@ -13,11 +13,6 @@ export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=1:detect_stack_use_after_return
 export LSAN_OPTIONS=${LSAN_OPTIONS:-suppressions=$root/tools/leaks-of-libraries.txt:print_suppressions=0}
 export UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1}
 
-status=0
-step "Testing ($preset)" "test-$preset.log" \
-    ctest --preset "$preset" --parallel "$(nproc)" --no-tests=error "$@" || status=$?
-# On success only the summary; a failure has shown the end of the log already.
-if [ "$status" -eq 0 ]; then
-    sed -n '/tests passed/,$p' "$logs/test-$preset.log"
-fi
-exit "$status"
+quiet=()
+[ -t 1 ] && quiet=(--progress)
+ctest --preset "$preset" --parallel "$(nproc)" --no-tests=error "${quiet[@]}" "$@"

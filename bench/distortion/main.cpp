@@ -8,7 +8,6 @@
 #include "panel/computing/DistortionGrid.h"
 #include "panel/computing/DistortionLines.h"
 #include "panel/registry/RegistryModel.h"
-#include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
 
 #include <QApplication>
@@ -53,8 +52,8 @@ static void fill(IDictionary* record, const char* type, const char* lat, const c
 static void measure(const char* name, const char* type, const char* lat, const char* factor) {
     const DictionaryGuard record;
     fill(record.get(), type, lat, factor);
-    IGeodesy& geodesy = projectionModule()->geodesy();
-    const auto system = geodesy.createSystem(coordParamToProjDefine(*record));
+    IProjectionModule& module = *projectionModule();
+    const auto system = module.createSystem(coordParamToProjDefine(*record));
     DistortionPlot plot;
     plot.resize(500, 400);
     plot.show();
@@ -73,7 +72,7 @@ static void measure(const char* name, const char* type, const char* lat, const c
     QVector<GeographicPoint> points;
     for (const GridPoint& node : DistortionGrid::nodes(area, 15, 15))
         points.append(*system->toGeographic(node, 0.0));
-    const double proposed = milliseconds(5, [&] { DesignProposal::make(*record, geodesy, points, 300.0, true); });
+    const double proposed = milliseconds(5, [&] { DesignProposal::make(*record, module, points, 300.0, true); });
     std::printf("%-22s %5d nodes: compute %6.2f ms, draw %6.2f ms = %.2f of the limit; propose %6.2f ms\n", name,
                 nodes.width() * nodes.height(), computed, drawn, (computed + drawn) / limit, proposed);
 }

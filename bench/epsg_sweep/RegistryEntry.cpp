@@ -1,13 +1,9 @@
 #include "RegistryEntry.h"
 
+#include "catalogue/Angle.h"
+
 #include <algorithm>
 #include <cmath>
-
-namespace {
-
-constexpr double pi = 3.141592653589793;
-
-} // namespace
 
 RegistryEntry::RegistryEntry(PJ_CONTEXT* context, const char* code)
     : context(context)
@@ -16,7 +12,7 @@ RegistryEntry::RegistryEntry(PJ_CONTEXT* context, const char* code)
 }
 
 QByteArray RegistryEntry::method() const {
-    const PjPointer conversion(proj_crs_get_coordoperation(context, crs.get()));
+    const ProjObject conversion(proj_crs_get_coordoperation(context, crs.get()));
     const char* name = nullptr;
     proj_coordoperation_get_method_info(context, conversion.get(), &name, nullptr, nullptr);
     return name;
@@ -28,20 +24,20 @@ QByteArray RegistryEntry::wkt(PJ_WKT_TYPE dialect) const {
 
 RegistryEntry::Base RegistryEntry::base(const PJ* geodetic) const {
     Base result{};
-    const PjPointer meridian(proj_get_prime_meridian(context, geodetic));
+    const ProjObject meridian(proj_get_prime_meridian(context, geodetic));
     double longitude = 0;
     double radiansPerUnit = 0;
     proj_prime_meridian_get_parameters(context, meridian.get(), &longitude, &radiansPerUnit, nullptr);
-    result.primeMeridian = longitude * radiansPerUnit * 180 / pi;
-    const PjPointer axes(proj_crs_get_coordinate_system(context, geodetic));
+    result.primeMeridian = Angle::toDegrees(longitude * radiansPerUnit);
+    const ProjObject axes(proj_crs_get_coordinate_system(context, geodetic));
     proj_cs_get_axis_info(context, axes.get(), 0, nullptr, nullptr, nullptr, &radiansPerUnit, nullptr, nullptr,
                           nullptr);
-    result.degreesPerUnit = radiansPerUnit * 180 / pi;
+    result.degreesPerUnit = Angle::toDegrees(radiansPerUnit);
     return result;
 }
 
 double RegistryEntry::metresPerUnit() const {
-    const PjPointer axes(proj_crs_get_coordinate_system(context, crs.get()));
+    const ProjObject axes(proj_crs_get_coordinate_system(context, crs.get()));
     double metres = 0;
     proj_cs_get_axis_info(context, axes.get(), 0, nullptr, nullptr, nullptr, &metres, nullptr, nullptr, nullptr);
     return metres;
@@ -56,14 +52,14 @@ RegistryEntry::Box RegistryEntry::areaOfUse() const {
         return area;
     }
     // Some withdrawn systems have no area.
-    const PjPointer conversion(proj_crs_get_coordoperation(context, crs.get()));
+    const ProjObject conversion(proj_crs_get_coordoperation(context, crs.get()));
     const auto origin = [&](const char* parameter) {
         const int index = proj_coordoperation_get_param_index(context, conversion.get(), parameter);
         double value = 0;
         double radiansPerUnit = 0;
         proj_coordoperation_get_param(context, conversion.get(), index, nullptr, nullptr, nullptr, &value, nullptr,
                                       &radiansPerUnit, nullptr, nullptr, nullptr, nullptr);
-        return value * radiansPerUnit * 180 / pi;
+        return Angle::toDegrees(value * radiansPerUnit);
     };
     const double longitude = origin("Longitude of natural origin");
     const double latitude = origin("Latitude of natural origin");
@@ -71,10 +67,10 @@ RegistryEntry::Box RegistryEntry::areaOfUse() const {
 }
 
 QVector<RegistryEntry::Sample> RegistryEntry::samples() const {
-    const PjPointer geodetic(proj_crs_get_geodetic_crs(context, crs.get()));
-    const PjPointer asStored(
+    const ProjObject geodetic(proj_crs_get_geodetic_crs(context, crs.get()));
+    const ProjObject asStored(
         geodetic ? proj_create_crs_to_crs_from_pj(context, geodetic.get(), crs.get(), nullptr, nullptr) : nullptr);
-    const PjPointer operation(asStored ? proj_normalize_for_visualization(context, asStored.get()) : nullptr);
+    const ProjObject operation(asStored ? proj_normalize_for_visualization(context, asStored.get()) : nullptr);
     if (!operation)
         return {};
     const Box area = areaOfUse();

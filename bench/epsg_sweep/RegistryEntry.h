@@ -1,16 +1,9 @@
 #pragma once
 
+#include "platform/projection/engine/proj/ProjObject.h"
+
 #include <QByteArray>
 #include <QVector>
-
-#include <proj.h>
-
-#include <memory>
-
-struct PjDeleter {
-    void operator()(PJ* object) const { proj_destroy(object); }
-};
-using PjPointer = std::unique_ptr<PJ, PjDeleter>;
 
 /// One projected system of the EPSG registry in PROJ's database, and what PROJ computes for it.
 class RegistryEntry {
@@ -50,7 +43,7 @@ private:
 
     PJ_CONTEXT* context;
     QByteArray epsgCode;
-    PjPointer crs;
+    ProjObject crs;
 };
 
 /// All codes of projected systems that are not deprecated, or all there are, in the registry's order of numbers.

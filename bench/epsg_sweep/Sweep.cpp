@@ -4,8 +4,8 @@
 #include "catalogue/DictionaryGuard.h"
 #include "catalogue/ICoordSysGroup.h"
 #include "import/CoordParamToProjDefine.h"
-#include "import/ProjDefineToCoordParam.h"
 #include "import/WktFile.h"
+#include "import/WktToCoordParam.h"
 #include "platform/sdk/Catalogue.h"
 
 #include <QDir>
@@ -88,13 +88,13 @@ double Sweep::runGdal(const System& system) const {
 /// names are not unique in every dialect.
 double Sweep::runImport(const System& system, ICoordSystem& catalogue) const {
     const std::clock_t start = std::clock();
-    const WktFile file(system.file);
-    if (file.content() == WktFile::Content::Projected) {
+    const WktSystem read = WktFile::read(system.file);
+    if (read.content == WktSystem::Content::Projected) {
         const DictionaryGuard record;
-        projDefineToCoordParam(InitializeProj(file.definition().constData()), record.get());
+        WktToCoordParam::convert(read, record.get());
         dic_set_value(record.get(), CoordParamKey::name, "%s", system.code.constData());
         ICoordSysGroup* const group = catalogue.getGroup(groupName);
-        if (!file.name().isEmpty() && !group->hasCoordSystem(system.code.constData()))
+        if (!WktToCoordParam::nameInCatalogue(read).isEmpty() && !group->hasCoordSystem(system.code.constData()))
             group->addCoordSystem(record.get());
     }
     return secondsSince(start);
@@ -137,7 +137,7 @@ void Sweep::classify(const System& system, const QByteArray& definition) {
 /// In metres, of the projection on the system's own datum; not a number when PROJ can't compute from the definition.
 double Sweep::largestDeviation(const System& system, const QByteArray& definition) const {
     const QByteArray projectionOnly = QByteArray(definition).replace(" +towgs84=", " +apart=");
-    const PjPointer projection(proj_create(context, projectionOnly.constData()));
+    const ProjObject projection(proj_create(context, projectionOnly.constData()));
     double largest = 0;
     for (const RegistryEntry::Sample& sample : system.samples) {
         const PJ_COORD place = proj_coord(proj_torad(sample.longitude), proj_torad(sample.latitude), 0, 0);

@@ -15,6 +15,10 @@ import sys
 import tempfile
 import time
 
+sys.dont_write_bytecode = True
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "tools"))
+from screen import Screen  # noqa: E402
+
 
 def private_memory(pid):
     """Pages that no other process shares, in MiB."""
@@ -43,10 +47,9 @@ def main():
                 "the tool": os.path.join(build, "bin", "coordsystem_manager")}
     results = {name: [] for name in programs}
     with tempfile.TemporaryDirectory() as home:
-        server = subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-dpi", "96", "-nolisten", "tcp", "-noreset"],
-                                  stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
-        environment = {**os.environ, "DISPLAY": ":" + server.stdout.readline().strip(), "HOME": home, "TMPDIR": home,
-                       "XDG_RUNTIME_DIR": home}
+        screen = Screen()
+        screen.open(managed=False)
+        environment = {**os.environ, "HOME": home, "TMPDIR": home, "XDG_RUNTIME_DIR": home}
         watch = subprocess.Popen(["stdbuf", "-oL", "xev", "-root", "-event", "substructure"], env=environment,
                                  stdout=subprocess.PIPE, text=True)
         # Run 0 of each only warms the disk's cache.
@@ -56,9 +59,8 @@ def main():
                 if run > 0:
                     results[name].append(result)
         watch.terminate()
-        server.terminate()
         watch.wait()
-        server.wait()
+        screen.close()
 
     medians = {}
     for name, measured in results.items():

@@ -88,14 +88,17 @@ void VornCoordSysMainWindow::_onTreeItemClicked(QString sGroup, QString sCoord) 
 void VornCoordSysMainWindow::_onDataChanged() {
     const QByteArray coordName = shownCoordName.toLocal8Bit();
     const IDictionary& record = coordParam->getMetaData();
-    // A system of the shown name has come (back) since the look-up failed: show it before anything is written into it.
-    if (!coordParam->isEnabled())
-        _onTreeItemClicked(shownGroupName, shownCoordName);
     ICoordSysGroup* group = coordSystem->getGroup(shownGroupName.toLocal8Bit().constData());
-    if (group && group->hasCoordSystem(coordName.constData()))
+    if (!group || !group->hasCoordSystem(coordName.constData())) {
+        // The shown system is gone. Before one was shown, there is none to miss.
+        if (!shownCoordName.isEmpty())
+            coordParam->setEnabled(false);
+    } else if (coordParam->isEnabled()) {
         group->setCoordSystem(coordName.constData(), &record);
-    else if (!shownCoordName.isEmpty())
-        coordParam->setEnabled(false);
+    } else {
+        // A system of the shown name has come (back): its record is its own, not the one that the panel still holds.
+        _onTreeItemClicked(shownGroupName, shownCoordName);
+    }
     saveButton->setEnabled(true);
 }
 

@@ -14,7 +14,7 @@ constexpr const char* orgLat = "org_lat";           ///< latitude of the project
 constexpr const char* falseNorth = "false_north";
 constexpr const char* falseEast = "false_east";
 constexpr const char* factor = "factor";                ///< scale factor
-constexpr const char* cuttingRadius = "cutting_radius"; ///< a cos(phi) of the parallel of true scale phi
+constexpr const char* cuttingRadius = "cutting_radius"; ///< a cos(phi) of the standard parallel phi
 constexpr const char* parallel1Lat = "parallel_1_lat";
 constexpr const char* parallel2Lat = "parallel_2_lat";
 constexpr const char* azimuth = "p_r"; ///< azimuth of the central line of an oblique projection
@@ -39,7 +39,7 @@ enum class ProjectionMethod {
     TransverseMercator = 0,       ///< with the scale factor 1 (Gauss-Kruger); with factor 0 no projection is defined
     TransverseMercatorScaled = 1, ///< with any other scale factor (UTM)
     Mercator = 2,
-    MercatorStandardParallel = 3, ///< with a parallel of true scale
+    MercatorStandardParallel = 3, ///< with a standard parallel
     ObliqueMercatorAzimuth = 4,
     Stereographic = 6,
     ObliqueStereographic = 7, ///< double stereographic

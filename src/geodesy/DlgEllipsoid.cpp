@@ -1,10 +1,9 @@
 #include "geodesy/DlgEllipsoid.h"
 
 #include "catalogue/CatalogueRecordKey.h"
-#include "catalogue/DictionaryGuard.h"
+#include "catalogue/Dictionary.h"
 #include "catalogue/ICoordSystem.h"
 #include "geodesy/CustomCatalogue.h"
-#include "platform/desktop/VornMessageBox.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -16,9 +15,20 @@
 
 #include <cmath>
 
-using namespace CustomCatalogue;
-
 namespace {
+
+CustomCatalogue::Kind ellipsoidKind() {
+    return {EllipsoidKey::name,
+            EllipsoidKey::flag,
+            &ICoordSystem::getEllipsoid,
+            &ICoordSystem::addEllipsoid,
+            &ICoordSystem::deleteEllipsoid,
+            &ICoordSystem::saveEllipsoids,
+            "Ellipsoid_custom.xml",
+            QObject::tr("Are you sure you want to delete ellipsoid [%1]?"),
+            QObject::tr("has same name as system, whether cover?"),
+            QObject::tr("new add ellipsoid name can't same as system!")};
+}
 
 /// A field for a number in the C locale, whatever the system's is. A decimal comma can be typed, so that it is seen and
 /// refused instead of swallowed. What lies above the top can be typed too: in scientific notation the validator takes
@@ -62,7 +72,7 @@ void DlgEllipsoid::initUi() {
     labels->addWidget(aLabel);
     labels->addWidget(fLabel);
 
-    nameCombo = createNameBox();
+    nameCombo = CustomCatalogue::createNameBox();
     connect(nameCombo, SIGNAL(currentIndexChanged(int)), this, SLOT(_onIndexChanged(int)));
     aEdit = createNumberEdit();
     fEdit = createNumberEdit();
@@ -81,115 +91,74 @@ void DlgEllipsoid::initUi() {
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(columns, 1);
 
-    if (mode != ListMode) {
-        layout->addWidget(createConfirmButtons(this), 0);
+    if (mode != CustomCatalogue::ListMode) {
+        layout->addWidget(CustomCatalogue::createConfirmButtons(this), 0);
         return;
     }
-    addButton = new QPushButton(QObject::tr("Add"));
-    editButton = new QPushButton(QObject::tr("Edit"));
-    deleteButton = new QPushButton(QObject::tr("Delete"));
-    connect(addButton, SIGNAL(clicked()), this, SLOT(_onAdd()));
-    connect(editButton, SIGNAL(clicked()), this, SLOT(_onEdit()));
-    connect(deleteButton, SIGNAL(clicked()), this, SLOT(_onDel()));
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(addButton);
-    buttons->addWidget(editButton);
-    buttons->addWidget(deleteButton);
-    layout->addLayout(buttons, 0);
+    layout->addLayout(CustomCatalogue::createListButtons(this, addButton, editButton, deleteButton), 0);
 }
 
 void DlgEllipsoid::loadNames() {
     nameCombo->clear();
-    fillNames(nameCombo, coordSystem->getEllipsoidNames());
-    setNameMode(nameCombo, mode);
-    if (mode == ListMode) {
-        setShownOnly(aEdit);
-        setShownOnly(fEdit);
+    CustomCatalogue::fillNames(nameCombo, coordSystem->getEllipsoidNames());
+    CustomCatalogue::setNameMode(nameCombo, mode);
+    if (mode == CustomCatalogue::ListMode) {
+        CustomCatalogue::setShownOnly(aEdit);
+        CustomCatalogue::setShownOnly(fEdit);
     }
-    if (mode == AddMode || nameCombo->count() == 0) {
+    if (mode == CustomCatalogue::AddMode || nameCombo->count() == 0) {
         aEdit->clear();
         fEdit->clear();
     }
-}
-
-void DlgEllipsoid::save() {
-    CustomCatalogue::save(coordSystem, &ICoordSystem::saveEllipsoids, "Ellipsoid_custom.xml");
 }
 
 void DlgEllipsoid::_onIndexChanged(int index) {
     const IDictionary* ellipsoid = coordSystem->getEllipsoid(nameCombo->itemText(index).toLocal8Bit().constData());
     if (!ellipsoid)
         return;
-    aEdit->setText(text(*ellipsoid, EllipsoidKey::a));
-    fEdit->setText(text(*ellipsoid, EllipsoidKey::f));
-    if (mode == ListMode) {
-        const bool own = isOwn(*ellipsoid, EllipsoidKey::flag);
+    aEdit->setText(CustomCatalogue::text(*ellipsoid, EllipsoidKey::a));
+    fEdit->setText(CustomCatalogue::text(*ellipsoid, EllipsoidKey::f));
+    if (mode == CustomCatalogue::ListMode) {
+        const bool own = CustomCatalogue::isOwn(*ellipsoid, EllipsoidKey::flag);
         editButton->setEnabled(own);
         deleteButton->setEnabled(own);
     }
 }
 
 void DlgEllipsoid::_onAdd() {
-    DlgEllipsoid dialog(this, coordSystem, AddMode);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    loadNames();
-    selectName(nameCombo, text(*dialog.record, EllipsoidKey::name));
+    DlgEllipsoid dialog(this, coordSystem, CustomCatalogue::AddMode);
+    if (dialog.exec() == QDialog::Accepted)
+        showAnew(CustomCatalogue::text(*dialog.record, EllipsoidKey::name));
 }
 
 void DlgEllipsoid::_onEdit() {
     const QString name = nameCombo->currentText();
-    DlgEllipsoid dialog(this, coordSystem, EditMode);
-    selectName(dialog.nameCombo, name);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
+    DlgEllipsoid dialog(this, coordSystem, CustomCatalogue::EditMode);
+    CustomCatalogue::selectName(dialog.nameCombo, name);
+    if (dialog.exec() == QDialog::Accepted)
+        showAnew(name);
+}
+
+void DlgEllipsoid::showAnew(const QString& name) {
     loadNames();
-    selectName(nameCombo, name);
+    CustomCatalogue::selectName(nameCombo, name);
 }
 
 void DlgEllipsoid::_onDel() {
-    const QString name = nameCombo->currentText();
-    if (name.isEmpty())
-        return;
-    const QString question = QObject::tr("Are you sure you want to delete ellipsoid [%1]?").arg(name);
-    if (!VornMessageBox::information(this, QObject::tr("Warning"), question))
-        return;
-    coordSystem->deleteEllipsoid(name.toLocal8Bit().constData());
-    save();
-    loadNames();
+    if (CustomCatalogue::removeEntry(this, coordSystem, ellipsoidKind(), nameCombo->currentText()))
+        loadNames();
 }
 
 void DlgEllipsoid::accept() {
-    const QString name = enteredName(nameCombo, mode);
-    if (!isValidName(name) || !isPositiveNumber(aEdit->text()) || !isPositiveNumber(fEdit->text())) {
-        VornMessageBox::information_ok(this, QObject::tr("information"), QObject::tr("please input correct param!"));
+    const QString name = CustomCatalogue::enteredName(nameCombo, mode);
+    if (!CustomCatalogue::isValidName(name) || !isPositiveNumber(aEdit->text()) || !isPositiveNumber(fEdit->text())) {
+        CustomCatalogue::refuseInput(this);
         return;
     }
-
-    const DictionaryGuard ellipsoid;
-    setText(ellipsoid.get(), EllipsoidKey::name, name);
-    setText(ellipsoid.get(), EllipsoidKey::a, aEdit->text());
-    setText(ellipsoid.get(), EllipsoidKey::f, fEdit->text());
-    setText(record, EllipsoidKey::name, name);
-    setText(ellipsoid.get(), EllipsoidKey::flag, "0");
-
-    if (mode == AddMode && !isNewNameFree(name))
-        return;
-    if (mode == EditMode)
-        coordSystem->deleteEllipsoid(name.toLocal8Bit().constData());
-    coordSystem->addEllipsoid(ellipsoid.get());
-    save();
-    QDialog::accept();
-}
-
-bool DlgEllipsoid::isNewNameFree(const QString& name) {
-    const IDictionary* existing = coordSystem->getEllipsoid(name.toLocal8Bit().constData());
-    if (!existing)
-        return true;
-    if (isOwn(*existing, EllipsoidKey::flag))
-        return VornMessageBox::information(this, QObject::tr("Warning"),
-                                           QObject::tr("has same name as system, whether cover?"));
-    VornMessageBox::information_ok(this, QObject::tr("Warning"),
-                                   QObject::tr("new add ellipsoid name can't same as system!"));
-    return false;
+    CustomCatalogue::confirm(
+        this, coordSystem, ellipsoidKind(), mode, record,
+        {{EllipsoidKey::name, name}, {EllipsoidKey::a, aEdit->text()}, {EllipsoidKey::f, fEdit->text()}}, [&] {
+            if (mode == CustomCatalogue::EditMode)
+                coordSystem->deleteEllipsoid(name.toLocal8Bit().constData());
+        });
 }

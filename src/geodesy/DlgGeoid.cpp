@@ -1,11 +1,10 @@
 #include "geodesy/DlgGeoid.h"
 
 #include "catalogue/CatalogueRecordKey.h"
-#include "catalogue/DictionaryGuard.h"
+#include "catalogue/Dictionary.h"
 #include "catalogue/ICoordSystem.h"
 #include "catalogue/Path.h"
 #include "geodesy/CustomCatalogue.h"
-#include "platform/desktop/VornMessageBox.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -18,15 +17,29 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-using namespace CustomCatalogue;
-
 namespace {
 
-/// The path of `fileName` in the geoid data folder, or the folder itself for an empty name. Empty when it is too long.
-QString geoidDataPath(const QString& fileName) {
+CustomCatalogue::Kind geoidKind() {
+    return {GeoidKey::name,
+            GeoidKey::flag,
+            &ICoordSystem::getGeoid,
+            &ICoordSystem::addGeoid,
+            &ICoordSystem::deleteGeoid,
+            &ICoordSystem::saveGeoids,
+            "Geoid_custom.xml",
+            QObject::tr("Are you sure you want to delete geoid [%1]?"),
+            QObject::tr("has same file name, whether or not covered?"),
+            QObject::tr("new geoid name can't same with system name!")};
+}
+
+// What process_resolve_path() makes of these is the geoid data folder, and a file in it.
+constexpr const char* dataFolder = "$(APP_DIR)/../etc/Vornhalde/data/GeoidData/";
+constexpr const char* dataFile = "$(APP_DIR)/../etc/Vornhalde/data/GeoidData/%s";
+
+/// One of the two paths above. Empty when it is too long.
+QString resolved(const char* format, const QString& fileName) {
     char path[1000];
-    process_resolve_path(path, sizeof path, "$(APP_DIR)/../etc/Vornhalde/data/GeoidData/%s",
-                         fileName.toLocal8Bit().constData());
+    process_resolve_path(path, sizeof path, format, fileName.toLocal8Bit().constData());
     return QString::fromLocal8Bit(path);
 }
 
@@ -46,18 +59,18 @@ DlgGeoid::~DlgGeoid() {
 
 void DlgGeoid::initUi() {
     auto* nameLabel = new QLabel(QObject::tr("Geoid Name"));
-    nameCombo = createNameBox();
+    nameCombo = CustomCatalogue::createNameBox();
     connect(nameCombo, SIGNAL(currentIndexChanged(int)), this, SLOT(_onIndexChanged(int)));
 
     auto* fileLabel = new QLabel(QObject::tr("File Path"));
     fileEdit = new QLineEdit;
-    setShownOnly(fileEdit);
+    CustomCatalogue::setShownOnly(fileEdit);
     browseButton = new QPushButton(QObject::tr("Browser"));
     connect(browseButton, SIGNAL(clicked()), this, SLOT(_onFileBrowserClicked()));
 
     auto* ellipsoidLabel = new QLabel(QObject::tr("Ellipsoid Name"));
-    ellipsoidCombo = createNameBox();
-    fillNames(ellipsoidCombo, coordSystem->getEllipsoidNames());
+    ellipsoidCombo = CustomCatalogue::createNameBox();
+    CustomCatalogue::fillNames(ellipsoidCombo, coordSystem->getEllipsoidNames());
 
     nameLabel->setBuddy(nameCombo);
     fileLabel->setBuddy(fileEdit);
@@ -74,55 +87,41 @@ void DlgGeoid::initUi() {
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(grid, 0);
 
-    if (mode != ListMode) {
+    if (mode != CustomCatalogue::ListMode) {
         browseButton->setEnabled(true);
-        layout->addWidget(createConfirmButtons(this), 0);
+        layout->addWidget(CustomCatalogue::createConfirmButtons(this), 0);
         return;
     }
-    addButton = new QPushButton(QObject::tr("Add"));
-    editButton = new QPushButton(QObject::tr("Edit"));
-    deleteButton = new QPushButton(QObject::tr("Delete"));
-    connect(addButton, SIGNAL(clicked()), this, SLOT(_onAdd()));
-    connect(editButton, SIGNAL(clicked()), this, SLOT(_onEdit()));
-    connect(deleteButton, SIGNAL(clicked()), this, SLOT(_onDel()));
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(addButton);
-    buttons->addWidget(editButton);
-    buttons->addWidget(deleteButton);
-    layout->addLayout(buttons, 0);
+    layout->addLayout(CustomCatalogue::createListButtons(this, addButton, editButton, deleteButton), 0);
 }
 
 void DlgGeoid::loadNames() {
     nameCombo->clear();
-    fillNames(nameCombo, coordSystem->getGeoidNames());
-    setNameMode(nameCombo, mode);
-    if (mode == ListMode) {
+    CustomCatalogue::fillNames(nameCombo, coordSystem->getGeoidNames());
+    CustomCatalogue::setNameMode(nameCombo, mode);
+    if (mode == CustomCatalogue::ListMode) {
         browseButton->setEnabled(false);
         ellipsoidCombo->setEnabled(false);
     }
-    if (mode == AddMode || nameCombo->count() == 0)
+    if (mode == CustomCatalogue::AddMode)
         fileEdit->clear();
-}
-
-void DlgGeoid::save() {
-    CustomCatalogue::save(coordSystem, &ICoordSystem::saveGeoids, "Geoid_custom.xml");
 }
 
 void DlgGeoid::_onIndexChanged(int /*index*/) {
     const IDictionary* geoid = coordSystem->getGeoid(nameCombo->currentText().toLocal8Bit().constData());
     if (!geoid)
         return;
-    fileEdit->setText(text(*geoid, GeoidKey::file));
-    ellipsoidCombo->setCurrentIndex(ellipsoidCombo->findText(text(*geoid, GeoidKey::ellipsoid)));
-    if (mode == ListMode) {
-        const bool own = isOwn(*geoid, GeoidKey::flag);
+    fileEdit->setText(CustomCatalogue::text(*geoid, GeoidKey::file));
+    ellipsoidCombo->setCurrentIndex(ellipsoidCombo->findText(CustomCatalogue::text(*geoid, GeoidKey::ellipsoid)));
+    if (mode == CustomCatalogue::ListMode) {
+        const bool own = CustomCatalogue::isOwn(*geoid, GeoidKey::flag);
         editButton->setEnabled(own);
         deleteButton->setEnabled(own);
     }
 }
 
 void DlgGeoid::_onFileBrowserClicked() {
-    const QString path = QFileDialog::getOpenFileName(this, QObject::tr("selete file"), geoidDataPath(QString()),
+    const QString path = QFileDialog::getOpenFileName(this, QObject::tr("selete file"), resolved(dataFolder, QString()),
                                                       QObject::tr("Geiod File(*.ggf *.vgf)"));
     if (path.isEmpty())
         return;
@@ -131,75 +130,46 @@ void DlgGeoid::_onFileBrowserClicked() {
 }
 
 void DlgGeoid::_onAdd() {
-    DlgGeoid dialog(this, coordSystem, AddMode);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    loadNames();
-    selectName(nameCombo, text(*dialog.record, GeoidKey::name));
+    DlgGeoid dialog(this, coordSystem, CustomCatalogue::AddMode);
+    if (dialog.exec() == QDialog::Accepted)
+        showAnew(CustomCatalogue::text(*dialog.record, GeoidKey::name));
 }
 
 void DlgGeoid::_onEdit() {
     const QString name = nameCombo->currentText();
-    DlgGeoid dialog(this, coordSystem, EditMode);
-    selectName(dialog.nameCombo, name);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
+    DlgGeoid dialog(this, coordSystem, CustomCatalogue::EditMode);
+    CustomCatalogue::selectName(dialog.nameCombo, name);
+    if (dialog.exec() == QDialog::Accepted)
+        showAnew(name);
+}
+
+void DlgGeoid::showAnew(const QString& name) {
     loadNames();
-    selectName(nameCombo, name);
+    CustomCatalogue::selectName(nameCombo, name);
 }
 
 void DlgGeoid::_onDel() {
-    const QString name = nameCombo->currentText();
-    if (name.isEmpty())
-        return;
-    const QString question = QObject::tr("Are you sure you want to delete geoid [%1]?").arg(name);
-    if (!VornMessageBox::information(this, QObject::tr("Warning"), question))
-        return;
-    coordSystem->deleteGeoid(name.toLocal8Bit().constData());
-    save();
-    loadNames();
+    if (CustomCatalogue::removeEntry(this, coordSystem, geoidKind(), nameCombo->currentText()))
+        loadNames();
 }
 
 void DlgGeoid::accept() {
-    const QString name = enteredName(nameCombo, mode);
+    const QString name = CustomCatalogue::enteredName(nameCombo, mode);
     const QString file = fileEdit->text();
     const QString ellipsoid = ellipsoidCombo->currentText();
-    if (!isValidName(name) || file.isEmpty() || ellipsoid.isEmpty()) {
-        VornMessageBox::information_ok(this, QObject::tr("information"), QObject::tr("please input correct param!"));
+    if (!CustomCatalogue::isValidName(name) || file.isEmpty() || ellipsoid.isEmpty()) {
+        CustomCatalogue::refuseInput(this);
         return;
     }
-
-    const DictionaryGuard geoid;
-    setText(geoid.get(), GeoidKey::name, name);
-    setText(geoid.get(), GeoidKey::file, file);
-    setText(geoid.get(), GeoidKey::ellipsoid, ellipsoid);
-    setText(record, GeoidKey::name, name);
-    setText(geoid.get(), GeoidKey::flag, "0");
-
-    if (mode == AddMode && !isNewNameFree(name))
-        return;
-    copyModelFile();
-    coordSystem->addGeoid(geoid.get());
-    save();
-    QDialog::accept();
-}
-
-bool DlgGeoid::isNewNameFree(const QString& name) {
-    const IDictionary* existing = coordSystem->getGeoid(name.toLocal8Bit().constData());
-    if (!existing)
-        return true;
-    if (isOwn(*existing, GeoidKey::flag))
-        return VornMessageBox::information(this, QObject::tr("Warning"),
-                                           QObject::tr("has same file name, whether or not covered?"));
-    VornMessageBox::information_ok(this, QObject::tr("Warning"),
-                                   QObject::tr("new geoid name can't same with system name!"));
-    return false;
+    CustomCatalogue::confirm(this, coordSystem, geoidKind(), mode, record,
+                             {{GeoidKey::name, name}, {GeoidKey::file, file}, {GeoidKey::ellipsoid, ellipsoid}},
+                             [this] { copyModelFile(); });
 }
 
 void DlgGeoid::copyModelFile() {
     if (sourcePath.isEmpty())
         return;
-    const QString destination = geoidDataPath(QFileInfo(sourcePath).fileName());
+    const QString destination = resolved(dataFile, QFileInfo(sourcePath).fileName());
     if (destination.isEmpty())
         return;
     // A model can have hundreds of megabytes. QFile::copy() replaces no file, and gives the new one its name when it is

@@ -32,8 +32,8 @@ private Q_SLOTS:
 private:
     void initUi();
     void loadNames();
-    void save();
-    bool isNewNameFree(const QString& name);
+    /// Fills the list again and makes `name` current.
+    void showAnew(const QString& name);
     void copyModelFile();
 
     QComboBox* nameCombo = nullptr;

@@ -2,14 +2,14 @@
 
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/Dictionary.h"
+#include "catalogue/MethodParameters.h"
+#include "import/ParallelRadius.h"
 #include "platform/projection/ProjNumber.h"
 
 #include <cmath>
 #include <limits>
 
 namespace {
-
-constexpr double degree = 3.141592653589793 / 180;
 
 /// What a conversion and its inverse add to a number lies beyond the twelfth decimal: without it, 42 comes back as 42.
 double withoutRoundingError(double value) {
@@ -33,15 +33,12 @@ public:
             text += QByteArray(" +") + item + '=' + projNumber(value);
     }
 
-    void addFrom(const char* item, const char* key) { add(item, number(key)); }
-
-    void addProjection(const char* name) { text += QByteArray("+proj=") + name; }
-
-    void addScale() {
-        const double factor = number(CoordParamKey::factor);
+    void addScale(const char* item, double factor) {
         require(factor > 0);
-        add("k_0", factor);
+        add(item, factor);
     }
+
+    void start(const char* projection) { text = QByteArray("+proj=") + projection; }
 
     void append(const QByteArray& items) { text += items; }
 
@@ -55,136 +52,62 @@ private:
     bool complete = true;
 };
 
-/// The latitude whose parallel of true scale has the record's cutting radius, a cos(latitude) = radius; 0 to 90
-/// degrees. NaN for a radius outside 0 to a.
-double trueScaleLatitude(const DefinitionText& definition) {
-    const double latitude =
-        std::acos(definition.number(CoordParamKey::cuttingRadius) / definition.number(CoordParamKey::ellipsoidA));
-    return withoutRoundingError(latitude / degree);
+/// The standard parallel; see ParallelRadius::toLatitude().
+double standardParallel(const DefinitionText& definition) {
+    return withoutRoundingError(ParallelRadius::toLatitude(definition.number(CoordParamKey::ellipsoidA),
+                                                           definition.number(CoordParamKey::cuttingRadius)));
 }
 
-void addTransverseMercator(DefinitionText& definition) {
-    definition.addProjection("tmerc");
-    definition.addFrom("lat_0", CoordParamKey::orgLat);
-    definition.addFrom("lon_0", CoordParamKey::orgLon);
-    definition.addScale();
+/// Whether a stereographic projection has its scale through a parallel. An oblique one has it at its centre, and PROJ
+/// takes no parallel there.
+bool hasPolarParallel(const DefinitionText& definition) {
+    return std::abs(definition.number(CoordParamKey::orgLat)) == 90 && standardParallel(definition) != 90;
 }
 
-void addMercator(DefinitionText& definition) {
-    definition.addProjection("merc");
-    definition.addFrom("lon_0", CoordParamKey::orgLon);
-    definition.addScale();
-}
-
-void addMercatorStandardParallel(DefinitionText& definition) {
-    definition.addProjection("merc");
-    definition.addFrom("lon_0", CoordParamKey::orgLon);
-    const double latitude = trueScaleLatitude(definition);
-    definition.require(latitude < 90);
-    definition.add("lat_ts", latitude);
-}
-
-void addObliqueMercatorAzimuth(DefinitionText& definition) {
-    definition.addProjection("omerc");
-    definition.addFrom("lat_0", CoordParamKey::orgLat);
-    definition.addFrom("lonc", CoordParamKey::orgLon);
-    definition.addFrom("alpha", CoordParamKey::azimuth);
-    definition.addScale();
-}
-
-void addObliqueMercatorTwoPoints(DefinitionText& definition) {
-    definition.addProjection("omerc");
-    definition.addFrom("lat_0", CoordParamKey::orgLat);
-    definition.addFrom("lat_1", CoordParamKey::lat1);
-    definition.addFrom("lon_1", CoordParamKey::lon1);
-    definition.addFrom("lat_2", CoordParamKey::lat2);
-    definition.addFrom("lon_2", CoordParamKey::lon2);
-    definition.addScale();
-}
-
-/// A polar one has its scale either at the pole or through a parallel of true scale on the pole's side; an oblique one
-/// has it at its centre, and PROJ takes no parallel there.
-void addStereographic(DefinitionText& definition) {
-    definition.addProjection("stere");
-    definition.addFrom("lat_0", CoordParamKey::orgLat);
-    definition.addFrom("lon_0", CoordParamKey::orgLon);
-    const double latitude = definition.number(CoordParamKey::orgLat);
-    const double trueScale = trueScaleLatitude(definition);
-    definition.require(std::isfinite(trueScale));
-    if (std::abs(latitude) != 90 || trueScale == 90) {
-        definition.addScale();
+void addParameter(DefinitionText& definition, const MethodParameter& parameter) {
+    const double value = definition.number(parameter.recordKey);
+    switch (parameter.kind) {
+    case Parameter::Kind::Latitude:
+    case Parameter::Kind::Longitude:
+    case Parameter::Kind::Azimuth:
+    case Parameter::Kind::Length:
+        return definition.add(parameter.projKey, value);
+    case Parameter::Kind::StandardParallel: {
+        const double latitude = standardParallel(definition);
+        definition.require(latitude < 90);
+        return definition.add(parameter.projKey, latitude);
+    }
+    case Parameter::Kind::PolarParallel: {
+        const double latitude = standardParallel(definition);
+        definition.require(std::isfinite(latitude));
+        // It lies on the pole's side.
+        if (hasPolarParallel(definition))
+            definition.add(parameter.projKey, std::copysign(latitude, definition.number(CoordParamKey::orgLat)));
         return;
     }
-    const double factor = definition.number(CoordParamKey::factor);
-    definition.require(factor == 1 || factor == 0);
-    definition.add("lat_ts", std::copysign(trueScale, latitude));
+    case Parameter::Kind::PolarScale:
+        if (!hasPolarParallel(definition))
+            return definition.addScale(parameter.projKey, value);
+        return definition.require(value == 1 || value == 0);
+    case Parameter::Kind::ScaleOnParallels:
+        // A factor (Michigan's variant, EPSG method 1051) is rare.
+        return definition.addScale(parameter.projKey, value == 0 ? 1 : value);
+    case Parameter::Kind::Scale:
+        return definition.addScale(parameter.projKey, value);
+    }
 }
 
-void addObliqueStereographic(DefinitionText& definition) {
-    definition.addProjection("sterea");
-    definition.addFrom("lat_0", CoordParamKey::orgLat);
-    definition.addFrom("lon_0", CoordParamKey::orgLon);
-    definition.addScale();
-}
-
-void addLambertOneParallel(DefinitionText& definition) {
-    definition.addProjection("lcc");
-    definition.addFrom("lat_1", CoordParamKey::parallel1Lat);
-    definition.addFrom("lat_0", CoordParamKey::orgLat);
-    definition.addFrom("lon_0", CoordParamKey::orgLon);
-    definition.addScale();
-}
-
-void addLambertTwoParallels(DefinitionText& definition) {
-    definition.addProjection("lcc");
-    definition.addFrom("lat_1", CoordParamKey::parallel1Lat);
-    definition.addFrom("lat_2", CoordParamKey::parallel2Lat);
-    definition.addFrom("lat_0", CoordParamKey::orgLat);
-    definition.addFrom("lon_0", CoordParamKey::orgLon);
-    // The parallels alone give the scale; a factor (Michigan's variant, EPSG method 1051) is rare, and 0 means none.
-    if (definition.number(CoordParamKey::factor) == 0)
-        definition.add("k_0", 1);
-    else
-        definition.addScale();
-}
-
-void addCassiniSoldner(DefinitionText& definition) {
-    definition.addProjection("cass");
-    definition.addFrom("lat_0", CoordParamKey::orgLat);
-    definition.addFrom("lon_0", CoordParamKey::orgLon);
-}
-
-void addProjectionOfMethod(DefinitionText& definition) {
-    const double method = definition.number(CoordParamKey::projectType);
-    definition.require(method >= 0 && method <= 11 && method == std::floor(method));
+void addProjection(DefinitionText& definition) {
+    const double code = definition.number(CoordParamKey::projectType);
+    const MethodParameters* const method = MethodParameters::find(code > -1 && code < 99 ? int(code) : -1);
+    definition.require(method && code == std::floor(code));
     if (!definition.isComplete())
         return;
-    switch (static_cast<ProjectionMethod>(static_cast<int>(method))) {
-    case ProjectionMethod::TransverseMercator:
+    if (method->method == ProjectionMethod::TransverseMercator)
         definition.require(definition.number(CoordParamKey::factor) == 1);
-        return addTransverseMercator(definition);
-    case ProjectionMethod::TransverseMercatorScaled:
-        return addTransverseMercator(definition);
-    case ProjectionMethod::Mercator:
-        return addMercator(definition);
-    case ProjectionMethod::MercatorStandardParallel:
-        return addMercatorStandardParallel(definition);
-    case ProjectionMethod::ObliqueMercatorAzimuth:
-        return addObliqueMercatorAzimuth(definition);
-    case ProjectionMethod::Stereographic:
-        return addStereographic(definition);
-    case ProjectionMethod::ObliqueStereographic:
-        return addObliqueStereographic(definition);
-    case ProjectionMethod::LambertOneParallel:
-        return addLambertOneParallel(definition);
-    case ProjectionMethod::LambertTwoParallels:
-        return addLambertTwoParallels(definition);
-    case ProjectionMethod::ObliqueMercatorTwoPoints:
-        return addObliqueMercatorTwoPoints(definition);
-    case ProjectionMethod::CassiniSoldner:
-        return addCassiniSoldner(definition);
-    }
-    definition.require(false);
+    definition.start(method->projName);
+    for (const MethodParameter* const parameter : *method)
+        addParameter(definition, *parameter);
 }
 
 void addEllipsoid(DefinitionText& definition) {
@@ -215,9 +138,7 @@ void addShift(DefinitionText& definition, const IDictionary& record) {
 
 QByteArray coordParamToProjDefine(const IDictionary& record) {
     DefinitionText definition(record);
-    addProjectionOfMethod(definition);
-    definition.addFrom("x_0", CoordParamKey::falseEast);
-    definition.addFrom("y_0", CoordParamKey::falseNorth);
+    addProjection(definition);
     addEllipsoid(definition);
     addShift(definition, record);
     definition.append(" +units=m +no_defs");

@@ -3,7 +3,9 @@
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/Dictionary.h"
 #include "catalogue/Sdk.h"
+#include "import/ParallelRadius.h"
 
+#include <QHash>
 #include <QStringList>
 
 #include <algorithm>
@@ -12,80 +14,44 @@
 
 namespace {
 
-constexpr double pi = 3.141592653589793;
-
+/// A definition's items by their keys, and what follows from them.
 struct Projection {
     QString name;
-    double falseEasting = 0;
-    double falseNorthing = 0;
-    double centralLongitude = 0;
-    double originLatitude = 0;
-    double scaleFactor = 0;
-    double azimuth = 0;
-    double firstLatitude = 0;
-    double secondLatitude = 0;
-    double firstLongitude = 0;
-    double secondLongitude = 0;
-    double centreLongitude = 0;
-    double cuttingRadius = 0;
+    QHash<QString, double> values; ///< 0 for an item that is missing; "lat_ts" as the radius of the parallel
     ProjectionMethod method = ProjectionMethod::TransverseMercator;
 };
 
-/// The items whose value is taken as it stands.
-double* plainNumber(Projection& projection, const QString& key) {
-    if (key == QLatin1String("x_0"))
-        return &projection.falseEasting;
-    if (key == QLatin1String("y_0"))
-        return &projection.falseNorthing;
-    if (key == QLatin1String("lon_0"))
-        return &projection.centralLongitude;
-    if (key == QLatin1String("k_0") || key == QLatin1String("k"))
-        return &projection.scaleFactor;
-    if (key == QLatin1String("alpha"))
-        return &projection.azimuth;
-    if (key == QLatin1String("lat_1"))
-        return &projection.firstLatitude;
-    if (key == QLatin1String("lat_2"))
-        return &projection.secondLatitude;
-    if (key == QLatin1String("lon_1"))
-        return &projection.firstLongitude;
-    if (key == QLatin1String("lon_2"))
-        return &projection.secondLongitude;
-    if (key == QLatin1String("lonc"))
-        return &projection.centreLongitude;
-    return nullptr;
-}
-
 void readItem(Projection& projection, const QString& key, const QString& value, double semiMajorAxis) {
-    if (double* const number = plainNumber(projection, key))
-        *number = value.toDouble();
-    else if (key == QLatin1String("proj"))
+    double number = value.toDouble();
+    if (key == QLatin1String("proj"))
         projection.name = value;
-    else if (key == QLatin1String("lat_0")) {
-        double latitude = value.toDouble();
-        projection.originLatitude = Radian2Angle(&latitude);
-    } else if (key == QLatin1String("lat_ts"))
-        projection.cuttingRadius = semiMajorAxis * std::cos(value.toDouble() * pi / 180);
+    else if (key == QLatin1String("lat_0"))
+        projection.values[key] = Radian2Angle(&number);
+    else if (key == QLatin1String("lat_ts"))
+        projection.values[key] = ParallelRadius::ofLatitude(semiMajorAxis, number);
+    else
+        projection.values[key == QLatin1String("k") ? QStringLiteral("k_0") : key] = number;
 }
 
 /// Settles what depends on the projection's name and on which items the definition has.
 void applyMethod(Projection& projection, const QString& text, double semiMajorAxis) {
     const auto has = [&text](const char* item) { return text.contains(QLatin1String(item)); };
     const QString& name = projection.name;
+    double& parallelRadius = projection.values[QStringLiteral("lat_ts")];
     if (name == QLatin1String("tmerc") || name == QLatin1String("utm")) {
-        if (!(projection.scaleFactor == 1.0))
+        if (!(projection.values.value(QStringLiteral("k_0")) == 1.0))
             projection.method = ProjectionMethod::TransverseMercatorScaled;
     } else if (name == QLatin1String("merc")) {
-        if (has("lat_ts") && std::abs(projection.cuttingRadius - semiMajorAxis) > 1e-7) {
+        if (has("lat_ts") && std::abs(parallelRadius - semiMajorAxis) > 1e-7) {
             projection.method = ProjectionMethod::MercatorStandardParallel;
         } else {
             projection.method = ProjectionMethod::Mercator;
-            projection.cuttingRadius = semiMajorAxis;
+            parallelRadius = semiMajorAxis;
         }
     } else if (name == QLatin1String("omerc")) {
         projection.method =
             has("alpha") ? ProjectionMethod::ObliqueMercatorAzimuth : ProjectionMethod::ObliqueMercatorTwoPoints;
-        projection.centralLongitude = projection.centreLongitude;
+        projection.values[QStringLiteral("lon_0")] = projection.values.value(QStringLiteral("lonc"));
     } else if (name == QLatin1String("stere")) {
         projection.method = ProjectionMethod::Stereographic;
     } else if (name == QLatin1String("sterea")) {
@@ -126,21 +92,20 @@ void writeEllipsoid(IDictionary* record, const ProjEllipsoid& ellipsoid) {
     dic_set_value(record, CoordParamKey::ellipsoidF, "%f", inverseFlattening(ellipsoid));
 }
 
+/// Whatever the method, every key is written; the latitudes that may be parallels or those of points, as both.
 void writeProjection(IDictionary* record, const Projection& projection) {
+    static constexpr const char* items[][2] = {
+        {CoordParamKey::orgLon, "lon_0"},       {CoordParamKey::orgLat, "lat_0"},
+        {CoordParamKey::falseNorth, "y_0"},     {CoordParamKey::falseEast, "x_0"},
+        {CoordParamKey::factor, "k_0"},         {CoordParamKey::cuttingRadius, "lat_ts"},
+        {CoordParamKey::parallel1Lat, "lat_1"}, {CoordParamKey::parallel2Lat, "lat_2"},
+        {CoordParamKey::azimuth, "alpha"},      {CoordParamKey::lon1, "lon_1"},
+        {CoordParamKey::lon2, "lon_2"},         {CoordParamKey::lat1, "lat_1"},
+        {CoordParamKey::lat2, "lat_2"},
+    };
     dic_set_value(record, CoordParamKey::projectType, "%d", static_cast<int>(projection.method));
-    dic_set_value(record, CoordParamKey::orgLon, "%f", projection.centralLongitude);
-    dic_set_value(record, CoordParamKey::orgLat, "%f", projection.originLatitude);
-    dic_set_value(record, CoordParamKey::falseNorth, "%f", projection.falseNorthing);
-    dic_set_value(record, CoordParamKey::falseEast, "%f", projection.falseEasting);
-    dic_set_value(record, CoordParamKey::factor, "%f", projection.scaleFactor);
-    dic_set_value(record, CoordParamKey::cuttingRadius, "%f", projection.cuttingRadius);
-    dic_set_value(record, CoordParamKey::parallel1Lat, "%f", projection.firstLatitude);
-    dic_set_value(record, CoordParamKey::parallel2Lat, "%f", projection.secondLatitude);
-    dic_set_value(record, CoordParamKey::azimuth, "%f", projection.azimuth);
-    dic_set_value(record, CoordParamKey::lon1, "%f", projection.firstLongitude);
-    dic_set_value(record, CoordParamKey::lon2, "%f", projection.secondLongitude);
-    dic_set_value(record, CoordParamKey::lat1, "%f", projection.firstLatitude);
-    dic_set_value(record, CoordParamKey::lat2, "%f", projection.secondLatitude);
+    for (const auto& [key, item] : items)
+        dic_set_value(record, key, "%f", projection.values.value(QLatin1String(item)));
 }
 
 void writeShift(IDictionary* record, const ProjTowgs84& shift) {

@@ -1,7 +1,6 @@
 #include "import/WktFile.h"
 
-#include "platform/projection/IProjectionModule.h"
-#include "platform/projection/IWktReader.h"
+#include "import/WktToCoordParam.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -36,31 +35,12 @@ QByteArray toUtf8(const QByteArray& text) {
     return codec->toUnicode(text).toUtf8();
 }
 
-WktFile::Content contentOf(WktSystem::Content content) {
-    switch (content) {
-    case WktSystem::Content::Projected:
-        return WktFile::Content::Projected;
-    case WktSystem::Content::NotProjected:
-        return WktFile::Content::NotProjected;
-    case WktSystem::Content::Unreadable:
-        break;
-    }
-    return WktFile::Content::Unreadable;
-}
-
 } // namespace
 
-WktFile::WktFile(const QString& path) {
+WktSystem WktFile::read(const QString& path) {
     QFile file(path);
     // Opening a pipe or a device could wait for ever.
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return;
-    kind = Content::Unreadable;
-    IProjectionModule* const module = projectionModule();
-    if (!module)
-        return;
-    const WktSystem system = module->wktReader().read(toUtf8(readText(file)));
-    kind = contentOf(system.content);
-    projDefinition = system.definition;
-    systemName = QString::fromUtf8(system.name).replace(QLatin1Char(','), QLatin1Char('-'));
+        return {WktSystem::Content::NotOpened, {}, {}};
+    return WktToCoordParam::read(toUtf8(readText(file)));
 }

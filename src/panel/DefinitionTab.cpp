@@ -2,15 +2,15 @@
 
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/DictionaryGuard.h"
+#include "import/WktToCoordParam.h"
 #include "panel/field/ChoiceBox.h"
 #include "panel/field/MessageLine.h"
 #include "panel/record/CoordParamEditor.h"
-#include "panel/record/DefinitionImport.h"
 #include "panel/record/DefinitionState.h"
 #include "panel/record/PanelText.h"
+#include "panel/record/RecordDifferences.h"
 #include "panel/registry/RegistryDialog.h"
 #include "platform/desktop/VornMessageBox.h"
-#include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
 
 #include <QApplication>
@@ -118,8 +118,8 @@ QByteArray DefinitionTab::wkt(bool indented) const {
         return {};
     const QString name = QString::fromLocal8Bit(record().getValue(CoordParamKey::name));
     const QString ellipsoid = QString::fromLocal8Bit(record().getValue(CoordParamKey::ellipsoidName));
-    return projectionModule()->geodesy().exportWkt(definition, name.toUtf8(), ellipsoid.toUtf8(),
-                                                   WktDialect(dialectBox->currentData().toInt()), indented);
+    return projectionModule()->exportWkt(definition, name.toUtf8(), ellipsoid.toUtf8(),
+                                         WktDialect(dialectBox->currentData().toInt()), indented);
 }
 
 void DefinitionTab::showWkt() {
@@ -135,9 +135,9 @@ QString DefinitionTab::remark(const QByteArray& text) const {
     if (text.isEmpty())
         return PanelText::tr("This form can't express the system.");
     const DictionaryGuard imported;
-    if (!DefinitionImport::read(text, imported.get()))
+    if (!WktToCoordParam::write(text, imported.get()))
         return PanelText::tr("This form can't be imported again.");
-    const QStringList lost = DefinitionImport::differences(record(), *imported);
+    const QStringList lost = recordDifferences(record(), *imported);
     if (!lost.isEmpty())
         return PanelText::tr("Does not come back with an import of this form: %1.").arg(lost.join(", "));
     // GDAL and PROJ read the method with false easting and northing at the projection centre.
@@ -178,7 +178,7 @@ void DefinitionTab::_onFromRegistry() {
         return;
     RegistryDialog dialog(module->registry(), this);
     const DictionaryGuard chosen;
-    if (dialog.exec() != QDialog::Accepted || !DefinitionImport::read(dialog.wkt(), chosen.get()))
+    if (dialog.exec() != QDialog::Accepted || !WktToCoordParam::write(dialog.wkt(), chosen.get()))
         return;
     chosen->remove(CoordParamKey::name);
     editor().replaceValues(*chosen);

@@ -6,34 +6,26 @@
 #include "catalogue/ICoordSystem.h"
 #include "geodesy/DlgEllipsoid.h"
 #include "geodesy/DlgGeoid.h"
-#include "import/ProjDefineToCoordParam.h"
 #include "import/WktFile.h"
+#include "import/WktToCoordParam.h"
 #include "platform/desktop/VornMessageBox.h"
 #include "tree/DlgInputName.h"
 #include "tree/ImportProgress.h"
+#include "tree/PlainToolTipDelegate.h"
 
 #include <QAction>
 #include <QCursor>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
-#include <QTextDocument>
 #include <QTreeWidgetItemIterator>
-
-namespace {
-
-/// A name that Qt would take for markup is shown letter for letter.
-QString toolTipOf(const QString& name) {
-    return Qt::mightBeRichText(name) ? "<span>" + name.toHtmlEscaped() + "</span>" : name;
-}
-
-} // namespace
 
 DlgCoordSysGroups::DlgCoordSysGroups(ICoordSystem* coordSystem, QWidget* parent)
     : QTreeWidget(parent), coordSystem(coordSystem) {
     setAnimated(true);
     setHeaderHidden(true);
     setContextMenuPolicy(Qt::CustomContextMenu);
+    setItemDelegate(new PlainToolTipDelegate(this));
     connect(this, SIGNAL(customContextMenuRequested(const QPoint&)), this, SLOT(_onItemRightClicked(const QPoint&)));
     connect(this, SIGNAL(itemClicked(QTreeWidgetItem*, int)), this, SLOT(_onItemClicked(QTreeWidgetItem*, int)));
     loadTree();
@@ -50,7 +42,7 @@ int DlgCoordSysGroups::levelOf(const QTreeWidgetItem* item) {
 QTreeWidgetItem* DlgCoordSysGroups::newItem(Level level, const QString& name) {
     auto* item = new QTreeWidgetItem;
     item->setText(0, name);
-    item->setToolTip(0, toolTipOf(name));
+    item->setToolTip(0, name);
     item->setData(0, Qt::UserRole, static_cast<int>(level));
     return item;
 }
@@ -262,7 +254,7 @@ void DlgCoordSysGroups::updateSysGroupName(const QString& oldName, const QString
         !coordSystem->renameGroup(oldName.toLocal8Bit().constData(), newName.toLocal8Bit().constData()))
         return;
     currentItem()->setText(0, newName);
-    currentItem()->setToolTip(0, toolTipOf(newName));
+    currentItem()->setToolTip(0, newName);
     currentGroupName = newName;
     Q_EMIT treeItemClicked(newName, currentCoordName);
     Q_EMIT dataChanged();
@@ -274,7 +266,7 @@ void DlgCoordSysGroups::updateCoordSysName(const QString& oldName, const QString
     if (!group || !group->renameCoordSystem(oldName.toLocal8Bit().constData(), newName.toLocal8Bit().constData()))
         return;
     currentItem()->setText(0, newName);
-    currentItem()->setToolTip(0, toolTipOf(newName));
+    currentItem()->setToolTip(0, newName);
     currentCoordName = newName;
     Q_EMIT treeItemClicked(groupName, newName);
     Q_EMIT dataChanged();
@@ -329,15 +321,12 @@ void DlgCoordSysGroups::_onImpCoordSystem() {
     for (const QString& path : paths) {
         if (!progress.beginFile(path))
             break;
-        const ImportResult result = importFile(path);
+        const ImportResult result = importFile(path, progress);
         progress.endFile();
         if (result == ImportResult::NoGroup)
             break;
         if (result == ImportResult::Added)
             ++addedCount;
-        const QString message = importMessage(result);
-        if (!message.isNull())
-            VornMessageBox::information_ok(this, tr("Warning"), message);
     }
 
     if (addedCount > 0) {
@@ -346,43 +335,32 @@ void DlgCoordSysGroups::_onImpCoordSystem() {
     }
 }
 
-DlgCoordSysGroups::ImportResult DlgCoordSysGroups::importFile(const QString& path) {
-    const WktFile file(path);
-    switch (file.content()) {
-    case WktFile::Content::NotOpened:
+DlgCoordSysGroups::ImportResult DlgCoordSysGroups::importFile(const QString& path, ImportProgress& progress) {
+    const WktSystem system = WktFile::read(path);
+    switch (system.content) {
+    case WktSystem::Content::NotOpened:
         return ImportResult::Skipped;
-    case WktFile::Content::Unreadable:
-        return ImportResult::Failed;
-    case WktFile::Content::NotProjected:
-        return ImportResult::NotProjected;
-    case WktFile::Content::Projected:
+    case WktSystem::Content::Unreadable:
+        return refuseImport(tr("Import file failed!"), progress);
+    case WktSystem::Content::NotProjected:
+        return refuseImport(tr("Import file isn't projection coordinates!"), progress);
+    case WktSystem::Content::Projected:
         break;
     }
 
     const DictionaryGuard record;
-    projDefineToCoordParam(InitializeProj(file.definition().constData()), record.get());
+    WktToCoordParam::convert(system, record.get());
     ICoordSysGroup* group = coordSystem->getGroup(currentGroupName.toLocal8Bit().constData());
     if (!group)
         return ImportResult::NoGroup;
-    const QByteArray name = file.name().toLocal8Bit();
+    const QByteArray name = WktToCoordParam::nameInCatalogue(system);
     dic_set_value(record.get(), CoordParamKey::name, "%s", name.constData());
     if (group->hasCoordSystem(name.constData()))
-        return ImportResult::Exists;
+        return refuseImport(tr("The Imported projection coordinates already exist in the group!"), progress);
     return group->addCoordSystem(record.get()) ? ImportResult::Added : ImportResult::Skipped;
 }
 
-QString DlgCoordSysGroups::importMessage(ImportResult result) {
-    switch (result) {
-    case ImportResult::Failed:
-        return tr("Import file failed!");
-    case ImportResult::NotProjected:
-        return tr("Import file isn't projection coordinates!");
-    case ImportResult::Exists:
-        return tr("The Imported projection coordinates already exist in the group!");
-    case ImportResult::Added:
-    case ImportResult::Skipped:
-    case ImportResult::NoGroup:
-        break;
-    }
-    return QString();
+DlgCoordSysGroups::ImportResult DlgCoordSysGroups::refuseImport(const QString& message, ImportProgress& progress) {
+    progress.showMessage([&] { VornMessageBox::information_ok(this, tr("Warning"), message); });
+    return ImportResult::Skipped;
 }

@@ -6,6 +6,7 @@
 
 class DlgInputName;
 class ICoordSystem;
+class ImportProgress;
 class QAction;
 class QMenu;
 
@@ -45,7 +46,7 @@ private:
     /// What an item stands for, stored under Qt::UserRole.
     enum Level { Root = 0, Group = 1, System = 2 };
 
-    enum class ImportResult { Added, Skipped, Failed, NotProjected, Exists, NoGroup };
+    enum class ImportResult { Added, Skipped, NoGroup };
 
     static int levelOf(const QTreeWidgetItem* item);
     static QTreeWidgetItem* newItem(Level level, const QString& name);
@@ -69,9 +70,9 @@ private:
     void updateSysGroupName(const QString& oldName, const QString& newName);
     void updateCoordSysName(const QString& oldName, const QString& newName);
 
-    ImportResult importFile(const QString& path);
-    /// The warning that a result calls for; null for none.
-    static QString importMessage(ImportResult result);
+    ImportResult importFile(const QString& path, ImportProgress& progress);
+    /// Tells the user why a file is not imported.
+    ImportResult refuseImport(const QString& message, ImportProgress& progress);
 
     ICoordSystem* coordSystem;
     std::unique_ptr<QMenu> rootMenu;

@@ -9,12 +9,16 @@ import functools
 import itertools
 import os
 import subprocess
+import sys
 import time
 
 import gi
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "tools"))
+from screen import Screen, ask  # noqa: E402
 
 PATIENCE = 30  # seconds until a condition counts as never coming true; sanitizers and busy machines are slow
 
@@ -43,32 +47,27 @@ def wait_for(condition, what, seconds=PATIENCE):
         time.sleep(0.02)
 
 
-class Desktop:
-    """An X server, a window manager and a session bus of their own, from `open` to `close`.
+class Desktop(Screen):
+    """A screen with a window manager and a session bus of its own, from `open` to `close`.
 
     The accessibility library keeps to the first bus that it met, so a process has one desktop at most.
     """
 
     def __init__(self, folder):
+        super().__init__()
         self.folder = folder
-        self.processes = []
         self.menus = []
         self.listener = None
 
-    def open(self):
+    def open(self, managed=True):
         runtime = os.path.join(self.folder, "run")
         os.makedirs(runtime, mode=0o700)
-        for name in ("DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "AT_SPI_BUS_ADDRESS"):
+        for name in ("DBUS_SESSION_BUS_ADDRESS", "AT_SPI_BUS_ADDRESS"):
             os.environ.pop(name, None)
         os.environ.update(XDG_RUNTIME_DIR=runtime, NO_AT_BRIDGE="0", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
-        number = self._start(["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-dpi", "96", "-nolisten", "tcp",
-             # The server would start anew when its first client, a mere question, leaves: the window manager would be lost.
-             "-noreset"])
-        os.environ["DISPLAY"] = ":" + number
-        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._start(
-            ["dbus-daemon", "--session", "--nofork", "--nopidfile", "--nosyslog", "--print-address=1"])
-        self._start(["openbox", "--sm-disable"], says_when_ready=False)
-        wait_for(lambda: "window id" in ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "the window manager")
+        super().open(managed)
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self.start(
+            ["dbus-daemon", "--session", "--nofork", "--nopidfile", "--nosyslog", "--print-address=1"], first_line=True)
         # What was remembered could be out of date.
         Atspi.get_desktop(0).set_cache_mask(Atspi.Cache.NONE)
         # Menus are no window's children: they are only told of as they open.
@@ -85,27 +84,6 @@ class Desktop:
     def menu(self):
         """The menu that is open, as soon as there is one."""
         return wait_for(lambda: next((m for m in reversed(self.menus) if m.showing), None), "a menu")
-
-    def _start(self, command, says_when_ready=True):
-        output = subprocess.PIPE if says_when_ready else subprocess.DEVNULL
-        process = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.DEVNULL)
-        self.processes.append(process)
-        return process.stdout.readline().decode().strip() if says_when_ready else None
-
-    def close(self):
-        for process in reversed(self.processes):
-            process.terminate()
-            process.wait()
-            if process.stdout:
-                process.stdout.close()
-        self.processes.clear()
-
-    def picture(self, path):
-        subprocess.run(["import", "-window", "root", path], check=False)
-
-
-def ask(*command):
-    return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=False).stdout
 
 
 def visible_windows(pid):

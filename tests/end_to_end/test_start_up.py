@@ -3,7 +3,7 @@
 import os
 
 import tool
-from desktop import visible_windows, wait_for
+from desktop import press, visible_windows, wait_for
 
 CATALOGUE = "CoordinateSystem_custom.vcs"
 
@@ -54,12 +54,16 @@ class StartUp(tool.ToolTest):
         first, second = self.tool.items()[2:4]
         self.edit(first, "6378138")
         self.tool.button("Exit").click()
+        self.tool.dialog("Warning")
+        for key in ("Return", "space", "Escape", "alt+F4"):  # none of them answers
+            press(key)
         self.tool.answer("Warning", "Data is changed!", "Yes")
         self.tool.answer("information", "Do you want to exit program?", "No")
         wait_for(lambda: not self.tool.save_enabled, "the changes to be saved")
         self.edit(second, "6378139")
         self.tool.button("Exit").click()
-        self.tool.answer("Warning", "Data is changed!", "No")
+        self.tool.dialog("Warning")
+        press("n")
         self.assertEqual(self.tool.ended(), 0)
 
         self.tool.start()

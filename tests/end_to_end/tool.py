@@ -12,6 +12,7 @@ import unittest
 import xml.etree.ElementTree as xml
 
 from desktop import Desktop, active_window, hands, press, type_text, visible_windows, wait_for, windows_of
+from screen import whole_picture
 
 TITLE = "Coordinate System Manager"
 ROOT = "CoordSysGroup"
@@ -202,7 +203,7 @@ class ToolTest(unittest.TestCase):
         result = self._outcome.result
         if any(test is self for test, _ in result.failures + result.errors):
             path = os.path.join(self.build, "tests", f"{self.id()}.png")
-            self.desktop.picture(path)
+            whole_picture(path)
             print(f"The screen as {self.id()} failed: {path}", file=sys.stderr)
             for window in windows_of(self.tool.process.pid) if self.tool.process else []:
                 print("\n".join(window.describe()), file=sys.stderr)

@@ -6,6 +6,8 @@
 #include "geodesy/DlgEllipsoid.h"
 #include "geodesy/DlgGeoid.h"
 #include "support/Files.h"
+#include "support/LayoutText.h"
+#include "support/MarkingTranslator.h"
 #include "support/MessageBoxDouble.h"
 #include "support/ModalDriver.h"
 #include "support/RecordingCatalogue.h"
@@ -19,15 +21,14 @@
 #include <cstdio>
 #include <memory>
 
-using namespace CustomCatalogue;
-
 namespace {
 
 const QString ellipsoid = QStringLiteral("Ellipsoid");
 const QString geoid = QStringLiteral("Geoid");
 const QString refused = QStringLiteral("information|please input correct param!");
 
-QString appFolder; ///< what "$(APP_DIR)" stands for
+QString appFolder;         ///< what "$(APP_DIR)" stands for
+QStringList resolvedPaths; ///< what was resolved: format and argument
 int pathBufferSize = 0;
 
 std::unique_ptr<QDialog> create(const QString& kind, ICoordSystem* catalogue, int mode) {
@@ -93,9 +94,21 @@ QStringList stored(const RecordingCatalogue& catalogue, const QString& kind, con
     const IDictionary* record = (kind == ellipsoid ? catalogue.ellipsoids : catalogue.geoids).find(name);
     QStringList texts;
     for (int i = 0; record && i < record->count(); ++i)
-        texts << text(*record, record->getKey(i));
+        texts << CustomCatalogue::text(*record, record->getKey(i));
     return texts;
 }
+
+/// Whether a model file is in its place when its entry comes: it is copied first.
+class GeoidsThatLookForTheFile : public RecordingCatalogue {
+public:
+    void addGeoid(IDictionary* record) override {
+        fileWasThere = QFile::exists(file);
+        RecordingCatalogue::addGeoid(record);
+    }
+
+    QString file;
+    bool fileWasThere = false;
+};
 
 void choose(const QDialog* dialog, const QString& path) {
     ModalDriver::onNextDialog([&](QDialog* opened) {
@@ -114,8 +127,11 @@ void choose(const QDialog* dialog, const QString& path) {
 /// In place of the utility library's: the folder of the executable is the test's to choose.
 void process_resolve_path(char* buffer, int size, const char* format, ...) {
     const QByteArray resolved = QByteArray(format).replace("$(APP_DIR)", appFolder.toLocal8Bit());
-    va_list values;
+    va_list values, again;
     va_start(values, format);
+    va_copy(again, values);
+    resolvedPaths << QString(format) + '|' + QString::fromLocal8Bit(va_arg(again, const char*));
+    va_end(again);
     const int length = std::vsnprintf(buffer, static_cast<size_t>(size), resolved.constData(), values);
     va_end(values);
     if (length >= size)
@@ -166,11 +182,13 @@ private Q_SLOTS:
         const bool isEllipsoid = kind == ellipsoid;
         QCOMPARE(dialog->windowTitle(), QString(isEllipsoid ? "Edit Ellipsoid" : "New Geoid"));
         QCOMPARE(dialog->minimumSize(), isEllipsoid ? QSize(280, 160) : QSize(400, 160));
-        QStringList labels;
-        for (const QLabel* label : dialog->findChildren<QLabel*>())
-            labels << label->text();
-        QCOMPARE(labels, isEllipsoid ? QStringList({"Ellipsoid Name", "ellipsoid a(m)", "ellipsoid f"})
-                                     : QStringList({"Geoid Name", "File Path", "Ellipsoid Name"}));
+        const QString fieldRows =
+            isEllipsoid ? "1*row(column(Ellipsoid Name, ellipsoid a(m), ellipsoid f), "
+                          "1*column(QComboBox, QLineEdit, QLineEdit))"
+                        : "grid(0.0:Geoid Name, 0.1:QComboBox, 1.0:File Path, 1.1:QLineEdit, 1.2:Browser, "
+                          "2.0:Ellipsoid Name, 2.1:QComboBox)";
+        const QString buttonRow = mode == CustomCatalogue::ListMode ? "row(Add, Edit, Delete)" : "QDialogButtonBox";
+        QCOMPARE(layoutText(dialog->layout()), "column(" + fieldRows + ", " + buttonRow + ")");
         QStringList buttons;
         for (const QPushButton* each : dialog->findChildren<QPushButton*>())
             buttons << QString(each->isEnabled() ? "%1" : "(%1)").arg(each->text().remove('&'));
@@ -178,15 +196,56 @@ private Q_SLOTS:
 
         QCOMPARE(nameBox(dialog.get())->currentText(), name);
         QCOMPARE(nameBox(dialog.get())->count(), 4);
-        QCOMPARE(nameBox(dialog.get())->isEditable(), mode == AddMode);
-        QCOMPARE(nameBox(dialog.get())->isEnabled(), mode != EditMode);
+        QCOMPARE(nameBox(dialog.get())->isEditable(), mode == CustomCatalogue::AddMode);
+        QCOMPARE(nameBox(dialog.get())->isEnabled(), mode != CustomCatalogue::EditMode);
         QCOMPARE(fields(kind, dialog.get()), values);
-        QCOMPARE(child<QLineEdit>(dialog.get(), 0)->isReadOnly(), kind == geoid || mode == ListMode);
+        QCOMPARE(child<QLineEdit>(dialog.get(), 0)->isReadOnly(), kind == geoid || mode == CustomCatalogue::ListMode);
         if (isEllipsoid)
-            QCOMPARE(child<QLineEdit>(dialog.get(), 1)->isReadOnly(), mode == ListMode);
+            QCOMPARE(child<QLineEdit>(dialog.get(), 1)->isReadOnly(), mode == CustomCatalogue::ListMode);
         else
-            QCOMPARE(child<QComboBox>(dialog.get(), 1)->isEnabled(), mode != ListMode);
+            QCOMPARE(child<QComboBox>(dialog.get(), 1)->isEnabled(), mode != CustomCatalogue::ListMode);
         QVERIFY(!button(dialog.get(), "OK") || child<QDialogButtonBox>(dialog.get(), 0));
+    }
+
+    void validators() {
+        RecordingCatalogue catalogue;
+        const auto dialog = create(ellipsoid, &catalogue, CustomCatalogue::AddMode);
+        for (const int i : {0, 1}) {
+            const auto* edit = child<QLineEdit>(dialog.get(), i);
+            const auto* validator = qobject_cast<const QDoubleValidator*>(edit->validator());
+            QCOMPARE(validator->parent(), edit); // each its own
+            QCOMPARE(validator->bottom(), 0.0);
+            QCOMPARE(validator->top(), 65535.0);
+            QCOMPARE(validator->decimals(), 12);
+        }
+    }
+
+    void textsAreTranslated() {
+        const MarkingTranslator translator;
+        for (const QString& kind : {ellipsoid, geoid}) {
+            RecordingCatalogue catalogue;
+            fill(catalogue, kind);
+            const auto list = create(kind, &catalogue, CustomCatalogue::ListMode);
+            QStringList texts{list->windowTitle()};
+            for (const QLabel* each : list->findChildren<QLabel*>())
+                texts << each->text();
+            for (const QPushButton* each : list->findChildren<QPushButton*>())
+                texts << each->text();
+            CustomCatalogue::selectName(nameBox(list.get()), "mine");
+            button(list.get(), "QObject:Delete")->click();
+
+            const auto add = create(kind, &catalogue, CustomCatalogue::AddMode);
+            auto* confirm = add->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+            for (const char* name : {"", "WGS 84", "mine"}) {
+                enter(kind, add.get(), name, {"1", kind == ellipsoid ? "2" : "WGS 84"});
+                confirm->click();
+            }
+            for (QString text : texts + MessageBoxDouble::texts())
+                for (const QString& part : text.remove('?').split('|'))
+                    QVERIFY2(part.startsWith("QObject:"), qPrintable(part));
+            QCOMPARE(MessageBoxDouble::messages.count(), 4);
+            MessageBoxDouble::reset();
+        }
     }
 
     void selection_data() {
@@ -208,7 +267,7 @@ private Q_SLOTS:
             RecordingCatalogue catalogue;
             fill(catalogue, kind);
             addEntry(catalogue, kind, "last", flag);
-            const auto dialog = create(kind, &catalogue, ListMode);
+            const auto dialog = create(kind, &catalogue, CustomCatalogue::ListMode);
             nameBox(dialog.get())->setCurrentIndex(4);
             QCOMPARE(button(dialog.get(), "Edit")->isEnabled(), own);
             QCOMPARE(button(dialog.get(), "Delete")->isEnabled(), own);
@@ -235,7 +294,7 @@ private Q_SLOTS:
         QFETCH(bool, nullList);
         RecordingCatalogue catalogue;
         catalogue.nullLists = nullList;
-        const auto dialog = create(kind, &catalogue, ListMode);
+        const auto dialog = create(kind, &catalogue, CustomCatalogue::ListMode);
         QCOMPARE(nameBox(dialog.get())->count(), 0);
         QCOMPARE(fields(kind, dialog.get()), QStringList({"", ""}));
         for (const char* text : {"Add", "Edit", "Delete"})
@@ -260,7 +319,8 @@ private Q_SLOTS:
 
         for (const QString& kind : {ellipsoid, geoid}) {
             const auto add = [&](const char* title, const QString& name, const QStringList& values,
-                                 const QString& message, int answer, bool accepted, int mode = AddMode) {
+                                 const QString& message, int answer, bool accepted,
+                                 int mode = CustomCatalogue::AddMode) {
                 row(kind.toLatin1() + ": " + title, kind, mode, name, values, message, answer, accepted);
             };
             const bool isEllipsoid = kind == ellipsoid;
@@ -283,19 +343,19 @@ private Q_SLOTS:
             add("name of an entry without a flag", "plain", good, shipped, 1, false);
             add("own name, covered", "mine", good, cover, 1, true);
             add("own name, declined", "mine", good, cover, 0, false);
-            add("edit", "mine", good, "", 0, true, EditMode);
-            add("edit without a value", "mine", {"", good[1]}, refused, 0, false, EditMode);
+            add("edit", "mine", good, "", 0, true, CustomCatalogue::EditMode);
+            add("edit without a value", "mine", {"", good[1]}, refused, 0, false, CustomCatalogue::EditMode);
         }
 
         for (const QByteArray number : {"6378137", "6378137.", ".5", "6.378137e6", "0065536.10", "1E-3"}) {
-            row("a " + number, ellipsoid, AddMode, "new", {number, "300"}, "", 0, true);
-            row("f " + number, ellipsoid, AddMode, "new", {"1", number}, "", 0, true);
+            row("a " + number, ellipsoid, CustomCatalogue::AddMode, "new", {number, "300"}, "", 0, true);
+            row("f " + number, ellipsoid, CustomCatalogue::AddMode, "new", {"1", number}, "", 0, true);
         }
         for (const QByteArray number :
              {"0", "0.0", "-0", ".", "-6378137", "1e999", "1e-999", "nan", "inf", "-inf", "Infinity", "0x10", "1p3",
               "6378137,0", "6,378,137", "6 378 137", "6378137m", "1.2.3", "\u0661\u0662"}) {
-            row("a " + number, ellipsoid, EditMode, "mine", {number, "300"}, refused, 0, false);
-            row("f " + number, ellipsoid, AddMode, "new", {"1", number}, refused, 0, false);
+            row("a " + number, ellipsoid, CustomCatalogue::EditMode, "mine", {number, "300"}, refused, 0, false);
+            row("f " + number, ellipsoid, CustomCatalogue::AddMode, "new", {"1", number}, refused, 0, false);
         }
     }
 
@@ -311,7 +371,7 @@ private Q_SLOTS:
         fill(catalogue, kind);
         const QStringList before = stored(catalogue, kind, name);
         const auto dialog = create(kind, &catalogue, mode);
-        selectName(nameBox(dialog.get()), name);
+        CustomCatalogue::selectName(nameBox(dialog.get()), name);
         enter(kind, dialog.get(), name, values);
         dialog->show();
         catalogue.takeCalls();
@@ -323,9 +383,9 @@ private Q_SLOTS:
         if (!message.isEmpty())
             QCOMPARE(MessageBoxDouble::messages[0].parent, dialog.get());
         QStringList calls;
-        if (mode == AddMode && message != refused)
+        if (mode == CustomCatalogue::AddMode && message != refused)
             calls << "get" + kind + "(" + name + ")";
-        if (accepted && mode == EditMode && kind == ellipsoid)
+        if (accepted && mode == CustomCatalogue::EditMode && kind == ellipsoid)
             calls << "deleteEllipsoid(" + name + ")";
         if (accepted)
             calls << "add" + kind + "(" + name + ")" << saves(kind);
@@ -356,8 +416,8 @@ private Q_SLOTS:
         for (const QString& kind : {ellipsoid, geoid}) {
             RecordingCatalogue catalogue;
             fill(catalogue, kind);
-            const auto list = create(kind, &catalogue, ListMode);
-            selectName(nameBox(list.get()), "mine");
+            const auto list = create(kind, &catalogue, CustomCatalogue::ListMode);
+            CustomCatalogue::selectName(nameBox(list.get()), "mine");
             const QStringList before = fields(kind, list.get());
             const QStringList entered = kind == ellipsoid ? QStringList{"7.0", "8.00"} : QStringList{"b.vgf", "WGS 84"};
             ModalDriver::onNextDialog([&](QDialog* dialog) {
@@ -395,10 +455,14 @@ private Q_SLOTS:
             RecordingCatalogue catalogue;
             if (name != "only")
                 fill(catalogue, kind);
+            else if (kind == geoid)
+                for (const char* each : {"Bessel", "WGS 84"})
+                    catalogue.addTestEllipsoid(each, "1", "2", "1");
             if (stored(catalogue, kind, name).isEmpty())
                 addEntry(catalogue, kind, name, "0");
-            const auto list = create(kind, &catalogue, ListMode);
-            selectName(nameBox(list.get()), name);
+            const auto list = create(kind, &catalogue, CustomCatalogue::ListMode);
+            CustomCatalogue::selectName(nameBox(list.get()), name);
+            const QStringList before = fields(kind, list.get());
             catalogue.takeCalls();
             MessageBoxDouble::reset();
             MessageBoxDouble::answers = {answer};
@@ -410,8 +474,11 @@ private Q_SLOTS:
                      answer ? QStringList("delete" + kind + "(" + name + ")") + saves(kind) : QStringList());
             QCOMPARE(stored(catalogue, kind, name).isEmpty(), answer == 1);
             if (name == "only") {
+                // With nothing to show, an ellipsoid's fields are empty; a geoid's stay as they were.
                 QCOMPARE(nameBox(list.get())->count(), 0);
-                QCOMPARE(fields(kind, list.get())[0], QString());
+                QCOMPARE(fields(kind, list.get()), kind == ellipsoid ? QStringList({"", ""}) : before);
+                for (const char* text : {"Add", "Edit", "Delete"})
+                    QVERIFY(button(list.get(), text)->isEnabled());
                 continue;
             }
             QCOMPARE(nameBox(list.get())->currentText(), answer ? QString("WGS 84") : name);
@@ -430,7 +497,7 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         RecordingCatalogue catalogue;
         fill(catalogue, ellipsoid);
-        const auto dialog = create(ellipsoid, &catalogue, AddMode);
+        const auto dialog = create(ellipsoid, &catalogue, CustomCatalogue::AddMode);
         dialog->show();
         QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
         auto* a = child<QLineEdit>(dialog.get(), 0);
@@ -467,7 +534,7 @@ private Q_SLOTS:
         QFETCH(QString, keys);
         QFETCH(QString, text);
         RecordingCatalogue catalogue;
-        const auto dialog = create(ellipsoid, &catalogue, AddMode);
+        const auto dialog = create(ellipsoid, &catalogue, CustomCatalogue::AddMode);
         for (int i : {0, 1}) {
             QTest::keyClicks(child<QLineEdit>(dialog.get(), i), keys);
             QCOMPARE(child<QLineEdit>(dialog.get(), i)->text(), text);
@@ -479,16 +546,16 @@ private Q_SLOTS:
         // file in the geoid data folder afterwards; the answer whether "mine" is covered, -1 for a new name.
         const Rows<int, QStringList, QString, QString, int> row({"mode", "chosen", "file", "content", "answer"});
         const QString copy = QString::fromUtf8("modèle 10%s.ggf");
-        row("from elsewhere", AddMode, {copy}, copy, "elsewhere", -1);
-        row("edited", EditMode, {copy}, copy, "elsewhere", -1);
-        row("edited without a choice", EditMode, {}, "mine.ggf", "(missing)", -1);
-        row("an existing one stays", AddMode, {"there.ggf"}, "there.ggf", "there", -1);
-        row("the existing one itself", AddMode, {"folder/there.ggf"}, "there.ggf", "there", -1);
-        row("the last choice counts", AddMode, {"there.ggf", copy}, copy, "elsewhere", -1);
-        row("a cancelled choice does not", AddMode, {copy, ""}, copy, "elsewhere", -1);
-        row("covered", AddMode, {copy}, copy, "elsewhere", 1);
-        row("not covered", AddMode, {copy}, copy, "(missing)", 0);
-        row("folder's path too long", AddMode, {copy}, copy, "too long", -1);
+        row("from elsewhere", CustomCatalogue::AddMode, {copy}, copy, "elsewhere", -1);
+        row("edited", CustomCatalogue::EditMode, {copy}, copy, "elsewhere", -1);
+        row("edited without a choice", CustomCatalogue::EditMode, {}, "mine.ggf", "(missing)", -1);
+        row("an existing one stays", CustomCatalogue::AddMode, {"there.ggf"}, "there.ggf", "there", -1);
+        row("the existing one itself", CustomCatalogue::AddMode, {"folder/there.ggf"}, "there.ggf", "there", -1);
+        row("the last choice counts", CustomCatalogue::AddMode, {"there.ggf", copy}, copy, "elsewhere", -1);
+        row("a cancelled choice does not", CustomCatalogue::AddMode, {copy, ""}, copy, "elsewhere", -1);
+        row("covered", CustomCatalogue::AddMode, {copy}, copy, "elsewhere", 1);
+        row("not covered", CustomCatalogue::AddMode, {copy}, copy, "(missing)", 0);
+        row("folder's path too long", CustomCatalogue::AddMode, {copy}, copy, "too long", -1);
     }
 
     void modelFile() {
@@ -507,11 +574,13 @@ private Q_SLOTS:
         for (const QString& name : {QString("there.ggf"), file})
             QVERIFY(setContent(root.path() + "/elsewhere/" + name, "elsewhere"));
 
-        RecordingCatalogue catalogue;
+        GeoidsThatLookForTheFile catalogue;
+        catalogue.file = folder + file;
         fill(catalogue, geoid);
         const auto dialog = create(geoid, &catalogue, mode);
-        selectName(nameBox(dialog.get()), "mine");
-        if (mode == AddMode)
+        CustomCatalogue::selectName(nameBox(dialog.get()), "mine");
+        resolvedPaths.clear();
+        if (mode == CustomCatalogue::AddMode)
             nameBox(dialog.get())->setEditText(answer < 0 ? "new" : "mine");
         for (QString path : chosen) {
             if (!path.isEmpty() && !path.startsWith("folder/"))
@@ -529,6 +598,14 @@ private Q_SLOTS:
         QCOMPARE(contentOf(folder + file), content == "too long" ? QByteArray("(missing)") : content.toLatin1());
         QCOMPARE(contentOf(folder + "there.ggf"), QByteArray("there"));
         QCOMPARE(QDir(folder).entryList(QDir::Files).count(), content == "elsewhere" ? 2 : 1);
+        QCOMPARE(catalogue.fileWasThere, answer != 0 && (content == "elsewhere" || content == "there"));
+        const QString dataFolder = "$(APP_DIR)/../etc/Vornhalde/data/GeoidData/";
+        QStringList resolved;
+        for (int i = 0; i < chosen.count(); ++i)
+            resolved << dataFolder + "|";
+        if (!chosen.isEmpty() && answer != 0)
+            resolved << dataFolder + "%s|" + file;
+        QCOMPARE(resolvedPaths, resolved);
         QVERIFY(chosen.isEmpty() || pathBufferSize == 1000);
         QVERIFY(!QApplication::overrideCursor());
     }

@@ -2,8 +2,6 @@
 
 #include "catalogue/Sdk.h"
 
-#include <QtGlobal>
-
 ProjectionLibraryDouble& ProjectionLibraryDouble::instance() {
     static ProjectionLibraryDouble library;
     return library;
@@ -13,23 +11,49 @@ void ProjectionLibraryDouble::reset() {
     calls.clear();
     definitionIsNull = false;
     definition.clear();
-    ellipsoid = {"GRS80", 6378137.0, 6356752.314140356, "GRS 1980"};
+    projEllipsoid = {"GRS80", 6378137.0, 6356752.314140356, "GRS 1980"};
     shift = {};
+    angleFactor = 1;
     system = {};
     moduleIsMissing = false;
     readText.clear();
 }
 
-WktSystem ProjectionLibraryDouble::read(const QByteArray& wkt) {
+void ProjectionLibraryDouble::record(const char* call, ProjHandle handle) {
+    calls.append(handle == this ? QByteArray(call) : QByteArray(call) + '?');
+}
+
+ProjHandle ProjectionLibraryDouble::initialize(const char* text) {
+    calls.append(QByteArray("InitializeProj ") + text);
+    return this;
+}
+
+const char* ProjectionLibraryDouble::define(ProjHandle handle) {
+    record("GetProjDefine", handle);
+    return definitionIsNull ? nullptr : definition.constData();
+}
+
+ProjEllipsoid ProjectionLibraryDouble::ellipsoid(ProjHandle handle) {
+    record("GetProjEllipsoid", handle);
+    return projEllipsoid;
+}
+
+ProjTowgs84 ProjectionLibraryDouble::towgs84(ProjHandle handle) {
+    record("GetTowgs84", handle);
+    return shift;
+}
+
+WktSystem ProjectionLibraryDouble::readWkt(const QByteArray& wkt) {
     readText = wkt;
     return system;
 }
 
-IProjectionLibrary& ProjectionLibraryDouble::library() {
-    qFatal("The import calls the projection library through its functions.");
+QByteArray ProjectionLibraryDouble::exportWkt(const QByteArray&, const QByteArray&, const QByteArray&, WktDialect,
+                                              bool) {
+    qFatal("The import writes no WKT.");
 }
 
-IGeodesy& ProjectionLibraryDouble::geodesy() {
+std::unique_ptr<IProjectedSystem> ProjectionLibraryDouble::createSystem(const QByteArray&) {
     qFatal("The import does not compute.");
 }
 
@@ -42,23 +66,8 @@ IProjectionModule* projectionModule() {
     return library.moduleIsMissing ? nullptr : &library;
 }
 
-const char* GetProjDefine(ProjHandle) {
-    ProjectionLibraryDouble& library = ProjectionLibraryDouble::instance();
-    library.calls.append("GetProjDefine");
-    return library.definitionIsNull ? nullptr : library.definition.constData();
-}
-
-ProjEllipsoid GetProjEllipsoid(ProjHandle) {
-    ProjectionLibraryDouble::instance().calls.append("GetProjEllipsoid");
-    return ProjectionLibraryDouble::instance().ellipsoid;
-}
-
-ProjTowgs84 GetTowgs84(ProjHandle) {
-    ProjectionLibraryDouble::instance().calls.append("GetTowgs84");
-    return ProjectionLibraryDouble::instance().shift;
-}
-
 double Radian2Angle(double* value) {
-    ProjectionLibraryDouble::instance().calls.append("Radian2Angle");
-    return *value;
+    ProjectionLibraryDouble& library = ProjectionLibraryDouble::instance();
+    library.calls.append("Radian2Angle");
+    return *value * library.angleFactor;
 }

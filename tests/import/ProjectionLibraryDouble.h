@@ -1,32 +1,37 @@
 #pragma once
 
 #include "platform/projection/IProjectionModule.h"
-#include "platform/projection/IWktReader.h"
-#include "platform/projection/ProjectionLibrary.h"
 
 #include <QByteArrayList>
 
-/// The projection library and its module in one: gives back what a test has set, and records every call in order.
-class ProjectionLibraryDouble : public IProjectionModule, public IWktReader {
+/// The projection module: gives back what a test has set, and records every call in order.
+class ProjectionLibraryDouble : public IProjectionModule {
 public:
     static ProjectionLibraryDouble& instance();
 
     /// Back to the answers of GRS 1980 without a shift.
     void reset();
 
-    QByteArrayList calls;
+    QByteArrayList calls; ///< those of a handle that is not the double's end with "?"
     bool definitionIsNull = false;
     QByteArray definition;
-    ProjEllipsoid ellipsoid{};
+    ProjEllipsoid projEllipsoid{};
     ProjTowgs84 shift{};
+    double angleFactor = 1; ///< what Radian2Angle multiplies with
     WktSystem system;
     bool moduleIsMissing = false;
     QByteArray readText; ///< what the reader was given last
 
-    WktSystem read(const QByteArray& wkt) override;
+    ProjHandle initialize(const char* text) override;
+    const char* define(ProjHandle handle) override;
+    ProjEllipsoid ellipsoid(ProjHandle handle) override;
+    ProjTowgs84 towgs84(ProjHandle handle) override;
+    WktSystem readWkt(const QByteArray& wkt) override;
 
-    IProjectionLibrary& library() override;
-    IWktReader& wktReader() override { return *this; }
-    IGeodesy& geodesy() override;
+    QByteArray exportWkt(const QByteArray&, const QByteArray&, const QByteArray&, WktDialect, bool) override;
+    std::unique_ptr<IProjectedSystem> createSystem(const QByteArray&) override;
     IEpsgRegistry& registry() override;
+
+private:
+    void record(const char* call, ProjHandle handle);
 };

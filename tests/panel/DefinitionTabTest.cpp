@@ -1,4 +1,5 @@
-#include "panel/record/DefinitionImport.h"
+#include "import/WktToCoordParam.h"
+#include "panel/record/RecordDifferences.h"
 #include "support/Files.h"
 #include "support/MessageBoxDouble.h"
 #include "support/ModalDriver.h"
@@ -67,8 +68,8 @@ private Q_SLOTS:
         screen.find<QPushButton>("Save as .prj")->click();
         QCOMPARE(offered, QString("A_B_ grid.prj"));
         const DictionaryGuard imported;
-        QVERIFY(DefinitionImport::read(contentOf(folder.filePath("saved.prj")), imported.get()));
-        QCOMPARE(DefinitionImport::differences(screen.record(), *imported), QStringList());
+        QVERIFY(WktToCoordParam::write(contentOf(folder.filePath("saved.prj")), imported.get()));
+        QCOMPARE(recordDifferences(screen.record(), *imported), QStringList());
         QVERIFY(MessageBoxDouble::messages.isEmpty());
     }
 

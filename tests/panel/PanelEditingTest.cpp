@@ -252,12 +252,12 @@ private Q_SLOTS:
         QLineEdit* edit = screen.field(field.label);
         QVERIFY(edit);
         double number;
-        if (field.quantity == Quantity::TrueScaleParallel)
+        if (field.quantity == Quantity::StandardParallel)
             QCOMPARE(edit->text(), QString("30"));
         else if (record->getNumber(field.key, &number))
             QCOMPARE(edit->text().toDouble(), number);
 
-        const bool isParallel = field.quantity == Quantity::TrueScaleParallel;
+        const bool isParallel = field.quantity == Quantity::StandardParallel;
         const QString typed = isScale ? "0.99987" : field.quantity == Quantity::Length ? "-1234.5670" : "12.3450";
         screen.type(field.label, typed);
         // Every keystroke is in the record at once, but "0" and "0.", "-", and what leaves a computed radius as it is.
@@ -376,7 +376,7 @@ private Q_SLOTS:
         QCOMPARE(screen.value(factor), "1.00002");
     }
 
-    void keepsTrueScaleParallel_data() {
+    void keepsStandardParallel_data() {
         const Rows<ProjectionMethod, double, double> row({"method", "latitude", "parallel"});
         row("Mercator", ProjectionMethod::MercatorStandardParallel, 0.0, 41.0);
         row("Mercator, all digits", ProjectionMethod::MercatorStandardParallel, 0.0, 20.123456789012);
@@ -386,7 +386,7 @@ private Q_SLOTS:
         row("plain Mercator", ProjectionMethod::Mercator, 0.0, 0.0);
     }
 
-    void keepsTrueScaleParallel() {
+    void keepsStandardParallel() {
         QFETCH(ProjectionMethod, method);
         QFETCH(double, latitude);
         QFETCH(double, parallel);

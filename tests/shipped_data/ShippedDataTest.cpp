@@ -2,8 +2,9 @@
 #include "catalogue/CoordParamKey.h"
 #include "import/CoordParamToProjDefine.h"
 #include "platform/projection/IEpsgRegistry.h"
-#include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
+#include "platform/projection/engine/proj/ProjContext.h"
+#include "platform/projection/engine/proj/ProjObject.h"
 #include "platform/sdk/CatalogueFile.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
@@ -12,35 +13,26 @@
 #include <QSet>
 #include <QTest>
 
-#include <proj.h>
-
 #include <cmath>
-#include <memory>
 
 namespace {
-
-using ProjObject = std::unique_ptr<PJ, decltype(&proj_destroy)>;
-
-ProjObject owned(PJ* object) {
-    return ProjObject(object, &proj_destroy);
-}
 
 /// PROJ's own conversion from longitude and latitude (degrees, from Greenwich, on the system's datum) to the projected
 /// system of an EPSG code.
 class RegistryConversion {
 public:
     RegistryConversion(PJ_CONTEXT* context, const QByteArray& code) {
-        const auto system = owned(proj_create_from_database(context, "EPSG", code, PJ_CATEGORY_CRS, 0, nullptr));
-        const auto geodetic = owned(proj_crs_get_geodetic_crs(context, system.get()));
-        const auto axes = owned(proj_crs_get_coordinate_system(context, geodetic.get()));
+        const ProjObject system(proj_create_from_database(context, "EPSG", code, PJ_CATEGORY_CRS, 0, nullptr));
+        const ProjObject geodetic(proj_crs_get_geodetic_crs(context, system.get()));
+        const ProjObject axes(proj_crs_get_coordinate_system(context, geodetic.get()));
         proj_cs_get_axis_info(context, axes.get(), 0, nullptr, nullptr, nullptr, &unit, nullptr, nullptr, nullptr);
-        const auto meridian = owned(proj_get_prime_meridian(context, geodetic.get()));
+        const ProjObject meridian(proj_get_prime_meridian(context, geodetic.get()));
         double meridianUnit = 0.0;
         proj_prime_meridian_get_parameters(context, meridian.get(), &meridianLongitude, &meridianUnit, nullptr);
         meridianLongitude *= meridianUnit;
-        const auto operation =
-            owned(proj_create_crs_to_crs_from_pj(context, geodetic.get(), system.get(), nullptr, nullptr));
-        conversion = owned(proj_normalize_for_visualization(context, operation.get()));
+        const ProjObject operation(
+            proj_create_crs_to_crs_from_pj(context, geodetic.get(), system.get(), nullptr, nullptr));
+        conversion.reset(proj_normalize_for_visualization(context, operation.get()));
     }
 
     GridPoint toGrid(double longitude, double latitude) const {
@@ -53,7 +45,7 @@ public:
 private:
     double unit = 0.0;              // of the system's angles, in radians
     double meridianLongitude = 0.0; // radians
-    ProjObject conversion = owned(nullptr);
+    ProjObject conversion;
 };
 
 double number(const CatalogueRecord& record, const char* key) {
@@ -125,15 +117,14 @@ private Q_SLOTS:
         row("WGS 84 / UTM zone 32N", "WGS 84 / UTM North", scaled, {9, 0, 0.9996, 500000, 0});
         row("WGS 84 / UTM zone 33S", "WGS 84 / UTM South", scaled, {15, 0, 0.9996, 500000, 10000000});
         // Ordnance Survey, A guide to coordinate systems in Great Britain
-        row("OSGB36 / British National Grid", "Great Britain and Ireland", scaled,
-            {-2, 49, 0.9996012717, 400000, -100000});
+        row("OSGB36 / British National Grid", "United Kingdom", scaled, {-2, 49, 0.9996012717, 400000, -100000});
         // IOGP 373-7-2, the example of the double stereographic projection
-        row("Amersfoort / RD New", "Europe / National Grids", int(ProjectionMethod::ObliqueStereographic),
+        row("Amersfoort / RD New", "Netherlands", int(ProjectionMethod::ObliqueStereographic),
             {5.38763888888889, 52.1561605555556, 0.9999079, 155000, 463000});
         // IGN, Systèmes de référence
         row("RGF93 v2b / Lambert-93", "France", lambert, {3, 46.5, 1, 700000, 6600000, 49, 44});
         // GB/T 17798-2007, zones of 3 degrees
-        row("CGCS2000 / 3-degree Gauss-Kruger zone 39", "CGCS2000 / 3-degree Gauss-Kruger",
+        row("CGCS2000 / 3-degree Gauss-Kruger zone 39", "China / CGCS2000 / 3-degree Gauss-Kruger",
             int(ProjectionMethod::TransverseMercator), {117, 0, 1, 39500000, 0});
         // LINZS25002
         row("NZGD2000 / New Zealand Transverse Mercator 2000", "New Zealand", scaled,
@@ -141,7 +132,7 @@ private Q_SLOTS:
         // Geospatial Information Authority of Japan, plane rectangular system IX: 36 N, 139 50' E
         row("JGD2011 / Japan Plane Rectangular CS IX", "Japan / JGD2011", scaled, {139 + 50.0 / 60, 36, 0.9999, 0, 0});
         // NOAA Manual NOS NGS 5, appendix A: Colorado North
-        row("NAD83 / Colorado North", "NAD83 / State Plane and Statewide", lambert,
+        row("NAD83 / Colorado North", "United States / NAD83 / State Plane and Statewide", lambert,
             {-105.5, 39 + 20.0 / 60, 1, 914401.8289, 304800.6096, 40 + 47.0 / 60, 39 + 43.0 / 60});
     }
 
@@ -193,15 +184,14 @@ private Q_SLOTS:
             if (!system.deprecated)
                 registry.insert(QByteArray(system.name).replace(',', '-'), system);
         }
-        const std::unique_ptr<PJ_CONTEXT, decltype(&proj_context_destroy)> context(proj_context_create(),
-                                                                                   &proj_context_destroy);
+        const ProjContext context;
         for (const CoordSysGroup& group : systems.groups) {
             for (const CatalogueRecord& system : group.systems) {
                 QVERIFY2(registry.contains(system.name), system.name);
                 const RegistrySystem& entry = registry[system.name];
                 const double width = entry.east - entry.west + (entry.east < entry.west ? 360.0 : 0.0);
                 const RegistryConversion conversion(context.get(), entry.code);
-                const auto projected = module->geodesy().createSystem(coordParamToProjDefine(*system.values));
+                const auto projected = module->createSystem(coordParamToProjDefine(*system.values));
                 QVERIFY2(projected, system.name);
                 for (const double part : {0.2, 0.5, 0.8}) {
                     const double latitude = entry.south + part * (entry.north - entry.south);
@@ -222,10 +212,15 @@ private Q_SLOTS:
         // name: of every system, with %1 for what counts
         const Rows<QString, QString> row({"name", "counted"});
         row("WGS 84 / UTM North", "WGS 84 / UTM zone %1N", "1 2 3 4 5 6 7 8 9 10 11 12");
-        row("CGCS2000 / 3-degree Gauss-Kruger", "CGCS2000 / 3-degree Gauss-Kruger CM %1E",
+        row("China / CGCS2000 / 3-degree Gauss-Kruger", "CGCS2000 / 3-degree Gauss-Kruger CM %1E",
             "75 78 81 84 87 90 93 96 99 102 105");
         row("Japan / JGD2011", "JGD2011 / Japan Plane Rectangular CS %1", "I II III IV V VI VII VIII IX X XI XII XIII");
         row("Sweden", "SWEREF99 %1", "TM|12 00|13 30");
+        // What is in use today first.
+        row("Switzerland and Liechtenstein", "%1", "CH1903+ / LV95|CH1903 / LV03");
+        row("Netherlands", "Amersfoort / RD %1", "New Old");
+        row("Belgium", "%1", "ETRS89 / Belgian Lambert 2008|ETRS89 / Belgian Lambert 2005|BD72 / Belgian Lambert 72");
+        row("Nigeria", "Minna / Nigeria %1 Belt", "East Mid West"); // which are not Niger's
     }
 
     /// A group begins with these; the first group is the first that a user sees.

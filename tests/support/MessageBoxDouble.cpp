@@ -6,6 +6,13 @@
 
 QVector<MessageBoxDouble::Message> MessageBoxDouble::messages;
 QVector<int> MessageBoxDouble::answers;
+std::function<void()> MessageBoxDouble::whileShown;
+
+static void show(const MessageBoxDouble::Message& message) {
+    MessageBoxDouble::messages.append(message);
+    if (MessageBoxDouble::whileShown)
+        MessageBoxDouble::whileShown();
+}
 
 QStringList MessageBoxDouble::texts() {
     QStringList result;
@@ -17,13 +24,14 @@ QStringList MessageBoxDouble::texts() {
 void MessageBoxDouble::reset() {
     messages.clear();
     answers.clear();
+    whileShown = nullptr;
 }
 
 int VornMessageBox::information(QWidget* parent, const QString& title, const QString& text) {
-    MessageBoxDouble::messages.append({true, parent, title, text});
+    show({true, parent, title, text});
     return MessageBoxDouble::answers.isEmpty() ? 0 : MessageBoxDouble::answers.takeFirst();
 }
 
 void VornMessageBox::information_ok(QWidget* parent, const QString& title, const QString& text) {
-    MessageBoxDouble::messages.append({false, parent, title, text});
+    show({false, parent, title, text});
 }

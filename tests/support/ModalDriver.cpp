@@ -4,7 +4,9 @@
 #include <QApplication>
 #include <QDialog>
 #include <QMenu>
+#include <QPointer>
 #include <QSet>
+#include <QTest>
 #include <QTimer>
 
 namespace {
@@ -42,16 +44,22 @@ void ModalDriver::onNextDialog(const std::function<void(QDialog*)>& act) {
         driven().insert(dialog);
         QObject::connect(dialog, &QDialog::finished, [dialog] { driven().remove(dialog); });
         // Its own turn of the event loop: what is done may run nested dialogs, which other actions drive.
-        QTimer::singleShot(0, dialog, [act, dialog] { act(dialog); });
+        QTimer::singleShot(0, dialog, [act, dialog = QPointer<QDialog>(dialog)] {
+            act(dialog);
+            if (QTest::currentTestFailed() && dialog && dialog->isVisible())
+                dialog->done(QDialog::Rejected); // or the test would wait for ever
+        });
         return true;
     });
 }
 
-void ModalDriver::onNextMenu(const QString& choose, QStringList* entries) {
-    whenever([choose, entries] {
+void ModalDriver::onNextMenu(const QString& choose, QStringList* entries, QPoint* place) {
+    whenever([choose, entries, place] {
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         if (!menu)
             return false;
+        if (place)
+            *place = menu->pos();
         QAction* chosen = nullptr;
         for (QAction* action : menu->actions()) {
             if (entries)

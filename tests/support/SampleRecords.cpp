@@ -62,7 +62,7 @@ DictionaryGuard SampleRecord::record() const {
 }
 
 std::unique_ptr<IProjectedSystem> SampleRecord::system() const {
-    return projectionModule()->geodesy().createSystem(coordParamToProjDefine(*record()));
+    return projectionModule()->createSystem(coordParamToProjDefine(*record()));
 }
 
 const QVector<SampleRecord>& SampleRecord::all() {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "catalogue/DictionaryGuard.h"
-#include "platform/projection/IGeodesy.h"
+#include "platform/projection/IProjectedSystem.h"
 
 #include <QByteArrayList>
 #include <QMetaType>
 #include <QVector>
+
+#include <memory>
 
 /// One system of every method, and of every way to state a method's scale, for tests that must hold for all.
 struct SampleRecord {

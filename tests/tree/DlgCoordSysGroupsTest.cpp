@@ -2,6 +2,10 @@
 
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/Dictionary.h"
+#include "geodesy/DlgEllipsoid.h"
+#include "geodesy/DlgGeoid.h"
+#include "support/Files.h"
+#include "support/MarkingTranslator.h"
 #include "support/MessageBoxDouble.h"
 #include "support/ModalDriver.h"
 #include "support/RecordText.h"
@@ -116,6 +120,7 @@ private Q_SLOTS:
         tree = std::make_unique<DlgCoordSysGroups>(catalogue.get(), nullptr);
 
         QCOMPARE(dump(*tree), expected);
+        QVERIFY(tree->isAnimated() && tree->isHeaderHidden());
         QTreeWidgetItem* root = tree->topLevelItem(0);
         QCOMPARE(tree->topLevelItemCount(), 1);
         QCOMPARE(root->text(0), QString("CoordSysGroup"));
@@ -179,8 +184,11 @@ private Q_SLOTS:
         QFETCH(QStringList, expected);
         startTree();
         QStringList entries;
-        rightClick(path, QString(), &entries);
+        QPoint place;
+        QCursor::setPos(123, 45); // the menu comes where the mouse is by now
+        rightClick(path, QString(), &entries, &place);
         QCOMPARE(entries, expected);
+        QCOMPARE(place, QPoint(123, 45));
         if (path != "empty")
             QCOMPARE(tree->currentItem(), itemAtPath(*tree, path));
     }
@@ -256,7 +264,152 @@ private Q_SLOTS:
         const QString what = on.contains('/') ? "system " : "system group ";
         const QString asked = "?Warning|are you sure delete coord " + what + on.section('/', -1) + " ?";
         QCOMPARE(MessageBoxDouble::texts(), question ? QStringList(asked) : QStringList());
+        if (question)
+            QCOMPARE(MessageBoxDouble::messages[0].parent, tree.get());
         QVERIFY(tree->currentItem()->parent() == nullptr || tree->currentItem()->parent()->isExpanded());
+    }
+
+    void currentNames_data() {
+        // What is done, with the name typed; then the group that an import goes to and the system that is current.
+        const Rows<QStringList, QString, QString, QString> row({"clicked", "command", "group", "system"});
+        row("nothing", {}, "", "", "");
+        row("click", {"B/b1"}, "", "B", "b1");
+        row("click on a group", {"B/b1", "A"}, "", "B", "b1");
+        row("add a group", {"A/same"}, "root|AddSysGroup|N", "N", "same");
+        row("rename a group", {"A/same"}, "B|EditSysGroup|B2", "B2", "same");
+        row("rename a system", {"A/same"}, "B/b1|EditSys|b2", "A", "b2");
+        row("add a system", {"A/same"}, "B|AddCoordSys|new", "A", "same");
+        row("delete the group", {"A/same"}, "A|DelSysGroup", "A", "same");
+    }
+
+    /// Who writes the tree's current names. An import, whose rebuild keeps both, shows the group; renaming a group
+    /// announces the system.
+    void currentNames() {
+        QFETCH(QStringList, clicked);
+        QFETCH(QString, command);
+        QFETCH(QString, group);
+        QFETCH(QString, system);
+        const QTemporaryDir folder;
+        const QString file = folder.filePath("a.prj");
+        QVERIFY(setContent(file, R"(PROJCS["new one",GEOGCS["g",DATUM["d",SPHEROID["s",6378137,298.25]],PRIMEM["p",0],)"
+                                 R"(UNIT["degree",0.0174532925199433]],PROJECTION["Mercator_1SP"],UNIT["metre",1]])"));
+        startTree();
+        for (const QString& path : clicked)
+            leftClick(path);
+        MessageBoxDouble::answers = {1};
+        if (command.count('|') == 2)
+            answerNameDialog(command.section('|', 2));
+        if (!command.isEmpty())
+            rightClick(command.section('|', 0, 0), command.section('|', 1, 1));
+        for (int i = 0; i < 2; ++i) {
+            catalogue->takeCalls();
+            ModalDriver::onNextDialog([&](QDialog* dialog) {
+                dialog->findChild<QLineEdit*>("fileNameEdit")->setText(file);
+                QMetaObject::invokeMethod(dialog, "accept");
+            });
+            QMetaObject::invokeMethod(tree.get(), "_onImpCoordSystem");
+            QCOMPARE(catalogue->takeCalls().value(0), "getGroup(" + group + ")");
+        }
+        tree->expandAll();
+        answerNameDialog("C2");
+        rightClick("C", "EditSysGroup");
+        QVERIFY(catalogue->takeCalls().contains("treeItemClicked(C2," + system + ")"));
+    }
+
+    void toolTipIsTheNameLetterForLetter_data() {
+        const Rows<QString> row({"name"});
+        row("plain", "a1");
+        row("markup", "<b>x  &amp; y");
+        row("added", "<u>new");
+    }
+
+    void toolTipIsTheNameLetterForLetter() {
+        QFETCH(QString, name);
+        if (name.contains("amp"))
+            catalogue->addTestSystem("A", name);
+        startTree();
+        if (name.contains("new")) {
+            leftClick("A");
+            answerNameDialog(name);
+            tree->addCoordGroup();
+        }
+        QCOMPARE(itemAtPath(*tree, "A/" + name)->toolTip(0), name);
+        const QPoint pos = tree->visualItemRect(itemAtPath(*tree, "A/" + name)).center();
+        QHelpEvent event(QEvent::ToolTip, pos, tree->viewport()->mapToGlobal(pos));
+        QApplication::sendEvent(tree->viewport(), &event);
+        QTextDocument read;
+        if (Qt::mightBeRichText(QToolTip::text()))
+            read.setHtml(QToolTip::text());
+        else
+            read.setPlainText(QToolTip::text());
+        QCOMPARE(read.toPlainText(), name);
+        QToolTip::hideText();
+    }
+
+    void textsAreTranslated() {
+        const MarkingTranslator translator;
+        startTree();
+        const QString own = "DlgCoordSysGroups:";
+        QCOMPARE(tree->topLevelItem(0)->text(0), own + "CoordSysGroup");
+        QStringList entries;
+        for (const char* path : {"root", "B", "A/a1"})
+            rightClick(path, QString(), &entries);
+        QCOMPARE(entries, (QStringList{own + "AddSysGroup", "QObject:Edit Ellipsoid", "QObject:AddGeoid",
+                                       own + "ImportCoordSys", own + "AddCoordSys", own + "EditSysGroup",
+                                       own + "DelSysGroup", own + "EditSys", own + "DelSys"}));
+        const QVector<QPair<QString, QString>> naming{
+            {"root", "AddSysGroup"}, {"B", "AddCoordSys"}, {"B", "EditSysGroup"}, {"A/a1", "EditSys"}};
+        for (const auto& command : naming) {
+            ModalDriver::onNextDialog([&](QDialog* dialog) {
+                QCOMPARE(dialog->windowTitle(), own + command.second);
+                dialog->reject();
+            });
+            rightClick(command.first, own + command.second);
+            QCOMPARE(ModalDriver::pending(), 0);
+        }
+        rightClick("B", own + "DelSysGroup");
+        rightClick("A/a1", own + "DelSys");
+        QCOMPARE(MessageBoxDouble::texts(),
+                 (QStringList{"?QObject:Warning|" + own + "are you sure delete coord system group B ?",
+                              "?QObject:Warning|" + own + "are you sure delete coord system a1 ?"}));
+    }
+
+    void catalogueDialogs_data() {
+        // `announced` is empty where nothing is.
+        const Rows<QString, QString, QString> row({"clicked", "announced", "currentAfter"});
+        row("nothing was clicked", "", "", "CoordSysGroup");
+        row("announced anew", "A/a1", "treeItemClicked(A,a1)", "A/a1");
+        row("the last item of that name, though hidden", "A/same", "treeItemClicked(B,same)", "B/same");
+        row("the last item is a group", "A/C", "", "C");
+    }
+
+    /// Each entry opens its own dialog, in list mode, and afterwards the current system is announced once more.
+    void catalogueDialogs() {
+        QFETCH(QString, clicked);
+        QFETCH(QString, announced);
+        QFETCH(QString, currentAfter);
+        catalogue->addTestSystem("A", "C");
+        startTree();
+        itemAtPath(*tree, "B/same")->setHidden(true);
+        for (const bool geoids : {false, true}) {
+            if (!clicked.isEmpty())
+                leftClick(clicked);
+            catalogue->takeCalls();
+            ModalDriver::onNextDialog([&](QDialog* dialog) {
+                QVERIFY(geoids ? qobject_cast<DlgGeoid*>(dialog) != nullptr
+                               : qobject_cast<DlgEllipsoid*>(dialog) != nullptr);
+                QCOMPARE(dialog->parentWidget(), tree.get());
+                QCOMPARE(dialog->findChildren<QDialogButtonBox*>().count(), 0); // those of add and edit mode
+                catalogue->takeCalls();
+                dialog->reject();
+            });
+            rightClick("root", geoids ? "AddGeoid" : "Edit Ellipsoid");
+            QCOMPARE(ModalDriver::pending(), 0);
+            QCOMPARE(catalogue->takeCalls(), announced.isEmpty() ? QStringList() : QStringList(announced));
+            QCOMPARE(pathOf(tree->currentItem()), currentAfter);
+            if (!tree->currentItem()->isHidden())
+                QCOMPARE(tree->selectedItems(), QList<QTreeWidgetItem*>{tree->currentItem()});
+        }
     }
 
     void newSystemTakesTheBottomEllipsoid() {
@@ -315,10 +468,11 @@ private Q_SLOTS:
     void nameDialogIsPreparedAnew() {
         startTree();
         QStringList seen;
-        const auto look = [&seen](bool byCancelButton) {
-            ModalDriver::onNextDialog([&seen, byCancelButton](QDialog* dialog) {
+        const auto look = [this, &seen](bool byCancelButton) {
+            ModalDriver::onNextDialog([this, &seen, byCancelButton](QDialog* dialog) {
                 auto* input = qobject_cast<DlgInputName*>(dialog);
                 QVERIFY(input);
+                QCOMPARE(input->parentWidget(), tree.get());
                 seen << QString("%1|%2|%3|%4|%5|%6")
                             .arg(input->windowTitle(), input->groupName, input->coordName)
                             .arg(input->nameType)
@@ -346,41 +500,6 @@ private Q_SLOTS:
         QCOMPARE(seen, once + once);
     }
 
-    void nameDialogChecks_data() {
-        const Rows<int, QString, QString> row({"nameType", "typed", "message"});
-        const QString content = "please input valid content!";
-        const QString sameGroup = "has same as coord group name!", sameSystem = "has same as coord system name!";
-        for (const int type : {0, 1}) {
-            row("empty", type, "", content);
-            row("comma", type, "x,y", content);
-        }
-        row("group: blanks pass", 0, "  ", {});
-        row("group: taken, or unchanged", 0, "A", sameGroup);
-        row("group: other case passes", 0, "a", {});
-        row("group: a system's name passes", 0, "a1", {});
-        row("system: taken, or unchanged", 1, "a1", sameSystem);
-        row("system: taken in another group only", 1, "b1", {});
-        row("system: a group's name passes", 1, "A", {});
-        row("any other type asks for a system", 7, "a1", sameSystem);
-    }
-
-    void nameDialogChecks() {
-        QFETCH(int, nameType);
-        QFETCH(QString, typed);
-        QFETCH(QString, message);
-        DlgInputName dialog(nullptr, catalogue.get());
-        QCOMPARE(dialog.windowTitle(), QString("please input name"));
-        dialog.groupName = "A";
-        dialog.nameType = nameType;
-        dialog.nameEdit->setText(typed);
-        dialog.show();
-        QTest::keyClick(dialog.nameEdit, Qt::Key_Return);
-        QCOMPARE(dialog.isVisible(), !message.isNull());
-        QCOMPARE(dialog.result(), message.isNull() ? int(QDialog::Accepted) : int(QDialog::Rejected));
-        QCOMPARE(dialog.getName(), typed);
-        QCOMPARE(MessageBoxDouble::texts(), message.isNull() ? QStringList() : QStringList("information|" + message));
-    }
-
 private:
     void startTree() {
         tree = std::make_unique<DlgCoordSysGroups>(catalogue.get(), nullptr);
@@ -401,10 +520,11 @@ private:
         QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, pos);
     }
 
-    void rightClick(const QString& path, const QString& entry, QStringList* entries = nullptr) {
+    void rightClick(const QString& path, const QString& entry, QStringList* entries = nullptr,
+                    QPoint* place = nullptr) {
         const QPoint pos = path == "empty" ? QPoint(20, tree->viewport()->height() - 5)
                                            : tree->visualItemRect(itemAtPath(*tree, path)).center();
-        ModalDriver::onNextMenu(entry, entries);
+        ModalDriver::onNextMenu(entry, entries, place);
         QTest::mousePress(tree->viewport(), Qt::RightButton, Qt::NoModifier, pos);
         QContextMenuEvent event(QContextMenuEvent::Mouse, pos, tree->viewport()->mapToGlobal(pos));
         QApplication::sendEvent(tree->viewport(), &event);

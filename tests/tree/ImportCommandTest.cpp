@@ -1,5 +1,6 @@
 #include "catalogue/Dictionary.h"
 #include "support/Files.h"
+#include "support/MarkingTranslator.h"
 #include "support/MessageBoxDouble.h"
 #include "support/ModalDriver.h"
 #include "support/RecordText.h"
@@ -88,10 +89,18 @@ private Q_SLOTS:
         tree->setCurrentItem(tree->topLevelItem(0)->child(1));
         catalogue->takeCalls();
         const int otherDictionaries = dictionary_alive_count() - catalogue->recordCount();
+        QStringList released; // the messages that no record of the file outlives
+        MessageBoxDouble::whileShown = [&] {
+            if (dictionary_alive_count() - catalogue->recordCount() == otherDictionaries)
+                released << MessageBoxDouble::texts().last();
+        };
         chooseFiles(files);
         runImport();
 
         QCOMPARE(MessageBoxDouble::texts(), messages);
+        QStringList beforeTheRecord = messages;
+        beforeTheRecord.removeAll(exists);
+        QCOMPARE(released, beforeTheRecord);
         for (const auto& message : qAsConst(MessageBoxDouble::messages))
             QCOMPARE(message.parent, static_cast<QWidget*>(tree.get()));
         const QStringList calls = catalogue->takeCalls();
@@ -114,29 +123,74 @@ private Q_SLOTS:
 
     void longImportShowsProgressAndCanBeCancelled() {
         // 2 s of work, of which Cancel after the first half second spares the user the rest.
-        QStringList files;
-        for (int i = 0; i < 100; ++i) {
-            files << QString("%1.prj").arg(i, 3, 10, QLatin1Char('0'));
-            QVERIFY(QFile::copy(folder.filePath("one.prj"), folder.filePath(files.last())));
-        }
+        const QStringList files = copies(100, [](int i) { return projected("System " + QByteArray::number(i)); });
         startTree(std::make_unique<SlowCatalogue>());
         tree->selectFirstCoordSystem();
         chooseFiles(files);
         QString label;
-        ModalDriver::onNextDialog([&label](QDialog* dialog) {
+        ModalDriver::onNextDialog([&](QDialog* dialog) {
             auto* progress = qobject_cast<QProgressDialog*>(dialog);
+            QCOMPARE(progress->windowTitle(), QString("ImportCoordSys"));
+            QCOMPARE(progress->parentWidget(), tree.get());
+            QCOMPARE(progress->maximum(), 100);
+            QCOMPARE(progress->findChild<QLabel*>()->textFormat(), Qt::PlainText);
             label = progress->labelText();
+            QCOMPARE(files[progress->value()], label);
             progress->cancel();
         });
         runImport();
 
-        // One was added; every other file until Cancel had its message.
-        const int imported = MessageBoxDouble::messages.count() + 1;
+        const int imported = catalogue->group("A")->systems.count() - 1;
         QCOMPARE(label, files[imported]);
-        QVERIFY2(imported < files.count() - 1, "the rest is left out after Cancel");
-        QVERIFY(catalogue->group("A")->systems.find("One"));
+        QVERIFY2(imported > 0 && imported < files.count() - 1, "the rest is left out after Cancel");
+        QCOMPARE(MessageBoxDouble::texts(), QStringList());
         QCOMPARE(catalogue->takeCalls().last(), QString("dataChanged()"));
         QCOMPARE(ModalDriver::pending(), 0);
+    }
+
+    void textsAreTranslated() {
+        const MarkingTranslator translator;
+        startTree();
+        tree->selectFirstCoordSystem();
+        const QString own = "DlgCoordSysGroups:";
+        chooseFiles({"same.prj", "rubbish.txt", "geographic.prj"}, own + "Selecte WKT file");
+        runImport(own + "ImportCoordSys");
+        const QString title = own + "Warning|" + own;
+        QCOMPARE(MessageBoxDouble::texts(),
+                 (QStringList{title + "The Imported projection coordinates already exist in the group!",
+                              title + "Import file failed!", title + "Import file isn't projection coordinates!"}));
+    }
+
+    /// Message on message: from the fourth on the progress window comes between them, long enough to press Cancel, and
+    /// is never in the way of a message.
+    void messagesLeaveCancelInReach() {
+        startTree();
+        chooseFiles(copies(6, [](int) { return QByteArray("rubbish"); }));
+        const auto progressWindow = [] {
+            for (QWidget* window : QApplication::topLevelWidgets())
+                if (window->isVisible() && qobject_cast<QProgressDialog*>(window))
+                    return window;
+            return static_cast<QWidget*>(nullptr);
+        };
+        QElapsedTimer sinceMessage;
+        qint64 pause = 0;
+        MessageBoxDouble::whileShown = [&] {
+            QVERIFY(!progressWindow());
+            if (MessageBoxDouble::messages.count() == 4) {
+                pause = sinceMessage.elapsed();
+                QTimer::singleShot(100, qApp, [&] {
+                    QVERIFY(progressWindow());
+                    auto* cancel = progressWindow()->findChild<QPushButton*>();
+                    QTest::keyClick(progressWindow(), Qt::Key_Return); // of an impatient user
+                    QVERIFY(progressWindow());
+                    QTest::mouseClick(cancel, Qt::LeftButton);
+                });
+            }
+            sinceMessage.start();
+        };
+        runImport();
+        QCOMPARE(MessageBoxDouble::messages.count(), 4);
+        QVERIFY2(pause >= 900, QByteArray::number(pause));
     }
 
 private:
@@ -152,13 +206,25 @@ private:
         MessageBoxDouble::reset();
     }
 
-    void chooseFiles(const QStringList& names) {
+    /// The names of `count` new files with the content that `contentOf` gives for each.
+    QStringList copies(int count, const std::function<QByteArray(int)>& contentOf) const {
+        QStringList files;
+        for (int i = 0; i < count; ++i) {
+            files << QString("%1.prj").arg(i, 3, 10, QLatin1Char('0'));
+            setContent(folder.filePath(files.last()), contentOf(i));
+        }
+        return files;
+    }
+
+    void chooseFiles(const QStringList& names, const QString& caption = "Selecte WKT file") {
         QStringList quoted;
         for (const QString& name : names)
             quoted << '"' + folder.filePath(name) + '"';
-        ModalDriver::onNextDialog([quoted](QDialog* dialog) {
+        ModalDriver::onNextDialog([this, quoted, caption](QDialog* dialog) {
             auto* fileDialog = qobject_cast<QFileDialog*>(dialog);
-            QCOMPARE(fileDialog->windowTitle(), QString("Selecte WKT file"));
+            QCOMPARE(fileDialog->windowTitle(), caption);
+            QCOMPARE(fileDialog->parentWidget(), tree.get());
+            QCOMPARE(fileDialog->selectedNameFilter(), QString("*.txt"));
             QCOMPARE(fileDialog->nameFilters(), (QStringList{"*.txt", "*.prj"}));
             QCOMPARE(fileDialog->fileMode(), QFileDialog::ExistingFiles);
             if (quoted.isEmpty())
@@ -168,9 +234,9 @@ private:
         });
     }
 
-    void runImport() const {
+    void runImport(const QString& entry = "ImportCoordSys") const {
         for (QAction* action : tree->findChildren<QAction*>())
-            if (action->text() == "ImportCoordSys")
+            if (action->text() == entry)
                 action->trigger();
     }
 

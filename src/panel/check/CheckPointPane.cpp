@@ -218,10 +218,10 @@ void CheckPointPane::showResults() {
         return;
     }
     const LocalScale& scale = point->scale;
-    const bool conformal = scale.largest - scale.smallest < 1e-7;
-    results[ScaleFactor]->setText(conformal ? factorText(scale.mean)
-                                            : PanelText::tr("along the meridian %1\nalong the parallel %2")
-                                                  .arg(factorText(scale.meridian), factorText(scale.parallel)));
+    results[ScaleFactor]->setText(scale.isConformal()
+                                      ? factorText(scale.mean)
+                                      : PanelText::tr("along the meridian %1\nalong the parallel %2")
+                                            .arg(factorText(scale.meridian), factorText(scale.parallel)));
     results[Convergence]->setText(
         CheckField::angleText(scale.convergence, 7) +
         (AngleText::notation() == AngleNotation::DecimalDegrees ? QStringLiteral("°") : QString()));

@@ -222,8 +222,8 @@ void DistortionPane::propose() {
     IProjectionModule* const module = projectionModule();
     designProposal.reset();
     if (projection() && module)
-        designProposal = DesignProposal::make(system->record(), module->geodesy(), designPoints(), heightBox->value(),
-                                              design->placesLine());
+        designProposal =
+            DesignProposal::make(system->record(), *module, designPoints(), heightBox->value(), design->placesLine());
     if (projection())
         design->showProposal(DesignProposal::isPossible(system->record()), DesignProposal::lineField(system->record()),
                              designProposal);

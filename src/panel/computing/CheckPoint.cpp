@@ -1,16 +1,16 @@
 #include "panel/computing/CheckPoint.h"
 
+#include "catalogue/Angle.h"
+
 #include <cmath>
 
 namespace {
 
-constexpr double degree = 3.141592653589793 / 180.0;
-
 /// Metres between two places close to each other, on a sphere of the radius `radius`.
 double distance(const GeographicPoint& left, const GeographicPoint& right, double radius) {
-    const double north = (left.latitude - right.latitude) * degree * radius;
-    const double east =
-        std::remainder(left.longitude - right.longitude, 360.0) * degree * radius * std::cos(left.latitude * degree);
+    const double north = Angle::toRadians(left.latitude - right.latitude) * radius;
+    const double east = Angle::toRadians(std::remainder(left.longitude - right.longitude, 360.0)) * radius *
+                        std::cos(Angle::toRadians(left.latitude));
     return std::hypot(north, east, left.height - right.height);
 }
 
@@ -25,8 +25,7 @@ std::optional<CheckPoint> describe(const IProjectedSystem& system, const Geograp
     const auto scale = system.localScale(own);
     if ((system.hasDatumShift() && !wgs84) || !scale)
         return std::nullopt;
-    const double radius = system.meanRadius(own.latitude);
-    return CheckPoint{own, wgs84, {}, *scale, radius / (radius + own.height), 0.0};
+    return CheckPoint{own, wgs84, {}, *scale, system.elevationFactor(own.latitude, own.height), 0.0};
 }
 
 } // namespace

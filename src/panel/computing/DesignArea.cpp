@@ -1,6 +1,6 @@
 #include "panel/computing/DesignArea.h"
 
-#include <QtMath>
+#include "catalogue/Angle.h"
 
 #include <cmath>
 
@@ -19,12 +19,12 @@ GeographicPoint DesignArea::place(double east, double north) const {
     if (distance == 0.0)
         return {centre.latitude, centre.longitude, 0.0};
     const double angle = distance / earthRadius;
-    const double latitude = qDegreesToRadians(centre.latitude);
+    const double latitude = Angle::toRadians(centre.latitude);
     const double sine = std::cos(angle) * std::sin(latitude) + y * std::sin(angle) * std::cos(latitude) / distance;
     const double turn = std::atan2(x * std::sin(angle), distance * std::cos(latitude) * std::cos(angle) -
                                                             y * std::sin(latitude) * std::sin(angle));
-    return {qRadiansToDegrees(std::asin(qBound(-1.0, sine, 1.0))),
-            std::remainder(centre.longitude + qRadiansToDegrees(turn), 360.0), 0.0};
+    return {Angle::toDegrees(std::asin(qBound(-1.0, sine, 1.0))),
+            std::remainder(centre.longitude + Angle::toDegrees(turn), 360.0), 0.0};
 }
 
 QVector<GeographicPoint> DesignArea::nodes(int perSide) const {

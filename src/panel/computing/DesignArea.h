@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/projection/IGeodesy.h"
+#include "platform/projection/IProjectedSystem.h"
 
 #include <QVector>
 

@@ -6,7 +6,7 @@
 #include "panel/record/CoordParamEditor.h"
 #include "panel/record/NumberText.h"
 #include "panel/record/ProjectionFields.h"
-#include "panel/record/TrueScaleParallel.h"
+#include "panel/record/StandardParallel.h"
 
 #include <limits>
 
@@ -38,12 +38,12 @@ struct Bounds {
 /// What the area's points say of one candidate.
 class Trial {
 public:
-    Trial(IGeodesy& geodesy, const QVector<GeographicPoint>& points, double height)
-        : geodesy(geodesy), points(points), height(height) {}
+    Trial(IProjectionModule& module, const QVector<GeographicPoint>& points, double height)
+        : module(module), points(points), height(height) {}
 
     /// The bounds of k * R / (R + h) in the system that `record` defines.
     std::optional<Bounds> factors(const IDictionary& record) const {
-        const auto system = geodesy.createSystem(coordParamToProjDefine(record));
+        const auto system = module.createSystem(coordParamToProjDefine(record));
         if (!system)
             return std::nullopt;
         Bounds factors;
@@ -51,8 +51,7 @@ public:
             const auto scale = system->localScale(point);
             if (!scale)
                 return std::nullopt;
-            const double radius = system->meanRadius(point.latitude);
-            factors.add(scale->mean * radius / (radius + height));
+            factors.add(scale->mean * system->elevationFactor(point.latitude, height));
         }
         return factors;
     }
@@ -82,7 +81,7 @@ public:
     }
 
 private:
-    IGeodesy& geodesy;
+    IProjectionModule& module;
     const QVector<GeographicPoint>& points;
     double height;
 };
@@ -154,7 +153,7 @@ bool DesignProposal::isPossible(const IDictionary& record) {
     const ProjectionFields* const projection = ProjectionFields::ofRecord(record);
     if (!projection || !projection->field(Key::factor))
         return false;
-    return projection->method != ProjectionMethod::Stereographic || !TrueScaleParallel::ofRecord(record);
+    return projection->method != ProjectionMethod::Stereographic || !StandardParallel::ofRecord(record);
 }
 
 const ParamField* DesignProposal::lineField(const IDictionary& record) {
@@ -172,10 +171,10 @@ const ParamField* DesignProposal::lineField(const IDictionary& record) {
     }
 }
 
-std::optional<DesignProposal> DesignProposal::make(const IDictionary& record, IGeodesy& geodesy,
+std::optional<DesignProposal> DesignProposal::make(const IDictionary& record, IProjectionModule& module,
                                                    const QVector<GeographicPoint>& points, double height,
                                                    bool placeLine) {
-    const Trial trial(geodesy, points, height);
+    const Trial trial(module, points, height);
     DesignProposal proposal;
     const auto before = trial.distortion(record);
     if (!isPossible(record) || points.isEmpty() || !before)

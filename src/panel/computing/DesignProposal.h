@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/projection/IGeodesy.h"
+#include "platform/projection/IProjectionModule.h"
 
 #include <QVector>
 
@@ -46,7 +46,7 @@ public:
     /// Proposes for `points` (one or more, on the system's datum; their heights play no part) at the ellipsoidal height
     /// `height` in metres; with `placeLine` also the line. Without changes where the system is as good as it can be;
     /// nothing when it is not possible or the projection gives no result at a point.
-    static std::optional<DesignProposal> make(const IDictionary& record, IGeodesy& geodesy,
+    static std::optional<DesignProposal> make(const IDictionary& record, IProjectionModule& module,
                                               const QVector<GeographicPoint>& points, double height, bool placeLine);
 
     /// The line that `placeLine` places, or null.

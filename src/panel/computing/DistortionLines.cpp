@@ -3,7 +3,7 @@
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/Dictionary.h"
 #include "panel/record/ProjectionFields.h"
-#include "panel/record/TrueScaleParallel.h"
+#include "panel/record/StandardParallel.h"
 
 #include <algorithm>
 #include <cmath>
@@ -38,15 +38,15 @@ std::vector<double> standardLatitudes(const IDictionary& record, const Projectio
         if (projection.field(key))
             latitudes.push_back(dictionary_number(record, key, 0.0));
     }
-    const auto trueScale =
-        projection.field(CoordParamKey::cuttingRadius) ? TrueScaleParallel::ofRecord(record) : std::nullopt;
-    if (!trueScale)
+    const auto parallel =
+        projection.field(CoordParamKey::cuttingRadius) ? StandardParallel::ofRecord(record) : std::nullopt;
+    if (!parallel)
         return latitudes;
     if (projection.method == ProjectionMethod::MercatorStandardParallel) {
-        latitudes.push_back(*trueScale);
-        latitudes.push_back(-*trueScale);
+        latitudes.push_back(*parallel);
+        latitudes.push_back(-*parallel);
     } else if (std::abs(dictionary_number(record, CoordParamKey::orgLat, 0.0)) == 90.0) {
-        latitudes.push_back(std::copysign(*trueScale, dictionary_number(record, CoordParamKey::orgLat, 0.0)));
+        latitudes.push_back(std::copysign(*parallel, dictionary_number(record, CoordParamKey::orgLat, 0.0)));
     }
     return latitudes;
 }

@@ -15,7 +15,7 @@ std::shared_ptr<const ShownSystem> ShownSystem::of(const IDictionary& record, co
     if (earlier && earlier->definition == system->definition)
         system->projected = earlier->projected;
     else
-        system->projected = projectionModule()->geodesy().createSystem(system->definition);
+        system->projected = projectionModule()->createSystem(system->definition);
     return system;
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "catalogue/DictionaryGuard.h"
-#include "platform/projection/IGeodesy.h"
+#include "platform/projection/IProjectedSystem.h"
 
 #include <QByteArray>
 #include <QString>
+
+#include <memory>
 
 /// A system as it is shown: a copy of its record, and the projection that this record defines. It never changes; all
 /// that draw it or compute with it share it, so whatever event reaches them, they hold what they look at.

@@ -1,9 +1,10 @@
 #include "panel/record/CoordParamEditor.h"
 
+#include "import/ParallelRadius.h"
 #include "panel/record/DatumFields.h"
 #include "panel/record/ProjectionAdvice.h"
 #include "panel/record/ProjectionFields.h"
-#include "panel/record/TrueScaleParallel.h"
+#include "panel/record/StandardParallel.h"
 
 #include <cmath>
 #include <cstring>
@@ -18,7 +19,7 @@ bool sameText(const char* text, const char* other) {
     return text && other && std::strcmp(text, other) == 0;
 }
 
-/// Whether the method's parallel of true scale is for the user to choose.
+/// Whether the method's standard parallel is for the user to choose.
 bool hasParallel(std::optional<ProjectionMethod> method) {
     return method == ProjectionMethod::MercatorStandardParallel || method == ProjectionMethod::Stereographic;
 }
@@ -45,11 +46,11 @@ bool CoordParamEditor::setField(const ParamField& field, const FieldInput& input
     double number;
     if (!input.valid)
         return false;
-    const std::optional<double> axis = semiMajorAxis(), parallel = TrueScaleParallel::ofRecord(*values);
-    if (field.quantity == Quantity::TrueScaleParallel) {
+    const std::optional<double> axis = semiMajorAxis(), parallel = StandardParallel::ofRecord(*values);
+    if (field.quantity == Quantity::StandardParallel) {
         // Without an axis there is no radius to keep the parallel by.
         const bool isNone = field.optional && input.value == 0.0;
-        return axis && putNumber(field.key, isNone ? 0.0 : TrueScaleParallel::radius(*axis, input.value));
+        return axis && putNumber(field.key, isNone ? 0.0 : ParallelRadius::ofLatitude(*axis, input.value));
     }
     if (sameText(values->getValue(field.key), input.text.constData()) && !values->getNumber(field.key, &number))
         return false;
@@ -71,7 +72,7 @@ bool CoordParamEditor::putNumber(const char* key, double value) {
 }
 
 void CoordParamEditor::setEllipsoid(const IDictionary& ellipsoid) {
-    const std::optional<double> axis = semiMajorAxis(), parallel = TrueScaleParallel::ofRecord(*values);
+    const std::optional<double> axis = semiMajorAxis(), parallel = StandardParallel::ofRecord(*values);
     for (const char* key : {ellipsoidName, ellipsoidA, ellipsoidF})
         dictionary_copy(values.get(), &ellipsoid, key, noSeparator);
     followAxis(axis, parallel);
@@ -107,7 +108,7 @@ void CoordParamEditor::followAxis(std::optional<double> axisBefore, std::optiona
 void CoordParamEditor::setParallel(std::optional<double> parallel) {
     const std::optional<double> a = semiMajorAxis();
     if (a)
-        putNumber(cuttingRadius, parallel ? TrueScaleParallel::radius(*a, *parallel) : 0.0);
+        putNumber(cuttingRadius, parallel ? ParallelRadius::ofLatitude(*a, *parallel) : 0.0);
 }
 
 void CoordParamEditor::setMethod(ProjectionMethod chosen) {
@@ -129,9 +130,9 @@ void CoordParamEditor::chooseParallel(std::optional<ProjectionMethod> before) {
     } else if (!hadParallel && hasParallelNow && replacedRadius->getValue(cuttingRadius)) {
         dictionary_copy(values.get(), replacedRadius.get(), cuttingRadius, noSeparator);
         if (!sameText(values->getValue(ellipsoidA), replacedRadius->getValue(ellipsoidA)))
-            setParallel(TrueScaleParallel::ofRecord(*replacedRadius));
+            setParallel(StandardParallel::ofRecord(*replacedRadius));
     }
-    const std::optional<double> parallel = TrueScaleParallel::ofRecord(*values);
+    const std::optional<double> parallel = StandardParallel::ofRecord(*values);
     if (method() == ProjectionMethod::Mercator || (method() == ProjectionMethod::MercatorStandardParallel && !parallel))
         setParallel(0.0);
     else if (method() == ProjectionMethod::Stereographic && (!parallel || *parallel == 0.0))
@@ -149,17 +150,17 @@ double CoordParamEditor::initialValue(const ProjectionFields& fields, const Para
 void CoordParamEditor::complete(const ProjectionFields& fields) {
     const bool degenerate = ProjectionAdvice::isDegenerate(fields, *values);
     for (const ParamField& field : fields.fields) {
-        if (field.quantity == Quantity::TrueScaleParallel)
+        if (field.quantity == Quantity::StandardParallel)
             continue;
         const bool isPartOfLine = field.quantity == Quantity::Latitude && !field.is(orgLat);
         double value;
         if (!field.read(*values, &value) || !field.accepts(value) || (degenerate && isPartOfLine))
             put(field.key, initialValue(fields, field));
     }
-    // Gauss-Krüger has the scale factor 1, and only Gauss-Krüger; beside a parallel of true scale it is 1 as well.
+    // Gauss-Krüger has the scale factor 1, and only Gauss-Krüger; beside a standard parallel it is 1 as well.
     const bool isScaleOne = dictionary_number(*values, factor, 0.0) == 1.0;
     const bool mustBeOne = fields.method == ProjectionMethod::TransverseMercator ||
-                           (fields.method == ProjectionMethod::Stereographic && TrueScaleParallel::ofRecord(*values));
+                           (fields.method == ProjectionMethod::Stereographic && StandardParallel::ofRecord(*values));
     if ((mustBeOne && !isScaleOne) || (fields.method == ProjectionMethod::TransverseMercatorScaled && isScaleOne))
         put(factor, fields.field(factor)->initial);
 }
@@ -216,7 +217,7 @@ void CoordParamEditor::setGeoid(const char* name) {
 }
 
 void CoordParamEditor::replaceValues(const IDictionary& source) {
-    const std::optional<double> axis = semiMajorAxis(), parallel = TrueScaleParallel::ofRecord(*values);
+    const std::optional<double> axis = semiMajorAxis(), parallel = StandardParallel::ofRecord(*values);
     if (source.getValue(shiftType)) {
         for (const ParamField& field : DatumFields::shift())
             values->remove(field.key);

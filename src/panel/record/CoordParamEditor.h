@@ -11,7 +11,7 @@ struct ProjectionFields;
 
 /// Edits one parameter record. A change of one key also changes the keys that depend on it by definition, and no other:
 /// - transverse Mercator is method 0 with the scale factor 1 and method 1 with any other;
-/// - "cutting_radius" follows the semi-major axis, so that the parallel of true scale stays where it is.
+/// - "cutting_radius" follows the semi-major axis, so that the standard parallel stays where it is.
 class CoordParamEditor {
 public:
     const IDictionary& record() const { return *values; }
@@ -62,5 +62,5 @@ private:
     DictionaryGuard values;
     DictionaryGuard replaced;       ///< values that the choice of a method replaced
     DictionaryGuard initial;        ///< and by what
-    DictionaryGuard replacedRadius; ///< radius and axis of the parallel of true scale of a method the user came from
+    DictionaryGuard replacedRadius; ///< radius and axis of the standard parallel of a method the user came from
 };

@@ -3,7 +3,6 @@
 #include "import/CoordParamToProjDefine.h"
 #include "panel/record/PanelText.h"
 #include "panel/record/ProjectionAdvice.h"
-#include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
 
 DefinitionState DefinitionState::of(const IDictionary& record) {
@@ -17,7 +16,7 @@ DefinitionState DefinitionState::of(const IDictionary& record) {
         return state;
     }
     state.definition = coordParamToProjDefine(record);
-    if (state.definition.isEmpty() || !module->geodesy().createSystem(state.definition)) {
+    if (state.definition.isEmpty() || !module->createSystem(state.definition)) {
         state.definition.clear();
         state.problem = PanelText::tr("These parameters give no projection that can be computed.");
     }

@@ -2,7 +2,7 @@
 
 #include "catalogue/Dictionary.h"
 #include "panel/record/NumberText.h"
-#include "panel/record/TrueScaleParallel.h"
+#include "panel/record/StandardParallel.h"
 
 #include <cmath>
 #include <cstring>
@@ -32,7 +32,7 @@ bool ParamField::is(const char* otherKey) const {
 
 bool ParamField::isAngle() const {
     return quantity == Quantity::Latitude || quantity == Quantity::Longitude || quantity == Quantity::Azimuth ||
-           quantity == Quantity::TrueScaleParallel;
+           quantity == Quantity::StandardParallel;
 }
 
 bool ParamField::accepts(double value) const {
@@ -101,8 +101,8 @@ FieldInput ParamField::parse(const QString& text) const {
 }
 
 bool ParamField::read(const IDictionary& record, double* value) const {
-    if (quantity == Quantity::TrueScaleParallel) {
-        const std::optional<double> latitude = TrueScaleParallel::ofRecord(record);
+    if (quantity == Quantity::StandardParallel) {
+        const std::optional<double> latitude = StandardParallel::ofRecord(record);
         *value = latitude.value_or(0.0);
         return latitude.has_value();
     }
@@ -124,11 +124,11 @@ bool ParamField::isSound(const IDictionary& record) const {
 QString ParamField::shownText(const IDictionary& record, AngleNotation notation) const {
     double value;
     if (!read(record, &value))
-        return optional || quantity == Quantity::TrueScaleParallel ? QString()
-                                                                   : QString::fromLocal8Bit(record.getValue(key));
+        return optional || quantity == Quantity::StandardParallel ? QString()
+                                                                  : QString::fromLocal8Bit(record.getValue(key));
     if (isAngle() && notation == AngleNotation::DegreesMinutesSeconds)
         return AngleText::format(value, notation);
-    if (quantity == Quantity::SmallRotation || quantity == Quantity::TrueScaleParallel)
+    if (quantity == Quantity::SmallRotation || quantity == Quantity::StandardParallel)
         return NumberText::shortest(value);
     return NumberText::ofRecord(record, key);
 }

@@ -13,20 +13,19 @@ enum class Quantity {
     Length,            ///< metres
     InverseFlattening, ///< 0 for a sphere
     ScaleFactor,
-    Latitude,          ///< degrees
-    Longitude,         ///< degrees
-    Azimuth,           ///< degrees
-    TrueScaleParallel, ///< a latitude in degrees, which the record keeps as the radius of its parallel
-                       ///< (TrueScaleParallel.h)
-    SmallRotation,     ///< arc-seconds, which the record keeps in degrees
-    ScaleDifference,   ///< parts per million
+    Latitude,         ///< degrees
+    Longitude,        ///< degrees
+    Azimuth,          ///< degrees
+    StandardParallel, ///< a latitude in degrees, which the record keeps as a radius (ParallelRadius.h)
+    SmallRotation,    ///< arc-seconds, which the record keeps in degrees
+    ScaleDifference,  ///< parts per million
 };
 
 /// A text that the user typed into a field.
 struct FieldInput {
     bool valid = false;
     double value = 0.0; ///< in the unit of the field
-    QByteArray text;    ///< for the record (for a TrueScaleParallel: the latitude)
+    QByteArray text;    ///< for the record (for a StandardParallel: the latitude)
     QString reason;     ///< translated; why a text that is not valid was refused, and what is allowed
 };
 

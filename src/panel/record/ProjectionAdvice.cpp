@@ -1,11 +1,12 @@
 #include "panel/record/ProjectionAdvice.h"
 
+#include "catalogue/Angle.h"
 #include "catalogue/Dictionary.h"
 #include "import/CoordParamToProjDefine.h"
 #include "panel/record/DatumFields.h"
 #include "panel/record/NumberText.h"
 #include "panel/record/ProjectionFields.h"
-#include "panel/record/TrueScaleParallel.h"
+#include "panel/record/StandardParallel.h"
 
 #include <QRegularExpression>
 
@@ -60,7 +61,7 @@ QString ProjectionAdvice::missing(const ProjectionFields* projection, const IDic
         if (!record.getValue(field.key) || !field.isSound(record))
             return tr("No projection: \"%1\" is missing or wrong.").arg(field.labelText());
     }
-    if (projection->method == ProjectionMethod::Stereographic && isPolar(record) && TrueScaleParallel::ofRecord(record))
+    if (projection->method == ProjectionMethod::Stereographic && isPolar(record) && StandardParallel::ofRecord(record))
         return tr("No projection: a standard parallel needs the scale factor 1.");
     return tr("No projection: the scale factor is missing.");
 }
@@ -73,7 +74,7 @@ bool ProjectionAdvice::fitsNoMethod(const IDictionary& record) {
 
 bool ProjectionAdvice::isDegenerate(const ProjectionFields& projection, const IDictionary& record) {
     // The limits are PROJ's.
-    constexpr double same = 1e-10 * 180.0 / 3.141592653589793;
+    constexpr double same = Angle::toDegrees(1e-10);
     switch (projection.method) {
     case ProjectionMethod::LambertOneParallel:
         return std::fabs(number(record, parallel1Lat)) < same;
@@ -93,8 +94,8 @@ QString ProjectionAdvice::warning(const ProjectionFields& projection, const Para
         return QString();
     if (field.quantity == Quantity::ScaleFactor)
         return scaleWarning(projection, record, value);
-    if (field.quantity == Quantity::TrueScaleParallel)
-        return trueScaleWarning(projection, record, value);
+    if (field.quantity == Quantity::StandardParallel)
+        return parallelWarning(projection, record, value);
     if (field.is(parallel1Lat) || field.is(parallel2Lat))
         return coneWarning(projection, record);
     if (field.quantity == Quantity::Longitude && isTransverseMercator(projection))
@@ -103,13 +104,13 @@ QString ProjectionAdvice::warning(const ProjectionFields& projection, const Para
 }
 
 QString ProjectionAdvice::scaleWarning(const ProjectionFields& projection, const IDictionary& record, double factor) {
-    if (projection.method == ProjectionMethod::Stereographic && isPolar(record) && TrueScaleParallel::ofRecord(record))
+    if (projection.method == ProjectionMethod::Stereographic && isPolar(record) && StandardParallel::ofRecord(record))
         return factor == 1.0 ? QString() : tr("Must be 1: the standard parallel sets the scale.");
     return std::fabs(factor - 1.0) > 0.01 ? tr("Unusual: scale factors lie close to 1.") : QString();
 }
 
-QString ProjectionAdvice::trueScaleWarning(const ProjectionFields& projection, const IDictionary& record,
-                                           double latitude) {
+QString ProjectionAdvice::parallelWarning(const ProjectionFields& projection, const IDictionary& record,
+                                          double latitude) {
     if (projection.method == ProjectionMethod::Stereographic)
         return isPolar(record) ? QString() : tr("Without effect: the origin is no pole.");
     return latitude == 0.0 ? tr("With 0° this is the plain Mercator projection.") : QString();

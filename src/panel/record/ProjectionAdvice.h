@@ -28,7 +28,7 @@ public:
 private:
     static QString missing(const ProjectionFields* projection, const IDictionary& record);
     static QString scaleWarning(const ProjectionFields& projection, const IDictionary& record, double factor);
-    static QString trueScaleWarning(const ProjectionFields& projection, const IDictionary& record, double latitude);
+    static QString parallelWarning(const ProjectionFields& projection, const IDictionary& record, double latitude);
     static QString coneWarning(const ProjectionFields& projection, const IDictionary& record);
     static QString meridianWarning(const IDictionary& record, double meridian);
 };

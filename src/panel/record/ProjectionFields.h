@@ -3,14 +3,13 @@
 #include "catalogue/CoordParamKey.h"
 #include "panel/record/ParamField.h"
 
-#include <optional>
 #include <vector>
 
 class IDictionary;
 
 /// One method of projection: the fields it has, in the order in which a geodesist reads them, each with the record key
-/// it reads and writes. Editing, validation and computing all go by this table; keys that it does not name play no part
-/// in the method.
+/// it reads and writes. Editing and validation go by this table, which is made from that of MethodParameters.h; keys
+/// that it does not name play no part in the method.
 struct ProjectionFields {
     Q_DECLARE_TR_FUNCTIONS(DlgCoordParam)
 

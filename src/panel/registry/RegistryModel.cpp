@@ -2,7 +2,7 @@
 
 #include "catalogue/DictionaryGuard.h"
 #include "import/CoordParamToProjDefine.h"
-#include "panel/record/DefinitionImport.h"
+#include "import/WktToCoordParam.h"
 #include "panel/record/PanelText.h"
 
 #include <QGuiApplication>
@@ -77,7 +77,7 @@ bool RegistryModel::isHeld(const RegistrySystem& system) const {
     if (known != heldByCode.constEnd())
         return *known;
     const DictionaryGuard record;
-    const bool held = DefinitionImport::read(registry.wkt(system.code, nullptr), record.get()) &&
+    const bool held = WktToCoordParam::write(registry.wkt(system.code, nullptr), record.get()) &&
                       coordParamDefinesProjection(*record);
     heldByCode.insert(system.code, held);
     return held;

@@ -18,6 +18,16 @@ struct RegistrySystem {
     double north;
 };
 
+/// One ellipsoid of the registry.
+struct RegistryEllipsoid {
+    int code; ///< EPSG code
+    QByteArray name;
+    bool deprecated;
+    double a;                 ///< semi-major axis in metres
+    double b;                 ///< semi-minor axis in metres
+    double inverseFlattening; ///< 0 for a sphere
+};
+
 /// One shift of three or seven parameters from a system's datum to WGS 84.
 struct RegistryShift {
     QByteArray name;
@@ -44,4 +54,8 @@ public:
 
     /// The unit of the system's axes as EPSG names it ("metre", "US survey foot"); empty for an unknown code.
     virtual QByteArray unitName(const QByteArray& code) = 0;
+
+    /// All ellipsoids, deprecated ones included. Where the registry states an axis in feet, or the minor axis, that is
+    /// converted in double precision. Empty when PROJ's database can't be found.
+    virtual std::vector<RegistryEllipsoid> ellipsoids() = 0;
 };

@@ -1,19 +1,43 @@
 #pragma once
 
+#include "platform/projection/IProjectedSystem.h"
+#include "platform/projection/ProjectionLibrary.h"
+#include "platform/projection/WktDialect.h"
+#include "platform/projection/WktSystem.h"
+
+#include <QByteArray>
+
+#include <memory>
+
 class IEpsgRegistry;
-class IGeodesy;
-class IProjectionLibrary;
-class IWktReader;
 
 /// Everything that stands over GDAL and PROJ. The two libraries and what they pull in need three times as long to map
 /// as the whole tool needs to show its window, so this module is a library of its own that is loaded on first use.
+/// Texts are UTF-8.
 class IProjectionModule {
 public:
     virtual ~IProjectionModule() = default;
 
-    virtual IProjectionLibrary& library() = 0;
-    virtual IWktReader& wktReader() = 0;
-    virtual IGeodesy& geodesy() = 0;
+    /// The projection library's four functions; see ProjectionLibrary.h for what each gives. A null handle is the empty
+    /// definition.
+    virtual ProjHandle initialize(const char* definition) = 0;
+    virtual const char* define(ProjHandle handle) = 0;
+    virtual ProjEllipsoid ellipsoid(ProjHandle handle) = 0;
+    virtual ProjTowgs84 towgs84(ProjHandle handle) = 0;
+
+    /// Reads a coordinate system in WKT 1 (GDAL's and ESRI's dialects) or WKT 2: one system's text without a byte-order
+    /// mark. Nothing is written to the terminal, whatever it holds.
+    virtual WktSystem readWkt(const QByteArray& wkt) = 0;
+
+    /// The definition as WKT, the system and its ellipsoid named as given; numbers with 15 digits. On one line, as
+    /// files hold it, or `indented` on many for reading. Empty when the dialect can't express the definition.
+    virtual QByteArray exportWkt(const QByteArray& definition, const QByteArray& name, const QByteArray& ellipsoidName,
+                                 WktDialect dialect, bool indented) = 0;
+
+    /// The system of a definition "+proj=... +a=... ..." with lengths in metres and longitudes from Greenwich; null
+    /// when PROJ can't make a projection of it. An item +towgs84 (3 or 7 values) is the shift.
+    virtual std::unique_ptr<IProjectedSystem> createSystem(const QByteArray& definition) = 0;
+
     virtual IEpsgRegistry& registry() = 0;
 };
 

@@ -1,7 +1,7 @@
 #include "panel/check/CheckPointPane.h"
 
 #include "panel/record/AngleText.h"
-#include "platform/projection/IGeodesy.h"
+#include "platform/projection/IProjectedSystem.h"
 #include "support/PanelOnScreen.h"
 #include "support/RoomTest.h"
 #include "support/SampleRecords.h"

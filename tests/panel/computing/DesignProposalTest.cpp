@@ -16,10 +16,6 @@ Q_DECLARE_METATYPE(GeographicPoint)
 
 namespace {
 
-IGeodesy& geodesy() {
-    return projectionModule()->geodesy();
-}
-
 QVector<GeographicPoint> around(double latitude, double longitude, double size) {
     QVector<GeographicPoint> points;
     for (double dLat = -size; dLat <= size; dLat += size / 5.0) {
@@ -64,7 +60,7 @@ private Q_SLOTS:
         QFETCH(double, line);
         const DictionaryGuard record = SampleRecord::named(title).record();
         const auto points = around(centre.latitude, centre.longitude, 0.5);
-        const auto proposal = DesignProposal::make(*record, geodesy(), points, height, placeLine);
+        const auto proposal = DesignProposal::make(*record, *projectionModule(), points, height, placeLine);
         QVERIFY(proposal && !proposal->changes().isEmpty());
         QVERIFY(proposal->after().extreme() <= proposal->before().extreme());
         QVERIFY(std::abs(proposal->after().smallest + proposal->after().largest) < 0.11);
@@ -72,7 +68,7 @@ private Q_SLOTS:
         CoordParamEditor editor;
         editor.setRecord(*record);
         proposal->apply(editor);
-        const auto again = DesignProposal::make(editor.record(), geodesy(), points, height, placeLine);
+        const auto again = DesignProposal::make(editor.record(), *projectionModule(), points, height, placeLine);
         QVERIFY(again && again->changes().isEmpty());
         QCOMPARE(again->after().largest, again->before().largest);
         QCOMPARE(again->before().largest, proposal->after().largest);
@@ -88,7 +84,7 @@ private Q_SLOTS:
             const DictionaryGuard moved;
             dictionary_assign(moved.get(), &editor.record());
             moved->setText(lineKey, QByteArray::number(other));
-            const auto worse = DesignProposal::make(*moved, geodesy(), points, height, false);
+            const auto worse = DesignProposal::make(*moved, *projectionModule(), points, height, false);
             QVERIFY(worse && worse->after().extreme() > proposal->after().extreme());
         }
     }
@@ -96,7 +92,7 @@ private Q_SLOTS:
     /// At one point: the line through it, and the scale that the height asks for.
     void proposalForPoint() {
         const DictionaryGuard record = SampleRecord::named("Gauss-Kruger").record();
-        const auto proposal = DesignProposal::make(*record, geodesy(), {{40.0, 115.1234, 0.0}}, 1000.0, true);
+        const auto proposal = DesignProposal::make(*record, *projectionModule(), {{40.0, 115.1234, 0.0}}, 1000.0, true);
         QVERIFY(proposal);
         CoordParamEditor editor;
         editor.setRecord(*record);
@@ -113,14 +109,14 @@ private Q_SLOTS:
         const QVector<GeographicPoint> points = around(50.0, 15.0, 0.6);
         CoordParamEditor editor;
         editor.setRecord(*SampleRecord::named("UTM").record());
-        DesignProposal::make(editor.record(), geodesy(), points, 0.0, false)->apply(editor);
-        QVERIFY(DesignProposal::make(editor.record(), geodesy(), points, 0.0, true)->changes().isEmpty());
+        DesignProposal::make(editor.record(), *projectionModule(), points, 0.0, false)->apply(editor);
+        QVERIFY(DesignProposal::make(editor.record(), *projectionModule(), points, 0.0, true)->changes().isEmpty());
         const double best = dictionary_number(editor.record(), CoordParamKey::factor, 0.0);
         const DictionaryGuard near;
         for (const double off : {0.4e-7, 2e-7}) {
             dictionary_assign(near.get(), &editor.record());
             near->setText(CoordParamKey::factor, QByteArray::number(best + off, 'f', 9));
-            const auto proposal = DesignProposal::make(*near, geodesy(), points, 0.0, true);
+            const auto proposal = DesignProposal::make(*near, *projectionModule(), points, 0.0, true);
             QCOMPARE(proposal->changes().size(), off > 1e-7 ? 1 : 0);
         }
     }
@@ -135,7 +131,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, title);
         const DictionaryGuard record = SampleRecord::named(title).record();
         QVERIFY(!DesignProposal::isPossible(*record));
-        QVERIFY(!DesignProposal::make(*record, geodesy(), around(45.0, 0.0, 1.0), 0.0, true));
+        QVERIFY(!DesignProposal::make(*record, *projectionModule(), around(45.0, 0.0, 1.0), 0.0, true));
     }
 };
 

@@ -2,7 +2,7 @@
 
 #include "catalogue/DictionaryGuard.h"
 #include "import/CoordParamToProjDefine.h"
-#include "panel/record/DefinitionImport.h"
+#include "import/WktToCoordParam.h"
 #include "platform/projection/IProjectionModule.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
@@ -65,7 +65,7 @@ private Q_SLOTS:
         for (int row = 0; row < model.rowCount(); row += 40) {
             const RegistrySystem& system = model.system(row);
             const DictionaryGuard record;
-            const bool defines = DefinitionImport::read(registry().wkt(system.code, nullptr), record.get()) &&
+            const bool defines = WktToCoordParam::write(registry().wkt(system.code, nullptr), record.get()) &&
                                  coordParamDefinesProjection(*record);
             QVERIFY2(defines == model.reason(system).isEmpty(), system.code);
             ++(defines ? held : grey);

@@ -2,6 +2,7 @@
 
 #include "platform/projection/engine/proj/BoundSystem.h"
 #include "platform/projection/engine/proj/ProjContext.h"
+#include "platform/projection/engine/proj/RegistryEllipsoids.h"
 
 #include <QByteArrayList>
 
@@ -107,4 +108,8 @@ QByteArray EpsgRegistry::unitName(const QByteArray& code) {
         proj_cs_get_axis_info(context.get(), axes.get(), 0, nullptr, nullptr, nullptr, nullptr, &unit, nullptr,
                               nullptr);
     return QByteArray(unit);
+}
+
+std::vector<RegistryEllipsoid> EpsgRegistry::ellipsoids() {
+    return registryEllipsoids(context.get());
 }

@@ -15,6 +15,7 @@ public:
     std::vector<RegistryShift> datumShifts(const QByteArray& code) override;
     QByteArray wkt(const QByteArray& code, const RegistryShift* shift) override;
     QByteArray unitName(const QByteArray& code) override;
+    std::vector<RegistryEllipsoid> ellipsoids() override;
 
 private:
     ProjObject system(const QByteArray& code) const;

@@ -7,20 +7,31 @@
 #include "platform/projection/engine/proj/ProjContext.h"
 #include "platform/projection/engine/wkt/WktReader.h"
 
-/// Composes the module: one PROJ context, and over it one object behind each interface.
+/// Composes the module: one PROJ context, and over it one object for each task.
 class ProjectionModule : public IProjectionModule {
 public:
-    ProjectionModule();
+    ProjectionModule() : library(context), reader(context), geodesy(context), epsgRegistry(context) {}
 
-    IProjectionLibrary& library() override;
-    IWktReader& wktReader() override;
-    IGeodesy& geodesy() override;
-    IEpsgRegistry& registry() override;
+    ProjHandle initialize(const char* definition) override { return library.initialize(definition); }
+    const char* define(ProjHandle handle) override { return library.definition(handle).text(); }
+    ProjEllipsoid ellipsoid(ProjHandle handle) override { return library.definition(handle).ellipsoid(); }
+    ProjTowgs84 towgs84(ProjHandle handle) override { return library.definition(handle).towgs84(); }
+
+    WktSystem readWkt(const QByteArray& wkt) override { return reader.read(wkt); }
+    QByteArray exportWkt(const QByteArray& definition, const QByteArray& name, const QByteArray& ellipsoidName,
+                         WktDialect dialect, bool indented) override {
+        return geodesy.exportWkt(definition, name, ellipsoidName, dialect, indented);
+    }
+    std::unique_ptr<IProjectedSystem> createSystem(const QByteArray& definition) override {
+        return geodesy.createSystem(definition);
+    }
+
+    IEpsgRegistry& registry() override { return epsgRegistry; }
 
 private:
     ProjContext context;
-    DefinitionLibrary definitionLibrary;
+    DefinitionLibrary library;
     WktReader reader;
-    Geodesy projGeodesy;
+    Geodesy geodesy;
     EpsgRegistry epsgRegistry;
 };

@@ -1,18 +1,23 @@
 #pragma once
 
-#include "platform/projection/IGeodesy.h"
+#include "platform/projection/IProjectedSystem.h"
+#include "platform/projection/WktDialect.h"
+
+#include <QByteArray>
+
+#include <memory>
 
 class ProjContext;
 
-/// IGeodesy over PROJ.
-class Geodesy : public IGeodesy {
+/// Projected systems and their WKT over PROJ; see IProjectionModule.h.
+class Geodesy {
 public:
     /// `context` outlives the object and the systems that it creates.
     explicit Geodesy(ProjContext& context) : context(context) {}
 
-    std::unique_ptr<IProjectedSystem> createSystem(const QByteArray& definition) override;
+    std::unique_ptr<IProjectedSystem> createSystem(const QByteArray& definition);
     QByteArray exportWkt(const QByteArray& definition, const QByteArray& name, const QByteArray& ellipsoidName,
-                         WktDialect dialect, bool indented) override;
+                         WktDialect dialect, bool indented);
 
 private:
     ProjContext& context;

@@ -7,8 +7,6 @@
 namespace {
 
 constexpr double ppmPerUnit = 1e6;
-// Where Tissot's axes differ by less, the difference is noise of the numerical differentiation.
-constexpr double conformalTolerance = 1e-7;
 
 bool isPlace(const GeographicPoint& point) {
     return std::abs(point.latitude) <= 90.0 && std::abs(point.longitude) <= 360.0 && std::isfinite(point.height);
@@ -101,11 +99,10 @@ double ProjectedSystem::linearDistortionAt(const GridPoint& point, double height
     const auto scale = place ? localScale(*place) : std::nullopt;
     if (!scale)
         return std::numeric_limits<double>::quiet_NaN();
-    const double radius = meanRadius(place->latitude);
-    const double elevationFactor = radius / (radius + height);
-    if (scale->largest - scale->smallest < conformalTolerance)
-        return combined(scale->mean, elevationFactor);
-    const double low = combined(scale->smallest, elevationFactor);
-    const double high = combined(scale->largest, elevationFactor);
+    const double elevation = elevationFactor(place->latitude, height);
+    if (scale->isConformal())
+        return combined(scale->mean, elevation);
+    const double low = combined(scale->smallest, elevation);
+    const double high = combined(scale->largest, elevation);
     return std::abs(low) > std::abs(high) ? low : high;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/projection/IGeodesy.h"
+#include "platform/projection/IProjectedSystem.h"
 #include "platform/projection/engine/proj/ProjObject.h"
 
 /// A projected system over two PROJ operations: the projection, and the shift to WGS 84 where there is one.

@@ -8,18 +8,6 @@ ProjHandle DefinitionLibrary::initialize(const char* definition) {
     return &definitions.emplace(text, ProjDefinition(text, context, names)).first->second;
 }
 
-const ProjDefinition& DefinitionLibrary::definitionOf(ProjHandle handle) {
+const ProjDefinition& DefinitionLibrary::definition(ProjHandle handle) {
     return *static_cast<const ProjDefinition*>(handle ? handle : initialize(""));
-}
-
-const char* DefinitionLibrary::define(ProjHandle handle) {
-    return definitionOf(handle).text();
-}
-
-ProjEllipsoid DefinitionLibrary::ellipsoid(ProjHandle handle) {
-    return definitionOf(handle).ellipsoid();
-}
-
-ProjTowgs84 DefinitionLibrary::towgs84(ProjHandle handle) {
-    return definitionOf(handle).towgs84();
 }

@@ -14,6 +14,9 @@ struct Ellipsoid {
     /// named ellipsoid, and the named ellipsoid over that of the datum. False when PROJ would refuse what is said.
     bool read(const ProjItems& items);
 
+    /// The square of the first eccentricity.
+    double e2() const { return 1 - (b / a) * (b / a); }
+
     /// Its items in a definition.
     QByteArray definition() const;
 

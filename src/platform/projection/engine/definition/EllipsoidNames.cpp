@@ -1,12 +1,12 @@
 #include "platform/projection/engine/definition/EllipsoidNames.h"
 
 #include "platform/projection/engine/proj/ProjContext.h"
-#include "platform/projection/engine/proj/ProjObject.h"
+#include "platform/projection/engine/proj/RegistryEllipsoids.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <tuple>
+#include <utility>
 
 namespace {
 
@@ -23,38 +23,31 @@ bool sameAxes(double a, double b, double otherA, double otherB) {
            std::abs(inverseFlattening(a, b) - inverseFlattening(otherA, otherB)) < decimals6;
 }
 
+/// Ascending in the order in which the registry took its entries in: its first codes are 7001 and up; those below were
+/// given later.
+int age(const RegistryEllipsoid& ellipsoid) {
+    return ellipsoid.code >= 7000 ? ellipsoid.code : ellipsoid.code + 10000;
+}
+
 } // namespace
 
 void EllipsoidNames::readRegistry() {
-    const auto codes = proj_get_codes_from_database(context.get(), "EPSG", PJ_TYPE_ELLIPSOID, 1);
-    for (auto code = codes; code && *code; ++code) {
-        const ProjObject ellipsoid(
-            proj_create_from_database(context.get(), "EPSG", *code, PJ_CATEGORY_ELLIPSOID, 0, nullptr));
-        double a = 0;
-        double b = 0;
-        if (!ellipsoid || !proj_ellipsoid_get_parameters(context.get(), ellipsoid.get(), &a, &b, nullptr, nullptr))
-            continue;
-        // The registry's first codes are 7001 and up; those below were given later.
-        const int number = QByteArray(*code).toInt();
-        const int age = number >= 7000 ? number : number + 10000;
-        entries.append({proj_is_deprecated(ellipsoid.get()) != 0, age, proj_get_name(ellipsoid.get()), a, b});
-    }
-    proj_string_list_destroy(codes);
-    std::sort(entries.begin(), entries.end(), [](const Entry& left, const Entry& right) {
-        return std::tie(left.deprecated, left.age) < std::tie(right.deprecated, right.age);
+    ellipsoids = registryEllipsoids(context.get());
+    std::sort(ellipsoids.begin(), ellipsoids.end(), [](const RegistryEllipsoid& left, const RegistryEllipsoid& right) {
+        return std::make_pair(left.deprecated, age(left)) < std::make_pair(right.deprecated, age(right));
     });
 }
 
 QByteArray EllipsoidNames::nameOf(double a, double b) {
-    if (entries.isEmpty())
+    if (ellipsoids.empty())
         readRegistry();
     QByteArray name;
     double nearest = std::numeric_limits<double>::infinity();
-    for (const Entry& entry : qAsConst(entries)) {
-        const double distance = std::abs(a - entry.a) + std::abs(b - entry.b);
-        if (distance < nearest && sameAxes(a, b, entry.a, entry.b)) {
+    for (const RegistryEllipsoid& ellipsoid : ellipsoids) {
+        const double distance = std::abs(a - ellipsoid.a) + std::abs(b - ellipsoid.b);
+        if (distance < nearest && sameAxes(a, b, ellipsoid.a, ellipsoid.b)) {
             nearest = distance;
-            name = entry.name;
+            name = ellipsoid.name;
         }
     }
     return name;

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QByteArray>
-#include <QVector>
+#include "platform/projection/IEpsgRegistry.h"
 
 class ProjContext;
 
@@ -18,16 +17,8 @@ public:
     QByteArray nameOf(double a, double b);
 
 private:
-    struct Entry {
-        bool deprecated;
-        int age; ///< ascending in the order in which the registry took its entries in
-        QByteArray name;
-        double a;
-        double b;
-    };
-
     void readRegistry();
 
     const ProjContext& context;
-    QVector<Entry> entries;
+    std::vector<RegistryEllipsoid> ellipsoids; ///< in order of preference
 };

@@ -1,16 +1,30 @@
 #include "platform/projection/engine/definition/NormalisedProjection.h"
 
+#include "catalogue/Angle.h"
+#include "catalogue/MethodParameters.h"
 #include "platform/projection/ProjNumber.h"
 #include "platform/projection/engine/definition/Ellipsoid.h"
 #include "platform/projection/engine/definition/PrimeMeridian.h"
 #include "platform/projection/engine/definition/ProjItems.h"
 
+#include <QHash>
+
 #include <cmath>
+#include <optional>
 
 namespace {
 
-constexpr double radians = 3.141592653589793 / 180;
+using Kind = MethodParameter::Kind;
 
+bool isScale(Kind kind) {
+    return kind == Kind::Scale || kind == Kind::ScaleOnParallels || kind == Kind::PolarScale;
+}
+
+bool isStandardParallel(Kind kind) {
+    return kind == Kind::StandardParallel || kind == Kind::PolarParallel;
+}
+
+/// Finds the method that holds a definition's projection, and the values of its parameters.
 class Normaliser {
 public:
     Normaliser(const ProjItems& items, const Ellipsoid& ellipsoid)
@@ -24,28 +38,24 @@ public:
     QByteArray normalise();
 
 private:
-    void addUtm();
-    void addMercator();
-    void addObliqueMercator();
-    void addCentralLine();
-    void addTwoPoints();
-    void addSwissObliqueMercator();
-    void addStereographic();
-    void addUps();
-    void addLambert();
-    void addOriginOf(const char* projection);
+    using Method = std::optional<ProjectionMethod>;
 
-    void moveFalseOriginToCentre(double latitude, double azimuth);
+    Method method();
+    Method ofUtm();
+    Method ofMercator();
+    Method ofObliqueMercator();
+    Method ofSwissObliqueMercator();
+    Method ofStereographic();
+    Method ofUps();
+    Method ofLambert();
+
+    void moveFalseOriginToCentre();
+    void settle(const char* key, double value) { settled.insert(key, value); }
+    double value(const MethodParameter& parameter) const;
     double longitude(const char* key) const { return fromGreenwich(items.angle(key, 0), primeMeridian); }
-
-    void start(const char* projection) { text = QByteArray("+proj=") + projection; }
     void add(const char* key, double value) {
         require(std::isfinite(value));
         text += QByteArray(" +") + key + '=' + projNumber(value);
-    }
-    void addLatitude(const char* key, double value) {
-        require(std::abs(value) <= 90);
-        add(key, value);
     }
     /// What PROJ refuses otherwise.
     void require(bool condition) { valid = valid && condition; }
@@ -56,35 +66,26 @@ private:
     double scale;
     double falseEasting;
     double falseNorthing;
+    QHash<QByteArray, double> settled; ///< parameters whose value is not simply that of the item with their key
     QByteArray text;
     bool valid = true;
 };
 
 QByteArray Normaliser::normalise() {
-    struct Projection {
-        const char* name;
-        void (Normaliser::*add)();
-    };
-    static constexpr Projection projections[] = {
-        {"utm", &Normaliser::addUtm},
-        {"merc", &Normaliser::addMercator},
-        {"omerc", &Normaliser::addObliqueMercator},
-        {"somerc", &Normaliser::addSwissObliqueMercator},
-        {"stere", &Normaliser::addStereographic},
-        {"ups", &Normaliser::addUps},
-        {"lcc", &Normaliser::addLambert},
-    };
-    const QByteArray name = items.count("proj") == 1 ? items.text("proj") : QByteArray();
-    for (const Projection& projection : projections) {
-        if (name == projection.name)
-            (this->*projection.add)();
+    const Method chosen = method();
+    const MethodParameters* const parameters = chosen ? MethodParameters::find(int(*chosen)) : nullptr;
+    if (!parameters)
+        return {};
+    text = QByteArray("+proj=") + parameters->projName;
+    for (const MethodParameter* const parameter : *parameters) {
+        const bool isNone = isStandardParallel(parameter->kind) && !settled.contains(parameter->projKey);
+        if (isScale(parameter->kind) || parameter->kind == Kind::Length || isNone)
+            continue;
+        const double number = value(*parameter);
+        if (parameter->kind == Kind::Latitude || isStandardParallel(parameter->kind))
+            require(std::abs(number) <= 90);
+        add(parameter->projKey, number);
     }
-    for (const char* plain : {"tmerc", "sterea", "cass"}) {
-        if (name == plain)
-            addOriginOf(plain);
-    }
-    if (text.isEmpty())
-        return text;
     require(scale > 0);
     add("k_0", scale);
     add("x_0", falseEasting);
@@ -92,70 +93,77 @@ QByteArray Normaliser::normalise() {
     return valid ? text : QByteArray();
 }
 
-void Normaliser::addOriginOf(const char* projection) {
-    start(projection);
-    addLatitude("lat_0", items.angle("lat_0", 0));
-    add("lon_0", longitude("lon_0"));
+double Normaliser::value(const MethodParameter& parameter) const {
+    const auto known = settled.constFind(parameter.projKey);
+    if (known != settled.constEnd())
+        return *known;
+    return parameter.kind == Kind::Longitude ? longitude(parameter.projKey) : items.angle(parameter.projKey, 0);
 }
 
-void Normaliser::addUtm() {
+Normaliser::Method Normaliser::method() {
+    const QByteArray name = items.count("proj") == 1 ? items.text("proj") : QByteArray();
+    if (name == "tmerc")
+        return ProjectionMethod::TransverseMercatorScaled;
+    if (name == "sterea")
+        return ProjectionMethod::ObliqueStereographic;
+    if (name == "cass")
+        return ProjectionMethod::CassiniSoldner;
+    if (name == "utm")
+        return ofUtm();
+    if (name == "merc")
+        return ofMercator();
+    if (name == "omerc")
+        return ofObliqueMercator();
+    if (name == "somerc")
+        return ofSwissObliqueMercator();
+    if (name == "stere")
+        return ofStereographic();
+    if (name == "ups")
+        return ofUps();
+    if (name == "lcc")
+        return ofLambert();
+    return std::nullopt;
+}
+
+Normaliser::Method Normaliser::ofUtm() {
     // PROJ takes the zone from the central meridian when none is given.
     const double zone = items.number("zone", std::floor((fromGreenwich(items.angle("lon_0", 0), 0) + 180) / 6) + 1);
     require(zone >= 1 && zone <= 60 && zone == std::floor(zone));
     scale = 0.9996;
     falseEasting = 500000;
     falseNorthing = items.has("south") ? 10000000 : 0;
-    start("tmerc");
-    addLatitude("lat_0", 0);
-    add("lon_0", fromGreenwich(zone * 6 - 183, primeMeridian));
+    settle("lat_0", 0);
+    settle("lon_0", fromGreenwich(zone * 6 - 183, primeMeridian));
+    return ProjectionMethod::TransverseMercatorScaled;
 }
 
-void Normaliser::addMercator() {
-    start("merc");
-    add("lon_0", longitude("lon_0"));
+Normaliser::Method Normaliser::ofMercator() {
     if (!items.has("lat_ts"))
-        return;
-    // A parallel of true scale gives the scale; a factor beside it plays no part.
+        return ProjectionMethod::Mercator;
+    // A standard parallel gives the scale; a factor beside it plays no part.
     scale = 1;
-    const double trueScale = items.angle("lat_ts", 0);
-    require(std::abs(trueScale) < 90);
-    if (trueScale != 0)
-        addLatitude("lat_ts", trueScale);
+    const double parallel = items.angle("lat_ts", 0);
+    require(std::abs(parallel) < 90);
+    if (parallel == 0)
+        return ProjectionMethod::Mercator;
+    settle("lat_ts", parallel);
+    return ProjectionMethod::MercatorStandardParallel;
 }
 
-void Normaliser::addObliqueMercator() {
-    if (items.has("alpha"))
-        addCentralLine();
-    else if (!items.has("gamma"))
-        addTwoPoints();
-}
-
-void Normaliser::addCentralLine() {
-    const double latitude = items.angle("lat_0", 0);
-    const double azimuth = items.angle("alpha", 0);
+Normaliser::Method Normaliser::ofObliqueMercator() {
+    if (!items.has("alpha"))
+        return items.has("gamma") ? Method() : ProjectionMethod::ObliqueMercatorTwoPoints;
     if (items.has("no_uoff") || items.has("no_off"))
-        moveFalseOriginToCentre(latitude, azimuth);
-    start("omerc");
-    addLatitude("lat_0", latitude);
-    add("lonc", longitude("lonc"));
-    add("alpha", azimuth);
-}
-
-void Normaliser::addTwoPoints() {
-    start("omerc");
-    addLatitude("lat_0", items.angle("lat_0", 0));
-    addLatitude("lat_1", items.angle("lat_1", 0));
-    add("lon_1", longitude("lon_1"));
-    addLatitude("lat_2", items.angle("lat_2", 0));
-    add("lon_2", longitude("lon_2"));
+        moveFalseOriginToCentre();
+    return ProjectionMethod::ObliqueMercatorAzimuth;
 }
 
 /// From the natural origin to the projection centre lies the distance u_c along the central line, in EPSG guidance note
 /// 7-2: u_c = (A / B) atan(sqrt(D^2 - 1) / cos(alpha_c)) sign(phi_c).
-void Normaliser::moveFalseOriginToCentre(double latitude, double azimuth) {
-    const double phi = latitude * radians;
-    const double alpha = azimuth * radians;
-    const double e2 = 1 - std::pow(ellipsoid.b / ellipsoid.a, 2);
+void Normaliser::moveFalseOriginToCentre() {
+    const double phi = Angle::toRadians(items.angle("lat_0", 0));
+    const double alpha = Angle::toRadians(items.angle("alpha", 0));
+    const double e2 = ellipsoid.e2();
     const double w2 = 1 - e2 * std::pow(std::sin(phi), 2);
     const double B = std::sqrt(1 + e2 * std::pow(std::cos(phi), 4) / (1 - e2));
     const double A = ellipsoid.a * B * scale * std::sqrt(1 - e2) / w2;
@@ -165,44 +173,52 @@ void Normaliser::moveFalseOriginToCentre(double latitude, double azimuth) {
     falseNorthing += uc * std::cos(alpha);
 }
 
-void Normaliser::addSwissObliqueMercator() {
-    start("omerc");
-    addLatitude("lat_0", items.angle("lat_0", 0));
-    add("lonc", longitude("lon_0"));
-    add("alpha", 90);
+Normaliser::Method Normaliser::ofSwissObliqueMercator() {
+    settle("lonc", longitude("lon_0"));
+    settle("alpha", 90);
+    return ProjectionMethod::ObliqueMercatorAzimuth;
 }
 
-void Normaliser::addStereographic() {
-    addOriginOf("stere");
+Normaliser::Method Normaliser::ofStereographic() {
     const double latitude = items.angle("lat_0", 0);
-    const double trueScale = std::abs(items.angle("lat_ts", 90));
-    // PROJ knows a parallel of true scale on polar ones only; at the pole itself it is the factor that counts.
-    if (std::abs(latitude) != 90 || trueScale == 90)
-        return;
-    addLatitude("lat_ts", std::copysign(trueScale, latitude));
-    scale = 1;
+    const double parallel = std::abs(items.angle("lat_ts", 90));
+    // PROJ knows a standard parallel on polar ones only; at the pole itself it is the factor that counts.
+    if (std::abs(latitude) == 90 && parallel != 90) {
+        settle("lat_ts", std::copysign(parallel, latitude));
+        scale = 1;
+    }
+    return ProjectionMethod::Stereographic;
 }
 
-void Normaliser::addUps() {
+Normaliser::Method Normaliser::ofUps() {
     scale = 0.994;
     falseEasting = 2000000;
     falseNorthing = 2000000;
-    start("stere");
-    addLatitude("lat_0", items.has("south") ? -90 : 90);
-    add("lon_0", fromGreenwich(0, primeMeridian));
+    settle("lat_0", items.has("south") ? -90 : 90);
+    settle("lon_0", fromGreenwich(0, primeMeridian));
+    return ProjectionMethod::Stereographic;
 }
 
-void Normaliser::addLambert() {
+Normaliser::Method Normaliser::ofLambert() {
     const double latitude = items.angle("lat_1", 0);
     const bool twoParallels = items.has("lat_2");
     const double other = twoParallels ? items.angle("lat_2", 0) : latitude;
     require(std::abs(latitude) < 90 && std::abs(other) < 90 && std::abs(latitude + other) > 1e-8);
-    start("lcc");
-    addLatitude("lat_1", latitude);
     if (twoParallels)
-        addLatitude("lat_2", other);
-    addLatitude("lat_0", items.angle("lat_0", twoParallels ? 0 : latitude));
-    add("lon_0", longitude("lon_0"));
+        return ProjectionMethod::LambertTwoParallels;
+    settle("lat_0", items.angle("lat_0", latitude));
+    return ProjectionMethod::LambertOneParallel;
+}
+
+/// The parameter that an item of a definition states, or null.
+const MethodParameter* parameterOf(const QByteArray& projKey) {
+    for (const MethodParameters& method : methodParameters) {
+        for (const MethodParameter* const parameter : method) {
+            if (projKey == parameter->projKey)
+                return parameter;
+        }
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -215,15 +231,12 @@ QByteArray parametersWithoutProjection(const ProjItems& items) {
     const double primeMeridian = primeMeridianOf(items);
     QByteArray text;
     for (const ProjItems::Item& item : items.all()) {
-        const bool isLongitude =
-            item.key == "lon_0" || item.key == "lonc" || item.key == "lon_1" || item.key == "lon_2";
-        const bool isLatitude =
-            item.key == "lat_0" || item.key == "lat_1" || item.key == "lat_2" || item.key == "alpha";
-        const bool isLength = item.key == "x_0" || item.key == "y_0";
-        if (!isLongitude && !isLatitude && !isLength)
+        const MethodParameter* const parameter = parameterOf(item.key);
+        if (!parameter || isScale(parameter->kind) || isStandardParallel(parameter->kind))
             continue;
+        const bool isLength = parameter->kind == Kind::Length;
         double value = isLength ? ProjItems::toNumber(item.value) : ProjItems::toAngle(item.value);
-        if (isLongitude)
+        if (parameter->kind == Kind::Longitude)
             value = fromGreenwich(value, primeMeridian);
         if (std::isfinite(value))
             text += '+' + item.key + '=' + projNumber(value) + ' ';

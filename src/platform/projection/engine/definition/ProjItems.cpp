@@ -1,12 +1,13 @@
 #include "platform/projection/engine/definition/ProjItems.h"
 
+#include "catalogue/Angle.h"
+
 #include <cmath>
 #include <limits>
 
 namespace {
 
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-constexpr double pi = 3.141592653589793;
 
 bool isBlank(char c) {
     return c == ' ' || (c >= '\t' && c <= '\r');
@@ -97,7 +98,7 @@ double ProjItems::toAngle(const QByteArray& text) {
     if (!std::isnan(plain))
         return plain;
     if (rest.endsWith('r') || rest.endsWith('R'))
-        return toNumber(rest.chopped(1)) / pi * 180;
+        return Angle::toDegrees(toNumber(rest.chopped(1)));
     bool negative = takeHemisphere(rest);
     if (rest.startsWith('-') || rest.startsWith('+')) {
         negative = negative != rest.startsWith('-');

@@ -1,5 +1,6 @@
 #include "platform/projection/engine/wkt/FaithfulDefinition.h"
 
+#include "catalogue/Angle.h"
 #include "platform/projection/engine/definition/Ellipsoid.h"
 #include "platform/projection/engine/definition/PrimeMeridian.h"
 #include "platform/projection/engine/definition/ProjItems.h"
@@ -9,8 +10,6 @@
 #include <cmath>
 
 namespace {
-
-constexpr double degrees = 180 / 3.141592653589793;
 
 /// Every number that the definition says, and those that it says without writing them down.
 QVector<double> numbersOf(const ProjItems& definition, const Ellipsoid& ellipsoid) {
@@ -26,11 +25,10 @@ QVector<double> numbersOf(const ProjItems& definition, const Ellipsoid& ellipsoi
     if (projection == "somerc")
         numbers += 90;
     if (projection == "merc") {
-        // The scale on the equator, k = cos(phi) / sqrt(1 - e^2 sin^2(phi)): ESRI's texts are exported with its
-        // parallel.
-        const double phi = definition.angle("lat_ts", 0) / degrees;
-        const double e2 = 1 - std::pow(ellipsoid.b / ellipsoid.a, 2);
-        numbers += std::cos(phi) / std::sqrt(1 - e2 * std::pow(std::sin(phi), 2));
+        // The scale on the equator, by which ESRI's texts may state the standard parallel: the inverse of the scale k
+        // on it, k = sqrt(1 - e^2 sin^2(phi)) / cos(phi) (Snyder 1987, (7-8)).
+        const double phi = Angle::toRadians(definition.angle("lat_ts", 0));
+        numbers += std::cos(phi) / std::sqrt(1 - ellipsoid.e2() * std::pow(std::sin(phi), 2));
     }
     return numbers;
 }
@@ -43,7 +41,7 @@ bool agree(double left, double right) {
 bool isIn(const QVector<double>& numbers, double value, double unit) {
     return std::any_of(numbers.begin(), numbers.end(), [=](double number) {
         return agree(value, number) || agree(value * unit, number) ||
-               agree(std::remainder(value * unit * degrees - number, 360), 0);
+               agree(std::remainder(Angle::toDegrees(value * unit) - number, 360), 0);
     });
 }
 
@@ -73,7 +71,7 @@ bool hasMeridian(const ProjItems& definition, const ProjectedWkt& wkt) {
     const double meridian = primeMeridianOf(definition);
     const auto isMeridian = [=](double longitude) { return std::abs(longitude - meridian) < 1e-8; };
     return isMeridian(wkt.primeMeridian) || std::any_of(wkt.units.begin(), wkt.units.end(), [&](double unit) {
-               return isMeridian(wkt.primeMeridian * unit * degrees);
+               return isMeridian(Angle::toDegrees(wkt.primeMeridian * unit));
            });
 }
 

@@ -7,8 +7,7 @@ class ProjItems;
 /// Readers of WKT drop what they don't know: a scale factor on a Cassini-Soldner projection, a standard parallel beside
 /// the latitude of origin, a misspelt parameter, axes that point west and south. The definition is faithful when
 /// - every number of a parameter that is not neutral (0, or a scale of 1) is one of the definition's, in one of the
-/// text's
-///   units;
+///   text's units;
 /// - no unit is 0, which would make any number 0;
 /// - the ellipsoid has the text's axes within 0.5 mm (PROJ's list rounds Namibia's by 0.3 mm);
 /// - the prime meridian is the text's within 1e-8 degrees (the web's Mercator is exported without);

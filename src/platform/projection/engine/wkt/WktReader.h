@@ -1,18 +1,18 @@
 #pragma once
 
-#include "platform/projection/IWktReader.h"
+#include "platform/projection/WktSystem.h"
 
 #include <QHash>
 #include <QSet>
 
 class ProjContext;
 
-/// Reads WKT through GDAL.
-class WktReader : public IWktReader {
+/// Reads WKT through GDAL; see IProjectionModule::readWkt().
+class WktReader {
 public:
     explicit WktReader(const ProjContext& context) : context(context) {}
 
-    WktSystem read(const QByteArray& wkt) override;
+    WktSystem read(const QByteArray& wkt);
 
 private:
     bool isGeocentric(const QByteArray& authority, const QByteArray& code);

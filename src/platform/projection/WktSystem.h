@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QByteArray>
+
+/// What a WKT text, or a file with one, holds.
+struct WktSystem {
+    enum class Content {
+        NotOpened,    ///< no such file, a folder, or not readable
+        Unreadable,   ///< no coordinate system
+        NotProjected, ///< a coordinate system of another kind
+        Projected,
+    };
+
+    Content content = Content::Unreadable;
+    QByteArray name; ///< of the projected system, in the encoding of the text that was read
+    /// PROJ.4 definition of the projected system, for InitializeProj(). It has no "+proj" when PROJ.4 can't say what
+    /// the WKT says; ellipsoid and datum shift are then still those of the WKT.
+    QByteArray definition;
+};

@@ -1,0 +1,181 @@
+#include "PublishedValues.h"
+#include "catalogue/Angle.h"
+#include "catalogue/CoordParamKey.h"
+#include "catalogue/DictionaryGuard.h"
+#include "import/CoordParamToProjDefine.h"
+#include "platform/projection/IProjectionModule.h"
+#include "support/RoomTest.h"
+#include "support/Rows.h"
+
+#include <QTest>
+
+#include <cmath>
+
+Q_DECLARE_METATYPE(PublishedSystem)
+Q_DECLARE_METATYPE(PublishedRow)
+Q_DECLARE_METATYPE(GeographicPoint)
+
+namespace {
+
+constexpr double meanEarthRadius = 6371000.0;
+
+/// How far two places lie apart, in metres; good for small distances.
+double distance(const GeographicPoint& left, const GeographicPoint& right) {
+    const double north = Angle::toRadians(left.latitude - right.latitude) * meanEarthRadius;
+    const double east = Angle::toRadians(std::remainder(left.longitude - right.longitude, 360.0)) * meanEarthRadius *
+                        std::cos(Angle::toRadians(left.latitude));
+    return std::hypot(north, east, left.height - right.height);
+}
+
+double distance(const GridPoint& left, const GridPoint& right) {
+    return std::hypot(left.easting - right.easting, left.northing - right.northing);
+}
+
+DictionaryGuard recordOf(const PublishedSystem& published) {
+    DictionaryGuard record;
+    for (const auto& entry : published.record)
+        record->setText(entry.first, entry.second);
+    return record;
+}
+
+std::unique_ptr<IProjectedSystem> createSystem(const PublishedSystem& published) {
+    return projectionModule()->createSystem(coordParamToProjDefine(*recordOf(published)));
+}
+
+void showDifference(double value, double expected, double tolerance) {
+    QVERIFY2(std::abs(value - expected) <= tolerance,
+             qPrintable(QStringLiteral("%1 instead of %2").arg(value, 0, 'g', 14).arg(expected, 0, 'g', 14)));
+}
+
+} // namespace
+
+/// What the tool computes, against published values and against itself.
+class ProjectedSystemTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QVERIFY2(projectionModule(), "the projection module was not found"); }
+
+    void publishedValue_data() {
+        const Rows<PublishedSystem, PublishedRow> rows({"published", "row"});
+        const auto systems = readPublishedValues(TEST_DATA_DIR "/published_values.txt");
+        QVERIFY(systems.size() >= 20);
+        for (const PublishedSystem& published : systems) {
+            QVERIFY2(!published.rows.isEmpty(), published.name);
+            for (const PublishedRow& row : published.rows)
+                rows("line " + QByteArray::number(row.line) + ' ' + row.what + ": " + published.name, published, row);
+        }
+    }
+
+    void publishedValue() {
+        QFETCH(PublishedSystem, published);
+        QFETCH(PublishedRow, row);
+        const auto system = createSystem(published);
+        QVERIFY(system);
+        const auto& n = row.numbers;
+        const double tolerance = n.last();
+        const GeographicPoint place{n[0], n[1], row.what == "shift" ? n[2] : 0.0};
+        if (row.what == "point") {
+            const GridPoint expected{n[2], n[3]};
+            const auto grid = system->toGrid(place);
+            const auto back = system->toGeographic(expected, 0.0);
+            QVERIFY(grid && back);
+            showDifference(grid->easting, expected.easting, tolerance);
+            showDifference(grid->northing, expected.northing, tolerance);
+            showDifference(distance(*back, place), 0.0, tolerance * std::sqrt(2.0));
+        } else if (row.what == "radius") {
+            showDifference(system->meanRadius(n[0]), n[1], tolerance);
+        } else if (row.what == "shift") {
+            const GeographicPoint expected{n[3], n[4], n[5]};
+            const auto wgs84 = system->toWgs84(place);
+            const auto back = system->fromWgs84(expected);
+            QVERIFY(system->hasDatumShift() && wgs84 && back);
+            showDifference(distance(*wgs84, expected), 0.0, tolerance);
+            showDifference(distance(*back, place), 0.0, tolerance);
+        } else {
+            const auto scale = system->localScale(place);
+            QVERIFY(scale);
+            showDifference(row.what == "scale" ? scale->mean : scale->convergence, n[2], tolerance);
+        }
+    }
+
+    void scaleIsTheDerivative_data() {
+        const Rows<PublishedSystem> row({"published"});
+        for (const PublishedSystem& published : readPublishedValues(TEST_DATA_DIR "/published_values.txt"))
+            row(published.name, published);
+    }
+
+    /// Scale factors and convergence are those of 200 m along the meridian and the parallel through the point.
+    void scaleIsTheDerivative() {
+        QFETCH(PublishedSystem, published);
+        const auto system = createSystem(published);
+        QVERIFY(system);
+        const DictionaryGuard record = recordOf(published);
+        const double a = dictionary_number(*record, CoordParamKey::ellipsoidA, 0.0);
+        const double flattening = 1.0 / dictionary_number(*record, CoordParamKey::ellipsoidF, 0.0);
+        const double e2 = flattening * (2.0 - flattening);
+        const auto& row = published.rows.first().numbers;
+        const GeographicPoint place{row[0], row[1], 0.0};
+        const double w = std::sqrt(1.0 - e2 * std::pow(std::sin(Angle::toRadians(place.latitude)), 2));
+        const double meridianRadius = a * (1.0 - e2) / (w * w * w);
+        const double parallelRadius = a / w * std::cos(Angle::toRadians(place.latitude));
+
+        const double step = 100.0;
+        const double dLat = Angle::toDegrees(step / meridianRadius);
+        const double dLon = Angle::toDegrees(step / parallelRadius);
+        const auto south = system->toGrid({place.latitude - dLat, place.longitude, 0.0});
+        const auto north = system->toGrid({place.latitude + dLat, place.longitude, 0.0});
+        const auto west = system->toGrid({place.latitude, place.longitude - dLon, 0.0});
+        const auto east = system->toGrid({place.latitude, place.longitude + dLon, 0.0});
+        const auto scale = system->localScale(place);
+        QVERIFY(south && north && west && east && scale);
+        showDifference(scale->meridian, distance(*north, *south) / (2.0 * step), 5e-9);
+        showDifference(scale->parallel, distance(*east, *west) / (2.0 * step), 5e-9);
+        // The meridian's azimuth is 0, its grid bearing minus the convergence.
+        const double bearing =
+            Angle::toDegrees(std::atan2(north->easting - south->easting, north->northing - south->northing));
+        showDifference(std::remainder(scale->convergence + bearing, 360.0), 0.0, 1e-6);
+    }
+
+    void impossiblePoint_data() {
+        const Rows<GeographicPoint> row({"place"});
+        const double nan = std::nan("");
+        row("beyond the pole", GeographicPoint{90.001, 0.0, 0.0});
+        row("twice around", GeographicPoint{0.0, 361.0, 0.0});
+        row("no number", GeographicPoint{nan, 0.0, 0.0});
+        row("no height", GeographicPoint{0.0, 0.0, nan});
+        row("at infinity", GeographicPoint{-90.0, 10.0, 0.0});
+    }
+
+    /// Nothing comes back, and the next point is computed as if nothing had been asked.
+    void impossiblePoint() {
+        QFETCH(GeographicPoint, place);
+        const auto system = projectionModule()->createSystem("+proj=lcc +lat_1=40 +lat_2=50 +ellps=GRS80");
+        QVERIFY(!system->toGrid(place) && !system->localScale(place));
+        QVERIFY(!system->toGeographic({std::nan(""), 0.0}, 0.0));
+        QVERIFY(system->toGrid({45.0, 3.0, 0.0}) && system->localScale({45.0, 3.0, 0.0}));
+    }
+
+    /// On the central meridian at a height, the distortion is that of the scale factor and of R / (R + h).
+    void distortionAtHeight() {
+        const auto system =
+            projectionModule()->createSystem("+proj=tmerc +lon_0=9 +k_0=0.9996 +x_0=500000 +a=6371000 +b=6371000");
+        const GridPoint points[] = {{500000.0, 5000000.0}, {1e9, 1e9}};
+        double ppm[2];
+        system->linearDistortion(points, 2, 0.0, ppm);
+        showDifference(ppm[0], -400.0, 0.001);
+        QVERIFY(std::isnan(ppm[1]));
+        system->linearDistortion(points, 1, 1000.0, ppm);
+        showDifference(ppm[0], (0.9996 * 6371000.0 / 6372000.0 - 1.0) * 1e6, 0.001);
+
+        // Not conformal: what counts is the meridians' stretching, 1 / cos(x / R) at x = 100 km (Snyder 1987, Cassini
+        // projection).
+        const auto cassini = projectionModule()->createSystem("+proj=cass +lat_0=50 +lon_0=9 +a=6371000 +b=6371000");
+        const GridPoint east{100000.0, 0.0};
+        cassini->linearDistortion(&east, 1, 0.0, ppm);
+        showDifference(ppm[0], (1.0 / std::cos(100000.0 / 6371000.0) - 1.0) * 1e6, 0.01);
+    }
+};
+
+ROOM_TEST(ProjectedSystemTest)
+#include "ProjectedSystemTest.moc"
