@@ -58,14 +58,15 @@ static void measure(const char* name, const char* type, const char* lat, const c
     plot.resize(500, 400);
     plot.show();
     const GridPoint origin = DistortionLines::origin(*record);
-    const DistortionArea area = plot.areaAround(origin, width);
+    const DistortionArea area = plot.fitted({origin, width, width});
     const QSize nodes = plot.nodeCount();
     DistortionGrid grid;
     const double computed =
         milliseconds(10, [&] { grid = DistortionGrid(*system, area, nodes.width(), nodes.height(), 300.0); });
     const double drawn = milliseconds(10, [&] {
         plot.showDistortion(grid, area);
-        plot.showLines(DistortionLines(*record, *system, area), origin);
+        plot.showLines(DistortionLines(*record, *system, area));
+        plot.showPlaces(origin, std::nullopt, {});
         plot.grab();
     });
     QVector<GeographicPoint> points;

@@ -1,24 +1,18 @@
 #include "panel/CheckTab.h"
 
-#include "catalogue/CoordParamKey.h"
-#include "catalogue/IDictionary.h"
 #include "panel/check/CheckPointPane.h"
 #include "panel/check/DistortionPane.h"
-#include "panel/computing/DistortionLines.h"
+#include "panel/computing/ShownSystem.h"
 #include "panel/field/AngleNotationBox.h"
 #include "panel/field/MessageLine.h"
 #include "panel/record/CoordParamEditor.h"
-#include "panel/record/DefinitionState.h"
 #include "panel/record/PanelText.h"
-#include "platform/projection/IProjectionModule.h"
 
 #include <QTabWidget>
 #include <QVBoxLayout>
 
 CheckTab::CheckTab(CoordParamEditor& editor, bool readOnly, QWidget* parent) : ParamTab(editor, readOnly, parent) {
 }
-
-CheckTab::~CheckTab() = default;
 
 QString CheckTab::title() const {
     return PanelText::tr("Check");
@@ -49,24 +43,14 @@ void CheckTab::build() {
 void CheckTab::showRecord() {
     if (!pages)
         build();
-    const DefinitionState state = DefinitionState::of(record());
-    if (state.definition.isEmpty())
-        system.reset();
-    else if (state.definition != definition)
-        system = projectionModule()->createSystem(state.definition);
-    definition = state.definition;
-    problemLine->setMessage(state.problem, MessageLine::Tone::Error);
-    problemLine->setVisible(!state.problem.isEmpty());
-    pages->setEnabled(system != nullptr);
-    notationBox->showNotation();
-    showSystem();
-}
-
-void CheckTab::showSystem() {
-    pointPane->setSystem(system.get(), DistortionLines::origin(record()),
-                         QString::fromLocal8Bit(record().getValue(CoordParamKey::name)));
+    system = ShownSystem::of(record(), system.get());
+    pointPane->setSystem(system);
     pointPane->showNotation();
-    distortionPane->setSystem(&record(), system.get(), pointPane->place());
+    distortionPane->setSystem(system, pointPane->place());
+    problemLine->setMessage(system->problem(), MessageLine::Tone::Error);
+    problemLine->setVisible(!system->problem().isEmpty());
+    pages->setEnabled(system->projection() != nullptr);
+    notationBox->showNotation();
 }
 
 void CheckTab::_onPageChanged() {
@@ -77,6 +61,7 @@ void CheckTab::_onProposalAccepted() {
     const auto proposal = distortionPane->proposal();
     if (!proposal)
         return;
+    pointPane->keepPlace();
     proposal->apply(editor());
     showRecord();
     recordChanged();

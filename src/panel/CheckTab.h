@@ -7,9 +7,9 @@
 class AngleNotationBox;
 class CheckPointPane;
 class DistortionPane;
-class IProjectedSystem;
 class MessageLine;
 class QTabWidget;
+class ShownSystem;
 
 /// The tab "Check": whether the system does what it should.
 ///
@@ -19,7 +19,6 @@ class CheckTab : public ParamTab {
 
 public:
     CheckTab(CoordParamEditor& editor, bool readOnly, QWidget* parent);
-    ~CheckTab() override;
 
     QString title() const override;
 
@@ -33,10 +32,8 @@ private Q_SLOTS:
 
 private:
     void build();
-    void showSystem();
 
-    std::unique_ptr<IProjectedSystem> system;
-    QByteArray definition; ///< of `system`
+    std::shared_ptr<const ShownSystem> system;
     MessageLine* problemLine = nullptr;
     AngleNotationBox* notationBox = nullptr;
     QTabWidget* pages = nullptr;

@@ -16,8 +16,8 @@
 #include <QtTest>
 #include <QtWidgets>
 
-/// Thousands of commands in random order, always the same ones: after each of them the tree, the catalogue, the panel
-/// and the Save button agree and no record is left over.
+/// Thousands of commands in random order, always the same ones, now and then with the map of the distortion in sight:
+/// after each of them the tree, the catalogue, the panel and the Save button agree and no record is left over.
 class RandomWalkTest : public QObject {
     Q_OBJECT
 
@@ -48,12 +48,17 @@ private Q_SLOTS:
         announcedGroup = "A"; // by the start-up's selection
         announcedName = "A";
         compareTreeWithCatalogue();
+        showMap(); // from here on it keeps a record of its own
+        QApplication::processEvents();
+        QVERIFY(isMapShown());
 
         const int otherDictionaries = dictionary_alive_count() - visibleItems(2).count();
         QMap<QString, int> effects;
         for (int i = 0; i < steps && !QTest::currentTestFailed(); ++i) {
             const int systemsBefore = visibleItems(2).count();
             step();
+            if (isMapShown())
+                disturbMap();
             compareTreeWithCatalogue();
             compareShownRecord();
             QCOMPARE(dictionary_alive_count() - visibleItems(2).count(), otherDictionaries);
@@ -61,12 +66,16 @@ private Q_SLOTS:
             ++effects[visibleItems(2).count() < systemsBefore ? "fewer" : "no fewer"];
             ++effects[saveButton->isEnabled() ? "dirty" : "clean"];
             ++effects[panel->isEnabled() ? "shown" : "nothing to show"];
+            if (isMapShown())
+                ++effects[map->isEnabled() ? "map" : "no projection"];
             if (QTest::currentTestFailed())
                 qWarning("step %d: %s", i, qPrintable(did));
         }
         // A walk that never got anywhere would agree as well.
         for (const char* effect : {"fewer", "dirty", "clean", "shown", "nothing to show"})
             QVERIFY2(effects[effect] > steps / 100, effect);
+        for (const char* effect : {"map", "no projection"})
+            QVERIFY2(effects[effect] > steps / 500, effect);
     }
 
 private:
@@ -102,6 +111,14 @@ private:
         QFAIL("no such entry");
     }
 
+    void type(const char* key, const QString& text) const {
+        auto* field = panel->findChild<QLineEdit*>(key);
+        if (field && field->isEnabled() && !field->isHidden()) {
+            field->selectAll();
+            QTest::keyClicks(field, text);
+        }
+    }
+
     void answerName() {
         const QString name = anyName();
         const bool cancelled = pick(8) == 0;
@@ -120,6 +137,8 @@ private:
         const int answer = static_cast<int>(pick(2));
         MessageBoxDouble::reset();
         MessageBoxDouble::answers = {answer};
+        if (pick(mapEvery) == 0)
+            showMap();
         const quint32 command = pick(20);
         const int level = command % 2 == 0 ? 1 : 2;
         QTreeWidgetItem* item = anyItem(level);
@@ -150,17 +169,49 @@ private:
             trigger(level == 1 ? "DelSysGroup" : "DelSys");
         } else if (command < 19) {
             did = "edit";
-            panel->setCurrentIndex(1); // "Projection"
-            auto* factor = panel->findChild<QLineEdit*>(CoordParamKey::factor);
-            if (factor && factor->isEnabled() && !factor->isHidden()) {
-                factor->selectAll();
-                QTest::keyClicks(factor, QString::number(0.9 + pick(1000) / 10000.0));
+            if (pick(2) == 0) {
+                panel->setCurrentIndex(0); // "Ellipsoid"
+                type(CoordParamKey::ellipsoidA, "6378137");
+                type(CoordParamKey::ellipsoidF, "298.25");
             }
+            panel->setCurrentIndex(1); // "Projection"
+            for (auto* method : panel->findChildren<QComboBox*>()) {
+                if (method->accessibleName() == "Projection method" && method->isEnabled() && pick(2) == 0) {
+                    method->setCurrentIndex(static_cast<int>(pick(method->count())));
+                    Q_EMIT method->activated(method->currentIndex());
+                }
+            }
+            type(CoordParamKey::factor, QString::number(0.9 + pick(1000) / 10000.0));
         } else {
             did = "Save";
             saveButton->click();
             QVERIFY(!saveButton->isEnabled());
         }
+    }
+
+    void showMap() {
+        panel->setCurrentIndex(4); // "Check"
+        for (auto* pages : panel->findChildren<QTabWidget*>())
+            pages->setCurrentIndex(1); // "Distortion"
+        for (QWidget* widget : panel->findChildren<QWidget*>()) {
+            if (widget->inherits("QwtPlotCanvas"))
+                map = widget;
+        }
+    }
+
+    bool isMapShown() const { return map && map->isVisible(); }
+
+    /// What a person's hand does to a map while it changes; most often it turns away after that.
+    void disturbMap() {
+        QMouseEvent move(QEvent::MouseMove, QPointF(pick(map->width()), pick(map->height())), Qt::NoButton,
+                         Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(map, &move);
+        if (pick(2) == 0)
+            panel->window()->resize(560 + static_cast<int>(pick(80)), 440 + static_cast<int>(pick(80)));
+        if (pick(4) == 0)
+            QApplication::processEvents();
+        if (pick(3) > 0)
+            panel->setCurrentIndex(static_cast<int>(pick(panel->count())));
     }
 
     void compareTreeWithCatalogue() const {
@@ -208,11 +259,13 @@ private:
         catalogue->saveCoordSystems(path.toLocal8Bit().constData());
     }
 
-    static constexpr int steps = 5000;
+    static constexpr int steps = 3500;
+    static constexpr int mapEvery = 40;
     QRandomGenerator random{20240229};
     ICoordSystem* catalogue = nullptr;
     DlgCoordSysGroups* tree = nullptr;
     DlgCoordParam* panel = nullptr;
+    QWidget* map = nullptr; ///< of the distortion
     QPushButton* addButton = nullptr;
     QPushButton* saveButton = nullptr;
     QString announcedGroup;

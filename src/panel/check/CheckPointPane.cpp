@@ -1,15 +1,16 @@
 #include "panel/check/CheckPointPane.h"
 
+#include "panel/computing/DistortionLines.h"
+#include "panel/computing/ShownSystem.h"
 #include "panel/field/CheckField.h"
 #include "panel/field/ChoiceBox.h"
+#include "panel/field/CopyButton.h"
 #include "panel/field/MessageLine.h"
 #include "panel/record/PanelText.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPushButton>
+#include <QStandardItemModel>
 
 #include <cmath>
 
@@ -50,12 +51,12 @@ QString factorText(double factor) {
 
 CheckPointPane::CheckPointPane(QWidget* parent) : QWidget(parent) {
     auto* grid = new QGridLayout(this);
-    grid->setVerticalSpacing(4);
+    grid->setVerticalSpacing(3);
     grid->setColumnStretch(3, 1);
     addPlaceFields(grid);
     addGridFields(grid);
     addResults(grid);
-    copyButton = new QPushButton(PanelText::tr("Copy as text"));
+    copyButton = new CopyButton(PanelText::tr("Copy as text"));
     grid->addWidget(copyButton, grid->rowCount(), 1, Qt::AlignLeft);
     grid->setRowStretch(grid->rowCount(), 1);
     connect(copyButton, SIGNAL(clicked()), this, SLOT(_onCopy()));
@@ -109,17 +110,24 @@ void CheckPointPane::addResults(QGridLayout* grid) {
     labels[ClosingError]->setToolTip(PanelText::tr("How far the point is off when it is computed there and back."));
 }
 
-void CheckPointPane::setSystem(const IProjectedSystem* newSystem, const GridPoint& newOrigin, const QString& name) {
-    system = newSystem;
-    origin = newOrigin;
-    systemName = name;
+void CheckPointPane::setSystem(const std::shared_ptr<const ShownSystem>& shown) {
+    system = shown;
     recompute();
+}
+
+const IProjectedSystem* CheckPointPane::projection() const {
+    return system ? system->projection() : nullptr;
 }
 
 void CheckPointPane::showNotation() {
     latitude->showNotation();
     longitude->showNotation();
     showResults();
+}
+
+void CheckPointPane::keepPlace() {
+    if (source == Source::Grid && point)
+        source = Source::Place;
 }
 
 std::optional<GeographicPoint> CheckPointPane::place() const {
@@ -131,20 +139,21 @@ CheckPoint::Datum CheckPointPane::datum() const {
 }
 
 std::optional<CheckPoint> CheckPointPane::compute() const {
-    if (!system || !height->value())
+    const IProjectedSystem* const projected = projection();
+    if (!projected || !height->value())
         return std::nullopt;
     switch (source) {
     case Source::Origin:
-        return CheckPoint::fromGrid(*system, origin, *height->value(), datum());
+        return CheckPoint::fromGrid(*projected, DistortionLines::origin(system->record()), *height->value(), datum());
     case Source::Place:
         if (!latitude->value() || !longitude->value())
             return std::nullopt;
-        return CheckPoint::fromGeographic(*system, {*latitude->value(), *longitude->value(), *height->value()},
+        return CheckPoint::fromGeographic(*projected, {*latitude->value(), *longitude->value(), *height->value()},
                                           datum());
     case Source::Grid:
         if (!easting->value() || !northing->value())
             return std::nullopt;
-        return CheckPoint::fromGrid(*system, {*easting->value(), *northing->value()}, *height->value(), datum());
+        return CheckPoint::fromGrid(*projected, {*easting->value(), *northing->value()}, *height->value(), datum());
     }
     return std::nullopt;
 }
@@ -157,8 +166,8 @@ void CheckPointPane::recompute() {
         point ? northing->setValue(point->grid.northing) : northing->clear();
     }
     if (source != Source::Place) {
-        point ? latitude->setValue(point->on(datum()).latitude) : latitude->clear();
-        point ? longitude->setValue(point->on(datum()).longitude) : longitude->clear();
+        point ? latitude->setValue(point->on(datum())->latitude) : latitude->clear();
+        point ? longitude->setValue(point->on(datum())->longitude) : longitude->clear();
     }
     showResults();
 }
@@ -184,15 +193,27 @@ QString CheckPointPane::placeText(const GeographicPoint& place) const {
            QString::number(place.height, 'f', 4) + " m";
 }
 
+bool CheckPointPane::isComplete() const {
+    const bool isPlace = latitude->value() && longitude->value();
+    const bool isGridPoint = easting->value() && northing->value();
+    return projection() && height->value() && (isPlace || isGridPoint);
+}
+
 void CheckPointPane::showResults() {
     const bool ownShown = datum() == CheckPoint::Datum::Own;
+    const bool isShiftKnown = !projection() || projection()->hasDatumShift();
+    // Chosen all the same, it gives no result.
+    qobject_cast<QStandardItemModel*>(datumBox->model())->item(int(CheckPoint::Datum::Wgs84))->setEnabled(isShiftKnown);
     labels[OtherDatum]->setText(ownShown ? PanelText::tr("On WGS 84") : PanelText::tr("On the own datum"));
     copyButton->setEnabled(point.has_value());
-    const bool typed = system && latitude->value() && longitude->value() && height->value();
+    for (QLabel* result : results)
+        result->setText(QStringLiteral("–"));
+    if (!isShiftKnown)
+        results[OtherDatum]->setText(PanelText::tr("unknown: the system defines no datum shift"));
+    else if (point)
+        results[OtherDatum]->setText(placeText(ownShown ? *point->wgs84 : point->own));
     if (!point) {
-        for (QLabel* result : results)
-            result->setText(QStringLiteral("–"));
-        if (typed || (system && easting->value() && northing->value()))
+        if (isComplete() && (ownShown || isShiftKnown))
             results[ScaleFactor]->setText(PanelText::tr("The projection gives no result for this point."));
         return;
     }
@@ -205,8 +226,6 @@ void CheckPointPane::showResults() {
         CheckField::angleText(scale.convergence, 7) +
         (AngleText::notation() == AngleNotation::DecimalDegrees ? QStringLiteral("°") : QString()));
     results[CombinedFactor]->setText(factorText(point->combinedFactor()));
-    results[OtherDatum]->setText(system->hasDatumShift() ? placeText(ownShown ? point->wgs84 : point->own)
-                                                         : PanelText::tr("the same: no datum shift is defined"));
     showClosingError();
 }
 
@@ -224,10 +243,10 @@ void CheckPointPane::showClosingError() {
 }
 
 void CheckPointPane::_onCopy() {
-    QStringList lines{systemName, PanelText::tr("Datum") + '\t' + datumBox->currentText()};
+    QStringList lines{system->name(), PanelText::tr("Datum") + '\t' + datumBox->currentText()};
     for (const CheckField* field : {latitude, longitude, height, easting, northing})
         lines.append(QString(field->labelText() + '\t' + field->text() + ' ' + field->unitText()).trimmed());
     for (std::size_t i = 0; i < ResultCount; ++i)
         lines.append(labels[i]->text() + '\t' + results[i]->text());
-    QApplication::clipboard()->setText(lines.join('\n') + '\n');
+    copyButton->copy(lines.join('\n') + '\n');
 }

@@ -5,13 +5,15 @@
 #include <QWidget>
 
 #include <array>
+#include <memory>
 
 class CheckField;
 class ChoiceBox;
 class MessageLine;
 class QGridLayout;
 class QLabel;
-class QPushButton;
+class CopyButton;
+class ShownSystem;
 
 /// A point in latitude and longitude and on the grid, each computed from the other while the user types, with scale
 /// factor, convergence and the closing error of the round trip.
@@ -21,12 +23,15 @@ class CheckPointPane : public QWidget {
 public:
     explicit CheckPointPane(QWidget* parent = nullptr);
 
-    /// Computes the shown point through `system`, which the caller keeps until the next call; null for no system. While
-    /// the user has typed no point, it is the one at `origin`. `systemName` heads the copied text.
-    void setSystem(const IProjectedSystem* system, const GridPoint& origin, const QString& systemName);
+    /// Computes the shown point through the system `shown`. While the user has typed no point, it is the system's
+    /// origin.
+    void setSystem(const std::shared_ptr<const ShownSystem>& shown);
 
     /// Shows angles anew in the notation chosen now.
     void showNotation();
+
+    /// Keeps a point that was typed on the grid where it is on the ground, whatever becomes of the grid.
+    void keepPlace();
 
     /// The point on the own datum, or nothing while there is none.
     std::optional<GeographicPoint> place() const;
@@ -45,15 +50,15 @@ private:
     void addGridFields(QGridLayout* grid);
     void addResults(QGridLayout* grid);
     CheckPoint::Datum datum() const;
+    const IProjectedSystem* projection() const;
     std::optional<CheckPoint> compute() const;
     void recompute();
+    bool isComplete() const;
     void showResults();
     void showClosingError();
     QString placeText(const GeographicPoint& place) const;
 
-    const IProjectedSystem* system = nullptr;
-    GridPoint origin{0.0, 0.0};
-    QString systemName;
+    std::shared_ptr<const ShownSystem> system;
     Source source = Source::Origin;
     std::optional<CheckPoint> point;
 
@@ -67,5 +72,5 @@ private:
     MessageLine* gridMessage;
     std::array<QLabel*, ResultCount> labels;
     std::array<QLabel*, ResultCount> results;
-    QPushButton* copyButton;
+    CopyButton* copyButton;
 };

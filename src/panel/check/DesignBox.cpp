@@ -16,9 +16,9 @@
 namespace {
 
 /// "-12.3 to 4.5", without a minus before zeros.
-QString rangeText(const DesignProposal::Range& range) {
+QString rangeText(const DesignProposal::Distortion& distortion) {
     const auto text = [](double ppm) { return QString::number(std::round(ppm * 10.0) / 10.0 + 0.0, 'f', 1); };
-    return PanelText::tr("%1 to %2").arg(text(range.smallest), text(range.largest));
+    return PanelText::tr("%1 to %2").arg(text(distortion.smallest), text(distortion.largest));
 }
 
 QString changeText(const DesignProposal::Change& change) {
@@ -38,9 +38,11 @@ DesignBox::DesignBox(bool readOnly, QWidget* parent)
     , effectLabel(new QLabel)
     , acceptButton(new QPushButton(PanelText::tr("Take over"))) {
     goalBox->addItem(PanelText::tr("For this area"));
-    goalBox->addItem(PanelText::tr("For the checked point"));
+    goalBox->addItem(PanelText::tr("For the point"));
     goalBox->setAccessibleName(PanelText::tr("Least distortion"));
-    goalBox->setToolTip(PanelText::tr("Where the largest distortion at the mean height is to be smallest."));
+    goalBox->setToolTip(
+        PanelText::tr("Where the largest distortion at that height is to be smallest: in the square on the "
+                      "map, or at the checked point."));
     changesLabel->setWordWrap(true);
     effectLabel->setWordWrap(true);
     goalBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -64,7 +66,7 @@ DesignBox::DesignBox(bool readOnly, QWidget* parent)
     layout->addWidget(effectLabel);
     connect(goalBox, SIGNAL(currentIndexChanged(int)), this, SIGNAL(goalChanged()));
     connect(lineBox, SIGNAL(toggled(bool)), this, SIGNAL(goalChanged()));
-    connect(acceptButton, SIGNAL(clicked()), this, SIGNAL(accepted()));
+    connect(acceptButton, SIGNAL(clicked()), this, SLOT(_onAcceptClicked()));
 }
 
 bool DesignBox::isForPoint() const {
@@ -95,4 +97,19 @@ void DesignBox::showProposal(bool possible, const ParamField* line, const std::o
                                             : changes.join(",  "));
     effectLabel->setText(
         PanelText::tr("Distortion in ppm: %1 → %2").arg(rangeText(proposal->before()), rangeText(proposal->after())));
+}
+
+void DesignBox::clear() {
+    goalBox->setEnabled(false);
+    lineBox->setVisible(false);
+    acceptButton->setEnabled(false);
+    changesLabel->clear();
+    effectLabel->clear();
+}
+
+/// The keyboard stays beside the button, which has nothing more to take over then.
+void DesignBox::_onAcceptClicked() {
+    if (acceptButton->hasFocus())
+        goalBox->setFocus();
+    Q_EMIT accepted();
 }

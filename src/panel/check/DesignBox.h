@@ -29,12 +29,18 @@ public:
     /// which line it can place (may be null).
     void showProposal(bool possible, const ParamField* line, const std::optional<DesignProposal>& proposal);
 
+    /// Shows that there is no system to propose for.
+    void clear();
+
 Q_SIGNALS:
     /// The user wants a proposal for something else.
     void goalChanged();
 
     /// The user takes the proposal over.
     void accepted();
+
+private Q_SLOTS:
+    void _onAcceptClicked();
 
 private:
     bool readOnly;

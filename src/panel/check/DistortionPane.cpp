@@ -2,6 +2,7 @@
 
 #include "panel/check/DesignBox.h"
 #include "panel/check/DistortionPlot.h"
+#include "panel/computing/ShownSystem.h"
 #include "panel/field/CheckField.h"
 #include "panel/field/ChoiceBox.h"
 #include "panel/record/PanelText.h"
@@ -20,6 +21,12 @@ namespace {
 constexpr int designNodes = 15;
 constexpr int defaultWidth = 500; ///< kilometres
 
+bool isSamePlace(const GeographicPoint& left, const GeographicPoint& right) {
+    constexpr double closing = 1e-7; // degrees: a centimetre
+    return std::abs(left.latitude - right.latitude) < closing &&
+           std::abs(std::remainder(left.longitude - right.longitude, 360.0)) < closing;
+}
+
 } // namespace
 
 DistortionPane::DistortionPane(bool readOnly, QWidget* parent)
@@ -30,22 +37,26 @@ DistortionPane::DistortionPane(bool readOnly, QWidget* parent)
     , plot(new DistortionPlot)
     , readout(new QLabel)
     , design(new DesignBox(readOnly)) {
-    centreBox->addItem(PanelText::tr("Around the origin"));
-    centreBox->addItem(PanelText::tr("Around the standard parallels"));
-    centreBox->addItem(PanelText::tr("Around the checked point"));
+    centreBox->addItem(PanelText::tr("Origin"));
+    centreBox->addItem(PanelText::tr("Standard parallels"));
+    centreBox->addItem(PanelText::tr("Checked point"));
+    centreBox->addItem(PanelText::tr("Designed area"));
     centreBox->setAccessibleName(PanelText::tr("Area"));
+    centreBox->setToolTip(PanelText::tr("What the map is around."));
     for (const int kilometres : {2, 5, 10, 20, 50, 100, 200, 500, 1000, 2000, 5000})
         widthBox->addItem(QString::number(kilometres) + " km", kilometres);
     widthBox->setCurrentIndex(widthBox->findData(defaultWidth));
     widthBox->setAccessibleName(PanelText::tr("Width of the area"));
-    widthBox->setToolTip(widthBox->accessibleName());
+    widthBox->setToolTip(PanelText::tr("Side of the square area; the map shows all of it."));
     heightBox->setRange(-1000, 9000);
     heightBox->setSingleStep(50);
     heightBox->setSuffix(" m");
     heightBox->setToolTip(PanelText::tr("Mean ellipsoidal height of the ground; 0 shows the grid's own distortion."));
-    auto* heightLabel = new QLabel(PanelText::tr("Mean height"));
+    auto* heightLabel = new QLabel(PanelText::tr("Height"));
     heightLabel->setBuddy(heightBox);
-    readout->setTextInteractionFlags(Qt::NoTextInteraction);
+    // Its text changes while the map is resized. If that changed the least width of the form, a scroll bar could come
+    // and go without end.
+    readout->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     plot->setMinimumSize(260, 170);
     for (ChoiceBox* box : {centreBox, widthBox}) {
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -71,14 +82,18 @@ DistortionPane::DistortionPane(bool readOnly, QWidget* parent)
     connect(plot, SIGNAL(left()), this, SLOT(_onLeft()));
     connect(plot, SIGNAL(resized()), this, SLOT(_onPlotResized()));
     connect(design, SIGNAL(goalChanged()), this, SLOT(_onSettingsChanged()));
-    connect(design, SIGNAL(accepted()), this, SIGNAL(proposalAccepted()));
+    connect(design, SIGNAL(accepted()), this, SLOT(_onAccepted()));
     _onLeft();
 }
 
-void DistortionPane::setSystem(const IDictionary* newRecord, const IProjectedSystem* newSystem,
+void DistortionPane::setSystem(const std::shared_ptr<const ShownSystem>& shown,
                                const std::optional<GeographicPoint>& place) {
-    record = newRecord;
-    system = newSystem;
+    // Another system is seen where it belongs.
+    if (centreBox->currentIndex() == DesignedArea && system && system->name() != shown->name()) {
+        const QSignalBlocker silent(centreBox);
+        centreBox->setCurrentIndex(Origin);
+    }
+    system = shown;
     checkedPlace = place;
     _onSettingsChanged();
 }
@@ -96,20 +111,28 @@ void DistortionPane::showEvent(QShowEvent* event) {
     _onSettingsChanged();
 }
 
+const IProjectedSystem* DistortionPane::projection() const {
+    return system ? system->projection() : nullptr;
+}
+
 GridPoint DistortionPane::centre() const {
     std::optional<GridPoint> place;
     if (centreBox->currentIndex() == Parallels)
-        place = DistortionLines::middleOfParallels(*record, *system);
+        place = DistortionLines::middleOfParallels(system->record(), *projection());
     else if (centreBox->currentIndex() == CheckedPoint && checkedPlace)
-        place = system->toGrid(*checkedPlace);
-    return place ? *place : DistortionLines::origin(*record);
+        place = projection()->toGrid(*checkedPlace);
+    else if (centreBox->currentIndex() == DesignedArea && designedPlace)
+        place = projection()->toGrid(*designedPlace);
+    return place ? *place : DistortionLines::origin(system->record());
 }
 
 /// Greys what the system does not have; chosen all the same, it stands for the origin.
 void DistortionPane::offerCentres() {
     auto* items = qobject_cast<QStandardItemModel*>(centreBox->model());
-    items->item(Parallels)->setEnabled(system && DistortionLines::middleOfParallels(*record, *system));
-    items->item(CheckedPoint)->setEnabled(system && checkedPlace);
+    items->item(Parallels)->setEnabled(projection() &&
+                                       DistortionLines::middleOfParallels(system->record(), *projection()));
+    items->item(CheckedPoint)->setEnabled(projection() && checkedPlace);
+    items->item(DesignedArea)->setEnabled(projection() && designedPlace);
 }
 
 void DistortionPane::_onSettingsChanged() {
@@ -126,7 +149,7 @@ void DistortionPane::_onPlotResized() {
 }
 
 void DistortionPane::draw() {
-    if (!system) {
+    if (!projection()) {
         plot->clear();
         return;
     }
@@ -138,19 +161,59 @@ void DistortionPane::draw() {
 }
 
 void DistortionPane::drawOnce() {
-    area = plot->areaAround(centre(), widthBox->currentData().toInt() * 1000.0);
+    const DistortionLines::Line outline = designOutline();
+    const DistortionArea area = mapArea(outline);
     const QSize nodes = plot->nodeCount();
-    plot->showDistortion(DistortionGrid(*system, area, nodes.width(), nodes.height(), heightBox->value()), area);
-    plot->showLines(DistortionLines(*record, *system, area), DistortionLines::origin(*record));
+    plot->showDistortion(DistortionGrid(*projection(), area, nodes.width(), nodes.height(), heightBox->value()), area);
+    plot->showLines(DistortionLines(system->record(), *projection(), area));
+    const bool isCheckedShown = checkedPlace && centreBox->currentIndex() == CheckedPoint;
+    plot->showPlaces(DistortionLines::origin(system->record()),
+                     isCheckedShown ? projection()->toGrid(*checkedPlace) : std::nullopt, outline);
+}
+
+double DistortionPane::side() const {
+    return widthBox->currentData().toInt() * 1000.0;
+}
+
+/// The area to design for, around the map's centre and as wide as it says; nothing where the projection ends.
+std::optional<DesignArea> DistortionPane::designArea() const {
+    const auto place = projection()->toGeographic(centre(), 0.0);
+    return place ? std::optional<DesignArea>(DesignArea(*place, side())) : std::nullopt;
+}
+
+DistortionLines::Line DistortionPane::designOutline() const {
+    DistortionLines::Line line;
+    const auto area = designArea();
+    for (const GeographicPoint& place : area ? area->outline() : QVector<GeographicPoint>()) {
+        if (const auto point = projection()->toGrid(place))
+            line.push_back(*point);
+    }
+    return line;
+}
+
+/// What the map shows: all of the area to design for and a little around it, however that is turned on the grid.
+DistortionArea DistortionPane::mapArea(const DistortionLines::Line& outline) const {
+    constexpr double margin = 1.04;
+    const GridPoint middle = centre();
+    double width = side(), height = side();
+    for (const GridPoint& point : outline) {
+        width = std::max(width, 2.0 * std::abs(point.easting - middle.easting));
+        height = std::max(height, 2.0 * std::abs(point.northing - middle.northing));
+    }
+    // Towards the end of a projection the grid has no end.
+    const double most = 2.0 * side();
+    return plot->fitted({middle, margin * std::min(width, most), margin * std::min(height, most)});
 }
 
 QVector<GeographicPoint> DistortionPane::designPoints() const {
     if (design->isForPoint())
         return checkedPlace ? QVector<GeographicPoint>{*checkedPlace} : QVector<GeographicPoint>();
     QVector<GeographicPoint> points;
-    for (const GridPoint& node : DistortionGrid::nodes(area, designNodes, designNodes)) {
-        if (const auto place = system->toGeographic(node, 0.0))
-            points.append(*place);
+    const auto area = designArea();
+    for (const GeographicPoint& place : area ? area->nodes(designNodes) : QVector<GeographicPoint>()) {
+        // What lies beyond the projection's end can't be made better.
+        if (projection()->localScale(place))
+            points.append(place);
     }
     return points;
 }
@@ -158,31 +221,48 @@ QVector<GeographicPoint> DistortionPane::designPoints() const {
 void DistortionPane::propose() {
     IProjectionModule* const module = projectionModule();
     designProposal.reset();
-    if (system && module)
+    if (projection() && module)
         designProposal =
-            DesignProposal::make(*record, *module, designPoints(), heightBox->value(), design->placesLine());
-    design->showProposal(record && DesignProposal::isPossible(*record),
-                         record ? DesignProposal::lineField(*record) : nullptr, designProposal);
+            DesignProposal::make(system->record(), *module, designPoints(), heightBox->value(), design->placesLine());
+    if (projection())
+        design->showProposal(DesignProposal::isPossible(system->record()), DesignProposal::lineField(system->record()),
+                             designProposal);
+    else
+        design->clear();
 }
 
 void DistortionPane::_onPointed(double easting, double northing) {
-    if (!system)
+    if (!projection())
         return;
     const GridPoint point{easting, northing};
     double ppm = 0.0;
-    system->linearDistortion(&point, 1, heightBox->value(), &ppm);
-    const auto place = system->toGeographic(point, 0.0);
+    projection()->linearDistortion(&point, 1, heightBox->value(), &ppm);
+    const auto place = projection()->toGeographic(point, 0.0);
     if (!place || std::isnan(ppm))
         return _onLeft();
     const int decimals = 5; // a metre on the ground: more than a pixel tells
     readout->setText(
-        PanelText::tr("E %1 km  N %2 km   %3, %4   %5 ppm")
-            .arg(easting / 1000.0, 0, 'f', 3)
-            .arg(northing / 1000.0, 0, 'f', 3)
+        PanelText::tr("%1 ppm   %2, %3\nE %4 km  N %5 km")
+            .arg(ppm, 0, 'f', 1)
             .arg(CheckField::angleText(place->latitude, decimals), CheckField::angleText(place->longitude, decimals))
-            .arg(ppm, 0, 'f', 1));
+            .arg(easting / 1000.0, 0, 'f', 3)
+            .arg(northing / 1000.0, 0, 'f', 3));
 }
 
 void DistortionPane::_onLeft() {
-    readout->setText(PanelText::tr("Point at the map for the distortion there."));
+    readout->setText(PanelText::tr("Point at the map for the distortion there.") + '\n');
+}
+
+/// The area stays where it is on the ground, though what it is around may move.
+void DistortionPane::_onAccepted() {
+    if (!projection())
+        return;
+    const auto before = projection()->toGeographic(centre(), 0.0);
+    Q_EMIT proposalAccepted();
+    const auto after = projection() ? projection()->toGeographic(centre(), 0.0) : std::nullopt;
+    if (!before || !after || design->isForPoint() || isSamePlace(*before, *after))
+        return;
+    designedPlace = before;
+    centreBox->setCurrentIndex(DesignedArea);
+    _onSettingsChanged();
 }

@@ -1,17 +1,19 @@
 #pragma once
 
+#include "panel/computing/DesignArea.h"
 #include "panel/computing/DesignProposal.h"
-#include "panel/computing/DistortionGrid.h"
+#include "panel/computing/DistortionLines.h"
 
-#include <QByteArray>
 #include <QWidget>
+
+#include <memory>
 
 class ChoiceBox;
 class DesignBox;
 class DistortionPlot;
-class IDictionary;
 class QLabel;
 class QSpinBox;
+class ShownSystem;
 
 /// The linear distortion of the system over an area at a mean height: the picture, the value under the mouse, and the
 /// scale factor that would make it smallest. Computed and drawn only while it is visible.
@@ -21,11 +23,9 @@ class DistortionPane : public QWidget {
 public:
     explicit DistortionPane(bool readOnly, QWidget* parent = nullptr);
 
-    /// The system to show: `record`, and `system` which it defines; both stay the caller's until the next call. Null
-    /// for none. `checkedPlace` is the point that the user checks, on the system's datum: the other place to look
-    /// around.
-    void setSystem(const IDictionary* record, const IProjectedSystem* system,
-                   const std::optional<GeographicPoint>& checkedPlace);
+    /// Shows the system `shown`. `place` is the point that the user checks, on the system's datum: another place to
+    /// look around.
+    void setSystem(const std::shared_ptr<const ShownSystem>& shown, const std::optional<GeographicPoint>& place);
 
     void setCheckedPlace(const std::optional<GeographicPoint>& place);
 
@@ -44,21 +44,26 @@ private Q_SLOTS:
     void _onPlotResized();
     void _onPointed(double easting, double northing);
     void _onLeft();
+    void _onAccepted();
 
 private:
-    enum Centre { Origin, Parallels, CheckedPoint };
+    enum Centre { Origin, Parallels, CheckedPoint, DesignedArea };
 
+    const IProjectedSystem* projection() const;
     void draw();
     void drawOnce();
     void propose();
     void offerCentres();
     GridPoint centre() const;
+    std::optional<DesignArea> designArea() const;
+    DistortionLines::Line designOutline() const;
+    DistortionArea mapArea(const DistortionLines::Line& outline) const;
+    double side() const;
     QVector<GeographicPoint> designPoints() const;
 
-    const IDictionary* record = nullptr;
-    const IProjectedSystem* system = nullptr;
+    std::shared_ptr<const ShownSystem> system;
     std::optional<GeographicPoint> checkedPlace;
-    DistortionArea area{{0.0, 0.0}, 0.0, 0.0};
+    std::optional<GeographicPoint> designedPlace; ///< the middle of the area whose proposal was taken over last
     std::optional<DesignProposal> designProposal;
 
     ChoiceBox* centreBox;

@@ -23,6 +23,7 @@ constexpr double metresPerKilometre = 1000.0;
 constexpr int pixelsPerNode = 4;
 constexpr int contourCount = 8;
 constexpr int parallelCount = 2;
+constexpr int axes[] = {QwtPlot::xBottom, QwtPlot::yLeft, QwtPlot::yRight};
 
 /// Numbers without the grouping of the system's language: northings have no room for it.
 class PlainScaleDraw : public QwtScaleDraw {
@@ -30,33 +31,36 @@ public:
     QwtText label(double value) const override { return QString::number(value, 'g', 10); }
 };
 
-/// Blue for negative, pale for the smallest, red for positive values; told apart by the colour-blind, too. Where all
-/// values have one sign, they have that sign's colours to themselves.
+/// Blue for negative, white for 0, red for positive values: ColorBrewer's diverging scheme RdBu, which the colour-blind
+/// tell apart, with white for its grey middle (Brewer, Hatchard and Harrower 2003, "ColorBrewer in print", Cartography
+/// and Geographic Information Science 30(1)).
 class DistortionColours : public QwtLinearColorMap {
 public:
-    enum class Sign { Negative, Both, Positive };
-
-    explicit DistortionColours(Sign sign)
-        : QwtLinearColorMap(QColor(sign == Sign::Positive ? pale : blue), QColor(sign == Sign::Negative ? pale : red)) {
-        if (sign == Sign::Both) {
-            addColorStop(0.25, QColor(paleBlue));
-            addColorStop(0.5, QColor(pale));
-            addColorStop(0.75, QColor(paleRed));
-        } else {
-            addColorStop(0.5, QColor(sign == Sign::Negative ? paleBlue : paleRed));
-        }
+    DistortionColours() : QwtLinearColorMap(QColor(0x2166ac), QColor(0xb2182b)) {
+        addColorStop(0.25, QColor(0x92c5de));
+        addColorStop(0.5, QColor(0xffffff));
+        addColorStop(0.75, QColor(0xf4a582));
     }
 
-private:
-    static constexpr QRgb blue = 0x2166ac;
-    static constexpr QRgb paleBlue = 0x92c5de;
-    static constexpr QRgb pale = 0xffffff;
-    static constexpr QRgb paleRed = 0xf4a582;
-    static constexpr QRgb red = 0xb2182b;
+    /// The interval to spread the colours over, for values from `low` to `high`. White is 0. Values of one sign that
+    /// lie far from 0 have more of that sign's colours than 0 would leave them, but white is none of theirs.
+    static QwtInterval interval(double low, double high) {
+        constexpr double firstColour = 0.25; // of the way from white to the full colour
+        const double extreme = std::abs(low) > std::abs(high) ? low : high;
+        const double smallest = low > 0.0 ? low : std::min(high, 0.0);
+        const double start = std::min(smallest / extreme, firstColour);
+        const double white = (smallest - start * extreme) / (1.0 - start);
+        const double reach = std::abs(extreme - white);
+        return QwtInterval(white - reach, white + reach);
+    }
 };
 
 QwtInterval interval(double centre, double width) {
     return QwtInterval((centre - width / 2.0) / metresPerKilometre, (centre + width / 2.0) / metresPerKilometre);
+}
+
+QPointF inKilometres(const GridPoint& point) {
+    return QPointF(point.easting, point.northing) / metresPerKilometre;
 }
 
 double squaredDistance(const QPointF& left, const QPointF& right) {
@@ -67,7 +71,10 @@ double squaredDistance(const QPointF& left, const QPointF& right) {
 } // namespace
 
 DistortionPlot::DistortionPlot(QWidget* parent)
-    : QwtPlot(parent), spectrogram(new QwtPlotSpectrogram), originMarker(new QwtPlotMarker(PanelText::tr("Origin"))) {
+    : QwtPlot(parent)
+    , spectrogram(new QwtPlotSpectrogram)
+    , originMarker(new QwtPlotMarker(PanelText::tr("Origin")))
+    , checkedMarker(new QwtPlotMarker(PanelText::tr("Checked point"))) {
     setAccessibleName(PanelText::tr("Picture of the linear distortion"));
     setUpAxes();
     spectrogram->setDisplayMode(QwtPlotSpectrogram::ContourMode, true);
@@ -79,6 +86,12 @@ DistortionPlot::DistortionPlot(QWidget* parent)
         parallels.append(newLine(PanelText::tr("Standard parallel"), Qt::DotLine));
     originMarker->setSymbol(new QwtSymbol(QwtSymbol::Cross, QBrush(), QPen(Qt::black, 2.0), QSize(13, 13)));
     originMarker->attach(this);
+    designOutline = newLine(PanelText::tr("Area of the design"), Qt::SolidLine);
+    designOutline->setPen(Qt::black, 1.5);
+    checkedMarker->setSymbol(
+        new QwtSymbol(QwtSymbol::Ellipse, QBrush(Qt::yellow), QPen(Qt::black, 2.0), QSize(10, 10)));
+    checkedMarker->setZ(40.0);
+    checkedMarker->attach(this);
 
     auto* frame = qobject_cast<QwtPlotCanvas*>(canvas());
     frame->setFrameShape(QFrame::Box);
@@ -90,7 +103,7 @@ DistortionPlot::DistortionPlot(QWidget* parent)
 
 void DistortionPlot::setUpAxes() {
     const QFont small = font();
-    for (const int axis : {int(xBottom), int(yLeft), int(yRight)}) {
+    for (const int axis : axes) {
         QwtText title(axis == xBottom ? PanelText::tr("Easting, km")
                       : axis == yLeft ? PanelText::tr("Northing, km")
                                       : PanelText::tr("ppm"));
@@ -101,7 +114,6 @@ void DistortionPlot::setUpAxes() {
         setAxisMaxMajor(axis, 5);
         axisWidget(axis)->setMargin(0);
     }
-    enableAxis(yRight);
     axisWidget(yRight)->setColorBarEnabled(true);
     axisWidget(yRight)->setColorBarWidth(12);
     plotLayout()->setAlignCanvasToScales(true);
@@ -115,9 +127,15 @@ QwtPlotCurve* DistortionPlot::newLine(const QString& title, Qt::PenStyle style) 
     return curve;
 }
 
-DistortionArea DistortionPlot::areaAround(const GridPoint& centre, double width) const {
-    const QSize size = canvas()->contentsRect().size();
-    return {centre, width, width * std::max(1, size.height()) / std::max(1, size.width())};
+void DistortionPlot::enableAxes(bool enable) {
+    for (const int axis : axes)
+        enableAxis(axis, enable);
+}
+
+DistortionArea DistortionPlot::fitted(const DistortionArea& area) const {
+    const QSize size = canvas()->contentsRect().size().expandedTo(QSize(1, 1));
+    const double metresPerPixel = std::max(area.width / size.width(), area.height / size.height());
+    return {area.centre, metresPerPixel * size.width(), metresPerPixel * size.height()};
 }
 
 QSize DistortionPlot::nodeCount() const {
@@ -130,6 +148,7 @@ void DistortionPlot::showDistortion(const DistortionGrid& grid, const Distortion
         clear();
         return;
     }
+    enableAxes(true);
     const QwtInterval easting = interval(area.centre.easting, area.width);
     const QwtInterval northing = interval(area.centre.northing, area.height);
     setAxisScale(xBottom, easting.minValue(), easting.maxValue());
@@ -149,6 +168,7 @@ void DistortionPlot::showDistortion(const DistortionGrid& grid, const Distortion
     const QList<double> levels = grid.contourLevels(contourCount).toList();
     spectrogram->setContourLevels(levels);
     updateAxes();
+    updateLayout(); // not before the next event otherwise, and the labels need the final canvas
     showLabels(levels);
 }
 
@@ -156,15 +176,10 @@ void DistortionPlot::setColours(const DistortionGrid& grid) {
     // Below a ten-thousandth of a ppm lies the noise of the computation.
     const double low = grid.smallest() - 1e-4;
     const double high = grid.largest() + 1e-4;
-    const double extreme = std::max(-low, high);
-    const auto sign = low >= 0.0    ? DistortionColours::Sign::Positive
-                      : high <= 0.0 ? DistortionColours::Sign::Negative
-                                    : DistortionColours::Sign::Both;
-    const QwtInterval colours =
-        sign == DistortionColours::Sign::Both ? QwtInterval(-extreme, extreme) : QwtInterval(low, high);
+    const QwtInterval colours = DistortionColours::interval(low, high);
     spectrogram->data()->setInterval(Qt::ZAxis, colours);
-    spectrogram->setColorMap(new DistortionColours(sign));
-    axisWidget(yRight)->setColorMap(colours, new DistortionColours(sign));
+    spectrogram->setColorMap(new DistortionColours);
+    axisWidget(yRight)->setColorMap(colours, new DistortionColours);
     setAxisScale(yRight, low, high);
 }
 
@@ -226,40 +241,54 @@ void DistortionPlot::addLabel(double level, const QPointF& place) {
 void DistortionPlot::drawLine(QwtPlotCurve* curve, const DistortionLines::Line& line) {
     QVector<QPointF> points;
     for (const GridPoint& point : line)
-        points.append(QPointF(point.easting, point.northing) / metresPerKilometre);
+        points.append(inKilometres(point));
     curve->setSamples(points);
     curve->setVisible(!points.isEmpty());
 }
 
-void DistortionPlot::showLines(const DistortionLines& lines, const GridPoint& origin) {
+void DistortionPlot::showLines(const DistortionLines& lines) {
     drawLine(meridian, lines.centralMeridian());
     for (int i = 0; i < parallelCount; ++i) {
         const bool used = i < int(lines.standardParallels().size());
         drawLine(parallels[i], used ? lines.standardParallels()[std::size_t(i)] : DistortionLines::Line());
     }
-    originMarker->setValue(origin.easting / metresPerKilometre, origin.northing / metresPerKilometre);
-    originMarker->setVisible(true);
     replot();
+}
+
+void DistortionPlot::showPlaces(const GridPoint& origin, const std::optional<GridPoint>& checked,
+                                const DistortionLines::Line& designed) {
+    originMarker->setValue(inKilometres(origin));
+    originMarker->setVisible(true);
+    checkedMarker->setValue(inKilometres(checked.value_or(GridPoint())));
+    checkedMarker->setVisible(checked.has_value());
+    drawLine(designOutline, designed);
+    replot();
+    pointAgain();
 }
 
 void DistortionPlot::clear() {
-    spectrogram->setVisible(false);
-    meridian->setVisible(false);
-    for (QwtPlotCurve* parallel : qAsConst(parallels))
-        parallel->setVisible(false);
-    originMarker->setVisible(false);
-    for (QwtPlotMarker* label : qAsConst(labels))
-        label->setVisible(false);
+    for (QwtPlotItem* item : itemList())
+        item->setVisible(false);
+    enableAxes(false);
     replot();
+    pointAgain();
+}
+
+/// Tells what is under the mouse, if it is over a map.
+void DistortionPlot::pointAgain() {
+    if (mouse && spectrogram->isVisible())
+        Q_EMIT pointed(invTransform(xBottom, mouse->x()) * metresPerKilometre,
+                       invTransform(yLeft, mouse->y()) * metresPerKilometre);
+    else
+        Q_EMIT left();
 }
 
 bool DistortionPlot::eventFilter(QObject* object, QEvent* event) {
-    if (object == canvas() && event->type() == QEvent::MouseMove && spectrogram->isVisible()) {
-        const QPoint position = static_cast<QMouseEvent*>(event)->pos();
-        Q_EMIT pointed(invTransform(xBottom, position.x()) * metresPerKilometre,
-                       invTransform(yLeft, position.y()) * metresPerKilometre);
-    } else if (object == canvas() && event->type() == QEvent::Leave) {
-        Q_EMIT left();
+    if (object == canvas() && (event->type() == QEvent::MouseMove || event->type() == QEvent::Leave)) {
+        mouse.reset();
+        if (event->type() == QEvent::MouseMove)
+            mouse = static_cast<QMouseEvent*>(event)->pos();
+        pointAgain();
     }
     return QwtPlot::eventFilter(object, event);
 }

@@ -5,21 +5,23 @@
 #include <QVector>
 #include <qwt_plot.h>
 
+#include <optional>
+
 class QwtPlotCurve;
 class QwtPlotMarker;
 class QwtPlotSpectrogram;
 
 /// The picture of a system's linear distortion: a map coloured by ppm with labelled contours, axes in grid kilometres,
-/// the central meridian, standard parallels and origin. White is no distortion, blue is grid shorter than ground, red
-/// longer.
+/// the central meridian, standard parallels, origin, checked point and the area to design for. White is no distortion,
+/// blue is grid shorter than ground, red longer.
 class DistortionPlot : public QwtPlot {
     Q_OBJECT
 
 public:
     explicit DistortionPlot(QWidget* parent = nullptr);
 
-    /// The area of `width` metres around `centre` that has the canvas's shape.
-    DistortionArea areaAround(const GridPoint& centre, double width) const;
+    /// The least area of the canvas's shape that has all of `area` and its centre.
+    DistortionArea fitted(const DistortionArea& area) const;
 
     /// How many nodes a picture of the canvas's size needs.
     QSize nodeCount() const;
@@ -27,13 +29,17 @@ public:
     /// Shows the values of `grid` over `area`. The axes' numbers may need another width than before; then the canvas's
     /// shape changes.
     void showDistortion(const DistortionGrid& grid, const DistortionArea& area);
-    void showLines(const DistortionLines& lines, const GridPoint& origin);
+    void showLines(const DistortionLines& lines);
 
-    /// No picture.
+    /// Marks the origin, the checked point (unless there is none), and the outline of the area to design for.
+    void showPlaces(const GridPoint& origin, const std::optional<GridPoint>& checked,
+                    const DistortionLines::Line& designed);
+
+    /// No picture and no scales.
     void clear();
 
 Q_SIGNALS:
-    /// The mouse is over this place of the grid (metres).
+    /// The mouse is over this place of the grid (metres), or the map under it has changed.
     void pointed(double easting, double northing);
     void left();
 
@@ -46,6 +52,8 @@ protected:
 
 private:
     void setUpAxes();
+    void enableAxes(bool enable);
+    void pointAgain();
     void showLabels(const QList<double>& levels);
     void setColours(const DistortionGrid& grid);
     void addLabel(double level, const QPointF& place);
@@ -56,5 +64,8 @@ private:
     QwtPlotCurve* meridian;
     QVector<QwtPlotCurve*> parallels;
     QwtPlotMarker* originMarker;
+    QwtPlotMarker* checkedMarker;
+    QwtPlotCurve* designOutline;
+    std::optional<QPoint> mouse; ///< over the canvas
     QVector<QwtPlotMarker*> labels;
 };

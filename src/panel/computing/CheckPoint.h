@@ -10,7 +10,7 @@ struct CheckPoint {
     enum class Datum { Own, Wgs84 };
 
     GeographicPoint own;
-    GeographicPoint wgs84; ///< equal to `own` where the system has no datum shift
+    std::optional<GeographicPoint> wgs84; ///< unknown where the system has no datum shift
     GridPoint grid;
     LocalScale scale;
     double elevationFactor; ///< R / (R + height) with the ellipsoid's mean radius R at the point
@@ -19,13 +19,14 @@ struct CheckPoint {
     /// Scale factor from a distance at the point's height to the grid (NOAA Manual NOS NGS 5, section 4.2).
     double combinedFactor() const { return scale.mean * elevationFactor; }
 
-    const GeographicPoint& on(Datum datum) const { return datum == Datum::Own ? own : wgs84; }
+    std::optional<GeographicPoint> on(Datum datum) const { return datum == Datum::Own ? own : wgs84; }
 
-    /// From latitude, longitude and height on `datum`. Nothing where the system gives no result.
+    /// From latitude, longitude and height on `datum`. Nothing where the system gives no result, and
+    /// nothing from WGS 84 where it has no datum shift.
     static std::optional<CheckPoint> fromGeographic(const IProjectedSystem& system, const GeographicPoint& point,
                                                     Datum datum);
 
-    /// From easting and northing, with the ellipsoidal height (metres) on `datum`.
+    /// From easting and northing, with the ellipsoidal height (metres) on `datum`. Nothing as above.
     static std::optional<CheckPoint> fromGrid(const IProjectedSystem& system, const GridPoint& point, double height,
                                               Datum datum);
 };

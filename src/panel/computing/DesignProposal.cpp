@@ -8,13 +8,13 @@
 #include "panel/record/ProjectionFields.h"
 #include "panel/record/StandardParallel.h"
 
-#include <algorithm>
-#include <cmath>
 #include <limits>
+
+namespace Key = CoordParamKey;
 
 namespace {
 
-using namespace CoordParamKey;
+constexpr double roundingOfFactor = 0.05; ///< ppm: half of the seventh decimal
 
 void put(CoordParamEditor& editor, const ParamField& field, double value) {
     editor.setField(field, field.parse(NumberText::shortest(value)));
@@ -24,41 +24,60 @@ double rounded(double value, int decimals) {
     return QString::number(value, 'f', decimals).toDouble();
 }
 
+/// The least and the greatest of some values.
+struct Bounds {
+    double least = std::numeric_limits<double>::infinity();
+    double greatest = -least;
+
+    void add(double value) {
+        least = std::min(least, value);
+        greatest = std::max(greatest, value);
+    }
+};
+
 /// What the area's points say of one candidate.
 class Trial {
 public:
     Trial(IProjectionModule& module, const QVector<GeographicPoint>& points, double height)
         : module(module), points(points), height(height) {}
 
-    /// Smallest and largest k * R / (R + h) of the system that `record` defines.
-    std::optional<DesignProposal::Range> scales(const IDictionary& record) const {
+    /// The bounds of k * R / (R + h) in the system that `record` defines.
+    std::optional<Bounds> factors(const IDictionary& record) const {
         const auto system = module.createSystem(coordParamToProjDefine(record));
         if (!system)
             return std::nullopt;
-        DesignProposal::Range range{std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()};
+        Bounds factors;
         for (const GeographicPoint& point : points) {
             const auto scale = system->localScale(point);
             if (!scale)
                 return std::nullopt;
-            const double combined = scale->mean * system->elevationFactor(point.latitude, height);
-            range.smallest = std::min(range.smallest, combined);
-            range.largest = std::max(range.largest, combined);
+            factors.add(scale->mean * system->elevationFactor(point.latitude, height));
         }
-        return range;
+        return factors;
     }
 
-    std::optional<DesignProposal::Range> ppm(const IDictionary& record) const {
-        auto range = scales(record);
-        if (range)
-            range = DesignProposal::Range{(range->smallest - 1.0) * 1e6, (range->largest - 1.0) * 1e6};
-        return range;
+    std::optional<DesignProposal::Distortion> distortion(const IDictionary& record) const {
+        const auto bounds = factors(record);
+        if (!bounds)
+            return std::nullopt;
+        return DesignProposal::Distortion{(bounds->least - 1.0) * 1e6, (bounds->greatest - 1.0) * 1e6};
     }
 
     /// The distortion that the best scale factor leaves, relative to it; infinite where there is no result.
     double spread(const IDictionary& record) const {
-        const auto range = scales(record);
-        return range ? (range->largest - range->smallest) / (range->largest + range->smallest)
-                     : std::numeric_limits<double>::infinity();
+        const auto bounds = factors(record);
+        return bounds ? (bounds->greatest - bounds->least) / (bounds->greatest + bounds->least)
+                      : std::numeric_limits<double>::infinity();
+    }
+
+    /// The bounds in degrees of the points' latitudes or, around the present line, longitudes.
+    Bounds degrees(const ParamField& line, double present) const {
+        Bounds degrees;
+        for (const GeographicPoint& point : points)
+            degrees.add(line.quantity == Quantity::Longitude
+                            ? present + std::remainder(point.longitude - present, 360.0)
+                            : point.latitude);
+        return degrees;
     }
 
 private:
@@ -67,29 +86,18 @@ private:
     double height;
 };
 
-/// The range of the points' latitudes or, around the present line, longitudes.
-DesignProposal::Range lineRange(const QVector<GeographicPoint>& points, const ParamField& line, double present) {
-    DesignProposal::Range range{std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()};
-    for (const GeographicPoint& point : points) {
-        const double value = line.quantity == Quantity::Longitude
-                                 ? present + std::remainder(point.longitude - present, 360.0)
-                                 : point.latitude;
-        range.smallest = std::min(range.smallest, value);
-        range.largest = std::max(range.largest, value);
-    }
-    return range;
-}
-
-/// Moves the line of `editor`'s record to where the area's scales differ least.
-void placeBestLine(CoordParamEditor& editor, const ParamField& line, const QVector<GeographicPoint>& points,
-                   const Trial& trial) {
-    const DesignProposal::Range range = lineRange(points, line, dictionary_number(editor.record(), line.key, 0.0));
+/// Moves the line of `editor`'s record to where the area's factors differ least.
+void placeBestLine(CoordParamEditor& editor, const ParamField& line, const Trial& trial) {
+    const double present = dictionary_number(editor.record(), line.key, 0.0);
+    const bool startsOnParallel =
+        line.is(Key::parallel1Lat) && dictionary_number(editor.record(), Key::orgLat, 0.0) == present;
+    const Bounds degrees = trial.degrees(line, present);
     const auto spreadAt = [&](double value) {
         put(editor, line, value);
         return trial.spread(editor.record());
     };
     const double ratio = (std::sqrt(5.0) - 1.0) / 2.0;
-    double low = range.smallest, high = range.largest;
+    double low = degrees.least, high = degrees.greatest;
     double inner = high - ratio * (high - low), outer = low + ratio * (high - low);
     double innerSpread = spreadAt(inner), outerSpread = spreadAt(outer);
     while (high - low > 1e-5) {
@@ -107,17 +115,43 @@ void placeBestLine(CoordParamEditor& editor, const ParamField& line, const QVect
             outerSpread = spreadAt(outer);
         }
     }
-    double best = rounded((low + high) / 2.0, range.largest - range.smallest < 1.0 ? 4 : 2);
+    double best = rounded((low + high) / 2.0, degrees.greatest - degrees.least < 1.0 ? 4 : 2);
     if (line.quantity == Quantity::Longitude)
         best = rounded(std::remainder(best, 360.0), 4);
     put(editor, line, best);
+    // A cone that starts on its parallel goes on doing so.
+    if (startsOnParallel)
+        put(editor, *ProjectionFields::ofRecord(editor.record())->field(Key::orgLat), best);
+}
+
+/// Gives `editor`'s record the best factor; the distortion that is left, or nothing where there is no result.
+std::optional<DesignProposal::Distortion> putBestFactor(CoordParamEditor& editor, const Trial& trial) {
+    const auto bounds = trial.factors(editor.record());
+    if (!bounds)
+        return std::nullopt;
+    const double present = dictionary_number(editor.record(), Key::factor, 1.0);
+    put(editor, *ProjectionFields::ofRecord(editor.record())->field(Key::factor),
+        rounded(2.0 * present / (bounds->least + bounds->greatest), 7));
+    return trial.distortion(editor.record());
+}
+
+/// The method's values that differ.
+QVector<DesignProposal::Change> difference(const IDictionary& before, const IDictionary& after) {
+    QVector<DesignProposal::Change> changes;
+    for (const ParamField& field : ProjectionFields::ofRecord(before)->fields) {
+        const double old = dictionary_number(before, field.key, 0.0);
+        const double proposed = dictionary_number(after, field.key, 0.0);
+        if (old != proposed)
+            changes.append({&field, old, proposed});
+    }
+    return changes;
 }
 
 } // namespace
 
 bool DesignProposal::isPossible(const IDictionary& record) {
     const ProjectionFields* const projection = ProjectionFields::ofRecord(record);
-    if (!projection || !projection->field(factor))
+    if (!projection || !projection->field(Key::factor))
         return false;
     return projection->method != ProjectionMethod::Stereographic || !StandardParallel::ofRecord(record);
 }
@@ -129,9 +163,9 @@ const ParamField* DesignProposal::lineField(const IDictionary& record) {
     switch (projection->method) {
     case ProjectionMethod::TransverseMercator:
     case ProjectionMethod::TransverseMercatorScaled:
-        return projection->field(orgLon);
+        return projection->field(Key::orgLon);
     case ProjectionMethod::LambertOneParallel:
-        return projection->field(parallel1Lat);
+        return projection->field(Key::parallel1Lat);
     default:
         return nullptr;
     }
@@ -141,38 +175,33 @@ std::optional<DesignProposal> DesignProposal::make(const IDictionary& record, IP
                                                    const QVector<GeographicPoint>& points, double height,
                                                    bool placeLine) {
     const Trial trial(module, points, height);
-    const auto before = trial.ppm(record);
+    DesignProposal proposal;
+    const auto before = trial.distortion(record);
     if (!isPossible(record) || points.isEmpty() || !before)
         return std::nullopt;
-    CoordParamEditor editor;
-    editor.setRecord(record);
-    const ParamField* const line = placeLine ? lineField(record) : nullptr;
-    if (line)
-        placeBestLine(editor, *line, points, trial);
-    const ProjectionFields& projection = *ProjectionFields::ofRecord(record);
-    // A cone that starts on its parallel goes on doing so.
-    if (line && projection.method == ProjectionMethod::LambertOneParallel &&
-        dictionary_number(record, orgLat, 0.0) == dictionary_number(record, parallel1Lat, 1.0))
-        put(editor, *projection.field(orgLat), dictionary_number(editor.record(), parallel1Lat, 0.0));
+    proposal.distortionBefore = proposal.distortionAfter = *before;
 
-    const auto range = trial.scales(editor.record());
-    if (!range)
-        return std::nullopt;
-    const double present = dictionary_number(record, factor, 1.0);
-    put(editor, *projection.field(factor), rounded(2.0 * present / (range->smallest + range->largest), 7));
-    const auto after = trial.ppm(editor.record());
-    if (!after)
-        return std::nullopt;
-
-    DesignProposal proposal;
-    proposal.rangeBefore = *before;
-    proposal.rangeAfter = *after;
-    for (const ParamField& field : projection.fields) {
-        const double old = dictionary_number(record, field.key, 0.0);
-        const double proposed = dictionary_number(editor.record(), field.key, 0.0);
-        if (old != proposed)
-            proposal.changedValues.append({&field, old, proposed});
-    }
+    const auto consider = [&](const ParamField* line) {
+        CoordParamEditor editor;
+        editor.setRecord(record);
+        if (line)
+            placeBestLine(editor, *line, trial);
+        const bool isSameLine =
+            line && dictionary_number(editor.record(), line->key, 0.0) == dictionary_number(record, line->key, 0.0);
+        const auto after = putBestFactor(editor, trial);
+        if (!after || isSameLine)
+            return;
+        // At one point the factor does it all; the line goes through it for the sake of what is around.
+        const bool isThroughPoint = line && points.size() == 1;
+        if (!isThroughPoint && proposal.distortionAfter.extreme() - after->extreme() < roundingOfFactor)
+            return;
+        proposal.distortionAfter = *after;
+        proposal.changedValues = difference(record, editor.record());
+    };
+    consider(nullptr);
+    // A line has to be worth its change.
+    if (const ParamField* const line = placeLine ? lineField(record) : nullptr)
+        consider(line);
     return proposal;
 }
 

@@ -18,7 +18,7 @@ CheckField::CheckField(const ParamField& field, MessageLine* message, QGridLayou
     auto* label = new QLabel(name);
     label->setBuddy(edit);
     edit->setAccessibleName(name);
-    edit->setFixedWidth(edit->fontMetrics().horizontalAdvance("-179°59'59.12345678\"") + 24);
+    edit->setFixedWidth(edit->fontMetrics().horizontalAdvance("-179°59'59.123456\"") + 24);
     grid->addWidget(label, line, 0);
     grid->addWidget(edit, line, 1);
     grid->addWidget(unit, line, 2);
