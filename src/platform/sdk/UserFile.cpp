@@ -64,6 +64,7 @@ void UserFile::setPath(const QString& filePath) {
     path = filePath;
     known = FileStamp();
     ownRescue.clear();
+    removeLeftovers();
 }
 
 QString UserFile::previousGeneration(const QString& target) {

@@ -16,7 +16,7 @@ public:
     /// `rescueFolder` is where a save goes that can't reach the file's folder.
     explicit UserFile(const QString& rescueFolder);
 
-    /// Where the file lies; empty while there is none.
+    /// Where the file lies; what saves left there that were killed is removed.
     void setPath(const QString& filePath);
 
     /// Whether there is anything of the user's: the file, its previous generation, a rescued save, or a file that was
@@ -27,7 +27,6 @@ public:
     /// whole; else the previous generation when that is; else what can be read of the file, else of the previous
     /// generation.
     template <class Read> auto load(Read read) {
-        removeLeftovers();
         if (hasNewerRescue()) {
             auto rescued = read(rescuePath(path));
             if (rescued.condition == FileCondition::Whole) {
