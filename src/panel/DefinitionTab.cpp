@@ -2,6 +2,7 @@
 
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/DictionaryGuard.h"
+#include "catalogue/File.h"
 #include "import/WktToCoordParam.h"
 #include "panel/field/ChoiceBox.h"
 #include "panel/field/CopyButton.h"
@@ -21,7 +22,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QVBoxLayout>
 
 namespace {
@@ -167,10 +167,10 @@ void DefinitionTab::_onSave() {
     dialog.selectFile(fileName(record()));
     if (dialog.exec() != QDialog::Accepted)
         return;
-    QSaveFile file(dialog.selectedFiles().first());
-    if (!file.open(QIODevice::WriteOnly) || file.write(wkt(false)) < 0 || !file.commit())
+    QString error;
+    if (!process_replace_file(dialog.selectedFiles().first(), wkt(false), &error))
         VornMessageBox::information_ok(this, PanelText::tr("Warning"),
-                                       PanelText::tr("The file can't be written: %1").arg(file.errorString()));
+                                       PanelText::tr("The file can't be written: %1").arg(error));
 }
 
 void DefinitionTab::_onFromRegistry() {
