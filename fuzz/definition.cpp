@@ -3,7 +3,6 @@
 #include "catalogue/DictionaryGuard.h"
 #include "import/CoordParamToProjDefine.h"
 #include "import/ProjDefineToCoordParam.h"
-#include "platform/projection/IGeodesy.h"
 #include "platform/projection/IProjectionModule.h"
 #include "platform/projection/ProjectionLibrary.h"
 #include "support/Support.h"
@@ -20,7 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     projDefineToCoordParam(handle, record.get());
     const QByteArray again = coordParamToProjDefine(*record);
     if (!again.isEmpty()) {
-        if (const auto system = projectionModule()->geodesy().createSystem(again))
+        if (const auto system = projectionModule()->createSystem(again))
             system->toGrid({52.0, 5.0, 0.0});
     }
     return 0;

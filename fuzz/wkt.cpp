@@ -2,20 +2,20 @@
 
 #include "catalogue/DictionaryGuard.h"
 #include "import/CoordParamToProjDefine.h"
-#include "import/ProjDefineToCoordParam.h"
 #include "import/WktFile.h"
+#include "import/WktToCoordParam.h"
 #include "support/Support.h"
 
 #include <cmath>
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     writeScratch(scratchFile("input.prj"), data, size);
-    const WktFile file(scratchFile("input.prj"));
-    if (file.content() != WktFile::Content::Projected)
+    const WktSystem system = WktFile::read(scratchFile("input.prj"));
+    if (system.content != WktSystem::Content::Projected)
         return 0;
-    require(!file.name().contains(','), "a name without a comma");
+    require(!WktToCoordParam::nameInCatalogue(system).contains(','), "a name without a comma");
     const DictionaryGuard record;
-    projDefineToCoordParam(InitializeProj(file.definition()), record.get());
+    WktToCoordParam::convert(system, record.get());
     for (int i = 0; i < record->count(); ++i) {
         const char* const key = record->getKey(i);
         if (QByteArray(key) != "ellipsoid_name")
