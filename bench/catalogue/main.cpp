@@ -60,7 +60,7 @@ static Costs measure(int systems) {
     const QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("CoordinateSystem_custom.vcs"));
     const QByteArray folder = QFile::encodeName(dir.path() + QLatin1Char('/'));
-    Catalogue catalogue{QString()};
+    Catalogue catalogue(QString(), dir.filePath(QStringLiteral("rescue")));
     catalogue.load(folder.constData());
     catalogue.addGroup(group);
     DictionaryGuard record;
@@ -87,7 +87,7 @@ static Costs measure(int systems) {
     });
     costs.parse = milliseconds(runs, [&] { pugi::xml_document().load_file(QFile::encodeName(path).constData()); });
     costs.load = milliseconds(runs, [&] {
-        Catalogue loaded{QString()};
+        Catalogue loaded(QString(), dir.filePath(QStringLiteral("rescue")));
         loaded.load(folder.constData());
     });
 

@@ -61,13 +61,12 @@ void Sweep::collect() {
 /// Both ways take turns, so that what else the machine does falls on both alike, and are always half the registry
 /// apart, so that neither finds the other's work in PROJ's caches.
 void Sweep::importAll() {
-    Catalogue catalogue{QString()};
+    Catalogue catalogue(QString(), folder.path());
     catalogue.addGroup(groupName);
     for (int i = 0; i < systems.size(); ++i) {
         gdalSeconds += runGdal(systems[i]);
         importSeconds += runImport(systems[(i + systems.size() / 2) % systems.size()], catalogue);
     }
-    catalogue.saveCoordSystems("");
     const QString file = folder.filePath(QStringLiteral("CoordinateSystem_custom.vcs"));
     catalogue.saveCoordSystems(QFile::encodeName(file).constData());
 }
@@ -101,7 +100,7 @@ double Sweep::runImport(const System& system, ICoordSystem& catalogue) const {
 }
 
 void Sweep::compare() {
-    Catalogue catalogue{QString()};
+    Catalogue catalogue(QString(), folder.path());
     catalogue.load(QFile::encodeName(folder.path() + QLatin1Char('/')).constData());
     ICoordSysGroup* const group = catalogue.getGroup(groupName);
     for (const System& system : qAsConst(systems)) {

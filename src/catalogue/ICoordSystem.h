@@ -7,8 +7,7 @@ class IDictionary;
 /// from the GUI thread only.
 ///
 /// Texts are NUL-terminated 8-bit strings in the local encoding. Lists of names come back as one text, the names joined
-/// by
-/// "," in catalogue order; they stay valid until the next call. Names are compared exactly. Groups and records that
+/// by "," in catalogue order; they stay valid until the next call. Names are compared exactly. Groups and records that
 /// come back belong to the catalogue; records that are handed in stay the caller's, the catalogue keeps a copy.
 class ICoordSystem {
 public:
@@ -17,8 +16,9 @@ public:
     /// Reads the whole catalogue from the folder `dataFolder` (ending in "/"). Called once, before anything else.
     virtual void load(const char* dataFolder) = 0;
 
-    /// Writes groups and systems to the file `path`. With an empty path it opens a save: the file on disk becomes the
-    /// previous generation as well, and stays.
+    /// Writes groups and systems to the file `path`. What lies there becomes the previous generation or is set aside; a
+    /// save that can't reach the path is there at the next load. With an empty path, which announces a save, nothing
+    /// is written yet.
     virtual void saveCoordSystems(const char* path) = 0;
 
     virtual const char* getGroupNames() = 0;

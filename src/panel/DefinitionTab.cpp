@@ -2,8 +2,10 @@
 
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/DictionaryGuard.h"
+#include "catalogue/File.h"
 #include "import/WktToCoordParam.h"
 #include "panel/field/ChoiceBox.h"
+#include "panel/field/CopyButton.h"
 #include "panel/field/MessageLine.h"
 #include "panel/record/CoordParamEditor.h"
 #include "panel/record/DefinitionState.h"
@@ -13,8 +15,6 @@
 #include "platform/desktop/VornMessageBox.h"
 #include "platform/projection/IProjectionModule.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QHBoxLayout>
@@ -22,7 +22,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QVBoxLayout>
 
 namespace {
@@ -58,13 +57,15 @@ void DefinitionTab::build() {
     problemLine = new MessageLine;
     definitionText = newText(PanelText::tr("PROJ definition"));
     definitionText->setFixedHeight(definitionText->fontMetrics().lineSpacing() * 5 + 12);
-    auto* copyDefinitionButton = new QPushButton(PanelText::tr("Copy"));
+    copyDefinitionButton = new CopyButton(PanelText::tr("Copy"));
     dialectBox = new ChoiceBox;
     dialectBox->setAccessibleName(PanelText::tr("WKT dialect"));
     dialectBox->addItem(PanelText::tr("WKT 1 (GDAL)"), int(WktDialect::Wkt1Gdal));
     dialectBox->addItem(PanelText::tr("WKT 1 (ESRI)"), int(WktDialect::Wkt1Esri));
     dialectBox->addItem(PanelText::tr("WKT 2:2019"), int(WktDialect::Wkt2_2019));
-    copyWktButton = new QPushButton(PanelText::tr("Copy"));
+    // What most programs expect in a .prj file.
+    dialectBox->setCurrentIndex(dialectBox->findData(int(WktDialect::Wkt1Esri)));
+    copyWktButton = new CopyButton(PanelText::tr("Copy"));
     saveButton = new QPushButton(PanelText::tr("Save as .prj"));
     wktText = newText(PanelText::tr("WKT"));
     wktText->setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -152,11 +153,11 @@ void DefinitionTab::_onDialectChosen() {
 }
 
 void DefinitionTab::_onCopyDefinition() {
-    QApplication::clipboard()->setText(definitionText->toPlainText());
+    copyDefinitionButton->copy(definitionText->toPlainText());
 }
 
 void DefinitionTab::_onCopyWkt() {
-    QApplication::clipboard()->setText(wktText->toPlainText());
+    copyWktButton->copy(wktText->toPlainText());
 }
 
 void DefinitionTab::_onSave() {
@@ -166,10 +167,10 @@ void DefinitionTab::_onSave() {
     dialog.selectFile(fileName(record()));
     if (dialog.exec() != QDialog::Accepted)
         return;
-    QSaveFile file(dialog.selectedFiles().first());
-    if (!file.open(QIODevice::WriteOnly) || file.write(wkt(false)) < 0 || !file.commit())
+    QString error;
+    if (!process_replace_file(dialog.selectedFiles().first(), wkt(false), &error))
         VornMessageBox::information_ok(this, PanelText::tr("Warning"),
-                                       PanelText::tr("The file can't be written: %1").arg(file.errorString()));
+                                       PanelText::tr("The file can't be written: %1").arg(error));
 }
 
 void DefinitionTab::_onFromRegistry() {

@@ -4,6 +4,7 @@
 
 enum class WktDialect;
 class ChoiceBox;
+class CopyButton;
 class MessageLine;
 class QPlainTextEdit;
 class QPushButton;
@@ -39,11 +40,12 @@ private:
     QByteArray definition; ///< of the record; empty when it defines no projection
     MessageLine* problemLine = nullptr;
     QWidget* content = nullptr;
+    CopyButton* copyDefinitionButton = nullptr;
     QPlainTextEdit* definitionText = nullptr;
     ChoiceBox* dialectBox = nullptr;
     QPlainTextEdit* wktText = nullptr;
     MessageLine* remarkLine = nullptr;
     QPushButton* saveButton = nullptr;
-    QPushButton* copyWktButton = nullptr;
+    CopyButton* copyWktButton = nullptr;
     QPushButton* registryButton = nullptr;
 };

@@ -112,6 +112,7 @@ void EllipsoidTab::showDerived() {
         eccentricity->clear();
         return;
     }
+    // b = a (1 - f), e² = f (2 - f): Snyder 1987, Map Projections: A Working Manual (USGS PP 1395), p. 13.
     const double flattening = inverse == 0.0 ? 0.0 : 1.0 / inverse;
     semiMinorAxis->setText(QString::number(a * (1.0 - flattening), 'f', 6));
     eccentricity->setText(QString::number(std::sqrt(flattening * (2.0 - flattening)), 'f', 12));

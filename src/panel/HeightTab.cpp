@@ -7,6 +7,7 @@
 #include "panel/field/MessageLine.h"
 #include "panel/field/SearchBox.h"
 #include "panel/record/CoordParamEditor.h"
+#include "panel/record/GeoidFile.h"
 #include "panel/record/PanelText.h"
 
 #include <QGridLayout>
@@ -18,6 +19,7 @@ HeightTab::HeightTab(ICoordSystem* coordSystem, CoordParamEditor& editor, bool r
     , geoidBox(new SearchBox)
     , message(new MessageLine)
     , file(new QLabel)
+    , fileMessage(new MessageLine)
     , ellipsoid(new QLabel) {
     auto* grid = new QGridLayout(this);
     grid->setVerticalSpacing(3);
@@ -31,10 +33,12 @@ HeightTab::HeightTab(ICoordSystem* coordSystem, CoordParamEditor& editor, bool r
     grid->addWidget(message, 1, 0, 1, 2);
     grid->addWidget(new QLabel(PanelText::tr("Model file")), 2, 0);
     grid->addWidget(file, 2, 1);
-    grid->addWidget(new QLabel(PanelText::tr("Model ellipsoid")), 3, 0);
-    grid->addWidget(ellipsoid, 3, 1);
+    fileMessage->setField(file);
+    grid->addWidget(fileMessage, 3, 0, 1, 2);
+    grid->addWidget(new QLabel(PanelText::tr("Model ellipsoid")), 4, 0);
+    grid->addWidget(ellipsoid, 4, 1);
     grid->setColumnStretch(1, 1);
-    grid->setRowStretch(4, 1);
+    grid->setRowStretch(5, 1);
     for (QLabel* value : {file, ellipsoid})
         value->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
@@ -53,7 +57,9 @@ void HeightTab::showRecord() {
 
     const IDictionary* geoid = name.isEmpty() ? nullptr : coordSystem->getGeoid(name.constData());
     const QString unknown = QString(QChar(0x2013));
-    file->setText(geoid ? QString::fromLocal8Bit(geoid->getValue(GeoidKey::file)) : unknown);
+    const QString fileName = geoid ? QString::fromLocal8Bit(geoid->getValue(GeoidKey::file)) : QString();
+    file->setText(fileName.isEmpty() ? unknown : fileName);
+    fileMessage->setMessage(geoid ? GeoidFile::problem(fileName) : QString(), MessageLine::Tone::Warning);
     ellipsoid->setText(geoid ? QString::fromLocal8Bit(geoid->getValue(GeoidKey::ellipsoid)) : unknown);
 
     QString remark;

@@ -30,6 +30,7 @@ private:
     SearchBox* geoidBox;
     MessageLine* message;
     QLabel* file;
+    MessageLine* fileMessage;
     QLabel* ellipsoid;
     QByteArray listedNames; ///< the catalogue's list as the box has it
 };

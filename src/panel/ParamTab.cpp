@@ -2,6 +2,8 @@
 
 #include "panel/record/CoordParamEditor.h"
 
+#include <QVector>
+
 ParamTab::ParamTab(CoordParamEditor& editor, bool readOnly, QWidget* parent)
     : QWidget(parent), paramEditor(editor), readOnly(readOnly) {
 }
@@ -12,8 +14,28 @@ const IDictionary& ParamTab::record() const {
 
 void ParamTab::refresh() {
     stale = !isVisible();
-    if (!stale)
-        showRecord();
+    if (stale)
+        return;
+    showRecord();
+    if (!wasShown)
+        keepInTabOrder();
+    wasShown = true;
+}
+
+/// What a tab builds when it is first shown comes last in the window's tab order: moves it to where the tab stands.
+void ParamTab::keepInTabOrder() {
+    QVector<QWidget*> order;
+    for (QWidget* widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain()) {
+        if (isAncestorOf(widget) && widget->focusPolicy() != Qt::NoFocus)
+            order.append(widget);
+    }
+    setFocusPolicy(Qt::TabFocus); // for setTabOrder() to know this widget's place
+    QWidget* before = this;
+    for (QWidget* widget : qAsConst(order)) {
+        setTabOrder(before, widget);
+        before = widget;
+    }
+    setFocusPolicy(Qt::NoFocus);
 }
 
 void ParamTab::showEvent(QShowEvent* event) {

@@ -44,7 +44,10 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void keepInTabOrder();
+
     CoordParamEditor& paramEditor;
     bool readOnly;
     bool stale = true;
+    bool wasShown = false;
 };

@@ -104,7 +104,9 @@ void ProjectionTab::showAdvice() {
     problemLine->setMessage(problem, MessageLine::Tone::Error);
     for (FieldRow* row : qAsConst(rows)) {
         if (row->field())
-            row->setWarning(ProjectionAdvice::warning(*shownProjection, *row->field(), record()));
+            row->setWarning(editor().isToChoose(*row->field())
+                                ? PanelText::tr("Still to choose.")
+                                : ProjectionAdvice::warning(*shownProjection, *row->field(), record()));
     }
 }
 
@@ -119,7 +121,7 @@ void ProjectionTab::_onMethodActivated(int index) {
 
 void ProjectionTab::_onNotationChosen() {
     for (FieldRow* row : qAsConst(rows))
-        row->showNotation();
+        row->showValue();
     Q_EMIT angleNotationChanged();
 }
 

@@ -79,7 +79,6 @@ void ImportProgress::show(const QString& path) {
         dialog->setLabel(label);
         // It comes up where the Enter that closed a message may still be on its way: that must not press it.
         auto* cancelButton = new QPushButton(tr("Cancel"));
-        cancelButton->setAutoDefault(false);
         cancelButton->setFocusPolicy(Qt::NoFocus);
         dialog->setCancelButton(cancelButton);
     }

@@ -59,7 +59,9 @@ class Panel(tool.ToolTest):
         self.assertAlmostEqual(float(panel.find("text", "Northing").text), 313177.270, delta=0.001)
 
         path = os.path.join(self.folder, "harbour.prj")
-        self.tool.tab("Definition").find("push button", "Save as .prj").click()
+        panel = self.tool.tab("Definition")
+        panel.find("combo box", "WKT 1 (ESRI)").choose("WKT 2:2019")  # ESRI's form has no datum shift
+        panel.find("push button", "Save as .prj").click()
         chooser = self.tool.dialog("Save as .prj")
         chooser.find("text", "File name:").fill(path)
         press("Return")
@@ -79,15 +81,64 @@ class Panel(tool.ToolTest):
         self.assert_shown("Projection", GRID)
         self.assert_shown("Datum shift", SHIFT)
 
+    def saved(self, name):
+        """The values of a system in the catalogue's file."""
+        systems = ({value.get("key"): value.get("text") for value in system}
+                   for system in self.tool.file("CoordinateSystem_custom.vcs").iter("system"))
+        return next(system for system in systems if system["name"] == name)
+
     def test_a_mistyped_value_costs_nothing(self):
         self.tool.start()
         first, second = self.tool.items()[2:4]
-        field = self.tool.tab("Projection").find("text", "Scale factor")
-        good = field.text
-        field.fill("x0.9")
+        panel = self.tool.tab("Projection")
+
+        panel.find("text", "False easting").fill("123456.789")
+        press("Return")
+        panel.find("text", "False easting").fill("5x5")
+        press("Escape")
+        self.assert_shown("Projection", {"False easting": 123456.789})
+
+        meridian = float(panel.find("text", "Central meridian").text)
+        panel.find("text", "Central meridian").fill("200")
         self.tool.item(second).click()
         self.tool.item(first).click()
-        self.assert_shown("Projection", {"Scale factor": float(good)})
+        self.assert_shown("Projection", {"Central meridian": meridian})
+
+        panel.find("text", "Latitude of origin").fill("47")
+        press("Tab")
+        panel.find("text", "Latitude of origin").fill("45,5")
+        self.tool.save()
+        self.assert_shown("Projection", {"Latitude of origin": 47})
+        saved = self.saved(first)
+        self.assertEqual([float(saved[key]) for key in ("false_east", "org_lon", "org_lat")],
+                         [123456.789, meridian, 47])
+
+    def test_back_to_the_values_before(self):
+        self.tool.start()
+        first = self.tool.items()[2]
+        self.take_from_registry("27700")
+        panel = self.tool.tab("Projection")
+        self.assert_shown("Projection", GRID)
+        panel.find("push button", "Back to the values before").click()
+        self.assert_shown("Projection", {"Central meridian": -177, "Scale factor": 0.9996})
+        self.tool.save()
+        self.assertEqual(float(self.saved(first)["org_lon"]), -177)
+        panel.find("push button", "Forward to the edited values").click()
+        self.assert_shown("Projection", GRID)
+
+    def test_the_keyboard_stays_where_it_was(self):
+        self.tool.start()
+        field = self.tool.tab("Projection").find("text", "False easting")
+        field.fill("1 000 000.00 m")
+        self.tool.save()
+        wait_for(lambda: field.focused, "the keyboard to be back in the field")
+        self.tool.tab("Definition").find("push button", "From registry...").click()
+        self.tool.dialog("From registry")
+        press("Escape")
+        self.tool.gone("From registry")
+        press("Tab")
+        wait_for(lambda: self.tool.button("Add").focused, "the window's buttons after the tab's last one")
+        self.assert_shown("Projection", {"False easting": 1000000})
 
 
 if __name__ == "__main__":

@@ -42,7 +42,9 @@ void ModalDriver::onNextDialog(const std::function<void(QDialog*)>& act) {
         if (!dialog || !dialog->isVisible() || driven().contains(dialog))
             return false;
         driven().insert(dialog);
-        QObject::connect(dialog, &QDialog::finished, [dialog] { driven().remove(dialog); });
+        const auto forget = [dialog] { driven().remove(dialog); };
+        QObject::connect(dialog, &QDialog::finished, forget);
+        QObject::connect(dialog, &QObject::destroyed, forget); // the next one may stand at the same address
         // Its own turn of the event loop: what is done may run nested dialogs, which other actions drive.
         QTimer::singleShot(0, dialog, [act, dialog = QPointer<QDialog>(dialog)] {
             act(dialog);

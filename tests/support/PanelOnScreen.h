@@ -62,6 +62,8 @@ public:
     QLineEdit* field(const char* label) const { return find<QLineEdit>(DlgCoordParam::tr(label)); }
     QString shown(const char* label) const { return field(label)->text(); }
 
+    QPushButton* button(const char* text) const { return find<QPushButton>(text); }
+
     /// Replaces the field's text by typing.
     QLineEdit* type(const char* label, const QString& typed) const {
         QLineEdit* edit = field(label);
@@ -79,11 +81,15 @@ public:
         Q_EMIT combo->activated(index);
     }
 
-    /// Every message on the visible tab, the problem first.
+    void chooseMethod(ProjectionMethod method) const {
+        choose("Projection method", find<QComboBox>("Projection method")->findData(int(method)));
+    }
+
+    /// Every message on the visible tab, the problem first; none that a greyed tab does not show.
     QStringList messages() const {
         QStringList texts;
         for (const MessageLine* line : findAll<MessageLine>()) {
-            if (!line->text().isEmpty())
+            if (!line->text().isEmpty() && line->isEnabled())
                 texts << line->text();
         }
         return texts;

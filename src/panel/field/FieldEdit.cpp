@@ -21,7 +21,9 @@ void FieldEdit::setMarked(bool mark) {
     QPalette colors;
     if (mark) {
         const bool dark = colors.color(QPalette::Base).lightness() < 128;
-        colors.setColor(QPalette::Base, dark ? QColor(0x5a, 0x1e, 0x22) : QColor(0xff, 0xe3, 0xe3));
+        const QColor red = dark ? QColor(0x5a, 0x1e, 0x22) : QColor(0xff, 0xe3, 0xe3);
+        for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
+            colors.setColor(group, QPalette::Base, red);
     }
     setPalette(colors);
 }
@@ -51,5 +53,7 @@ void FieldEdit::focusInEvent(QFocusEvent* event) {
 
 void FieldEdit::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
+        Q_EMIT left();
     Q_EMIT focusChanged();
 }

@@ -23,6 +23,10 @@ Q_SIGNALS:
     /// The keyboard came or went.
     void focusChanged();
 
+    /// The user went on to something else in the window. Another window and the edit's own menu do not count: what is
+    /// typed half is still there when the user comes back.
+    void left();
+
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

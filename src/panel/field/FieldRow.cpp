@@ -26,7 +26,8 @@ FieldRow::FieldRow(CoordParamEditor& editor, bool readOnly, QGridLayout* grid, i
     grid->addWidget(message, line + 1, 0, 1, 4);
     grid->setColumnStretch(3, 1);
     connect(edit, SIGNAL(textEdited(QString)), this, SLOT(_onTextEdited(QString)));
-    connect(edit, SIGNAL(editingFinished()), this, SLOT(_onEditingFinished()));
+    connect(edit, SIGNAL(returnPressed()), this, SLOT(_onEntered()));
+    connect(edit, SIGNAL(left()), this, SLOT(_onLeft()));
     connect(edit, SIGNAL(cancelled()), this, SLOT(_onCancelled()));
     connect(edit, SIGNAL(focusChanged()), this, SLOT(_onFocusChanged()));
 }
@@ -44,20 +45,20 @@ void FieldRow::setField(const ParamField* field) {
 }
 
 void FieldRow::showValue() {
+    isTyping = false;
     if (!shownField)
         return;
-    edit->setText(shownField->shownText(editor.record(), AngleText::notation()));
+    valueText = shownField->shownText(editor.record(), AngleText::notation());
+    edit->setText(valueText);
     edit->setCursorPosition(0);
     unit->setText(shownField->unitText(AngleText::notation()));
-    error = shownField->isSound(editor.record()) ? QString() : shownField->parse(edit->text()).reason;
+    error = recordError();
     showState();
 }
 
-void FieldRow::showNotation() {
-    if (error.isEmpty())
-        showValue();
-    else if (shownField)
-        unit->setText(shownField->unitText(AngleText::notation()));
+/// What is wrong with the value that the record holds.
+QString FieldRow::recordError() const {
+    return shownField->isSound(editor.record()) ? QString() : shownField->parse(valueText).reason;
 }
 
 void FieldRow::setWarning(const QString& text) {
@@ -66,22 +67,36 @@ void FieldRow::setWarning(const QString& text) {
 }
 
 void FieldRow::_onTextEdited(const QString& text) {
+    if (!isTyping)
+        editor.startTyping();
+    isTyping = true;
     const FieldInput input = shownField->parse(text);
-    error = input.reason;
-    if (editor.setField(*shownField, input))
+    // The text as it was shown is no edit: the record may hold more digits than it has.
+    const bool isBack = text == valueText;
+    const bool isChanged = isBack ? editor.cancelTyping() : editor.type(*shownField, input);
+    error = isBack ? recordError() : input.reason;
+    if (isChanged)
         Q_EMIT edited(); // before the state is shown: the form looks for warnings
     showState();
 }
 
-void FieldRow::_onEditingFinished() {
-    // A sound text takes the form in which the record's value is shown; a refused one stays.
-    if (error.isEmpty() && edit->isModified())
+void FieldRow::_onEntered() {
+    // A sound text takes the form in which the record's value is shown; a refused one stays to be mended.
+    if (isTyping && error.isEmpty())
+        showValue();
+}
+
+void FieldRow::_onLeft() {
+    if (isTyping)
         showValue();
 }
 
 void FieldRow::_onCancelled() {
+    const bool isChanged = isTyping && editor.cancelTyping();
     showValue();
     edit->selectAll();
+    if (isChanged)
+        Q_EMIT edited();
 }
 
 void FieldRow::_onFocusChanged() {

@@ -12,8 +12,9 @@ struct ParamField;
 
 /// One value of the record on a form: label, edit, unit, and a line below for what is wrong or worth knowing.
 ///
-/// Every sound keystroke is in the record at once. A text that is refused stays, marked, while the record keeps its
-/// last good value; Escape brings that one back.
+/// Every sound keystroke is in the record at once. While the text is refused, the record has the value from before the
+/// typing; Escape brings that value back at any time, and so does leaving a field whose text is refused. The typing
+/// begins with the first keystroke after the field got the keyboard, or after Enter.
 class FieldRow : public QObject {
     Q_OBJECT
 
@@ -27,25 +28,24 @@ public:
     /// Shows the record's value anew, in place of whatever was typed.
     void showValue();
 
-    /// Angles are shown in another notation from now on. A refused text stays.
-    void showNotation();
-
     /// A remark on the shown value, as long as the text is sound.
     void setWarning(const QString& text);
 
     const ParamField* field() const { return shownField; }
 
 Q_SIGNALS:
-    /// The user typed a sound value; it is in the record.
+    /// The user's typing changed the record.
     void edited();
 
 private Q_SLOTS:
     void _onTextEdited(const QString& text);
-    void _onEditingFinished();
+    void _onEntered();
+    void _onLeft();
     void _onCancelled();
     void _onFocusChanged();
 
 private:
+    QString recordError() const;
     void showState();
     QString hint() const;
 
@@ -56,5 +56,7 @@ private:
     QLabel* unit;
     MessageLine* message;
     QString warning;
-    QString error; ///< why the text is refused; empty while it is sound
+    QString error;     ///< why the text is refused; empty while it is sound
+    QString valueText; ///< the record's value as last shown
+    bool isTyping = false;
 };

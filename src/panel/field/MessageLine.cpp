@@ -43,7 +43,7 @@ QSize MessageLine::minimumSizeHint() const {
 }
 
 void MessageLine::paintEvent(QPaintEvent*) {
-    if (message.isEmpty())
+    if (message.isEmpty() || !isEnabled()) // a form that takes no input has nothing to complain about
         return;
     const bool leftToRight = layoutDirection() == Qt::LeftToRight;
     int indent = 0;

@@ -10,6 +10,19 @@ AngleNotation AngleText::chosenNotation = AngleNotation::DecimalDegrees;
 
 namespace {
 
+constexpr int shownDecimals = 12;
+
+/// 45°30m15s with signs in place of its letters. Left as it is where the "s" could also stand for south.
+QString withoutMinuteLetter(QString text) {
+    static const QRegularExpression minutes("(?<=[0-9.]) ?M(?: ?(?<s>[0-9.]+)(?<mark> ?S)?)?");
+    const QRegularExpressionMatch match = minutes.match(text);
+    const QString mark = match.captured("mark");
+    if (!match.hasMatch() || mark.startsWith(' '))
+        return text;
+    return text.replace(match.capturedStart(), match.capturedLength(),
+                        "'" + match.captured("s") + (mark.isEmpty() ? "" : "\""));
+}
+
 /// The usual signs for degrees, minutes, seconds and minus, each brought to one form.
 QString unified(const QString& text) {
     static const QRegularExpression minus("[\\x{2212}\\x{2013}]");
@@ -18,7 +31,7 @@ QString unified(const QString& text) {
     static const QRegularExpression minute("[\\x{2032}\\x{2018}\\x{2019}\\x{00B4}`]");
     QString result = text.simplified().toUpper();
     result.replace(degree, QString(QChar(0x00B0)));
-    return result.replace(minus, "-").replace(second, "\"").replace(minute, "'");
+    return withoutMinuteLetter(result.replace(minus, "-").replace(second, "\"").replace(minute, "'"));
 }
 
 AngleInput refused(const QString& reason) {
@@ -83,8 +96,10 @@ AngleInput AngleText::parse(const QString& text, AngleRole role) {
 
 QString AngleText::format(double degrees, AngleNotation notation) {
     // Beyond a few turns it is no angle, and its units would not fit the integer below.
-    if (notation == AngleNotation::DecimalDegrees || !(std::fabs(degrees) < 1e4))
+    if (!(std::fabs(degrees) < 1e4))
         return NumberText::shortest(degrees);
+    if (notation == AngleNotation::DecimalDegrees)
+        return NumberText::rounded(degrees, shownDecimals);
     constexpr qint64 unitsPerSecond = 100000000;
     const qint64 units = std::llround(std::fabs(degrees) * 3600.0 * double(unitsPerSecond));
     const qint64 seconds = units / unitsPerSecond;
@@ -99,4 +114,11 @@ QString AngleText::format(double degrees, AngleNotation notation) {
         text += '.' + digits;
     }
     return (std::signbit(degrees) && units != 0 ? "-" : "") + text + '"';
+}
+
+QString AngleText::withoutNoise(const QString& decimal) {
+    const int point = decimal.indexOf('.');
+    return point >= 0 && decimal.size() - point - 1 > shownDecimals
+               ? format(decimal.toDouble(), AngleNotation::DecimalDegrees)
+               : decimal;
 }

@@ -23,12 +23,17 @@ class AngleText {
 
 public:
     /// Reads decimal degrees or degrees, minutes and seconds: 117.5, 117 30 00.5, 117°30'0.5"E, -0:45:30, 117-30-00.5,
-    /// S 45 30.5. The last part may have decimals; minutes and seconds lie below 60; a sign and a letter exclude each
-    /// other. The range is not looked at.
+    /// S 45 30.5, 45d30m15s. The last part may have decimals; minutes and seconds lie below 60; a sign and a letter
+    /// exclude each other. An "s" right behind digits that follow "m" stands for seconds; with a blank between it could
+    /// be seconds or south, so that the text is refused. The range is not looked at.
     static AngleInput parse(const QString& text, AngleRole role);
 
-    /// The angle with all its digits (decimal), or to 1e-8 arc-seconds (3e-12 degrees) as 117°30'00.5".
+    /// The angle to 12 decimals of a degree (0.1 µm on the ground), or to 1e-8 arc-seconds (3e-12 degrees) as
+    /// 117°30'00.5".
     static QString format(double degrees, AngleNotation notation);
+
+    /// A decimal angle as it was typed or stored, but with no more decimals than format() gives.
+    static QString withoutNoise(const QString& decimal);
 
     /// The notation that the user chose, for all panels while the tool runs.
     static AngleNotation notation() { return chosenNotation; }

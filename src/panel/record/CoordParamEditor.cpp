@@ -9,224 +9,317 @@
 #include <cmath>
 #include <cstring>
 
-using namespace CoordParamKey;
+namespace Key = CoordParamKey;
 
 namespace {
 
 constexpr char noSeparator = '\0';
 
-bool sameText(const char* text, const char* other) {
-    return text && other && std::strcmp(text, other) == 0;
+bool isSameText(const char* text, const char* other) {
+    return text == other || (text && other && std::strcmp(text, other) == 0);
 }
 
-/// Whether the method's standard parallel is for the user to choose.
-bool hasParallel(std::optional<ProjectionMethod> method) {
-    return method == ProjectionMethod::MercatorStandardParallel || method == ProjectionMethod::Stereographic;
+/// Whether both hold the same text of `key`, with the same number behind it, or neither holds it.
+bool isSameValue(const IDictionary& record, const IDictionary& other, const char* key) {
+    double number = 0.0, otherNumber = 0.0;
+    return isSameText(record.getValue(key), other.getValue(key)) &&
+           record.getNumber(key, &number) == other.getNumber(key, &otherNumber) && number == otherNumber;
+}
+
+bool isSameRecord(const IDictionary& record, const IDictionary& other) {
+    bool isSame = record.count() == other.count();
+    for (int i = 0; isSame && i < record.count(); ++i)
+        isSame = isSameText(record.getKey(i), other.getKey(i)) && isSameValue(record, other, record.getKey(i));
+    return isSame;
+}
+
+std::optional<ProjectionMethod> methodOf(const IDictionary& record) {
+    const ProjectionFields* fields = ProjectionFields::ofRecord(record);
+    return fields ? std::optional<ProjectionMethod>(fields->method) : std::nullopt;
+}
+
+std::optional<double> semiMajorAxis(const IDictionary& record) {
+    double a;
+    return DatumFields::semiMajorAxis().read(record, &a) && a > 0.0 ? std::optional<double>(a) : std::nullopt;
+}
+
+/// Sets a number that is computed, unless the record holds it already, give or take its last bits.
+void putNumber(IDictionary& record, const char* key, double value) {
+    const bool isSame = record.getValue(key) &&
+                        std::fabs(value - dictionary_number(record, key, value + 1.0)) <= std::fabs(value) * 4e-16;
+    if (!isSame)
+        dic_set_value(&record, key, "%f", value);
+}
+
+/// Sets the radius of a standard parallel. Without an axis there is no radius to keep it by.
+void putParallel(IDictionary& record, double latitude) {
+    if (const std::optional<double> a = semiMajorAxis(record))
+        putNumber(record, Key::cuttingRadius, ParallelRadius::ofLatitude(*a, latitude));
+}
+
+void putNoParallel(IDictionary& record) {
+    putNumber(record, Key::cuttingRadius, 0.0);
+}
+
+/// Whether a scale factor of the one method says something in the other: they scale the same line or point.
+bool sharesScale(std::optional<ProjectionMethod> from, ProjectionMethod to) {
+    const auto line = [](ProjectionMethod method) {
+        switch (method) {
+        case ProjectionMethod::TransverseMercatorScaled:
+            return ProjectionMethod::TransverseMercator;
+        case ProjectionMethod::ObliqueMercatorTwoPoints:
+            return ProjectionMethod::ObliqueMercatorAzimuth;
+        case ProjectionMethod::ObliqueStereographic:
+            return ProjectionMethod::Stereographic;
+        default:
+            return method;
+        }
+    };
+    return from && line(*from) == line(to);
 }
 
 } // namespace
 
+void CoordParamEditor::State::assign(const State& other) {
+    dictionary_assign(values.get(), other.values.get());
+    dictionary_assign(chosen.get(), other.chosen.get());
+}
+
+bool CoordParamEditor::State::isSame(const State& other) const {
+    return isSameRecord(*values, *other.values) && isSameRecord(*chosen, *other.chosen);
+}
+
 void CoordParamEditor::setRecord(const IDictionary& record) {
-    dictionary_assign(values.get(), &record);
-    forgetReplaced();
+    dictionary_assign(now.values.get(), &record);
+    dictionary_assign(now.chosen.get(), now.values.get());
+    dictionary_assign(shown.get(), now.values.get());
+    startTyping();
+    isUndone = false;
 }
 
-void CoordParamEditor::forgetReplaced() {
-    replaced->clear();
-    initial->clear();
-    replacedRadius->clear();
+template <typename Change> void CoordParamEditor::edit(const Change& change) {
+    change(*now.values);
+    change(*now.chosen);
 }
 
-std::optional<double> CoordParamEditor::semiMajorAxis() const {
-    double a;
-    return DatumFields::semiMajorAxis().read(*values, &a) && a > 0.0 ? std::optional<double>(a) : std::nullopt;
+template <typename Change> void CoordParamEditor::editAxis(const Change& change) {
+    edit([&](IDictionary& record) {
+        const std::optional<double> axis = semiMajorAxis(record), parallel = StandardParallel::ofRecord(record);
+        change(record);
+        followAxis(record, axis, parallel);
+    });
+}
+
+void CoordParamEditor::followAxis(IDictionary& record, std::optional<double> axisBefore,
+                                  std::optional<double> parallel) {
+    if (semiMajorAxis(record) == axisBefore)
+        return;
+    const std::optional<ProjectionMethod> method = methodOf(record);
+    if (method == ProjectionMethod::Mercator)
+        putParallel(record, 0.0);
+    else if (method == ProjectionMethod::MercatorStandardParallel)
+        putParallel(record, parallel.value_or(0.0));
+    else if (parallel && (method == ProjectionMethod::Stereographic || &record == now.chosen.get()))
+        putParallel(record, *parallel);
 }
 
 bool CoordParamEditor::setField(const ParamField& field, const FieldInput& input) {
-    double number;
     if (!input.valid)
         return false;
-    const std::optional<double> axis = semiMajorAxis(), parallel = StandardParallel::ofRecord(*values);
+    State before;
+    before.assign(now);
+    const auto set = [&](IDictionary& record) { record.setText(field.key, input.text.constData()); };
     if (field.quantity == Quantity::StandardParallel) {
-        // Without an axis there is no radius to keep the parallel by.
         const bool isNone = field.optional && input.value == 0.0;
-        return axis && putNumber(field.key, isNone ? 0.0 : ParallelRadius::ofLatitude(*axis, input.value));
+        edit([&](IDictionary& record) { isNone ? putNoParallel(record) : putParallel(record, input.value); });
+    } else if (field.is(Key::ellipsoidA)) {
+        editAxis(set);
+    } else {
+        edit(set);
+        if (field.is(Key::factor))
+            followFactor();
     }
-    if (sameText(values->getValue(field.key), input.text.constData()) && !values->getNumber(field.key, &number))
-        return false;
-    values->setText(field.key, input.text.constData());
-    if (field.is(factor))
-        followFactor();
-    else if (field.is(ellipsoidA))
-        followAxis(axis, parallel);
-    return true;
+    return !now.isSame(before);
 }
 
-/// Sets a number that is computed, unless the record holds it already, give or take its last bits.
-bool CoordParamEditor::putNumber(const char* key, double value) {
-    const bool isSame = values->getValue(key) &&
-                        std::fabs(value - dictionary_number(*values, key, value + 1.0)) <= std::fabs(value) * 4e-16;
-    if (!isSame)
-        dic_set_value(values.get(), key, "%f", value);
+bool CoordParamEditor::type(const ParamField& field, const FieldInput& input) {
+    State before;
+    before.assign(now);
+    now.assign(beforeTyping);
+    setField(field, input);
+    return !now.isSame(before);
+}
+
+bool CoordParamEditor::cancelTyping() {
+    const bool isSame = now.isSame(beforeTyping);
+    now.assign(beforeTyping);
     return !isSame;
 }
 
 void CoordParamEditor::setEllipsoid(const IDictionary& ellipsoid) {
-    const std::optional<double> axis = semiMajorAxis(), parallel = StandardParallel::ofRecord(*values);
-    for (const char* key : {ellipsoidName, ellipsoidA, ellipsoidF})
-        dictionary_copy(values.get(), &ellipsoid, key, noSeparator);
-    followAxis(axis, parallel);
+    editAxis([&](IDictionary& record) {
+        for (const char* key : {Key::ellipsoidName, Key::ellipsoidA, Key::ellipsoidF})
+            dictionary_copy(&record, &ellipsoid, key, noSeparator);
+    });
 }
 
-std::optional<ProjectionMethod> CoordParamEditor::method() const {
-    const ProjectionFields* fields = ProjectionFields::ofRecord(*values);
-    return fields ? std::optional<ProjectionMethod>(fields->method) : std::nullopt;
-}
-
+/// A new scale factor: for the method that the record has now, or makes it the other transverse Mercator method.
 void CoordParamEditor::followFactor() {
-    const std::optional<ProjectionMethod> now = method();
-    if (now != ProjectionMethod::TransverseMercator && now != ProjectionMethod::TransverseMercatorScaled)
-        return;
-    const ProjectionMethod right = dictionary_number(*values, factor, 0.0) == 1.0
-                                       ? ProjectionMethod::TransverseMercator
-                                       : ProjectionMethod::TransverseMercatorScaled;
-    if (right != now)
-        dic_set_value(values.get(), projectType, "%d", int(right));
-}
-
-void CoordParamEditor::followAxis(std::optional<double> axisBefore, std::optional<double> parallel) {
-    if (semiMajorAxis() == axisBefore)
-        return;
-    if (method() == ProjectionMethod::Mercator)
-        setParallel(0.0);
-    else if (method() == ProjectionMethod::MercatorStandardParallel)
-        setParallel(parallel.value_or(0.0));
-    else if (method() == ProjectionMethod::Stereographic)
-        setParallel(parallel);
-}
-
-void CoordParamEditor::setParallel(std::optional<double> parallel) {
-    const std::optional<double> a = semiMajorAxis();
-    if (a)
-        putNumber(cuttingRadius, parallel ? ParallelRadius::ofLatitude(*a, *parallel) : 0.0);
+    const std::optional<ProjectionMethod> method = methodOf(*now.values);
+    if (method == ProjectionMethod::TransverseMercator || method == ProjectionMethod::TransverseMercatorScaled) {
+        const ProjectionMethod right = dictionary_number(*now.values, Key::factor, 0.0) == 1.0
+                                           ? ProjectionMethod::TransverseMercator
+                                           : ProjectionMethod::TransverseMercatorScaled;
+        if (right != method)
+            dic_set_value(now.values.get(), Key::projectType, "%d", int(right));
+    }
+    dictionary_copy(now.chosen.get(), now.values.get(), Key::projectType, noSeparator);
 }
 
 void CoordParamEditor::setMethod(ProjectionMethod chosen) {
     const ProjectionFields* fields = ProjectionFields::find(int(chosen));
     if (!fields)
         return;
-    const std::optional<ProjectionMethod> before = method();
-    restoreReplaced();
-    dic_set_value(values.get(), projectType, "%d", int(chosen));
-    chooseParallel(before);
-    complete(*fields);
+    dictionary_assign(now.values.get(), now.chosen.get());
+    if (methodOf(*now.values) != chosen)
+        dic_set_value(now.values.get(), Key::projectType, "%d", int(chosen));
+    fillParallel();
+    fill(*fields);
 }
 
-void CoordParamEditor::chooseParallel(std::optional<ProjectionMethod> before) {
-    const bool hadParallel = hasParallel(before), hasParallelNow = hasParallel(method());
-    if (hadParallel && !hasParallelNow) {
-        for (const char* key : {ellipsoidA, cuttingRadius})
-            dictionary_copy(replacedRadius.get(), values.get(), key, noSeparator);
-    } else if (!hadParallel && hasParallelNow && replacedRadius->getValue(cuttingRadius)) {
-        dictionary_copy(values.get(), replacedRadius.get(), cuttingRadius, noSeparator);
-        if (!sameText(values->getValue(ellipsoidA), replacedRadius->getValue(ellipsoidA)))
-            setParallel(StandardParallel::ofRecord(*replacedRadius));
-    }
-    const std::optional<double> parallel = StandardParallel::ofRecord(*values);
-    if (method() == ProjectionMethod::Mercator || (method() == ProjectionMethod::MercatorStandardParallel && !parallel))
-        setParallel(0.0);
-    else if (method() == ProjectionMethod::Stereographic && (!parallel || *parallel == 0.0))
-        setParallel(std::nullopt); // the equator is no parallel of a polar projection
+void CoordParamEditor::fillParallel() {
+    const std::optional<ProjectionMethod> method = methodOf(*now.values);
+    const std::optional<double> parallel = StandardParallel::ofRecord(*now.values);
+    if (method == ProjectionMethod::Mercator || (method == ProjectionMethod::MercatorStandardParallel && !parallel))
+        putParallel(*now.values, 0.0);
+    else if (method == ProjectionMethod::Stereographic && (!parallel || *parallel == 0.0))
+        putNoParallel(*now.values); // the equator is no parallel of a polar projection
 }
 
 double CoordParamEditor::initialValue(const ProjectionFields& fields, const ParamField& field) const {
     // With one parallel the origin usually lies on it.
-    const double origin = dictionary_number(*values, orgLat, 0.0);
-    const bool isOriginsParallel = fields.method == ProjectionMethod::LambertOneParallel && field.is(parallel1Lat) &&
-                                   origin != 0.0 && field.accepts(origin);
+    const double origin = dictionary_number(*now.values, Key::orgLat, 0.0);
+    const bool isOriginsParallel = fields.method == ProjectionMethod::LambertOneParallel &&
+                                   field.is(Key::parallel1Lat) && origin != 0.0 && field.accepts(origin);
     return isOriginsParallel ? origin : field.initial;
 }
 
-void CoordParamEditor::complete(const ProjectionFields& fields) {
-    const bool degenerate = ProjectionAdvice::isDegenerate(fields, *values);
+/// Whether the value that is there can stand in the method, as far as one value tells.
+bool CoordParamEditor::makesSense(const ProjectionFields& fields, const ParamField& field) const {
+    double value;
+    const std::optional<ProjectionMethod> before = methodOf(*now.chosen);
+    if (!field.read(*now.values, &value)) // an optional value may have been left out on purpose
+        return field.optional && now.values->getValue(field.key) && before == fields.method;
+    if (!field.accepts(value))
+        return false;
+    if (field.quantity == Quantity::ScaleFactor)
+        return sharesScale(before, fields.method);
+    const bool isPole = field.is(Key::orgLat) && std::fabs(value) == 90.0;
+    return !isPole || fields.method == ProjectionMethod::Stereographic ||
+           fields.method == ProjectionMethod::ObliqueStereographic;
+}
+
+void CoordParamEditor::fill(const ProjectionFields& fields) {
+    const auto put = [this](const ParamField& field, double value) {
+        if (dictionary_number(*now.values, field.key, value + 1.0) != value)
+            dic_set_value(now.values.get(), field.key, "%f", value);
+    };
+    const bool isDegenerate = ProjectionAdvice::isDegenerate(fields, *now.values);
     for (const ParamField& field : fields.fields) {
-        if (field.quantity == Quantity::StandardParallel)
-            continue;
-        const bool isPartOfLine = field.quantity == Quantity::Latitude && !field.is(orgLat);
-        double value;
-        if (!field.read(*values, &value) || !field.accepts(value) || (degenerate && isPartOfLine))
-            put(field.key, initialValue(fields, field));
+        const bool isPartOfLine = field.quantity == Quantity::Latitude && !field.is(Key::orgLat);
+        if (field.quantity != Quantity::StandardParallel &&
+            (!makesSense(fields, field) || (isDegenerate && isPartOfLine)))
+            put(field, initialValue(fields, field));
     }
     // Gauss-Krüger has the scale factor 1, and only Gauss-Krüger; beside a standard parallel it is 1 as well.
-    const bool isScaleOne = dictionary_number(*values, factor, 0.0) == 1.0;
-    const bool mustBeOne = fields.method == ProjectionMethod::TransverseMercator ||
-                           (fields.method == ProjectionMethod::Stereographic && StandardParallel::ofRecord(*values));
+    const bool isScaleOne = dictionary_number(*now.values, Key::factor, 0.0) == 1.0;
+    const bool mustBeOne =
+        fields.method == ProjectionMethod::TransverseMercator ||
+        (fields.method == ProjectionMethod::Stereographic && StandardParallel::ofRecord(*now.values));
     if ((mustBeOne && !isScaleOne) || (fields.method == ProjectionMethod::TransverseMercatorScaled && isScaleOne))
-        put(factor, fields.field(factor)->initial);
+        put(*fields.field(Key::factor), fields.field(Key::factor)->initial);
 }
 
-void CoordParamEditor::put(const char* key, double value) {
-    dictionary_copy(replaced.get(), values.get(), key, noSeparator);
-    dic_set_value(values.get(), key, "%f", value);
-    dictionary_copy(initial.get(), values.get(), key, noSeparator);
-}
-
-void CoordParamEditor::restoreReplaced() {
-    for (int i = 0; i < replaced->count(); ++i) {
-        const char* key = replaced->getKey(i);
-        if (sameText(values->getValue(key), initial->getValue(key)))
-            dictionary_copy(values.get(), replaced.get(), key, noSeparator);
-    }
-    replaced->clear();
-    initial->clear();
+bool CoordParamEditor::isToChoose(const ParamField& field) const {
+    const bool isSettled = field.is(Key::factor) && methodOf(*now.values) == ProjectionMethod::TransverseMercator;
+    double value;
+    return !isSettled && field.read(*now.values, &value) && !isSameValue(*now.values, *now.chosen, field.key);
 }
 
 void CoordParamEditor::setShift(bool sevenParameters) {
-    dic_set_value(values.get(), shiftType, "%d", sevenParameters ? 2 : 0);
-    if (!sevenParameters)
-        return;
-    for (const ParamField& field : DatumFields::shift()) {
-        if (!field.isSound(*values))
-            dic_set_value(values.get(), field.key, "%f", field.initial);
-    }
+    edit([&](IDictionary& record) {
+        dic_set_value(&record, Key::shiftType, "%d", sevenParameters ? 2 : 0);
+        for (const ParamField& field : DatumFields::shift()) {
+            if (sevenParameters && !field.isSound(record))
+                dic_set_value(&record, field.key, "%f", field.initial);
+        }
+    });
 }
 
 void CoordParamEditor::reverseRotations() {
-    for (const char* key : {shiftRx, shiftRy, shiftRz}) {
-        if (dictionary_number(*values, key, 0.0) == 0.0)
-            continue;
+    const auto reverse = [](IDictionary& record, const char* key) {
+        if (dictionary_number(record, key, 0.0) == 0.0)
+            return;
         // The text is turned as it stands, so that turning twice gives back the same text.
-        QByteArray text = QByteArray(values->getValue(key)).trimmed();
+        QByteArray text = QByteArray(record.getValue(key)).trimmed();
         if (text.startsWith('-') || text.startsWith('+'))
             text = (text.startsWith('+') ? "-" : "") + text.mid(1);
         else
             text.prepend('-');
         double number;
-        if (values->getNumber(key, &number))
-            values->setNumber(key, text.constData(), -number);
+        if (record.getNumber(key, &number))
+            record.setNumber(key, text.constData(), -number);
         else
-            values->setText(key, text.constData());
-    }
+            record.setText(key, text.constData());
+    };
+    edit([&](IDictionary& record) {
+        for (const char* key : {Key::shiftRx, Key::shiftRy, Key::shiftRz})
+            reverse(record, key);
+    });
 }
 
 void CoordParamEditor::setGeoid(const char* name) {
-    if (name && *name)
-        values->setText(geoidName, name);
-    else
-        values->remove(geoidName);
+    edit([&](IDictionary& record) {
+        if (name && *name)
+            record.setText(Key::geoidName, name);
+        else
+            record.remove(Key::geoidName);
+    });
 }
 
 void CoordParamEditor::replaceValues(const IDictionary& source) {
-    const std::optional<double> axis = semiMajorAxis(), parallel = StandardParallel::ofRecord(*values);
-    if (source.getValue(shiftType)) {
-        for (const ParamField& field : DatumFields::shift())
-            values->remove(field.key);
-    }
-    for (int i = 0; i < source.count(); ++i)
-        dictionary_copy(values.get(), &source, source.getKey(i), noSeparator);
-    if (!source.getValue(projectType))
+    const auto replace = [&](IDictionary& record) {
+        for (const ParamField& field : DatumFields::shift()) {
+            if (source.getValue(Key::shiftType))
+                record.remove(field.key);
+        }
+        for (int i = 0; i < source.count(); ++i)
+            dictionary_copy(&record, &source, source.getKey(i), noSeparator);
+    };
+    if (source.getValue(Key::cuttingRadius))
+        edit(replace);
+    else
+        editAxis(replace);
+    if (source.getValue(Key::factor) && !source.getValue(Key::projectType))
         followFactor();
-    if (!source.getValue(cuttingRadius))
-        followAxis(axis, parallel);
-    forgetReplaced();
+}
+
+bool CoordParamEditor::canGoBack() const {
+    return !isSameRecord(*now.values, *shown);
+}
+
+void CoordParamEditor::goBack() {
+    undone.assign(now);
+    isUndone = true;
+    dictionary_assign(now.values.get(), shown.get());
+    dictionary_assign(now.chosen.get(), shown.get());
+}
+
+bool CoordParamEditor::canGoForward() const {
+    return isUndone && !canGoBack();
+}
+
+void CoordParamEditor::goForward() {
+    now.assign(undone);
+    isUndone = false;
 }

@@ -14,7 +14,7 @@ struct ProjectionFields;
 /// - "cutting_radius" follows the semi-major axis, so that the standard parallel stays where it is.
 class CoordParamEditor {
 public:
-    const IDictionary& record() const { return *values; }
+    const IDictionary& record() const { return *now.values; }
 
     /// Starts over with a copy of `record`.
     void setRecord(const IDictionary& record);
@@ -23,13 +23,25 @@ public:
     /// what the record holds already.
     bool setField(const ParamField& field, const FieldInput& input);
 
+    /// The user begins to type into a field: what type() and cancelTyping() go back to.
+    void startTyping() { beforeTyping.assign(now); }
+
+    /// Makes the record what it was before the typing, with what is typed now; with an input that is not valid, exactly
+    /// what it was. False when the record was that already.
+    bool type(const ParamField& field, const FieldInput& input);
+    bool cancelTyping();
+
     /// Takes over name, axis and flattening of an ellipsoid record, with the numbers behind the texts.
     void setEllipsoid(const IDictionary& ellipsoid);
 
-    /// Makes the record a system of that method. Values that the method needs and that the record lacks, or that can't
-    /// stand in that method, get initial values; the values that were there before come back with the next method they
-    /// fit, unless they were edited since. Other methods' values stay in the record.
+    /// Makes the record a system of that method. Values that the method needs and that the record lacks, or that make
+    /// no sense in that method (another method's scale factor, a pole as a cone's origin), get initial values; they
+    /// give way to the values that were there before with the next method that those fit, unless they were edited
+    /// since. Other methods' values stay in the record.
     void setMethod(ProjectionMethod chosen);
+
+    /// Whether setMethod() gave the field its value, so that the user has yet to choose one.
+    bool isToChoose(const ParamField& field) const;
 
     /// No datum shift, or a seven-parameter one; parameters that are missing then start with 0.
     void setShift(bool sevenParameters);
@@ -44,23 +56,38 @@ public:
     /// says which datum shift there is ("_7type"), shift keys that it lacks are removed.
     void replaceValues(const IDictionary& source);
 
+    /// Whether the record differs from the one that was set.
+    bool canGoBack() const;
+
+    /// Makes the record the one that was set. goForward() undoes that, as long as nothing was edited since.
+    void goBack();
+    bool canGoForward() const;
+    void goForward();
+
 private:
-    std::optional<ProjectionMethod> method() const;
-    std::optional<double> semiMajorAxis() const;
+    struct State {
+        DictionaryGuard values; ///< the record
 
-    bool putNumber(const char* key, double value);
-    void put(const char* key, double value);
-    void restoreReplaced();
-    void forgetReplaced();
-    double initialValue(const ProjectionFields& fields, const ParamField& field) const;
-    void complete(const ProjectionFields& fields);
-    void chooseParallel(std::optional<ProjectionMethod> before);
-    void setParallel(std::optional<double> parallel);
+        /// The record without what a method filled in, and with the method that its scale factor was chosen for: what
+        /// the next method starts from.
+        DictionaryGuard chosen;
+
+        void assign(const State& other);
+        bool isSame(const State& other) const;
+    };
+
+    template <typename Change> void edit(const Change& change);
+    template <typename Change> void editAxis(const Change& change);
+    void followAxis(IDictionary& record, std::optional<double> axisBefore, std::optional<double> parallel);
     void followFactor();
-    void followAxis(std::optional<double> axisBefore, std::optional<double> parallel);
+    void fillParallel();
+    void fill(const ProjectionFields& fields);
+    double initialValue(const ProjectionFields& fields, const ParamField& field) const;
+    bool makesSense(const ProjectionFields& fields, const ParamField& field) const;
 
-    DictionaryGuard values;
-    DictionaryGuard replaced;       ///< values that the choice of a method replaced
-    DictionaryGuard initial;        ///< and by what
-    DictionaryGuard replacedRadius; ///< radius and axis of the standard parallel of a method the user came from
+    State now;
+    State beforeTyping;
+    DictionaryGuard shown; ///< the record that was set
+    State undone;          ///< by goBack()
+    bool isUndone = false;
 };

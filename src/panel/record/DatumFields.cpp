@@ -4,16 +4,17 @@
 
 #include <cmath>
 
-using namespace CoordParamKey;
+namespace Key = CoordParamKey;
 
 const ParamField& DatumFields::semiMajorAxis() {
     static const ParamField field = {
-        ellipsoidA, Quantity::Length, QT_TRANSLATE_NOOP("DlgCoordParam", "Semi-major axis a"), 1e3, 1e9, 6378137.0};
+        Key::ellipsoidA, Quantity::Length, QT_TRANSLATE_NOOP("DlgCoordParam", "Semi-major axis a"), 1e3, 1e9,
+        6378137.0};
     return field;
 }
 
 const ParamField& DatumFields::inverseFlattening() {
-    static const ParamField field = {ellipsoidF,
+    static const ParamField field = {Key::ellipsoidF,
                                      Quantity::InverseFlattening,
                                      QT_TRANSLATE_NOOP("DlgCoordParam", "Inverse flattening 1/f"),
                                      0.0,
@@ -30,13 +31,14 @@ const std::vector<ParamField>& DatumFields::shift() {
         return ParamField{key, Quantity::SmallRotation, label, -3600.0, 3600.0, 0.0};
     };
     static const std::vector<ParamField> fields = {
-        translation(shiftDx, QT_TRANSLATE_NOOP("DlgCoordParam", "Translation X")),
-        translation(shiftDy, QT_TRANSLATE_NOOP("DlgCoordParam", "Translation Y")),
-        translation(shiftDz, QT_TRANSLATE_NOOP("DlgCoordParam", "Translation Z")),
-        rotation(shiftRx, QT_TRANSLATE_NOOP("DlgCoordParam", "Rotation X")),
-        rotation(shiftRy, QT_TRANSLATE_NOOP("DlgCoordParam", "Rotation Y")),
-        rotation(shiftRz, QT_TRANSLATE_NOOP("DlgCoordParam", "Rotation Z")),
-        {shiftPpm, Quantity::ScaleDifference, QT_TRANSLATE_NOOP("DlgCoordParam", "Scale difference"), -1e5, 1e5, 0.0}};
+        translation(Key::shiftDx, QT_TRANSLATE_NOOP("DlgCoordParam", "Translation X")),
+        translation(Key::shiftDy, QT_TRANSLATE_NOOP("DlgCoordParam", "Translation Y")),
+        translation(Key::shiftDz, QT_TRANSLATE_NOOP("DlgCoordParam", "Translation Z")),
+        rotation(Key::shiftRx, QT_TRANSLATE_NOOP("DlgCoordParam", "Rotation X")),
+        rotation(Key::shiftRy, QT_TRANSLATE_NOOP("DlgCoordParam", "Rotation Y")),
+        rotation(Key::shiftRz, QT_TRANSLATE_NOOP("DlgCoordParam", "Rotation Z")),
+        {Key::shiftPpm, Quantity::ScaleDifference, QT_TRANSLATE_NOOP("DlgCoordParam", "Scale difference"), -1e5, 1e5,
+         0.0}};
     return fields;
 }
 

@@ -7,9 +7,25 @@
 
 #include <cmath>
 
+namespace {
+
+/// The text without what groups its digits; unchanged where that is no grouping, or could be a decimal comma.
+QString withoutGroups(const QString& text) {
+    static const QRegularExpression blankOrApostrophe(
+        "^[+-]?[0-9]{1,3}(?<mark>[ '\\x{00A0}\\x{2007}\\x{2009}\\x{202F}\\x{2019}])[0-9]{3}"
+        "(?:\\k<mark>[0-9]{3})*(?:\\.[0-9]*)?$");
+    static const QRegularExpression comma("^[+-]?[0-9]{1,3}(?:,[0-9]{3})+(?:,[0-9]{3}|\\.[0-9]*)$");
+    QRegularExpressionMatch match = blankOrApostrophe.match(text);
+    if (match.hasMatch())
+        return QString(text).remove(match.captured("mark"));
+    return comma.match(text).hasMatch() ? QString(text).remove(',') : text;
+}
+
+} // namespace
+
 bool NumberText::parse(const QString& text, double* number, QString* plain) {
     static const QRegularExpression form("^[+-]?([0-9]+\\.?[0-9]*|\\.[0-9]+)([eE][+-]?[0-9]+)?$");
-    QString candidate = text.trimmed().replace(QChar(0x2212), '-'); // the typographic minus sign
+    QString candidate = withoutGroups(text.trimmed().replace(QChar(0x2212), '-')); // the typographic minus sign
     bool isNumber = form.match(candidate).hasMatch();
     const double value = isNumber ? candidate.toDouble(&isNumber) : 0.0;
     if (!isNumber || !std::isfinite(value))
@@ -25,6 +41,13 @@ QString NumberText::shortest(double number) {
     const double size = std::fabs(number);
     const bool legible = size == 0.0 || (size > 1e-15 && size < 1e16);
     return QString::number(number, legible ? 'f' : 'g', QLocale::FloatingPointShortest);
+}
+
+QString NumberText::rounded(double number, int decimals) {
+    static const QRegularExpression trailingZeros("\\.?0*$");
+    const QString text = QString::number(number, 'f', decimals);
+    const QString plain = text.contains('.') ? QString(text).remove(trailingZeros) : text;
+    return plain == "-0" ? "0" : plain;
 }
 
 QString NumberText::ofRecord(const IDictionary& record, const char* key) {

@@ -7,13 +7,18 @@ class IDictionary;
 /// Numbers as the user types and reads them: digits with a decimal point, whatever the system's language.
 class NumberText {
 public:
-    /// Reads a plain decimal number ("500000", "-0.5", ".5", "1e6"; blanks around it are allowed). A decimal comma,
-    /// grouped digits, "nan", "inf" and hexadecimal are no numbers. `plain` receives the text without blanks and "+",
-    /// its digits as typed. False leaves both untouched.
+    /// Reads a decimal number ("500000", "-0.5", ".5", "1e6"; blanks around it are allowed). Digits before the decimal
+    /// point may stand in groups of three: "1 000 000.5" (with any kind of blank), "1'000'000", "1,000,000". Where a
+    /// comma could be a decimal comma ("45,500": one comma and no point) it is none of these and the text no number;
+    /// nor are "nan", "inf" and hexadecimal. `plain` receives the text without blanks, groups and "+", its digits as
+    /// typed. False leaves both untouched.
     static bool parse(const QString& text, double* number, QString* plain);
 
     /// The shortest decimal text that reads back as exactly `number`; without an exponent where that is legible.
     static QString shortest(double number);
+
+    /// The number rounded to `decimals` decimals, without trailing zeros.
+    static QString rounded(double number, int decimals);
 
     /// The value of `key` with all its digits: the number behind the text, else the text itself (without the trailing
     /// zeros of a "%f"). Empty when the key is absent.

@@ -4,6 +4,8 @@
 #include "panel/record/NumberText.h"
 #include "panel/record/StandardParallel.h"
 
+#include <QRegularExpression>
+
 #include <cmath>
 #include <cstring>
 
@@ -18,6 +20,15 @@ AngleRole role(Quantity quantity) {
     default:
         return AngleRole::Latitude;
     }
+}
+
+/// The text without `unit` at its end; seconds in any way in which they are written.
+QString withoutUnit(QString text, QString unit) {
+    static const QRegularExpression seconds("''|[\\x{2033}\\x{201C}\\x{201D}]|\\x{2032}\\x{2032}|\\x{2019}\\x{2019}");
+    text = text.trimmed();
+    if (unit == "\"")
+        text.replace(seconds, unit);
+    return !unit.isEmpty() && text.endsWith(unit, Qt::CaseInsensitive) ? text.chopped(unit.size()) : text;
 }
 
 double toDegrees(double arcSeconds) {
@@ -84,7 +95,8 @@ FieldInput ParamField::parse(const QString& text) const {
         input.reason = angle.reason;
         plain = angle.decimal;
     } else {
-        input.valid = NumberText::parse(text, &input.value, &plain);
+        input.valid =
+            NumberText::parse(withoutUnit(text, unitText(AngleNotation::DecimalDegrees)), &input.value, &plain);
         if (!input.valid)
             input.reason =
                 text.contains(',') ? tr("Use a decimal point, not a comma.") : tr("Only digits and a decimal point.");
@@ -126,9 +138,10 @@ QString ParamField::shownText(const IDictionary& record, AngleNotation notation)
     if (!read(record, &value))
         return optional || quantity == Quantity::StandardParallel ? QString()
                                                                   : QString::fromLocal8Bit(record.getValue(key));
-    if (isAngle() && notation == AngleNotation::DegreesMinutesSeconds)
+    if (quantity == Quantity::StandardParallel || (isAngle() && notation == AngleNotation::DegreesMinutesSeconds))
         return AngleText::format(value, notation);
-    if (quantity == Quantity::SmallRotation || quantity == Quantity::StandardParallel)
+    if (quantity == Quantity::SmallRotation)
         return NumberText::shortest(value);
-    return NumberText::ofRecord(record, key);
+    const QString text = NumberText::ofRecord(record, key);
+    return isAngle() ? AngleText::withoutNoise(text) : text;
 }

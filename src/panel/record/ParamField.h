@@ -52,7 +52,8 @@ public:
     QString unitText(AngleNotation notation) const;
     QString rangeText() const;
 
-    /// Takes a typed text apart. Angles come in any notation; every other number is a plain decimal one.
+    /// Takes a typed text apart. Angles come in any notation; every other number is a decimal one. The field's own unit
+    /// may follow.
     FieldInput parse(const QString& text) const;
 
     /// The value that the record holds, in the unit of the field. False when it is absent (for an optional field: or 0)
@@ -62,7 +63,7 @@ public:
     /// Whether the record holds a value that the field accepts (or none, where it is optional).
     bool isSound(const IDictionary& record) const;
 
-    /// The record's value as text, with all its digits; angles in `notation`. Empty when the record has none; a text
-    /// that is no number is shown as it is.
+    /// The record's value as text, with all its digits; angles in `notation` and as AngleText::format() rounds them.
+    /// Empty when the record has none; a text that is no number is shown as it is.
     QString shownText(const IDictionary& record, AngleNotation notation) const;
 };

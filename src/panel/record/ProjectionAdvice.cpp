@@ -12,7 +12,7 @@
 
 #include <cmath>
 
-using namespace CoordParamKey;
+namespace Key = CoordParamKey;
 
 namespace {
 
@@ -21,7 +21,7 @@ double number(const IDictionary& record, const char* key) {
 }
 
 bool isPolar(const IDictionary& record) {
-    return std::fabs(number(record, orgLat)) == 90.0;
+    return std::fabs(number(record, Key::orgLat)) == 90.0;
 }
 
 bool isTransverseMercator(const ProjectionFields& projection) {
@@ -50,7 +50,7 @@ QString ProjectionAdvice::problem(const IDictionary& record) {
 QString ProjectionAdvice::missing(const ProjectionFields* projection, const IDictionary& record) {
     if (!DatumFields::semiMajorAxis().isSound(record) || !DatumFields::inverseFlattening().isSound(record))
         return tr("No projection yet: the system has no ellipsoid.");
-    const char* type = record.getValue(projectType);
+    const char* type = record.getValue(Key::projectType);
     if (!type)
         return tr("No projection yet: choose the method.");
     if (!projection)
@@ -68,8 +68,8 @@ QString ProjectionAdvice::missing(const ProjectionFields* projection, const IDic
 
 bool ProjectionAdvice::fitsNoMethod(const IDictionary& record) {
     const ProjectionFields* projection = ProjectionFields::ofRecord(record);
-    return projection && projection->method == ProjectionMethod::TransverseMercator && record.getValue(factor) &&
-           number(record, factor) != 1.0;
+    return projection && projection->method == ProjectionMethod::TransverseMercator && record.getValue(Key::factor) &&
+           number(record, Key::factor) != 1.0;
 }
 
 bool ProjectionAdvice::isDegenerate(const ProjectionFields& projection, const IDictionary& record) {
@@ -77,11 +77,12 @@ bool ProjectionAdvice::isDegenerate(const ProjectionFields& projection, const ID
     constexpr double same = Angle::toDegrees(1e-10);
     switch (projection.method) {
     case ProjectionMethod::LambertOneParallel:
-        return std::fabs(number(record, parallel1Lat)) < same;
+        return std::fabs(number(record, Key::parallel1Lat)) < same;
     case ProjectionMethod::LambertTwoParallels:
-        return std::fabs(number(record, parallel1Lat) + number(record, parallel2Lat)) < same;
+        return std::fabs(number(record, Key::parallel1Lat) + number(record, Key::parallel2Lat)) < same;
     case ProjectionMethod::ObliqueMercatorTwoPoints:
-        return std::fabs(number(record, lat1) - number(record, lat2)) < same || std::fabs(number(record, lat1)) < same;
+        return std::fabs(number(record, Key::lat1) - number(record, Key::lat2)) < same ||
+               std::fabs(number(record, Key::lat1)) < same;
     default:
         return false;
     }
@@ -96,7 +97,7 @@ QString ProjectionAdvice::warning(const ProjectionFields& projection, const Para
         return scaleWarning(projection, record, value);
     if (field.quantity == Quantity::StandardParallel)
         return parallelWarning(projection, record, value);
-    if (field.is(parallel1Lat) || field.is(parallel2Lat))
+    if (field.is(Key::parallel1Lat) || field.is(Key::parallel2Lat))
         return coneWarning(projection, record);
     if (field.quantity == Quantity::Longitude && isTransverseMercator(projection))
         return meridianWarning(record, value);
@@ -118,10 +119,11 @@ QString ProjectionAdvice::parallelWarning(const ProjectionFields& projection, co
 
 QString ProjectionAdvice::coneWarning(const ProjectionFields& projection, const IDictionary& record) {
     if (projection.method == ProjectionMethod::LambertOneParallel)
-        return number(record, parallel1Lat) != number(record, orgLat) ? tr("Usually equal to the latitude of origin.")
-                                                                      : QString();
+        return number(record, Key::parallel1Lat) != number(record, Key::orgLat)
+                   ? tr("Usually equal to the latitude of origin.")
+                   : QString();
     // Where they cancel altogether, problem() says so.
-    return std::fabs(number(record, parallel1Lat) + number(record, parallel2Lat)) < 1.0
+    return std::fabs(number(record, Key::parallel1Lat) + number(record, Key::parallel2Lat)) < 1.0
                ? tr("The standard parallels nearly cancel out.")
                : QString();
 }
@@ -130,14 +132,14 @@ QString ProjectionAdvice::meridianWarning(const IDictionary& record, double meri
     // A system that calls itself UTM.
     static const QRegularExpression utm("\\bUTM *(?:zone)? *([0-9]{1,2})(?![0-9])",
                                         QRegularExpression::CaseInsensitiveOption);
-    const int utmZone = utm.match(QString::fromLocal8Bit(record.getValue(name))).captured(1).toInt();
+    const int utmZone = utm.match(QString::fromLocal8Bit(record.getValue(Key::name))).captured(1).toInt();
     if (utmZone >= 1 && utmZone <= 60 && apart(meridian, 6.0 * utmZone - 183.0) > 1e-9)
         return tr("Zone %1 of UTM has the central meridian %2°.").arg(utmZone).arg(6 * utmZone - 183);
 
     // Gauss-Krüger eastings begin with the zone: 3 or 6 degrees wide, or 1 degree in Finland. Below zone 8 some
     // countries number otherwise.
-    const double easting = number(record, falseEast), zone = std::floor(easting / 1e6);
-    if (number(record, factor) != 1.0 || zone < 8.0 || zone > 120.0 || easting - zone * 1e6 != 500000.0)
+    const double easting = number(record, Key::falseEast), zone = std::floor(easting / 1e6);
+    if (number(record, Key::factor) != 1.0 || zone < 8.0 || zone > 120.0 || easting - zone * 1e6 != 500000.0)
         return QString();
     const bool fits =
         apart(meridian, 3.0 * zone) < 1e-9 || apart(meridian, 6.0 * zone - 3.0) < 1e-9 || apart(meridian, zone) < 1e-9;

@@ -5,11 +5,11 @@
 #include <QDir>
 #include <QFile>
 
-Catalogue::Catalogue(const QString& folder)
+Catalogue::Catalogue(const QString& folder, const QString& rescueFolder)
     : shippedFolder(folder)
-    , userFile(systemFile)
-    , ellipsoids(ellipsoidFile, EllipsoidKey::flag)
-    , geoids(geoidFile, GeoidKey::flag) {
+    , userFile(rescueFolder)
+    , ellipsoids(ellipsoidFile, EllipsoidKey::flag, rescueFolder)
+    , geoids(geoidFile, GeoidKey::flag, rescueFolder) {
 }
 
 void Catalogue::load(const char* dataFolder) {
@@ -28,11 +28,8 @@ void Catalogue::load(const char* dataFolder) {
 }
 
 void Catalogue::saveCoordSystems(const char* path) {
-    const QString target = QFile::decodeName(path);
-    if (target.isEmpty())
-        userFile.openSave();
-    else
-        userFile.save(target, content);
+    if (path && *path)
+        userFile.save(QFile::decodeName(path), content);
 }
 
 const char* Catalogue::getGroupNames() {
@@ -76,7 +73,8 @@ IDictionary* Catalogue::getEllipsoid(const char* name) {
 }
 
 void Catalogue::saveEllipsoids(const char* path) {
-    ellipsoids.save(QFile::decodeName(path));
+    if (path && *path)
+        ellipsoids.save(QFile::decodeName(path));
 }
 
 const char* Catalogue::getGeoidNames() {
@@ -96,5 +94,6 @@ IDictionary* Catalogue::getGeoid(const char* name) {
 }
 
 void Catalogue::saveGeoids(const char* path) {
-    geoids.save(QFile::decodeName(path));
+    if (path && *path)
+        geoids.save(QFile::decodeName(path));
 }

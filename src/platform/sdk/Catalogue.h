@@ -9,8 +9,8 @@
 /// shown while the user has no catalogue of his own.
 class Catalogue : public ICoordSystem {
 public:
-    /// `shippedFolder` is where the shipped files lie.
-    explicit Catalogue(const QString& shippedFolder);
+    /// `shippedFolder` is where the shipped files lie, `rescueFolder` where a save goes that can't reach its folder.
+    Catalogue(const QString& shippedFolder, const QString& rescueFolder);
 
     void load(const char* dataFolder) override;
 

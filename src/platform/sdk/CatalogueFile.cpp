@@ -3,14 +3,13 @@
 #include "catalogue/CatalogueRecordKey.h"
 #include "catalogue/CoordParamKey.h"
 #include "platform/sdk/FileText.h"
+#include "platform/utility/DiskCalls.h"
 
-#include <QFile>
+#include <QFileInfo>
 #include <QLocale>
-#include <QSaveFile>
 
 #include <pugixml.hpp>
 
-#include <algorithm>
 #include <cstring>
 
 const FileKind systemFile{"coordinate_systems", "system", CoordParamKey::name};
@@ -18,6 +17,7 @@ const FileKind ellipsoidFile{"ellipsoids", "ellipsoid", EllipsoidKey::name};
 const FileKind geoidFile{"geoids", "geoid", GeoidKey::name};
 
 static constexpr int formatVersion = 1;
+static constexpr int pieceSize = 1 << 16; // bytes of a file that are written at a time
 static constexpr const char* groupElement = "group";
 static constexpr const char* valueElement = "value";
 static constexpr const char* versionAttribute = "version";
@@ -27,61 +27,13 @@ static constexpr const char* textAttribute = "text";
 static constexpr const char* numberAttribute = "number";
 static constexpr const char* encodedSuffix = "_encoded";
 
-/// A file's XML. Of a damaged file it is what stands before the damage, up to the last complete record.
-class FileDocument {
-public:
-    FileDocument(const QString& path, const FileKind& kind);
-
-    FileCondition condition = FileCondition::Damaged;
-    pugi::xml_node root; ///< null when there is none of this kind
-    UnknownXml unknown;  ///< of the root
-
-private:
-    pugi::xml_parse_result parse();
-    bool hasOneRoot() const;
-
-    QByteArray content; // the document points into it
-    pugi::xml_document document;
-};
-
-FileDocument::FileDocument(const QString& path, const FileKind& kind) {
-    QFile file(path);
-    if (!file.exists()) {
-        condition = FileCondition::Missing;
-        return;
-    }
-    if (!file.open(QIODevice::ReadOnly))
-        return;
-    content = file.readAll();
-    const pugi::xml_parse_result result = parse();
-    if (!result) {
-        // What is open behind the last complete record stays open: the parser keeps it. Parsing has changed the
-        // content, and where a file breaks off the parser names the character before the end.
-        const QByteArray recordEnd = QByteArray("</") + kind.record + '>';
-        file.seek(0);
-        content = file.readAll();
-        if (int(result.offset) < content.size() - 1)
-            content.truncate(int(result.offset));
-        const int end = content.lastIndexOf(recordEnd);
-        content.truncate(end < 0 ? 0 : end + recordEnd.size());
-        parse();
-    }
-    root = document.child(kind.root);
-    const int version = root.attribute("version").as_int();
-    if (result && hasOneRoot() && version >= 1 && version <= formatVersion)
-        condition = FileCondition::Whole;
+/// Between the elements that this version knows, blank text only sets them apart.
+static bool isBlank(const pugi::xml_node& node) {
+    return node.type() == pugi::node_pcdata && node.value()[std::strspn(node.value(), " \t\r\n")] == '\0';
 }
 
-pugi::xml_parse_result FileDocument::parse() {
-    // Attributes keep their line breaks and tabs; comments are kept for the person who wrote them.
-    constexpr unsigned int options =
-        pugi::parse_cdata | pugi::parse_escapes | pugi::parse_eol | pugi::parse_comments | pugi::parse_ws_pcdata_single;
-    return document.load_buffer_inplace(content.data(), size_t(content.size()), options);
-}
-
-bool FileDocument::hasOneRoot() const {
-    const auto isElement = [](const pugi::xml_node& node) { return node.type() == pugi::node_element; };
-    return std::count_if(document.begin(), document.end(), isElement) == 1;
+static bool isElement(const pugi::xml_node& node, const char* name) {
+    return node.type() == pugi::node_element && std::strcmp(node.name(), name) == 0;
 }
 
 struct ByteArrayWriter : pugi::xml_writer {
@@ -93,10 +45,98 @@ static void keepAttribute(UnknownXml& unknown, const pugi::xml_attribute& attrib
     unknown.attributes += QByteArray(" ") + attribute.name() + "=\"" + FileText::escaped(attribute.value()) + '"';
 }
 
-static void keepChild(UnknownXml& unknown, const pugi::xml_node& child) {
+static QByteArray xmlOf(const pugi::xml_node& node) {
     ByteArrayWriter writer;
-    child.print(writer, "", pugi::format_raw, pugi::encoding_utf8);
-    unknown.children += writer.text;
+    node.print(writer, "", pugi::format_raw, pugi::encoding_utf8);
+    // A text gets a line of its own when it is written, and must not get another one at every save.
+    return node.type() == pugi::node_pcdata ? writer.text.trimmed() : writer.text;
+}
+
+static void keepChild(UnknownXml& unknown, const pugi::xml_node& child) {
+    if (!isBlank(child))
+        unknown.children += xmlOf(child);
+}
+
+/// A file's XML. Of a damaged file it is what stands before the damage, up to the last complete record.
+class FileDocument {
+public:
+    /// Reads the file, and into `content` what every kind of file has.
+    FileDocument(const QString& path, const FileKind& kind, FileContent& content);
+
+    pugi::xml_node root; ///< null when there is none of this kind
+
+private:
+    pugi::xml_parse_result parse();
+    void parseBefore(ptrdiff_t damage, const FileKind& kind);
+    bool keepSurroundings(FileContent& content) const;
+
+    QByteArray bytes; // the document points into it
+    pugi::xml_document document;
+};
+
+/// XML has no such byte, and the parser ends there without a word. In UTF-16, which it reads too, half of them are
+/// zero.
+static bool holdsZero(const QByteArray& bytes) {
+    const bool isWide =
+        bytes.size() >= 2 && (!bytes[0] || !bytes[1] || bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF"));
+    return !isWide && bytes.contains('\0');
+}
+
+FileDocument::FileDocument(const QString& path, const FileKind& kind, FileContent& content) {
+    if (!QFileInfo::exists(path))
+        return;
+    content.condition = FileCondition::Damaged;
+    const bool isRead = DiskCalls::read(path, &bytes);
+    if (isRead)
+        content.stamp = FileStamp(path, ContentHash(bytes));
+    const bool isText = isRead && !holdsZero(bytes);
+    const pugi::xml_parse_result result = parse();
+    if (!result && DiskCalls::read(path, &bytes)) // parsing has changed them
+        parseBefore(result.offset, kind);
+    root = document.child(kind.root);
+    const bool hasOneRoot = keepSurroundings(content);
+    const int version = root.attribute(versionAttribute).as_int();
+    if (isText && result && hasOneRoot && version >= 1 && version <= formatVersion)
+        content.condition = FileCondition::Whole;
+    for (const pugi::xml_attribute& attribute : root.attributes()) {
+        if (std::strcmp(attribute.name(), versionAttribute) != 0)
+            keepAttribute(content.unknown, attribute);
+    }
+}
+
+pugi::xml_parse_result FileDocument::parse() {
+    // Attributes keep their line breaks and tabs; what a person wrote beside the elements is kept for him.
+    constexpr unsigned int options = pugi::parse_cdata | pugi::parse_escapes | pugi::parse_eol | pugi::parse_comments |
+                                     pugi::parse_pi | pugi::parse_doctype | pugi::parse_ws_pcdata_single |
+                                     pugi::parse_fragment;
+    // With the zero that a byte array has behind its end: the parser takes the last character for one.
+    return document.load_buffer_inplace(bytes.data(), size_t(bytes.size()) + 1, options);
+}
+
+/// What is open behind the last complete record stays open: the parser keeps it.
+void FileDocument::parseBefore(ptrdiff_t damage, const FileKind& kind) {
+    const QByteArray recordEnd = QByteArray("</") + kind.record + '>';
+    // Where a file breaks off the parser names the character before the end.
+    if (damage < bytes.size() - 1)
+        bytes.truncate(int(damage));
+    const int end = bytes.lastIndexOf(recordEnd);
+    bytes.truncate(end < 0 ? 0 : end + recordEnd.size());
+    parse();
+}
+
+/// False when there is more than one element, or text beside it.
+bool FileDocument::keepSurroundings(FileContent& content) const {
+    int elements = 0;
+    bool hasText = false;
+    for (const pugi::xml_node& node : document.children()) {
+        if (node.type() == pugi::node_element)
+            ++elements;
+        else if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata)
+            hasText = true;
+        else
+            (elements == 0 ? content.beforeRoot : content.behindRoot) += xmlOf(node);
+    }
+    return elements == 1 && !hasText;
 }
 
 /// A text as it comes from an attribute.
@@ -171,9 +211,9 @@ static bool readValues(const pugi::xml_node& element, CatalogueRecord& record) {
     for (const pugi::xml_attribute& attribute : element.attributes())
         keepAttribute(record.unknown, attribute);
     for (const pugi::xml_node& child : element.children()) {
-        if (child.type() == pugi::node_pcdata)
+        if (child.type() == pugi::node_pcdata && !isBlank(child))
             return false;
-        if (std::strcmp(child.name(), valueElement) != 0)
+        if (!isElement(child, valueElement))
             keepChild(record.unknown, child);
         else if (!readValue(child, record))
             return false;
@@ -201,27 +241,18 @@ static void readGroup(const pugi::xml_node& element, SystemFile& content) {
     }
     group->unknown = unknown;
     for (const pugi::xml_node& child : element.children()) {
-        if (std::strcmp(child.name(), systemFile.record) == 0)
+        if (isElement(child, systemFile.record))
             readRecord(child, group->systems, group->unknown);
         else
             keepChild(group->unknown, child);
     }
 }
 
-static void keepRootAttributes(UnknownXml& unknown, const pugi::xml_node& root) {
-    for (const pugi::xml_attribute& attribute : root.attributes()) {
-        if (std::strcmp(attribute.name(), versionAttribute) != 0)
-            keepAttribute(unknown, attribute);
-    }
-}
-
 RecordFile CatalogueFile::readRecords(const QString& path, const FileKind& kind) {
-    const FileDocument document(path, kind);
     RecordFile content(kind);
-    content.condition = document.condition;
-    keepRootAttributes(content.unknown, document.root);
+    const FileDocument document(path, kind, content);
     for (const pugi::xml_node& child : document.root.children()) {
-        if (std::strcmp(child.name(), kind.record) == 0)
+        if (isElement(child, kind.record))
             readRecord(child, content.records, content.unknown);
         else
             keepChild(content.unknown, child);
@@ -230,12 +261,10 @@ RecordFile CatalogueFile::readRecords(const QString& path, const FileKind& kind)
 }
 
 SystemFile CatalogueFile::readSystems(const QString& path) {
-    const FileDocument document(path, systemFile);
     SystemFile content;
-    content.condition = document.condition;
-    keepRootAttributes(content.unknown, document.root);
+    const FileDocument document(path, systemFile, content);
     for (const pugi::xml_node& child : document.root.children()) {
-        if (std::strcmp(child.name(), groupElement) == 0)
+        if (isElement(child, groupElement))
             readGroup(child, content);
         else
             keepChild(content.unknown, child);
@@ -243,22 +272,19 @@ SystemFile CatalogueFile::readSystems(const QString& path) {
     return content;
 }
 
-FileCondition CatalogueFile::condition(const QString& path, const FileKind& kind) {
-    return FileDocument(path, kind).condition;
-}
-
-/// Writes a file's XML piece by piece.
+/// A file's XML, made piece by piece.
 class FileWriter {
 public:
-    explicit FileWriter(const QString& path) : file(path) { isOpen = file.open(QIODevice::WriteOnly); }
+    // What is reserved stays when the text is emptied.
+    explicit FileWriter(FileReplacement& replacement) : file(replacement) { xml.reserve(2 * pieceSize); }
 
-    void startRoot(const char* root, const UnknownXml& unknown);
+    void startRoot(const char* root, const FileContent& content);
     void startGroup(const CoordSysGroup& group);
     void writeRecords(const RecordList& records, const char* element, const char* indent);
     /// Writes what is unknown in an element and ends it.
     void end(const char* element, const UnknownXml& unknown, const QByteArray& indent);
-    /// False when anything could not be written; the file is then the old one.
-    bool commit();
+    /// Nothing comes behind.
+    void endRoot(const char* root, const FileContent& content);
 
 private:
     void appendText(const char* attribute, const QByteArray& text);
@@ -266,8 +292,7 @@ private:
     void appendValue(const CatalogueRecord& record, const char* key, const QByteArray& indent);
     void flush();
 
-    QSaveFile file;
-    bool isOpen;
+    FileReplacement& file;
     QByteArray xml; ///< what is still to be written
 };
 
@@ -317,14 +342,25 @@ void FileWriter::writeRecords(const RecordList& records, const char* element, co
         for (int i = 0; i < record.values->count(); ++i)
             appendValue(record, record.values->getKey(i), valueIndent);
         end(element, record.unknown, indent);
-        flush();
+        if (xml.size() > pieceSize)
+            flush();
     }
 }
 
-void FileWriter::startRoot(const char* root, const UnknownXml& unknown) {
-    xml.append("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<").append(root);
+void FileWriter::startRoot(const char* root, const FileContent& content) {
+    xml.append("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
+    for (const QByteArray& node : content.beforeRoot)
+        xml.append(node).append('\n');
+    xml.append('<').append(root);
     appendText(versionAttribute, QByteArray::number(formatVersion));
-    xml.append(unknown.attributes).append(">\n");
+    xml.append(content.unknown.attributes).append(">\n");
+}
+
+void FileWriter::endRoot(const char* root, const FileContent& content) {
+    end(root, content.unknown, {});
+    for (const QByteArray& node : content.behindRoot)
+        xml.append(node).append('\n');
+    flush();
 }
 
 void FileWriter::startGroup(const CoordSysGroup& group) {
@@ -340,32 +376,24 @@ void FileWriter::end(const char* element, const UnknownXml& unknown, const QByte
 }
 
 void FileWriter::flush() {
-    if (isOpen)
-        file.write(xml);
+    file.write(xml);
     xml.resize(0);
 }
 
-bool FileWriter::commit() {
-    flush();
-    return isOpen && file.commit();
-}
-
-bool CatalogueFile::write(const QString& path, const RecordFile& content) {
-    FileWriter writer(path);
-    writer.startRoot(content.kind.root, content.unknown);
+void CatalogueFile::writeTo(FileReplacement& file, const RecordFile& content) {
+    FileWriter writer(file);
+    writer.startRoot(content.kind.root, content);
     writer.writeRecords(content.records, content.kind.record, "  ");
-    writer.end(content.kind.root, content.unknown, {});
-    return writer.commit();
+    writer.endRoot(content.kind.root, content);
 }
 
-bool CatalogueFile::write(const QString& path, const SystemFile& content) {
-    FileWriter writer(path);
-    writer.startRoot(systemFile.root, content.unknown);
+void CatalogueFile::writeTo(FileReplacement& file, const SystemFile& content) {
+    FileWriter writer(file);
+    writer.startRoot(systemFile.root, content);
     for (const CoordSysGroup& group : content.groups) {
         writer.startGroup(group);
         writer.writeRecords(group.systems, systemFile.record, "    ");
         writer.end(groupElement, group.unknown, "  ");
     }
-    writer.end(systemFile.root, content.unknown, {});
-    return writer.commit();
+    writer.endRoot(systemFile.root, content);
 }

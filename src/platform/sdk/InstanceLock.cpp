@@ -1,11 +1,14 @@
 #include "platform/sdk/InstanceLock.h"
 
+#include "platform/sdk/ToolFolder.h"
+#include "platform/utility/FileHold.h"
+
 #include <QCryptographicHash>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QLocalSocket>
-#include <QStandardPaths>
 #include <QSysInfo>
 #include <QWindow>
 
@@ -15,22 +18,22 @@
 
 static constexpr int connectTimeout = 500; // milliseconds
 static constexpr int startTimeout = 3000;  // milliseconds; another start takes a few of them
+static constexpr int startStaleTime = 500; // milliseconds; a start that was killed leaves its lock behind
 
-static QString instanceFolder() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-           QLatin1String("/ArvelaGnss/CoordSystemManager");
+/// A home that several machines share has one lock and one socket for each of them.
+static QString instancePath(const char* suffix) {
+    return toolFolder() + QLatin1String("/instance-") + QSysInfo::machineHostName() + QLatin1String(suffix);
 }
 
-/// A home that several machines share has one lock for each of them.
 static QString lockPath() {
-    return instanceFolder() + QLatin1String("/instance-") + QSysInfo::machineHostName() + QLatin1String(".lock");
+    return instancePath(".lock");
 }
 
 /// In the user's folder where the system has sockets in folders and the path is short enough for one (some 100 bytes),
 /// else a name of the user's own.
 static QString serverName() {
 #ifndef Q_OS_WIN
-    QString path = instanceFolder() + QLatin1String("/instance.socket");
+    QString path = instancePath(".socket");
     if (QFile::encodeName(path).size() < 90)
         return path;
 #endif
@@ -67,21 +70,36 @@ InstanceLock::InstanceLock(QObject* parent) : QObject(parent), lock(lockPath()) 
     connect(&server, SIGNAL(newConnection()), this, SLOT(_onNewConnection()));
 }
 
+/// Takes away what lies in a lock's place and is no living instance's: a lock that was never written to its end, one
+/// whose dead owner still has its number or was another user, a folder. The system lets a lock's file go, which it does
+/// not while the owner lives. False when somebody holds it, or it can't be moved.
+static bool clearAway(const QString& path) {
+    if (FileHold::of(path) == FileHold::State::Held)
+        return false;
+    return QFile::remove(path) ||
+           QFile::rename(path, path + QLatin1String(".other-") + QString::number(QDateTime::currentMSecsSinceEpoch()));
+}
+
 bool InstanceLock::tryLock() {
-    QDir().mkpath(instanceFolder());
+    QDir().mkpath(toolFolder());
     // One start at a time, so that nobody takes a lock that is just being made for an abandoned one.
-    QLockFile start(lockPath() + QLatin1String(".start"));
-    if (!start.tryLock(startTimeout))
-        return start.error() != QLockFile::LockFailedError;
+    const QString startPath = lockPath() + QLatin1String(".start");
+    QLockFile start(startPath);
+    start.setStaleLockTime(startStaleTime);
+    const bool isStarting =
+        start.tryLock(startStaleTime) || (clearAway(startPath) && start.tryLock()) || start.tryLock(startTimeout);
+    if (!isStarting && FileHold::of(startPath) == FileHold::State::Held)
+        return false;
 
-    bool isLocked = lock.tryLock();
-    // A lock that was never written to its end, or whose dead owner still has its number: nobody answers, and the
-    // system lets the file go, which it does not while the owner lives.
-    if (!isLocked && !send({}) && lock.removeStaleLockFile())
-        isLocked = lock.tryLock();
-    if (!isLocked)
-        return lock.error() != QLockFile::LockFailedError;
-
+    if (!lock.tryLock()) {
+        if (lock.error() != QLockFile::LockFailedError)
+            return true;
+        // Whoever answers lives, whatever became of its lock.
+        if (send({}))
+            return false;
+        if (!clearAway(lockPath()) || !lock.tryLock())
+            return FileHold::of(lockPath()) == FileHold::State::Free;
+    }
     // With the lock held, a socket in the way is a dead instance's.
     QLocalServer::removeServer(serverName());
     server.setSocketOptions(QLocalServer::UserAccessOption);

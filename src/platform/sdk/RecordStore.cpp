@@ -2,8 +2,8 @@
 
 #include <cstdlib>
 
-RecordStore::RecordStore(const FileKind& fileKind, const char* key)
-    : kind(fileKind), flagKey(key), userFile(fileKind), shipped(fileKind), own(fileKind) {
+RecordStore::RecordStore(const FileKind& fileKind, const char* key, const QString& rescueFolder)
+    : kind(fileKind), flagKey(key), userFile(rescueFolder), shipped(fileKind), own(fileKind) {
 }
 
 void RecordStore::load(const QString& shippedPath, const QString& userPath) {
@@ -50,8 +50,5 @@ void RecordStore::remove(const QByteArray& name) {
 }
 
 void RecordStore::save(const QString& path) {
-    if (path.isEmpty())
-        userFile.openSave();
-    else
-        userFile.save(path, own);
+    userFile.save(path, own);
 }

@@ -9,8 +9,8 @@
 /// returns with the next load. Records whose flag is 0 belong to the user's file.
 class RecordStore {
 public:
-    /// `flagKey` marks the user's own records; the texts must outlive the store.
-    RecordStore(const FileKind& kind, const char* flagKey);
+    /// `flagKey` marks the user's own records; the texts must outlive the store. `rescueFolder` is UserFile's.
+    RecordStore(const FileKind& kind, const char* flagKey, const QString& rescueFolder);
 
     void load(const QString& shippedPath, const QString& userPath);
 
@@ -25,7 +25,7 @@ public:
 
     void remove(const QByteArray& name);
 
-    /// Writes the user's file; with an empty path it opens the save.
+    /// Writes the user's file.
     void save(const QString& path);
 
 private:

@@ -4,6 +4,7 @@
 #include "platform/sdk/Catalogue.h"
 #include "platform/sdk/InstanceLock.h"
 #include "platform/sdk/SystemConfig.h"
+#include "platform/sdk/ToolFolder.h"
 #include "platform/utility/ApplicationFolder.h"
 
 #include <QCoreApplication>
@@ -12,7 +13,8 @@
 #include <memory>
 
 ICoordSystem* get_instance_ICoordSystem(const char*, int) {
-    static auto* const catalogue = new Catalogue(applicationFolder() + QLatin1String("/../etc/Vornhalde/data"));
+    static auto* const catalogue = new Catalogue(applicationFolder() + QLatin1String("/../etc/Vornhalde/data"),
+                                                 toolFolder() + QLatin1String("/rescue"));
     return catalogue;
 }
 

@@ -1,84 +1,189 @@
 #include "platform/sdk/UserFile.h"
 
+#include "platform/sdk/Generations.h"
+#include "platform/utility/DiskCalls.h"
+#include "platform/utility/FileReplacement.h"
+
+#include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
-static const QString damagedSuffix = QStringLiteral(".damaged-");
+namespace {
 
-UserFile::UserFile(const FileKind& fileKind) : kind(fileKind) {
+const QString damagedSuffix = QStringLiteral(".damaged-");
+const QString otherSuffix = QStringLiteral(".other-");
+
+QString folderOf(const QString& path) {
+    return QFileInfo(path).absolutePath();
 }
 
-void UserFile::setPath(const QString& filePath) {
-    path = filePath;
-    openFor.clear();
+bool copyFile(const QString& from, const QString& to) {
+    FileReplacement copy(to);
+    return copy.prepareCopyOf(from) && copy.commit();
 }
 
-QString UserFile::previousGeneration(const QString& path) {
-    return path + QLatin1String(".bak");
-}
-
-bool UserFile::exists() const {
-    const QFileInfo info(path);
-    return info.exists() || QFileInfo::exists(previousGeneration(path)) ||
-           !info.dir().entryList({info.fileName() + damagedSuffix + QLatin1Char('*')}, QDir::Files).isEmpty();
-}
-
-/// A copy that is on disk when the function returns; a file at `to` is replaced in one step or not at all.
-static bool copyFile(const QString& from, const QString& to) {
-    QFile source(from);
-    QSaveFile copy(to);
-    if (!source.open(QIODevice::ReadOnly) || !copy.open(QIODevice::WriteOnly))
+bool prepare(FileReplacement& replacement, const std::function<void(FileReplacement&)>& write) {
+    if (!replacement.start())
         return false;
-    while (!source.atEnd()) {
-        const QByteArray block = source.read(1 << 20);
-        if (block.isEmpty() || copy.write(block) != block.size())
-            return false;
-    }
-    return copy.commit();
+    write(replacement);
+    return replacement.finish();
+}
+
+/// Now, or later where a file's time is ahead: two disks have two clocks.
+QDateTime later(qint64 changed) {
+    return QDateTime::fromMSecsSinceEpoch(qMax(QDateTime::currentMSecsSinceEpoch(), changed + 1));
+}
+
+QDateTime later(const QString& path) {
+    const QFileInfo info(path);
+    return later(info.exists() ? info.lastModified().toMSecsSinceEpoch() : 0);
 }
 
 /// A path beside `path` that is not in use, so that nothing that was set aside is ever replaced.
-static QString setAsidePath(const QString& path) {
-    const QString wanted =
-        path + damagedSuffix + QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+QString setAsidePath(const QString& path, const QString& suffix) {
+    const QString wanted = path + suffix + QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
     QString free = wanted;
-    for (int i = 2; QFileInfo::exists(free); ++i)
+    for (int i = 2; QFileInfo::exists(free) || QFileInfo(free).isSymLink(); ++i)
         free = wanted + QLatin1Char('-') + QString::number(i);
     return free;
 }
 
-void UserFile::openSave() {
-    openFor = !path.isEmpty() && open(path) ? path : QString();
+/// Keeps the file `place` beside `path`. What can't be read can still be moved.
+bool setAside(const QString& place, const QString& path, const QString& suffix) {
+    const QString aside = setAsidePath(path, suffix);
+    return copyFile(place, aside) || DiskCalls::rename(place, aside);
 }
 
-bool UserFile::open(const QString& target) const {
-    QDir().mkpath(QFileInfo(target).absolutePath());
-    switch (CatalogueFile::condition(target, kind)) {
-    case FileCondition::Missing:
-        return true;
-    case FileCondition::Damaged:
-        return copyFile(target, setAsidePath(target));
-    case FileCondition::Whole:
-        // Without a previous generation the save is still worth having: the file itself is replaced in one step.
-        copyFile(target, previousGeneration(target));
-        return true;
-    }
-    return false;
+} // namespace
+
+UserFile::UserFile(const QString& folder) : rescueFolder(folder) {
 }
 
-bool UserFile::dropPreviousGeneration(const QString& target) {
-    QFile file(target);
-    QFile previous(previousGeneration(target));
-    if (!file.open(QIODevice::ReadOnly) || !previous.open(QIODevice::ReadOnly) || file.size() != previous.size())
+void UserFile::setPath(const QString& filePath) {
+    path = filePath;
+    known = FileStamp();
+    ownRescue.clear();
+    removeLeftovers();
+}
+
+QString UserFile::previousGeneration(const QString& target) {
+    return target + QLatin1String(".bak");
+}
+
+/// Two data folders of one user have files of the same names.
+QString UserFile::rescuePath(const QString& target) const {
+    const QByteArray folder = QDir::cleanPath(folderOf(target)).toUtf8();
+    const QByteArray hash = QCryptographicHash::hash(folder, QCryptographicHash::Sha1).toHex().left(16);
+    return rescueFolder + QLatin1Char('/') + QLatin1String(hash) + QLatin1Char('/') + QFileInfo(target).fileName();
+}
+
+bool UserFile::exists() const {
+    const QFileInfo info(path);
+    const auto isThere = [](const QFileInfo& file) { return file.exists() || file.isSymLink(); };
+    const QStringList aside = {info.fileName() + damagedSuffix + QLatin1Char('*'),
+                               info.fileName() + otherSuffix + QLatin1Char('*')};
+    return isThere(info) || isThere(QFileInfo(previousGeneration(path))) || QFileInfo::exists(rescuePath(path)) ||
+           !info.dir().entryList(aside, QDir::Files).isEmpty();
+}
+
+void UserFile::removeLeftovers() const {
+    const QString place = FileReplacement::behindLinks(path);
+    const QString name = QFileInfo(path).fileName();
+    FileReplacement::removeLeftovers(folderOf(path),
+                                     {name, name + QLatin1String(".bak"), name + damagedSuffix + QLatin1Char('*'),
+                                      name + otherSuffix + QLatin1Char('*')});
+    if (place != path)
+        FileReplacement::removeLeftovers(folderOf(place), {QFileInfo(place).fileName()});
+    FileReplacement::removeLeftovers(folderOf(rescuePath(path)), {name});
+}
+
+bool UserFile::hasNewerRescue() const {
+    const QFileInfo rescue(rescuePath(path));
+    const QFileInfo file(path);
+    return rescue.isFile() && (!file.isFile() || rescue.lastModified() > file.lastModified());
+}
+
+void UserFile::bringHome(const Write& write) {
+    // What lies in the file's place is older and not what is shown: it is set aside.
+    known = FileStamp();
+    ownRescue = rescuePath(path);
+    if (replace(path, write))
+        settleRescue(path);
+}
+
+void UserFile::saveWith(const Write& write, const QString& target) {
+    if (replace(target, write))
+        settleRescue(target);
+    else
+        writeRescue(target, write);
+}
+
+bool UserFile::isKnown(const QString& target) const {
+    return QDir::cleanPath(target) == QDir::cleanPath(path);
+}
+
+bool UserFile::replace(const QString& target, const Write& write) {
+    const QString place = FileReplacement::behindLinks(target);
+    DiskCalls::makeFolder(folderOf(target));
+    FileReplacement replacement(place);
+    if (rescuePath(target) == ownRescue)
+        replacement.setTime(later(ownRescue)); // should it stay, it is no longer the latest
+    // All that can fail for want of room comes first, while nothing has been touched.
+    if (!prepare(replacement, write) || !keep(target, place, replacement.content()) || !replacement.commit())
         return false;
-    while (!file.atEnd()) {
-        const QByteArray block = file.read(1 << 20);
-        if (block.isEmpty() || block != previous.read(block.size()))
-            return false;
+    if (isKnown(target)) {
+        known = FileStamp(place, replacement.content());
+        isKnownWhole = true;
     }
-    previous.close();
-    return previous.remove();
+    Generations(target).thin();
+    return true;
+}
+
+bool UserFile::keep(const QString& target, const QString& place, const ContentHash& next) const {
+    if (!QFileInfo::exists(place))
+        return true;
+    if (isKnown(target) && known.matches(place)) {
+        if (!isKnownWhole)
+            return setAside(place, target, damagedSuffix);
+        if (!known.holds(next))
+            keepGeneration(target, place);
+        return true;
+    }
+    QByteArray content;
+    const bool isSame = DiskCalls::read(place, &content) && ContentHash(content) == next;
+    return isSame || setAside(place, target, otherSuffix);
+}
+
+/// Without a previous generation the save is still worth having: the file itself is replaced in one step.
+void UserFile::keepGeneration(const QString& target, const QString& place) const {
+    const QString previous = previousGeneration(target);
+    const QFileInfo older(previous);
+    if (!older.isSymLink() && older.isFile()) {
+        if (known.matches(previous))
+            return;
+        Generations(target).take(previous);
+    }
+    copyFile(place, previous);
+}
+
+void UserFile::writeRescue(const QString& target, const Write& write) {
+    const QString rescue = rescuePath(target);
+    if (rescue != ownRescue && QFileInfo::exists(rescue) && !setAside(rescue, rescue, otherSuffix))
+        return;
+    DiskCalls::makeFolder(folderOf(rescue));
+    FileReplacement replacement(rescue);
+    replacement.setTime(qMax(later(target), later(isKnown(target) ? known.changed() : 0)));
+    if (prepare(replacement, write) && replacement.commit())
+        ownRescue = rescue;
+}
+
+/// The file is on disk: what was rescued is in it, or is older and stands beside it from now on.
+void UserFile::settleRescue(const QString& target) {
+    const QString rescue = rescuePath(target);
+    if (!QFileInfo(rescue).isFile())
+        return;
+    if (rescue == ownRescue || setAside(rescue, target, otherSuffix))
+        DiskCalls::remove(rescue);
+    ownRescue.clear();
 }

@@ -9,6 +9,8 @@
 #include <cstring>
 
 static constexpr size_t usualCount = 26; // keys of a whole parameter record
+static constexpr size_t hashedCount = 100;
+static constexpr int searchesBeforeHash = 10; // else removing many keys would make it anew for each
 
 int Dictionary::alive = 0;
 
@@ -27,12 +29,30 @@ int Dictionary::aliveCount() {
 
 void Dictionary::clear() {
     entries.clear();
+    dropPlaces();
+}
+
+bool Dictionary::hasPlaces() const {
+    if (places.isEmpty() && entries.size() > hashedCount && ++searches > searchesBeforeHash) {
+        for (size_t i = 0; i < entries.size(); ++i)
+            places.insert(entries[i].key, i);
+    }
+    return !places.isEmpty();
+}
+
+void Dictionary::dropPlaces() {
+    places.clear();
+    searches = 0;
 }
 
 const Dictionary::Entry* Dictionary::find(const char* key) const {
     if (!key)
         return nullptr;
     const size_t size = std::strlen(key);
+    if (hasPlaces()) {
+        const auto found = places.constFind(QByteArray::fromRawData(key, int(size)));
+        return found == places.constEnd() ? nullptr : &entries[*found];
+    }
     for (const Entry& entry : entries) {
         if (size_t(entry.key.size()) == size && std::memcmp(entry.key.constData(), key, size) == 0)
             return &entry;
@@ -86,6 +106,8 @@ void Dictionary::append(const char* key, const char* text, double number) {
     static std::array<Entry, usualCount> lastAppended; // by place
     if (entries.size() >= usualCount) {
         entries.push_back({QByteArray(key), QByteArray(text), number});
+        if (!places.isEmpty())
+            places.insert(entries.back().key, entries.size() - 1);
         return;
     }
     Entry& last = lastAppended[entries.size()];
@@ -97,8 +119,10 @@ void Dictionary::append(const char* key, const char* text, double number) {
 }
 
 void Dictionary::remove(const char* key) {
-    if (const Entry* entry = find(key))
+    if (const Entry* entry = find(key)) {
         entries.erase(entries.begin() + (entry - entries.data()));
+        dropPlaces();
+    }
 }
 
 IDictionary* dictionary_get_instance(int) {

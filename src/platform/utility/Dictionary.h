@@ -3,6 +3,7 @@
 #include "catalogue/IDictionary.h"
 
 #include <QByteArray>
+#include <QHash>
 
 #include <cmath>
 #include <limits>
@@ -11,7 +12,7 @@
 /// The one kind of dictionary there is.
 ///
 /// A record has some 25 keys. That few are found faster by going through them (the lengths mostly differ) than through
-/// a hash, which would also cost more memory than the record itself.
+/// a hash, which would also cost more memory than the record itself. A dictionary that grows far beyond gets one.
 class Dictionary final : public IDictionary {
 public:
     Dictionary();
@@ -43,10 +44,15 @@ private:
         bool hasNumber() const { return !std::isnan(number); }
     };
 
+    /// Makes the places of a long record when enough was searched for.
+    bool hasPlaces() const;
+    void dropPlaces();
     const Entry* find(const char* key) const;
     void append(const char* key, const char* text, double number);
 
     std::vector<Entry> entries;
+    mutable QHash<QByteArray, size_t> places; ///< of all keys, or empty
+    mutable int searches = 0;                 ///< through a long record since there are no places
 
     static int alive;
 };

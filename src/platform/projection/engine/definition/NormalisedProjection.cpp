@@ -38,16 +38,14 @@ public:
     QByteArray normalise();
 
 private:
-    using Method = std::optional<ProjectionMethod>;
-
-    Method method();
-    Method ofUtm();
-    Method ofMercator();
-    Method ofObliqueMercator();
-    Method ofSwissObliqueMercator();
-    Method ofStereographic();
-    Method ofUps();
-    Method ofLambert();
+    void chooseMethod();
+    void settleUtm();
+    void settleMercator();
+    void settleObliqueMercator();
+    void settleSwissObliqueMercator();
+    void settleStereographic();
+    void settleUps();
+    void settleLambert();
 
     void moveFalseOriginToCentre();
     void settle(const char* key, double value) { settled.insert(key, value); }
@@ -66,14 +64,15 @@ private:
     double scale;
     double falseEasting;
     double falseNorthing;
+    std::optional<ProjectionMethod> method;
     QHash<QByteArray, double> settled; ///< parameters whose value is not simply that of the item with their key
     QByteArray text;
     bool valid = true;
 };
 
 QByteArray Normaliser::normalise() {
-    const Method chosen = method();
-    const MethodParameters* const parameters = chosen ? MethodParameters::find(int(*chosen)) : nullptr;
+    chooseMethod();
+    const MethodParameters* const parameters = method ? MethodParameters::find(int(*method)) : nullptr;
     if (!parameters)
         return {};
     text = QByteArray("+proj=") + parameters->projName;
@@ -100,32 +99,35 @@ double Normaliser::value(const MethodParameter& parameter) const {
     return parameter.kind == Kind::Longitude ? longitude(parameter.projKey) : items.angle(parameter.projKey, 0);
 }
 
-Normaliser::Method Normaliser::method() {
+void Normaliser::chooseMethod() {
+    struct Source {
+        const char* projName;
+        ProjectionMethod method;
+        void (Normaliser::*settle)();
+    };
+    static constexpr Source sources[] = {
+        {"tmerc", ProjectionMethod::TransverseMercatorScaled, nullptr},
+        {"utm", ProjectionMethod::TransverseMercatorScaled, &Normaliser::settleUtm},
+        {"merc", ProjectionMethod::Mercator, &Normaliser::settleMercator},
+        {"omerc", ProjectionMethod::ObliqueMercatorAzimuth, &Normaliser::settleObliqueMercator},
+        {"somerc", ProjectionMethod::ObliqueMercatorAzimuth, &Normaliser::settleSwissObliqueMercator},
+        {"stere", ProjectionMethod::Stereographic, &Normaliser::settleStereographic},
+        {"ups", ProjectionMethod::Stereographic, &Normaliser::settleUps},
+        {"sterea", ProjectionMethod::ObliqueStereographic, nullptr},
+        {"lcc", ProjectionMethod::LambertOneParallel, &Normaliser::settleLambert},
+        {"cass", ProjectionMethod::CassiniSoldner, nullptr},
+    };
     const QByteArray name = items.count("proj") == 1 ? items.text("proj") : QByteArray();
-    if (name == "tmerc")
-        return ProjectionMethod::TransverseMercatorScaled;
-    if (name == "sterea")
-        return ProjectionMethod::ObliqueStereographic;
-    if (name == "cass")
-        return ProjectionMethod::CassiniSoldner;
-    if (name == "utm")
-        return ofUtm();
-    if (name == "merc")
-        return ofMercator();
-    if (name == "omerc")
-        return ofObliqueMercator();
-    if (name == "somerc")
-        return ofSwissObliqueMercator();
-    if (name == "stere")
-        return ofStereographic();
-    if (name == "ups")
-        return ofUps();
-    if (name == "lcc")
-        return ofLambert();
-    return std::nullopt;
+    for (const Source& source : sources) {
+        if (name != source.projName)
+            continue;
+        method = source.method;
+        if (source.settle)
+            (this->*source.settle)();
+    }
 }
 
-Normaliser::Method Normaliser::ofUtm() {
+void Normaliser::settleUtm() {
     // PROJ takes the zone from the central meridian when none is given.
     const double zone = items.number("zone", std::floor((fromGreenwich(items.angle("lon_0", 0), 0) + 180) / 6) + 1);
     require(zone >= 1 && zone <= 60 && zone == std::floor(zone));
@@ -134,28 +136,30 @@ Normaliser::Method Normaliser::ofUtm() {
     falseNorthing = items.has("south") ? 10000000 : 0;
     settle("lat_0", 0);
     settle("lon_0", fromGreenwich(zone * 6 - 183, primeMeridian));
-    return ProjectionMethod::TransverseMercatorScaled;
 }
 
-Normaliser::Method Normaliser::ofMercator() {
+void Normaliser::settleMercator() {
     if (!items.has("lat_ts"))
-        return ProjectionMethod::Mercator;
+        return;
     // A standard parallel gives the scale; a factor beside it plays no part.
     scale = 1;
     const double parallel = items.angle("lat_ts", 0);
     require(std::abs(parallel) < 90);
     if (parallel == 0)
-        return ProjectionMethod::Mercator;
+        return;
+    method = ProjectionMethod::MercatorStandardParallel;
     settle("lat_ts", parallel);
-    return ProjectionMethod::MercatorStandardParallel;
 }
 
-Normaliser::Method Normaliser::ofObliqueMercator() {
-    if (!items.has("alpha"))
-        return items.has("gamma") ? Method() : ProjectionMethod::ObliqueMercatorTwoPoints;
-    if (items.has("no_uoff") || items.has("no_off"))
-        moveFalseOriginToCentre();
-    return ProjectionMethod::ObliqueMercatorAzimuth;
+void Normaliser::settleObliqueMercator() {
+    if (items.has("alpha")) {
+        if (items.has("no_uoff") || items.has("no_off"))
+            moveFalseOriginToCentre();
+    } else if (items.has("gamma")) {
+        method.reset();
+    } else {
+        method = ProjectionMethod::ObliqueMercatorTwoPoints;
+    }
 }
 
 /// From the natural origin to the projection centre lies the distance u_c along the central line, in EPSG guidance note
@@ -173,13 +177,12 @@ void Normaliser::moveFalseOriginToCentre() {
     falseNorthing += uc * std::cos(alpha);
 }
 
-Normaliser::Method Normaliser::ofSwissObliqueMercator() {
+void Normaliser::settleSwissObliqueMercator() {
     settle("lonc", longitude("lon_0"));
     settle("alpha", 90);
-    return ProjectionMethod::ObliqueMercatorAzimuth;
 }
 
-Normaliser::Method Normaliser::ofStereographic() {
+void Normaliser::settleStereographic() {
     const double latitude = items.angle("lat_0", 0);
     const double parallel = std::abs(items.angle("lat_ts", 90));
     // PROJ knows a standard parallel on polar ones only; at the pole itself it is the factor that counts.
@@ -187,27 +190,25 @@ Normaliser::Method Normaliser::ofStereographic() {
         settle("lat_ts", std::copysign(parallel, latitude));
         scale = 1;
     }
-    return ProjectionMethod::Stereographic;
 }
 
-Normaliser::Method Normaliser::ofUps() {
+void Normaliser::settleUps() {
     scale = 0.994;
     falseEasting = 2000000;
     falseNorthing = 2000000;
     settle("lat_0", items.has("south") ? -90 : 90);
     settle("lon_0", fromGreenwich(0, primeMeridian));
-    return ProjectionMethod::Stereographic;
 }
 
-Normaliser::Method Normaliser::ofLambert() {
+void Normaliser::settleLambert() {
     const double latitude = items.angle("lat_1", 0);
     const bool twoParallels = items.has("lat_2");
     const double other = twoParallels ? items.angle("lat_2", 0) : latitude;
     require(std::abs(latitude) < 90 && std::abs(other) < 90 && std::abs(latitude + other) > 1e-8);
     if (twoParallels)
-        return ProjectionMethod::LambertTwoParallels;
-    settle("lat_0", items.angle("lat_0", latitude));
-    return ProjectionMethod::LambertOneParallel;
+        method = ProjectionMethod::LambertTwoParallels;
+    else
+        settle("lat_0", items.angle("lat_0", latitude));
 }
 
 /// The parameter that an item of a definition states, or null.

@@ -174,6 +174,9 @@ private Q_SLOTS:
         const GridPoint east{100000.0, 0.0};
         cassini->linearDistortion(&east, 1, 0.0, ppm);
         showDifference(ppm[0], (1.0 / std::cos(100000.0 / 6371000.0) - 1.0) * 1e6, 0.01);
+        // Higher up it is the parallels, which keep their scale on the grid.
+        cassini->linearDistortion(&east, 1, 1000.0, ppm);
+        showDifference(ppm[0], (6371000.0 / 6372000.0 - 1.0) * 1e6, 0.01);
     }
 };
 

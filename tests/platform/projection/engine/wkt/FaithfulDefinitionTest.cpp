@@ -42,6 +42,8 @@ private Q_SLOTS:
             wkt("Transverse_Mercator", transverseMercator, R"w(UNIT["Meter",1],AXIS["Y",WEST],AXIS["X",SOUTH])w"));
         row("misspelt parameter",
             wkt("Gauss_Kruger", R"w(PARAMETER["Central_Meridan",117.0],PARAMETER["Scale_Factor",1.0])w"));
+        row("misspelt parameter of 1",
+            wkt("Gauss_Kruger", R"w(PARAMETER["Central_Meridan",1.0],PARAMETER["Scale_Factor",0.9999])w"));
         row("scale that Cassini-Soldner has not",
             wkt("Cassini", R"w(PARAMETER["Central_Meridian",3.0],PARAMETER["Scale_Factor",0.9999])w"));
         row("scale 1 on Cassini-Soldner",
@@ -74,6 +76,11 @@ private Q_SLOTS:
                                     R"w(PARAMETER["Longitude_Of_Center",-86.0],PARAMETER["Latitude_Of_Center",45.3])w";
         row("Hotine's variant B", wkt("Hotine_Oblique_Mercator_Azimuth_Center", oblique),
             "+proj=omerc +lat_0=45.3 +lonc=-86 +alpha=337.25556 +k_0=0.9996 +x_0=500000 +y_0=1000");
+        row("Swiss, an azimuth of 90",
+            wkt("Hotine_Oblique_Mercator_Azimuth_Center",
+                R"w(PARAMETER["Scale_Factor",1.0],PARAMETER["Azimuth",90.0],)w"
+                R"w(PARAMETER["Longitude_Of_Center",7.5],PARAMETER["Latitude_Of_Center",46.5])w"),
+            "+proj=omerc +lat_0=46.5 +lonc=7.5 +alpha=90 +k_0=1 +x_0=500000 +y_0=1000");
         row("Hotine's variant A", wkt("Hotine_Oblique_Mercator_Azimuth_Natural_Origin", oblique),
             "+proj=omerc +lat_0=45.3 +lonc=-86 +alpha=337.25556 +k_0=0.9996 +x_0=-1546495.5778133");
         row("turned cadastre of Austria",

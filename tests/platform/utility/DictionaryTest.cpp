@@ -1,10 +1,8 @@
 #include "catalogue/DictionaryGuard.h"
-#include "catalogue/Path.h"
 #include "support/RecordText.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 
-#include <QCoreApplication>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -23,15 +21,7 @@ static bool useDecimalComma(const QTemporaryDir& folder) {
     return setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;
 }
 
-static QByteArray resolvedPath() {
-    char path[4096];
-    process_resolve_path(path, sizeof path, "$(APP_DIR)/%s", "x");
-    return path;
-}
-
-static const QByteArray pathBeforeTheApplication = resolvedPath();
-
-class UtilityTest : public QObject {
+class DictionaryTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -94,7 +84,6 @@ private Q_SLOTS:
         IDictionary* none = nullptr;
         dictionary_release_instance(&none);
         dictionary_release_instance(nullptr);
-        process_resolve_path(nullptr, 10, "%s", "x");
     }
 
     void formats_data() {
@@ -202,6 +191,33 @@ private Q_SLOTS:
                                                         "ellipsoid_a=6378137.000000[6378137.0000003995]"}));
     }
 
+    void manyKeys() {
+        DictionaryGuard record, copy;
+        constexpr int count = 100000;
+        const auto key = [](int i) { return QByteArray::number(i); };
+        QElapsedTimer timer;
+        timer.start();
+        for (int i = 0; i < count; ++i)
+            record->setText(key(i).constData(), "first");
+        for (int i = 0; i < count; ++i)
+            record->setText(key(i).constData(), key(i).constData());
+        record->remove("0");
+        dictionary_assign(copy.get(), record.get());
+        for (int i = 1; i < count; ++i)
+            QCOMPARE(QByteArray(copy->getValue(key(i).constData())), key(i));
+        QVERIFY2(timer.elapsed() < 5000, "the time grows with the square of the keys"); // 0.1 s against half a minute
+        QCOMPARE(copy->count(), count - 1);
+        QCOMPARE(copy->getValue("0"), nullptr);
+        QCOMPARE(copy->getKey(0), "1");
+        copy->remove("5");
+        copy->setText("new", "x");
+        copy->setText("5", "last");
+        QCOMPARE(copy->getValue("5"), "last");
+        QCOMPARE(copy->getKey(copy->count() - 1), "5");
+        copy->clear();
+        QCOMPARE(copy->getValue("7"), nullptr);
+    }
+
     void assignMakesEqual() {
         DictionaryGuard source, destination;
         source->setText("b", "");
@@ -213,49 +229,9 @@ private Q_SLOTS:
         QCOMPARE(recordText(*destination), (QStringList{"b=", "a=one[1]"}));
     }
 
-    void resolvePath_data() {
-        const Rows<QByteArray, QByteArray, QByteArray> row({"format", "value", "path"});
-        const QByteArray folder = QCoreApplication::applicationDirPath().toLocal8Bit();
-        QVERIFY(!folder.isEmpty());
-        row("folder", "$(APP_DIR)/../etc/%s", {}, folder + "/../etc/");
-        row("file", "$(APP_DIR)/%s", "egm 100%.ggf", folder + "/egm 100%.ggf");
-        row("never in a value", "/x/%s", "$(APP_DIR)", "/x/$(APP_DIR)");
-        row("no folder at all", "/%s", "\xC3\xA9", "/\xC3\xA9");
-        row("twice", "$(APP_DIR)%s$(APP_DIR)", ":", folder + ":" + folder);
-    }
-
-    void resolvePath() {
-        QFETCH(QByteArray, format);
-        QFETCH(QByteArray, value);
-        QFETCH(QByteArray, path);
-        char buffer[1000];
-        process_resolve_path(buffer, sizeof buffer, format.constData(), value.constData());
-        QCOMPARE(QByteArray(buffer), path);
-    }
-
-    void resolvePathNeverCuts() {
-        const QByteArray guard(64, '#');
-        const QByteArray path = "/abc/def";
-        for (int size = 0; size <= path.size() + 2; ++size) {
-            QByteArray buffer = guard;
-            process_resolve_path(buffer.data(), size, "/abc/%s", "def");
-            QCOMPARE(buffer.mid(size), guard.mid(size));
-            if (size > 0)
-                QCOMPARE(QByteArray(buffer.constData()), size > path.size() ? path : QByteArray());
-        }
-        QByteArray buffer = guard;
-        process_resolve_path(buffer.data(), -5, "/abc/%s", "def");
-        QCOMPARE(buffer, guard);
-    }
-
-    void folderIsKnownBeforeTheApplication() {
-        QVERIFY(!pathBeforeTheApplication.isEmpty());
-        QCOMPARE(resolvedPath(), pathBeforeTheApplication);
-    }
-
 private:
     int alive = 0;
 };
 
-ROOM_TEST(UtilityTest)
-#include "UtilityTest.moc"
+ROOM_TEST(DictionaryTest)
+#include "DictionaryTest.moc"

@@ -1,0 +1,139 @@
+#include "platform/utility/FileReplacement.h"
+
+#include "platform/utility/DiskCalls.h"
+#include "platform/utility/FileHold.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRandomGenerator>
+
+namespace {
+
+// Nobody would call a copy of his own like this.
+const QString mark = QStringLiteral(".unfinished-");
+
+QString randomLetters() {
+    QString letters;
+    for (int i = 0; i < 6; ++i)
+        letters += QChar(QLatin1Char(char('a' + QRandomGenerator::global()->bounded(26))));
+    return letters;
+}
+
+} // namespace
+
+FileReplacement::FileReplacement(const QString& replaced) : path(replaced), model(replaced) {
+}
+
+FileReplacement::~FileReplacement() {
+    if (file.fileName().isEmpty())
+        return;
+    file.close();
+    DiskCalls::remove(file.fileName());
+}
+
+QString FileReplacement::behindLinks(const QString& path) {
+    QString target = path;
+    for (int i = 0; i < 40 && QFileInfo(target).isSymLink(); ++i)
+        target = QFileInfo(target).symLinkTarget();
+    return target;
+}
+
+bool FileReplacement::fail(const QString& reason) {
+    error = reason;
+    return false;
+}
+
+bool FileReplacement::isAllowed() {
+    const QFileInfo there(path);
+    return there.isSymLink() || !there.exists() || there.isFile() || fail(QFile::tr("Filename refers to a directory"));
+}
+
+template <class Make> bool FileReplacement::make(Make makeFile) {
+    constexpr int attempts = 100; // for a name that is free
+    for (int i = 0; i < attempts; ++i) {
+        file.setFileName(path + mark + randomLetters());
+        if (makeFile())
+            return true;
+        if (!QFileInfo::exists(file.fileName()))
+            break;
+    }
+    const QString reason = file.errorString();
+    file.setFileName({});
+    return fail(reason);
+}
+
+bool FileReplacement::start() {
+    if (!isAllowed() || !make([this] { return DiskCalls::create(file); }))
+        return false;
+    FileHold::take(file);
+    return true;
+}
+
+void FileReplacement::write(const QByteArray& piece) {
+    written.add(piece);
+    isWritten = isWritten && (DiskCalls::write(file, piece) || fail(file.errorString()));
+}
+
+bool FileReplacement::finish() {
+    if (!isWritten)
+        return false;
+    // Not every file system keeps them, and the content matters more.
+    const QFileInfo like(model);
+    if (like.isFile() && like.isReadable())
+        file.setPermissions(like.permissions());
+    if (time.isValid())
+        file.setFileTime(time, QFileDevice::FileModificationTime);
+    if (!DiskCalls::sync(file))
+        return fail(qt_error_string());
+    if (file.size() != written.size())
+        return fail(QFile::tr("Unknown error"));
+    file.close();
+    isPrepared = true;
+    return true;
+}
+
+bool FileReplacement::prepare(const QByteArray& content) {
+    if (!start())
+        return false;
+    write(content);
+    return finish();
+}
+
+bool FileReplacement::prepareCopyOf(const QString& original) {
+    isSecondName = isAllowed() && make([&] { return DiskCalls::link(original, file.fileName()); });
+    isPrepared = isSecondName;
+    if (isPrepared)
+        return true;
+    QByteArray content;
+    if (!DiskCalls::read(original, &content))
+        return false;
+    takePermissionsOf(original);
+    setTime(QFileInfo(original).lastModified());
+    return prepare(content);
+}
+
+bool FileReplacement::commit() {
+    if (!isPrepared)
+        return false;
+    if (!DiskCalls::rename(file.fileName(), path))
+        return fail(qt_error_string());
+    // A second name is made for a file whose own replacement follows.
+    if (!isSecondName)
+        DiskCalls::syncFolder(QFileInfo(path).absolutePath());
+    file.setFileName({});
+    return true;
+}
+
+void FileReplacement::removeLeftovers(const QString& folder, const QStringList& names) {
+    QStringList patterns;
+    for (const QString& name : names)
+        patterns += name + mark + QLatin1String("??????");
+    const QDateTime yesterday = QDateTime::currentDateTime().addDays(-1);
+    const QFileInfoList found = QDir(folder).entryInfoList(patterns, QDir::Files | QDir::Hidden | QDir::System);
+    for (const QFileInfo& leftover : found) {
+        const FileHold::State state = FileHold::of(leftover.filePath());
+        if (state == FileHold::State::Free ||
+            (state == FileHold::State::Unknown && leftover.lastModified() < yesterday))
+            DiskCalls::remove(leftover.filePath());
+    }
+}

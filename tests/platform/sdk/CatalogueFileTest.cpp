@@ -1,0 +1,357 @@
+#include "Session.h"
+#include "support/RecordText.h"
+#include "support/RoomTest.h"
+#include "support/Rows.h"
+
+#include <QRandomGenerator>
+#include <QTextCodec>
+#include <QXmlStreamReader>
+#include <QtTest>
+
+#include <cstring>
+#include <limits>
+
+/// For any XML reader, not only for ours.
+static bool isWellFormed(const QString& path) {
+    QXmlStreamReader reader(contentOf(path));
+    while (!reader.atEnd())
+        reader.readNext();
+    return !reader.hasError();
+}
+
+/// Three groups of three systems; all but the last is the previous generation.
+static void saveNineSystems(const Folders& folders) {
+    Session session(folders);
+    for (const char* group : {"c", "b", "a"}) {
+        for (const char* system : {"3", "2", "1"}) {
+            session.add(group, system);
+            session.saveSystems();
+        }
+    }
+}
+
+static QByteArray describe(Catalogue& catalogue) {
+    QByteArray text;
+    const QList<QByteArray> groups = QByteArray(catalogue.getGroupNames()).split(',');
+    for (const QByteArray& group : groups) {
+        if (!catalogue.hasGroup(group.constData()))
+            continue;
+        const QList<QByteArray> systems = QByteArray(catalogue.getGroup(group)->getCoordSystemNames()).split(',');
+        for (const QByteArray& system : systems) {
+            const IDictionary* record = catalogue.getGroup(group)->getCoordSystem(system);
+            if (!record)
+                continue;
+            text += group + '/' + system + ':' + recordText(*record).join(' ').toUtf8() + '\n';
+        }
+    }
+    return text;
+}
+
+class CatalogueFileTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() {
+        alive = dictionary_alive_count();
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    }
+
+    void cleanup() { QCOMPARE(dictionary_alive_count(), alive); }
+
+    void textsSurvive_data() {
+        const Rows<QByteArray, QByteArray> row({"codec", "text"});
+        const QByteArray utf8("UTF-8");
+        row("quotes", utf8, "\"a\" 'b' `c`");
+        row("markup", utf8, "<a href=\"x\">&amp;&#65;</a>]]>-->");
+        row("percent", utf8, "100 %s %n %01 %");
+        row("blanks around", utf8, "  a  b  ");
+        row("a blank", utf8, " ");
+        row("line breaks", utf8, "\na\r\nb\rc\td\n");
+        row("controls", utf8, "%\x01 \x1b[1m\x7f \xC3\xA9");
+        row("emoji", utf8, "M\xC3\xBCnchen \xE6\x96\xB0 \xF0\x9F\x97\xBA");
+        row("byte-order mark", utf8, "\xEF\xBB\xBFname");
+        row("no character", utf8, "\xEF\xBF\xBF \xEF\xBF\xBE");
+        row("broken UTF-8", utf8, "M\xFCnchen \xC3");
+        row("surrogate", utf8, "\xED\xA0\x80");
+        row("Latin-1", "ISO-8859-1", "M\xFCnchen \xC3\xA9");
+        row("Windows-1252", "windows-1252", "\x80 \x81 M\xFCnchen");
+        row("GBK", "GBK", "\xD0\xC2 | \x81\x5C"); // a backslash as second byte
+    }
+
+    void textsSurvive() {
+        QFETCH(QByteArray, codec);
+        QFETCH(QByteArray, text);
+        QTextCodec* local = QTextCodec::codecForName(codec);
+        QVERIFY(local);
+        QTextCodec::setCodecForLocale(local);
+        const Folders folders;
+        Session session(folders);
+        const char* const name = text.constData();
+        QCOMPARE(session.add(name, name), 1);
+        session.getGroup(name)->getCoordSystem(name)->setText(name, name);
+        session.addEllipsoidOf(name, name, "0");
+        for (int generation = 0; generation < 2; ++generation) {
+            Session next(folders);
+            (generation == 0 ? session : next).saveSystems();
+            (generation == 0 ? session : next).saveRecords();
+            QVERIFY(isWellFormed(folders.systems()) && isWellFormed(folders.user + ellipsoidsName));
+        }
+        Session last(folders);
+        QCOMPARE(QByteArray(last.getGroupNames()), text);
+        QCOMPARE(last.systems(name), text);
+        IDictionary* record = last.getGroup(name)->getCoordSystem(name);
+        QCOMPARE(record->getValue(name), name);
+        QCOMPARE(record->count(), 4);
+        QCOMPARE(record->getKey(0), "ellipsoid_name");
+        QCOMPARE(last.getEllipsoid(name)->getValue("ellipsoid_a"), name);
+    }
+
+    void numbersSurviveBitForBit() {
+        QVector<double> numbers = {0.0, -0.0, 1.0, 1.0 / 3.0, 298.257222101, 6378137.0, 1e300, -1e-300};
+        numbers << std::numeric_limits<double>::denorm_min() << std::numeric_limits<double>::max();
+        QRandomGenerator random(7);
+        while (numbers.size() < 2000) {
+            const quint64 bits = random.generate64();
+            double number;
+            std::memcpy(&number, &bits, sizeof number);
+            if (qIsFinite(number))
+                numbers << number;
+            numbers << random.generateDouble() * 360.0 - 180.0;
+        }
+        const Folders folders;
+        Session session(folders);
+        session.add("group", "system");
+        IDictionary* saved = session.getGroup("group")->getCoordSystem("system");
+        for (int i = 0; i < numbers.size(); ++i)
+            dic_set_value(saved, QByteArray::number(i).constData(), "%f", numbers[i]);
+        session.saveSystems();
+        Session(folders).saveSystems();
+        Session next(folders);
+        const IDictionary* record = next.getGroup("group")->getCoordSystem("system");
+        for (int i = 0; i < numbers.size(); ++i) {
+            const QByteArray key = QByteArray::number(i);
+            const double read = dictionary_number(*record, key.constData(), qQNaN());
+            QVERIFY2(std::memcmp(&read, &numbers[i], sizeof read) == 0,
+                     qPrintable(QString::number(numbers[i], 'g', 17)));
+            QCOMPARE(record->getValue(key.constData()), saved->getValue(key.constData()));
+        }
+        // Where the text says it all there is no number beside it.
+        const QByteArray content = contentOf(folders.systems());
+        QVERIFY(content.contains("<value key=\"2\" text=\"1.000000\"/>"));
+        QVERIFY(content.contains("<value key=\"3\" text=\"0.333333\" number=\"0.3333333333333333\"/>"));
+    }
+
+    void unknownContentSurvives() {
+        const Folders folders;
+        const QByteArrayList kept = {
+            "<coordinate_systems version=\"1\" site=\"Ulm &amp; &#10;Neu-Ulm\">",
+            "<group name=\"g\" colour=\"red\">",
+            "<system checked=\"2024-02-29\">",
+            "<value key=\"org_lon\" text=\"9\" unit=\"deg\">",
+            "<source> EPSG <b>1</b></source>",
+            "<!-- measured twice -->",
+            "<history><entry at=\"1\"/>  text\n of two lines </history>",
+            "<!-- of the group -->",
+            "<group name=\"g\"><system><value key=\"name\" text=\"in a second g\"/></system></group>",
+            "<group name=\"a,b\"/>",
+            "<group/>",
+            "<system><value key=\"name\" text=\"s\"/><value key=\"second s\" text=\"1\"/></system>",
+            "<system><value key=\"name\" text=\"no text\"/><value key=\"factor\"/></system>",
+            R"(<system><value key="name" text="no number"/><value key="factor" text="1" number="one"/></system>)",
+            "<system><value key=\"name\" text=\"lost\"/>value key=\"factor\" text=\"0.9996\"/&gt;</system>",
+            "<system><value key=\"nameless\" text=\"1\"/></system>",
+        };
+        setContent(folders.systems(), kept[0] + kept[1] + kept[2] + "<value key=\"name\" text=\"s\"/>" + kept[3] +
+                                          kept[4] + "</value>" + kept[5] + kept[6] + "</system>" + kept[11] + kept[12] +
+                                          kept[13] + kept[14] + kept[15] + kept[7] + "</group>" + kept[8] + kept[9] +
+                                          kept[10] + "</coordinate_systems>");
+        Session first(folders);
+        QCOMPARE(first.getGroupNames(), "g");
+        QCOMPARE(first.systems("g"), QByteArray("s"));
+        // An edit of the record, a new name and a new system leave the rest alone.
+        DictionaryGuard edited;
+        dictionary_assign(edited.get(), first.getGroup("g")->getCoordSystem("s"));
+        edited->setText("org_lon", "9");
+        first.getGroup("g")->setCoordSystem("s", edited.get());
+        first.getGroup("g")->renameCoordSystem("s", "t");
+        first.add("g", "new");
+        first.getGroup("g")->renameCoordSystem("t", "s");
+        first.saveSystems();
+        QVERIFY(folders.setAside("damaged").isEmpty() && folders.setAside("other").isEmpty());
+        const QByteArray saved = contentOf(folders.systems());
+        for (const QByteArray& piece : kept)
+            QVERIFY2(saved.contains(piece), piece.constData());
+        Session(folders).saveSystems();
+        QCOMPARE(contentOf(folders.systems()), saved);
+    }
+
+    // Loading and saving again gives the same bytes, whatever stood where.
+    void surroundings_data() {
+        // %1: what stands there is in the saved file as well.
+        const Rows<QByteArray, QByteArrayList> row({"content", "kept"});
+        const QByteArray start = "<coordinate_systems version=\"1\">";
+        const QByteArray end = "</coordinate_systems>";
+        const QByteArray system = "<system><value key=\"name\" text=\"s\"/></system>";
+        row("empty group", start + "\n  <group name=\"g\">\n  </group>\n" + end, {});
+        row("blank lines", start + "\n\n \t <group name=\"g\"> " + system + "\r\n </group>\n\n" + end + "\n\n", {});
+        row("empty record", start + "<group name=\"g\"><system>\n</system></group>" + end, {});
+        row("text in a group", start + "<group name=\"g\">a\n  b " + system + "\n c</group>" + end, {"a\n  b", "c"});
+        row("text in the root", start + "one<group name=\"g\"/>\n  two\n" + end, {"one", "two"});
+        row("text in a value",
+            start + R"(<group name="g"><system><value key="name" text="s"> t </value></system></group>)" + end,
+            {">\n        t\n"});
+        row("comments outside", "<!-- before -->\n" + start + end + "<!-- behind\n twice --> <!---->",
+            {"<!-- before -->\n<coord", "tems>\n<!-- behind\n twice -->\n<!---->\n"});
+        row("instructions",
+            "<?xml-stylesheet href=\"a.xsl\"?>" + start + "<?group g?><group name=\"g\"><?system x?>" + system +
+                "</group>" + end + "<?last?>",
+            {"\n<?xml-stylesheet href=\"a.xsl\"?>\n", "<?group g?>", "<?system x?>", "<?last?>"});
+        row("document type", "<!DOCTYPE coordinate_systems>" + start + "<group name=\"g\"/>" + end,
+            {"\n<!DOCTYPE coordinate_systems>\n"});
+        row("byte-order mark", "\xEF\xBB\xBF<?xml version=\"1.0\"?>" + start + "<group name=\"g\"/>" + end, {});
+        const QString wide =
+            QString::fromLatin1("<?xml version=\"1.0\" encoding=\"UTF-16\"?>" + start + "<group name=\"g\"/>" + end);
+        row("UTF-16", "\xFF\xFE" + QByteArray(reinterpret_cast<const char*>(wide.utf16()), wide.size() * 2), {});
+    }
+
+    void surroundings() {
+        QFETCH(QByteArray, content);
+        QFETCH(QByteArrayList, kept);
+        const Folders folders;
+        QVERIFY(setContent(folders.systems(), content));
+        Session first(folders);
+        first.saveSystems();
+        QVERIFY(folders.setAside("damaged").isEmpty()); // it is whole
+        const QByteArray saved = contentOf(folders.systems());
+        for (const QByteArray& piece : kept)
+            QVERIFY2(saved.contains(piece), saved.constData());
+        QVERIFY(isWellFormed(folders.systems()));
+        Session(folders).saveSystems();
+        QCOMPARE(contentOf(folders.systems()), saved);
+        QVERIFY(!saved.contains("\n\n"));
+    }
+
+    // Every bit of a file in turn: what is shown may differ by the flipped character, but what can't be understood is
+    // never overwritten without a copy.
+    void flippedBits() {
+        const Folders folders;
+        saveNineSystems(folders);
+        const QByteArray whole = contentOf(folders.systems());
+        for (int bit = 0; bit < whole.size() * 8; bit += 53) {
+            QByteArray flipped = whole;
+            flipped[bit / 8] = char(flipped[bit / 8] ^ (1 << bit % 8));
+            QVERIFY(setContent(folders.systems(), flipped));
+            QFile::remove(folders.previous());
+            Session session(folders);
+            session.saveSystems();
+            // The bytes are the file's still, the previous generation's, or set aside.
+            bool isKept = contentOf(folders.systems()) == flipped || contentOf(folders.previous()) == flipped;
+            for (const QString& file : folders.setAside("damaged")) {
+                isKept = isKept || contentOf(folders.user + file) == flipped;
+                QVERIFY(QFile::remove(folders.user + file));
+            }
+            QVERIFY2(isKept, qPrintable(QString::number(bit)));
+            QVERIFY(QDir(folders.user + "generations").removeRecursively());
+        }
+    }
+
+    void manyKeys() {
+        const Folders folders;
+        QByteArray content =
+            "<coordinate_systems version=\"1\"><group name=\"g\"><system><value key=\"name\" text=\"s\"/>";
+        for (int i = 0; i < 100000; ++i)
+            content += "<value key=\"" + QByteArray::number(i) + "\" text=\"" + QByteArray::number(i) + "\"/>";
+        QVERIFY(setContent(folders.systems(), content + "</system></group></coordinate_systems>"));
+        QElapsedTimer timer;
+        timer.start();
+        Session session(folders);
+        session.saveSystems();
+        QCOMPARE(session.getGroup("g")->getCoordSystem("s")->getValue("99999"), "99999");
+        QVERIFY(timer.elapsed() < 5000); // 0.2 s against 17
+    }
+
+    void truncatedFile() {
+        const Folders folders;
+        saveNineSystems(folders);
+        const QByteArray whole = contentOf(folders.systems());
+        const QByteArray wholePrevious = contentOf(folders.previous());
+        Session intact(folders);
+        const QByteArray described = describe(intact);
+        QCOMPARE(described.count('\n'), 9);
+
+        for (int length = 0; length < whole.trimmed().size(); length += 11) {
+            const QByteArray cut = whole.left(length);
+            // With a previous generation, that is what the user sees ...
+            QVERIFY(setContent(folders.systems(), cut));
+            Session withPrevious(folders);
+            QCOMPARE(describe(withPrevious).count('\n'), 8);
+            // ... without one, every system that is complete, and none that is not.
+            QVERIFY(QFile::remove(folders.previous()));
+            Session session(folders);
+            const QByteArray read = describe(session);
+            QVERIFY(described.startsWith(read));
+            QCOMPARE(read.count('\n'), cut.count("</system>"));
+            // The save puts the damaged file aside and does not let it become the previous generation.
+            QVERIFY(setContent(folders.previous(), wholePrevious));
+            session.saveSystems();
+            const QStringList aside = folders.setAside("damaged");
+            QCOMPARE(aside.size(), 1);
+            QCOMPARE(contentOf(folders.user + aside[0]), cut);
+            QCOMPARE(contentOf(folders.previous()), wholePrevious);
+            QVERIFY(QFile::remove(folders.user + aside[0]));
+            Session next(folders);
+            QCOMPARE(describe(next), read);
+        }
+    }
+
+    void damagedFile_data() {
+        // The content, with "%" for a good file's content without its root element, and how many systems can be read.
+        const Rows<QByteArray, int> row({"content", "systems"});
+        const QByteArray root = "<coordinate_systems version=\"1\">%";
+        row("empty", "", 0);
+        row("zeros", QByteArray(3000, '\0'), 0);
+        row("no XML", QByteArray::fromHex("7f454c4620fffe"), 0);
+        row("another file", "<html>%</html>", 0);
+        row("newer format", "<coordinate_systems version=\"2\">%</coordinate_systems>", 9);
+        row("no version", "<coordinate_systems>%</coordinate_systems>", 9);
+        row("version 0", "<coordinate_systems version=\"0\">%</coordinate_systems>", 9);
+        row("two roots", root + "</coordinate_systems><x/>", 9);
+        row("group not closed", "<coordinate_systems version=\"1\"><group name=\"x\">%", 0);
+        row("zeros behind", root + QByteArray(100, '\0'), 9);
+        row("text behind", root + "</coordinate_systems> 7", 9);
+        row("a letter behind", root + "</coordinate_systems>x", 9);
+        row("text before", "x" + root + "</coordinate_systems>", 9);
+        row("zeros and more behind", root + "</coordinate_systems>" + QByteArray(3, '\0') + "<more/>", 9);
+        row("zeros behind the end", root + "</coordinate_systems>\n" + QByteArray(3, '\0'), 9);
+        row("a bit flipped in an end", root + "</coordinatu_systems>", 9);
+    }
+
+    void damagedFile() {
+        QFETCH(QByteArray, content);
+        QFETCH(int, systems);
+        const Folders folders;
+        saveNineSystems(folders);
+        const QByteArray good = contentOf(folders.systems());
+        const int start = good.indexOf("<group");
+        content.replace("%", good.mid(start, good.indexOf("</coordinate_systems>") - start));
+        QVERIFY(setContent(folders.systems(), content));
+        Session session(folders);
+        QCOMPARE(describe(session).count('\n'), 8);
+        QVERIFY(setContent(folders.previous(), "<")); // no help from there
+        Session alone(folders);
+        QCOMPARE(describe(alone).count('\n'), systems);
+        alone.add("new", "new");
+        alone.saveSystems();
+        alone.saveSystems();
+        QCOMPARE(folders.setAside("damaged").size(), 1);
+        QCOMPARE(contentOf(folders.user + folders.setAside("damaged").constFirst()), content);
+        Session next(folders);
+        QCOMPARE(describe(next).count('\n'), systems + 1);
+    }
+
+private:
+    int alive = 0;
+};
+
+ROOM_TEST(CatalogueFileTest)
+#include "CatalogueFileTest.moc"
