@@ -54,9 +54,9 @@ public:
     /// Puts the prepared file in place. False, with the old one in place, when that failed.
     bool commit();
 
-    /// Removes what replacements of these files left behind that were killed: `names` are patterns of the files' names.
-    /// What somebody works on is left alone; where that can't be told, it goes after a day.
-    static void removeLeftovers(const QString& folder, const QStringList& names);
+    /// Removes what replacements left behind that were killed, of files whose names begin with `nameStart`. What
+    /// somebody works on is left alone; where that can't be told, it goes after a day.
+    static void removeLeftovers(const QString& folder, const QString& nameStart);
 
     /// Of what was written.
     const ContentHash& content() const { return written; }

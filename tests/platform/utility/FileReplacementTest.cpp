@@ -159,7 +159,7 @@ private Q_SLOTS:
         QFile held(file("a.unfinished-heldon"));
         QVERIFY(held.open(QIODevice::WriteOnly));
         const bool isHeld = FileHold::take(held);
-        FileReplacement::removeLeftovers(dir.path(), {"a"});
+        FileReplacement::removeLeftovers(dir.path(), "a");
         QCOMPARE(QFileInfo::exists(held.fileName()), isHeld);
         QStringList left = {"a", "a.backup", "a.unfinished-held", "b.unfinished-abcdef"};
         held.remove();
