@@ -318,6 +318,7 @@ private Q_SLOTS:
             add("names differ in case", "wgs 84", good, "", 0, true);
             add("no name", "", good, refused, 0, false);
             add("comma in the name", "a,b", good, refused, 0, false);
+            add("NUL in the name", QString("a") + QChar(0) + "b", good, refused, 0, false);
             add("first value missing", "new", {"", good[1]}, refused, 0, false);
             add("second value missing", "new", {good[0], ""}, refused, 0, false);
             add("first check first", "WGS 84", {"", good[1]}, refused, 0, false);

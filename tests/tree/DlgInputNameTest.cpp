@@ -39,6 +39,8 @@ private Q_SLOTS:
         for (const int type : {0, 1}) {
             row("empty", type, "", content);
             row("comma", type, "x,y", content);
+            row("pasted with a NUL", type, QString("x") + QChar(0) + "y", content);
+            row("pasted without its second half", type, QString("x") + QChar(0xD83D), content);
         }
         row("group: blanks pass", 0, "  ", {});
         row("group: taken, or unchanged", 0, "A", sameGroup);
