@@ -15,8 +15,8 @@
 /// Qt's QSaveFile does not do: it puts a file in place whose last block could not be written.
 class FileReplacement {
 public:
-    /// What lies at `place` is a regular file, a symbolic link (which is itself replaced), or nothing. A folder, device,
-    /// pipe or socket is left alone.
+    /// What lies at `place` is a regular file, a symbolic link (which is itself replaced), or nothing. A folder,
+    /// device, pipe or socket is left alone.
     explicit FileReplacement(const QString& place);
     /// Takes back what was not committed.
     ~FileReplacement();
