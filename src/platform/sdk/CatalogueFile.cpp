@@ -211,12 +211,14 @@ static bool readValues(const pugi::xml_node& element, CatalogueRecord& record) {
     for (const pugi::xml_attribute& attribute : element.attributes())
         keepAttribute(record.unknown, attribute);
     for (const pugi::xml_node& child : element.children()) {
-        if (child.type() == pugi::node_pcdata && !isBlank(child))
-            return false;
-        if (!isElement(child, valueElement))
+        if (isElement(child, valueElement)) {
+            if (!readValue(child, record))
+                return false;
+        } else {
+            if (child.type() == pugi::node_pcdata && !isBlank(child))
+                return false;
             keepChild(record.unknown, child);
-        else if (!readValue(child, record))
-            return false;
+        }
     }
     return true;
 }

@@ -22,7 +22,7 @@ QString randomLetters() {
 
 } // namespace
 
-FileReplacement::FileReplacement(const QString& replaced) : path(replaced), model(replaced) {
+FileReplacement::FileReplacement(const QString& place) : path(place), model(place) {
 }
 
 FileReplacement::~FileReplacement() {

@@ -536,7 +536,7 @@ private Q_SLOTS:
             QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
             while (filler.write(QByteArray(4096, 'x')) == 4096)
                 ;
-            QVERIFY(filler.resize(filler.size() - free * 1024));
+            QVERIFY(filler.resize(filler.size() - free * qint64(1024)));
             const QByteArray before = contentOf(folders.systems());
             session.saveSystems();
             const bool isReached = contentOf(folders.systems()) != before;
