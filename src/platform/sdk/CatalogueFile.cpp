@@ -121,7 +121,14 @@ void FileDocument::parseBefore(ptrdiff_t damage, const FileKind& kind) {
         bytes.truncate(int(damage));
     const int end = bytes.lastIndexOf(recordEnd);
     bytes.truncate(end < 0 ? 0 : end + recordEnd.size());
-    parse();
+    const pugi::xml_parse_status status = parse().status;
+    if (status == pugi::status_ok || status == pugi::status_end_element_mismatch)
+        return;
+    // That end stood in a comment, an instruction or a text that does not end itself: the parser's last node is a part.
+    pugi::xml_node part = document;
+    while (part.last_child())
+        part = part.last_child();
+    part.parent().remove_child(part);
 }
 
 /// False when there is more than one element, or text beside it.
