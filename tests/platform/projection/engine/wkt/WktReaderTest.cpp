@@ -15,12 +15,7 @@ class WktReaderTest : public QObject {
 private Q_SLOTS:
     void initTestCase() { QVERIFY2(projectionModule(), "the module lies in ../lib"); }
 
-    void projected_data() {
-        const Rows<QByteArray, QByteArray, QByteArray, QByteArray, QByteArray> row(
-            {"name", "ellipsoid", "start", "shift", "text"});
-        for (const QByteArrayList& columns : textTable("projected.txt"))
-            row(columns[0], columns[1], columns[2], columns[3], columns[4], columns[5]);
-    }
+    void projected_data() { textRows("projected.txt", {"title", "name", "ellipsoid", "start", "shift", "text"}); }
 
     void projected() {
         QFETCH(QByteArray, name);
@@ -35,10 +30,10 @@ private Q_SLOTS:
         QVERIFY2(definition.startsWith(start) && definition.contains("+proj=") != start.isEmpty(), definition);
         // The ellipsoid and the shift are the text's in any case.
         QCOMPARE(QByteArray(GetProjEllipsoid(InitializeProj(system.definition)).name), ellipsoid);
-        const QByteArrayList expected = (shift.isEmpty() ? "0 0 0 0 0 0 0" : shift).split(' ');
+        const QList<double> expected = numbersOf(shift.isEmpty() ? "0 0 0 0 0 0 0" : shift);
         const QList<double> read = shiftOf(system.definition);
         for (int i = 0; i < 7; ++i)
-            QVERIFY2(std::abs(read[i] - expected[i].toDouble()) < 1e-10, QByteArray::number(read[i], 'g', 17));
+            QVERIFY2(std::abs(read[i] - expected[i]) < 1e-10, QByteArray::number(read[i], 'g', 17));
     }
 
     void others_data() {
