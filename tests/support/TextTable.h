@@ -21,14 +21,17 @@ inline QList<QByteArrayList> textTable(const char* file) {
     return rows;
 }
 
-/// Makes such a table the rows of a test, which takes the columns with QFETCH(QByteArray, name). The first column is the
-/// row's title as well.
+/// Makes such a table the rows of a test, which takes the columns with QFETCH(QByteArray, name). The first column is
+/// the row's title as well.
 inline void textRows(const char* file, const QVector<const char*>& names) {
     for (const char* name : names)
         QTest::addColumn<QByteArray>(name);
-    for (const QByteArrayList& columns : textTable(file)) {
+    const QList<QByteArrayList> table = textTable(file);
+    QVERIFY2(!table.isEmpty(), file);
+    for (const QByteArrayList& columns : table) {
+        QVERIFY2(columns.size() == names.size(), columns.first());
         QTestData& row = QTest::newRow(columns.first());
-        for (int i = 0; i < names.count(); ++i)
-            row << columns.value(i);
+        for (const QByteArray& column : columns)
+            row << column;
     }
 }
