@@ -68,22 +68,6 @@ QString dump(const QTreeWidget& tree) {
     return groups.join(" ");
 }
 
-void answerNameDialog(const QString& typed) {
-    ModalDriver::onNextDialog([typed](QDialog* dialog) {
-        auto* edit = dialog->findChild<QLineEdit*>();
-        QVERIFY(edit);
-        if (typed == cancel) {
-            QTest::keyClick(edit, Qt::Key_Escape);
-            return;
-        }
-        edit->selectAll();
-        edit->insert(typed); // key clicks would carry ASCII only
-        QTest::keyClick(edit, Qt::Key_Return);
-        if (dialog->isVisible()) // refused: leave as a user would
-            dialog->reject();
-    });
-}
-
 } // namespace
 
 class DlgCoordSysGroupsTest : public QObject {
@@ -196,27 +180,38 @@ private Q_SLOTS:
     }
 
     void command_data() {
-        textRows("commands.txt", {"title", "clicked", "on", "entry", "typed", "log", "treeAfter", "currentAfter"});
+        textRows("commands.txt", {"title", "clicked", "on", "entry", "asked", "typed", "log", "treeAfter",
+                                  "currentAfter", "namesAfter"});
     }
 
     void command() {
         QFETCH(QByteArray, clicked);
         QFETCH(QByteArray, on);
         QFETCH(QByteArray, entry);
+        QFETCH(QByteArray, asked);
         QFETCH(QByteArray, typed);
         QFETCH(QByteArray, log);
         QFETCH(QByteArray, treeAfter);
         QFETCH(QByteArray, currentAfter);
-        catalogue->refuseRename = typed == "refused";
+        QFETCH(QByteArray, namesAfter);
         startTree();
+        // The name dialog is used again and again; its Cancel button had the focus last.
+        ModalDriver::onNextDialog([](QDialog* dialog) {
+            auto* button = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel);
+            button->setFocus();
+            QTest::mouseClick(button, Qt::LeftButton);
+        });
+        rightClick("A/same", "EditSys");
         leftClick(clicked);
         catalogue->takeCalls();
 
+        catalogue->refuseRename = typed == "refused";
         const bool question = entry.startsWith("Del");
+        QString dialogText;
         if (question)
             MessageBoxDouble::answers = {typed == "yes" ? 1 : 0};
         else
-            answerNameDialog(typed);
+            answerNameDialog(typed, &dialogText);
         if (on == "button")
             tree->addCoordGroup();
         else
@@ -227,60 +222,12 @@ private Q_SLOTS:
         QCOMPARE(pathOf(tree->currentItem()), currentAfter);
         if (currentAfter != "root")
             QCOMPARE(tree->currentItem()->toolTip(0), tree->currentItem()->text(0));
-        const QString what = on.contains('/') ? "system " : "system group ";
-        const QString asked =
-            "?QObject:Warning|" + own + "are you sure delete coord " + what + QString(on).section('/', -1) + " ?";
-        QCOMPARE(MessageBoxDouble::texts(), question ? QStringList(asked) : QStringList());
+        QVERIFY(tree->currentItem()->parent() == nullptr || tree->currentItem()->parent()->isExpanded());
+        QCOMPARE(question ? MessageBoxDouble::texts().join("; ") : dialogText,
+                 (question ? "?QObject:Warning|" : "") + own + asked);
         if (question)
             QCOMPARE(MessageBoxDouble::messages[0].parent, tree.get());
-        QVERIFY(tree->currentItem()->parent() == nullptr || tree->currentItem()->parent()->isExpanded());
-    }
-
-    void currentNames_data() {
-        // What is done, with the name typed; then the group that an import goes to and the system that is current.
-        const Rows<QStringList, QString, QString, QString> row({"clicked", "command", "group", "system"});
-        row("nothing", {}, "", "", "");
-        row("click", {"B/b1"}, "", "B", "b1");
-        row("click on a group", {"B/b1", "A"}, "", "B", "b1");
-        row("add a group", {"A/same"}, "root|AddSysGroup|N", "N", "same");
-        row("rename a group", {"A/same"}, "B|EditSysGroup|B2", "B2", "same");
-        row("rename a system", {"A/same"}, "B/b1|EditSys|b2", "A", "b2");
-        row("add a system", {"A/same"}, "B|AddCoordSys|new", "A", "same");
-        row("delete the group", {"A/same"}, "A|DelSysGroup", "A", "same");
-    }
-
-    /// Who writes the tree's current names. An import, whose rebuild keeps both, shows the group; renaming a group
-    /// announces the system.
-    void currentNames() {
-        QFETCH(QStringList, clicked);
-        QFETCH(QString, command);
-        QFETCH(QString, group);
-        QFETCH(QString, system);
-        const QTemporaryDir folder;
-        const QString file = folder.filePath("a.prj");
-        QVERIFY(setContent(file, R"(PROJCS["new one",GEOGCS["g",DATUM["d",SPHEROID["s",6378137,298.25]],PRIMEM["p",0],)"
-                                 R"(UNIT["degree",0.0174532925199433]],PROJECTION["Mercator_1SP"],UNIT["metre",1]])"));
-        startTree();
-        for (const QString& path : clicked)
-            leftClick(path);
-        MessageBoxDouble::answers = {1};
-        if (command.count('|') == 2)
-            answerNameDialog(command.section('|', 2));
-        if (!command.isEmpty())
-            rightClick(command.section('|', 0, 0), command.section('|', 1, 1));
-        for (int i = 0; i < 2; ++i) {
-            catalogue->takeCalls();
-            ModalDriver::onNextDialog([&](QDialog* dialog) {
-                dialog->findChild<QLineEdit*>("fileNameEdit")->setText(file);
-                QMetaObject::invokeMethod(dialog, "accept");
-            });
-            QMetaObject::invokeMethod(tree.get(), "_onImpCoordSystem");
-            QCOMPARE(catalogue->takeCalls().value(0), "getGroup(" + group + ")");
-        }
-        tree->expandAll();
-        answerNameDialog("C2");
-        rightClick("C", "EditSysGroup");
-        QVERIFY(catalogue->takeCalls().contains("treeItemClicked(C2," + system + ")"));
+        QCOMPARE(currentNames(), namesAfter);
     }
 
     void toolTipIsTheNameLetterForLetter_data() {
@@ -390,41 +337,6 @@ private Q_SLOTS:
         QCOMPARE(dump(*tree), QString("B[] A[a1 same a<2>] -B[b1 same] C[]"));
     }
 
-    void nameDialogIsPreparedAnew() {
-        startTree();
-        QStringList seen;
-        const auto look = [this, &seen](bool byCancelButton) {
-            ModalDriver::onNextDialog([this, &seen, byCancelButton](QDialog* dialog) {
-                auto* input = qobject_cast<DlgInputName*>(dialog);
-                QVERIFY(input);
-                QCOMPARE(input->parentWidget(), tree.get());
-                seen << QString("%1|%2|%3|%4|%5|%6")
-                            .arg(input->windowTitle(), input->groupName, input->coordName)
-                            .arg(input->nameType)
-                            .arg(input->nameEdit->text(), input->nameEdit->selectedText());
-                QCOMPARE(input->focusWidget(), input->nameEdit);
-                auto* cancelButton = input->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel);
-                if (byCancelButton) {
-                    cancelButton->setFocus();
-                    QTest::mouseClick(cancelButton, Qt::LeftButton);
-                } else {
-                    QTest::keyClick(input->nameEdit, Qt::Key_Escape);
-                }
-            });
-        };
-        const QList<QPair<QString, QString>> commands{
-            {"A/a1", "EditSys"}, {"B", "AddCoordSys"}, {"B", "EditSysGroup"}, {"root", "AddSysGroup"}};
-        for (const bool byCancelButton : {true, false}) {
-            for (const auto& command : commands) {
-                look(byCancelButton);
-                rightClick(command.first, command.second);
-            }
-        }
-        const QStringList once{own + "EditSys|A|a1|1|a1|a1", own + "AddCoordSys|B||1||", own + "EditSysGroup|B||0|B|B",
-                               own + "AddSysGroup|||0||"};
-        QCOMPARE(seen, once + once);
-    }
-
 private:
     void startTree() {
         tree = std::make_unique<DlgCoordSysGroups>(catalogue.get(), nullptr);
@@ -438,6 +350,56 @@ private:
         tree->show();
         QVERIFY(QTest::qWaitForWindowExposed(tree.get()));
         catalogue->takeCalls();
+    }
+
+    /// The current names, as an import, whose rebuild keeps both, and a renamed group show them.
+    QString currentNames() {
+        const QTemporaryDir folder;
+        const QString file = folder.filePath("a.prj");
+        setContent(file, R"(PROJCS["new one",GEOGCS["g",DATUM["d",SPHEROID["s",6378137,298.25]],PRIMEM["p",0],)"
+                         R"(UNIT["degree",0.0174532925199433]],PROJECTION["Mercator_1SP"],UNIT["metre",1]])");
+        QStringList groups;
+        for (int i = 0; i < 2; ++i) {
+            catalogue->takeCalls();
+            ModalDriver::onNextDialog([&](QDialog* dialog) {
+                dialog->findChild<QLineEdit*>("fileNameEdit")->setText(file);
+                QMetaObject::invokeMethod(dialog, "accept");
+            });
+            QMetaObject::invokeMethod(tree.get(), "_onImpCoordSystem");
+            groups << catalogue->takeCalls().value(0).remove("getGroup(").remove(')');
+        }
+        catalogue->refuseRename = false;
+        tree->expandAll();
+        answerNameDialog("C2");
+        rightClick("C", "EditSysGroup");
+        groups.removeDuplicates();
+        const QString announced = catalogue->takeCalls().filter("treeItemClicked(C2,").join("; ");
+        return groups.join("; ") + '/' + announced.section(',', 1).remove(')');
+    }
+
+    /// Types a name into the name dialog and confirms it; `asked` becomes what the dialog showed before.
+    void answerNameDialog(const QString& typed, QString* asked = nullptr) {
+        ModalDriver::onNextDialog([this, typed, asked](QDialog* dialog) {
+            auto* input = qobject_cast<DlgInputName*>(dialog);
+            QVERIFY(input && input->parentWidget() == tree.get());
+            QLineEdit* edit = input->nameEdit;
+            QCOMPARE(input->focusWidget(), edit);
+            if (asked)
+                *asked = QStringList{input->windowTitle(), input->groupName,
+                                     input->coordName,     QString::number(input->nameType),
+                                     edit->text(),         edit->selectedText()}
+                             .join(", ")
+                             .trimmed();
+            if (typed == cancel) {
+                QTest::keyClick(edit, Qt::Key_Escape);
+                return;
+            }
+            edit->selectAll();
+            edit->insert(typed); // key clicks would carry ASCII only
+            QTest::keyClick(edit, Qt::Key_Return);
+            if (dialog->isVisible()) // refused: leave as a user would
+                dialog->reject();
+        });
     }
 
     void leftClick(const QString& path) {
