@@ -13,8 +13,8 @@ public:
     /// Back to the answers of GRS 1980 without a shift.
     void reset();
 
-    /// The parameter record that the definition becomes, with the other answers as they are.
-    DictionaryGuard converted(const QByteArray& definition);
+    /// The parameter record that the definition in `text` becomes, with the other answers as they are.
+    DictionaryGuard converted(const QByteArray& text);
 
     QByteArrayList calls; ///< those of a handle that is not the double's end with "?"
     bool definitionIsNull = false;
