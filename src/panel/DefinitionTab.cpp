@@ -11,6 +11,7 @@
 #include "panel/record/DefinitionState.h"
 #include "panel/record/PanelText.h"
 #include "panel/record/RecordDifferences.h"
+#include "panel/record/RecordWkt.h"
 #include "panel/registry/RegistryDialog.h"
 #include "platform/desktop/VornMessageBox.h"
 #include "platform/projection/IProjectionModule.h"
@@ -115,12 +116,8 @@ void DefinitionTab::showRecord() {
 }
 
 QByteArray DefinitionTab::wkt(bool indented) const {
-    if (definition.isEmpty())
-        return {};
-    const QString name = QString::fromLocal8Bit(record().getValue(CoordParamKey::name));
-    const QString ellipsoid = QString::fromLocal8Bit(record().getValue(CoordParamKey::ellipsoidName));
-    return projectionModule()->exportWkt(definition, name.toUtf8(), ellipsoid.toUtf8(),
-                                         WktDialect(dialectBox->currentData().toInt()), indented);
+    return definition.isEmpty() ? QByteArray()
+                                : recordWkt(record(), WktDialect(dialectBox->currentData().toInt()), indented);
 }
 
 void DefinitionTab::showWkt() {

@@ -3,6 +3,8 @@
 #include "platform/projection/IEpsgRegistry.h"
 #include "platform/projection/engine/proj/ProjObject.h"
 
+#include <QHash>
+
 class ProjContext;
 
 /// IEpsgRegistry over PROJ's database.
@@ -13,6 +15,10 @@ public:
 
     const std::vector<RegistrySystem>& projectedSystems() override;
     std::vector<RegistryShift> datumShifts(const QByteArray& code) override;
+    std::vector<RegistryShift> datumShiftsAt(const QByteArray& datumName, double latitude, double longitude) override;
+    const std::vector<QByteArray>& datumNames() override;
+    QByteArray datumName(const QByteArray& code) override;
+    QByteArray edition() override;
     QByteArray wkt(const QByteArray& code, const RegistryShift* shift) override;
     QByteArray unitName(const QByteArray& code) override;
     std::vector<RegistryEllipsoid> ellipsoids() override;
@@ -20,7 +26,10 @@ public:
 private:
     ProjObject system(const QByteArray& code) const;
     void readSystems();
+    void readDatums();
 
     ProjContext& context;
     std::vector<RegistrySystem> systems;
+    std::vector<QByteArray> datums;
+    QHash<QByteArray, QByteArray> datumCodes; ///< by the name in `datums`
 };
