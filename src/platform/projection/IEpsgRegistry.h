@@ -59,7 +59,7 @@ public:
     virtual const std::vector<QByteArray>& datumNames() = 0;
 
     /// The name of the datum of the system `code`, counted from Greenwich: "CH1903", not "CH1903 (Bern)". Empty for an
-    /// unknown code.
+    /// unknown code, and where the registry leaves the datum open.
     virtual QByteArray datumName(const QByteArray& code) = 0;
 
     /// Which edition of the registry this is: "EPSG v10.076". Empty when PROJ's database can't be found.

@@ -15,9 +15,6 @@ namespace {
 
 constexpr const char* authority = "EPSG";
 
-/// What EPSG adds to the name of a datum that stands for all its realizations. WKT writes the name without it.
-constexpr const char* ensembleSuffix = " ensemble";
-
 /// A bounding box in degrees; west > east when it crosses the antimeridian.
 struct Box {
     double west, south, east, north;
@@ -65,6 +62,12 @@ std::optional<RegistryShift> shiftOf(PJ_CONTEXT* context, const PJ* operation) {
     return shift;
 }
 
+QByteArray withoutSuffix(QByteArray name, const QByteArray& suffix) {
+    if (name.endsWith(suffix))
+        name.chop(suffix.size());
+    return name;
+}
+
 /// What EPSG adds to the name of a datum whose longitudes count from elsewhere; empty for Greenwich.
 QByteArray meridianSuffix(PJ_CONTEXT* context, const PJ* datum) {
     double longitude = 0.0;
@@ -75,10 +78,12 @@ QByteArray meridianSuffix(PJ_CONTEXT* context, const PJ* datum) {
     return isElsewhere ? QByteArray(" (") + proj_get_name(meridian.get()) + ')' : QByteArray();
 }
 
-QByteArray withoutSuffix(QByteArray name, const QByteArray& suffix) {
-    if (!suffix.isEmpty() && name.endsWith(suffix))
-        name.chop(suffix.size());
-    return name;
+/// The name of a datum as WKT writes it, counted from Greenwich; empty where EPSG has none but "Not specified (based
+/// on Clarke 1866 ellipsoid)".
+QByteArray nameOf(PJ_CONTEXT* context, const PJ* datum) {
+    const QByteArray name =
+        withoutSuffix(withoutSuffix(proj_get_name(datum), " ensemble"), meridianSuffix(context, datum));
+    return name.startsWith("Not specified") ? QByteArray() : name;
 }
 
 /// The seven numbers of `shift` joined by ",", each with all its digits.
@@ -182,8 +187,8 @@ void EpsgRegistry::readDatums() {
             proj_create_from_database(context.get(), authority, *code, PJ_CATEGORY_DATUM, 0, nullptr));
         if (!datum || !meridianSuffix(context.get(), datum.get()).isEmpty())
             continue;
-        const QByteArray name = withoutSuffix(proj_get_name(datum.get()), ensembleSuffix);
-        if (name.startsWith("Not specified") || datumCodes.contains(name))
+        const QByteArray name = nameOf(context.get(), datum.get());
+        if (name.isEmpty() || datumCodes.contains(name))
             continue;
         datumCodes.insert(name, *code);
         datums.push_back(name);
@@ -197,9 +202,7 @@ void EpsgRegistry::readDatums() {
 QByteArray EpsgRegistry::datumName(const QByteArray& code) {
     const ProjObject projected = system(code);
     const ProjObject datum(projected ? proj_crs_get_datum_forced(context.get(), projected.get()) : nullptr);
-    return datum ? withoutSuffix(withoutSuffix(proj_get_name(datum.get()), ensembleSuffix),
-                                 meridianSuffix(context.get(), datum.get()))
-                 : QByteArray();
+    return datum ? nameOf(context.get(), datum.get()) : QByteArray();
 }
 
 QByteArray EpsgRegistry::edition() {

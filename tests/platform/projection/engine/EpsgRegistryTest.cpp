@@ -25,7 +25,8 @@ private Q_SLOTS:
         row("an ensemble", "25832", "European Terrestrial Reference System 1989", true);
         row("counted from Paris", "27572", "Nouvelle Triangulation Francaise", true);
         row("counted from Ferro", "31255", "Militar-Geographische Institut", true);
-        row("brackets of its own", "2163", "Not specified (based on Clarke 1866 Authalic Sphere)", false);
+        row("brackets of its own", "26929", "North American Datum 1983", true);
+        row("left open", "2163", "", false);
         row("unknown code", "1", "", false);
     }
     void datumOfSystem() {
