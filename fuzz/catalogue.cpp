@@ -45,6 +45,8 @@ template <class Read> void thereAndBack(Read read) {
     const auto second = read(written);
     require(second.condition == FileCondition::Whole, "what was written is whole");
     require(same(first, second), "what was written reads the same");
+    const QByteArray bytes = readScratch(written);
+    require(CatalogueFile::write(written, second) && readScratch(written) == bytes, "a file does not change by itself");
 }
 
 } // namespace

@@ -112,16 +112,16 @@ void KillDriver::checkFiles(Victim::Work work, int done) {
     }
 }
 
-bool KillDriver::kill(int index) {
-    round = index;
+bool KillDriver::kill(int number) {
+    round = number;
     const int before = lost.size();
     // One in ten is a start; of the saves, every third goes to the rescue, and every second dies at a disk call.
-    if (index % 10 == 9) {
+    if (number % 10 == 9) {
         runVictim(Victim::Work::Start, -1);
         checkStart();
         return lost.size() == before;
     }
-    const Victim::Work work = index % 3 == 2 ? Victim::Work::Rescue : Victim::Work::Save;
-    checkFiles(work, runVictim(work, index % 2 == 0 ? index / 2 % 60 : -1));
+    const Victim::Work work = number % 3 == 2 ? Victim::Work::Rescue : Victim::Work::Save;
+    checkFiles(work, runVictim(work, number % 2 == 0 ? number / 2 % 60 : -1));
     return lost.size() == before;
 }

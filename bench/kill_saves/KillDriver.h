@@ -13,7 +13,7 @@ public:
     KillDriver();
 
     /// False when the kill cost anything; complaints() says what.
-    bool kill(int round);
+    bool kill(int number);
 
     const QStringList& complaints() const { return lost; }
     int savesDone() const { return saves; }

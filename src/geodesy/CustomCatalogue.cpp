@@ -109,10 +109,6 @@ QString CustomCatalogue::enteredName(const QComboBox* box, int mode) {
     return mode == AddMode ? box->lineEdit()->text() : box->currentText();
 }
 
-bool CustomCatalogue::isValidName(const QString& name) {
-    return !name.isEmpty() && !name.contains(QLatin1Char(','));
-}
-
 QString CustomCatalogue::text(const IDictionary& record, const char* key) {
     return QString::fromLocal8Bit(record.getValue(key));
 }

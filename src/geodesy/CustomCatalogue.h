@@ -66,9 +66,6 @@ void selectName(QComboBox* box, const QString& name);
 /// The name that an add or edit dialog is about.
 QString enteredName(const QComboBox* box, int mode);
 
-/// False for an empty name and for one that holds ",", at which name lists are split.
-bool isValidName(const QString& name);
-
 /// The text of `key`, empty when the key is absent.
 QString text(const IDictionary& record, const char* key);
 

@@ -1,5 +1,6 @@
 #include "geodesy/DlgEllipsoid.h"
 
+#include "catalogue/CatalogueName.h"
 #include "catalogue/CatalogueRecordKey.h"
 #include "catalogue/Dictionary.h"
 #include "catalogue/ICoordSystem.h"
@@ -151,7 +152,7 @@ void DlgEllipsoid::_onDel() {
 
 void DlgEllipsoid::accept() {
     const QString name = CustomCatalogue::enteredName(nameCombo, mode);
-    if (!CustomCatalogue::isValidName(name) || !isPositiveNumber(aEdit->text()) || !isPositiveNumber(fEdit->text())) {
+    if (!isCatalogueName(name) || !isPositiveNumber(aEdit->text()) || !isPositiveNumber(fEdit->text())) {
         CustomCatalogue::refuseInput(this);
         return;
     }

@@ -1,5 +1,6 @@
 #include "geodesy/DlgGeoid.h"
 
+#include "catalogue/CatalogueName.h"
 #include "catalogue/CatalogueRecordKey.h"
 #include "catalogue/Dictionary.h"
 #include "catalogue/ICoordSystem.h"
@@ -157,7 +158,7 @@ void DlgGeoid::accept() {
     const QString name = CustomCatalogue::enteredName(nameCombo, mode);
     const QString file = fileEdit->text();
     const QString ellipsoid = ellipsoidCombo->currentText();
-    if (!CustomCatalogue::isValidName(name) || file.isEmpty() || ellipsoid.isEmpty()) {
+    if (!isCatalogueName(name) || file.isEmpty() || ellipsoid.isEmpty()) {
         CustomCatalogue::refuseInput(this);
         return;
     }

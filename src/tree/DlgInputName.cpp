@@ -1,5 +1,6 @@
 #include "tree/DlgInputName.h"
 
+#include "catalogue/CatalogueName.h"
 #include "catalogue/ICoordSysGroup.h"
 #include "catalogue/ICoordSystem.h"
 #include "platform/desktop/VornMessageBox.h"
@@ -35,8 +36,7 @@ QString DlgInputName::getName() const {
 }
 
 QString DlgInputName::refusal(const QString& name) const {
-    // The catalogue reports names joined by ",": a name that holds one would come back as two.
-    if (name.isEmpty() || name.contains(','))
+    if (!isCatalogueName(name))
         return tr("please input valid content!");
 
     if (nameType == 0) {

@@ -5,7 +5,6 @@
 #include "catalogue/Path.h"
 #include "geodesy/DlgEllipsoid.h"
 #include "geodesy/DlgGeoid.h"
-#include "support/Files.h"
 #include "support/LayoutText.h"
 #include "support/MarkingTranslator.h"
 #include "support/MessageBoxDouble.h"
@@ -13,6 +12,7 @@
 #include "support/RecordingCatalogue.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
+#include "support/TextTable.h"
 
 #include <QTemporaryDir>
 #include <QtWidgets>
@@ -64,19 +64,35 @@ QComboBox* nameBox(const QDialog* dialog) {
     return child<QComboBox>(dialog, 0);
 }
 
-/// The two fields beside the name.
-QStringList fields(const QString& kind, const QDialog* dialog) {
-    const QString first = child<QLineEdit>(dialog, 0)->text();
-    return {first,
-            kind == ellipsoid ? child<QLineEdit>(dialog, 1)->text() : child<QComboBox>(dialog, 1)->currentText()};
+/// The two fields beside the name: two numbers, or a file and an ellipsoid.
+QStringList fields(const QDialog* dialog) {
+    const auto* number = child<QLineEdit>(dialog, 1);
+    return {child<QLineEdit>(dialog, 0)->text(), number ? number->text() : child<QComboBox>(dialog, 1)->currentText()};
 }
 
-void enter(const QString& kind, const QDialog* dialog, const QString& name, const QStringList& values) {
+/// What the dialog shows, as modes.txt has it.
+QString shown(const QDialog* dialog) {
+    QStringList texts;
+    const auto show = [&texts](bool takesInput, const QString& text) {
+        texts << (takesInput ? text : '(' + text + ')');
+    };
+    for (const QObject* each : dialog->children()) {
+        if (const auto* box = qobject_cast<const QComboBox*>(each))
+            show(box->isEnabled(), box->isEditable() ? '[' + box->currentText() + ']' : box->currentText());
+        else if (const auto* edit = qobject_cast<const QLineEdit*>(each))
+            show(!edit->isReadOnly(), edit->text());
+    }
+    for (const QPushButton* each : dialog->findChildren<QPushButton*>())
+        show(each->isEnabled(), each->text().section(':', -1));
+    return texts.join("; ");
+}
+
+void enter(const QDialog* dialog, const QString& name, const QStringList& values) {
     if (nameBox(dialog)->isEditable())
         nameBox(dialog)->setEditText(name);
     child<QLineEdit>(dialog, 0)->setText(values[0]);
-    if (kind == ellipsoid)
-        child<QLineEdit>(dialog, 1)->setText(values[1]);
+    if (auto* number = child<QLineEdit>(dialog, 1))
+        number->setText(values[1]);
     else
         child<QComboBox>(dialog, 1)->setCurrentIndex(child<QComboBox>(dialog, 1)->findText(values[1]));
 }
@@ -165,69 +181,21 @@ private Q_SLOTS:
 
     void cleanup() { QCOMPARE(dictionary_alive_count(), aliveAtStart); }
 
-    void modes_data() {
-        const Rows<QString, int, QString, QStringList, QStringList> row(
-            {"kind", "mode", "name", "values", "expectedButtons"});
-        const QStringList wgs84{"6378000", "298.30"}, file{"WGS 84.ggf", "WGS 84"};
-        row("ellipsoid list", ellipsoid, 0, "WGS 84", wgs84, {"Add", "(Edit)", "(Delete)"});
-        row("ellipsoid add", ellipsoid, 1, "", {"", ""}, {"OK", "Cancel"});
-        row("ellipsoid edit", ellipsoid, 2, "WGS 84", wgs84, {"OK", "Cancel"});
-        row("geoid list", geoid, 0, "WGS 84", file, {"(Browser)", "Add", "(Edit)", "(Delete)"});
-        row("geoid add", geoid, 1, "", {"", "WGS 84"}, {"Browser", "OK", "Cancel"});
-        row("geoid edit", geoid, 2, "WGS 84", file, {"Browser", "OK", "Cancel"});
-    }
-
+    void modes_data() { textRows("modes.txt", {"title", "kind", "mode", "window", "layout", "expected"}); }
     void modes() {
-        QFETCH(QString, kind);
-        QFETCH(int, mode);
-        QFETCH(QString, name);
-        QFETCH(QStringList, values);
-        QFETCH(QStringList, expectedButtons);
+        QFETCH(QByteArray, kind);
+        QFETCH(QByteArray, mode);
+        QFETCH(QByteArray, window);
+        QFETCH(QByteArray, layout);
+        QFETCH(QByteArray, expected);
         RecordingCatalogue catalogue;
         fill(catalogue, kind);
-        const auto dialog = create(kind, &catalogue, mode);
-
-        const bool isEllipsoid = kind == ellipsoid;
-        QCOMPARE(dialog->windowTitle(), QString(isEllipsoid ? "QObject:Edit Ellipsoid" : "QObject:New Geoid"));
-        QCOMPARE(dialog->minimumSize(), isEllipsoid ? QSize(280, 160) : QSize(400, 160));
-        const QString fieldRows =
-            isEllipsoid ? "1*row(column(Q:Ellipsoid Name, Q:ellipsoid a(m), Q:ellipsoid f), "
-                          "1*column(QComboBox, QLineEdit, QLineEdit))"
-                        : "grid(0.0:Q:Geoid Name, 0.1:QComboBox, 1.0:Q:File Path, 1.1:QLineEdit, 1.2:Q:Browser, "
-                          "2.0:Q:Ellipsoid Name, 2.1:QComboBox)";
-        const QString buttonRow =
-            mode == CustomCatalogue::ListMode ? "row(Q:Add, Q:Edit, Q:Delete)" : "QDialogButtonBox";
-        QCOMPARE(layoutText(dialog->layout()).replace("QObject:", "Q:"),
-                 "column(" + fieldRows + ", " + buttonRow + ")");
-        QStringList buttons;
-        for (const QPushButton* each : dialog->findChildren<QPushButton*>())
-            buttons << QString(each->isEnabled() ? "%1" : "(%1)").arg(each->text().section(':', -1));
-        QCOMPARE(buttons, expectedButtons);
-
-        QCOMPARE(nameBox(dialog.get())->currentText(), name);
+        const auto dialog = create(kind, &catalogue, mode.toInt());
+        const QSize size = dialog->minimumSize();
+        QCOMPARE(QString("%1, %2 x %3").arg(dialog->windowTitle()).arg(size.width()).arg(size.height()), window);
+        QCOMPARE(layoutText(dialog->layout()), layout);
+        QCOMPARE(shown(dialog.get()), expected);
         QCOMPARE(nameBox(dialog.get())->count(), 4);
-        QCOMPARE(nameBox(dialog.get())->isEditable(), mode == CustomCatalogue::AddMode);
-        QCOMPARE(nameBox(dialog.get())->isEnabled(), mode != CustomCatalogue::EditMode);
-        QCOMPARE(fields(kind, dialog.get()), values);
-        QCOMPARE(child<QLineEdit>(dialog.get(), 0)->isReadOnly(), kind == geoid || mode == CustomCatalogue::ListMode);
-        if (isEllipsoid)
-            QCOMPARE(child<QLineEdit>(dialog.get(), 1)->isReadOnly(), mode == CustomCatalogue::ListMode);
-        else
-            QCOMPARE(child<QComboBox>(dialog.get(), 1)->isEnabled(), mode != CustomCatalogue::ListMode);
-        QVERIFY(!button(dialog.get(), "OK") || child<QDialogButtonBox>(dialog.get(), 0));
-    }
-
-    void validators() {
-        RecordingCatalogue catalogue;
-        const auto dialog = create(ellipsoid, &catalogue, CustomCatalogue::AddMode);
-        for (const int i : {0, 1}) {
-            const auto* edit = child<QLineEdit>(dialog.get(), i);
-            const auto* validator = qobject_cast<const QDoubleValidator*>(edit->validator());
-            QCOMPARE(validator->parent(), edit); // each its own
-            QCOMPARE(validator->bottom(), 0.0);
-            QCOMPARE(validator->top(), 65535.0);
-            QCOMPARE(validator->decimals(), 12);
-        }
     }
 
     void selection_data() {
@@ -251,23 +219,21 @@ private Q_SLOTS:
             addEntry(catalogue, kind, "last", flag);
             const auto dialog = create(kind, &catalogue, CustomCatalogue::ListMode);
             nameBox(dialog.get())->setCurrentIndex(4);
-            QCOMPARE(button(dialog.get(), "Edit")->isEnabled(), own);
-            QCOMPARE(button(dialog.get(), "Delete")->isEnabled(), own);
-            QVERIFY(button(dialog.get(), "Add")->isEnabled());
+            QVERIFY(shown(dialog.get()).endsWith(own ? "; Add; Edit; Delete" : "; Add; (Edit); (Delete)"));
 
             IDictionary* record = (kind == ellipsoid ? catalogue.ellipsoids : catalogue.geoids).find("mine");
             for (const char* key : {EllipsoidKey::a, EllipsoidKey::f, GeoidKey::file, GeoidKey::ellipsoid})
                 record->remove(key);
             nameBox(dialog.get())->setCurrentIndex(2);
-            QCOMPARE(fields(kind, dialog.get()), QStringList({"", ""}));
+            QCOMPARE(fields(dialog.get()), QStringList({"", ""}));
         }
     }
 
     void emptyList_data() {
         const Rows<QString, bool> row({"kind", "nullList"});
-        for (const QString& kind : {ellipsoid, geoid}) {
-            row(kind.toLatin1() + ", empty", kind, false);
-            row(kind.toLatin1() + ", null", kind, true);
+        for (const bool null : {false, true}) {
+            row(null ? "ellipsoids, null" : "ellipsoids, empty", ellipsoid, null);
+            row(null ? "geoids, null" : "geoids, empty", geoid, null);
         }
     }
 
@@ -278,9 +244,7 @@ private Q_SLOTS:
         catalogue.nullLists = nullList;
         const auto dialog = create(kind, &catalogue, CustomCatalogue::ListMode);
         QCOMPARE(nameBox(dialog.get())->count(), 0);
-        QCOMPARE(fields(kind, dialog.get()), QStringList({"", ""}));
-        for (const char* text : {"Add", "Edit", "Delete"})
-            QVERIFY2(button(dialog.get(), text)->isEnabled(), text);
+        QCOMPARE(shown(dialog.get()).remove("(Browser); "), QString("; (); (); Add; Edit; Delete"));
 
         catalogue.takeCalls();
         button(dialog.get(), "Delete")->click();
@@ -294,89 +258,28 @@ private Q_SLOTS:
         QCOMPARE(catalogue.calls.filter(QRegExp("^(add|delete|save)")), QStringList());
     }
 
-    void confirm_data() {
-        // Kind, mode, name, values, message, answer to it (1 confirmed, 0 declined), whether accepted.
-        const Rows<QString, int, QString, QStringList, QString, int, bool> row(
-            {"kind", "mode", "name", "values", "message", "answer", "accepted"});
-
+    void confirm_data() { textRows("confirm.txt", {"title", "mode", "quoted", "entered", "outcome"}); }
+    void confirm() {
+        QFETCH(QByteArray, mode);
+        QFETCH(QByteArray, quoted);
+        QFETCH(QByteArray, entered);
+        QFETCH(QByteArray, outcome);
         for (const QString& kind : {ellipsoid, geoid}) {
-            const auto add = [&](const char* title, const QString& name, const QStringList& values,
-                                 const QString& message, int answer, bool accepted,
-                                 int mode = CustomCatalogue::AddMode) {
-                row(kind.toLatin1() + ": " + title, kind, mode, name, values, message, answer, accepted);
-            };
-            const bool isEllipsoid = kind == ellipsoid;
-            const QStringList good =
-                isEllipsoid ? QStringList{"6378137.000", "298.257223563"} : QStringList{"a.ggf", "WGS 84"};
-            const QString shipped = isEllipsoid ? "Warning|new add ellipsoid name can't same as system!"
-                                                : "Warning|new geoid name can't same with system name!";
-            const QString cover = isEllipsoid ? "?Warning|has same name as system, whether cover?"
-                                              : "?Warning|has same file name, whether or not covered?";
-            add("new", "new", good, "", 0, true);
-            add("blanks are a name", "  ", good, "", 0, true);
-            add("name kept as typed", QString::fromUtf8(" 100%s <Größe> 北 "), good, "", 0, true);
-            add("names differ in case", "wgs 84", good, "", 0, true);
-            add("no name", "", good, refused, 0, false);
-            add("comma in the name", "a,b", good, refused, 0, false);
-            add("first value missing", "new", {"", good[1]}, refused, 0, false);
-            add("second value missing", "new", {good[0], ""}, refused, 0, false);
-            add("first check first", "WGS 84", {"", good[1]}, refused, 0, false);
-            add("shipped name", "WGS 84", good, shipped, 1, false);
-            add("name of an entry without a flag", "plain", good, shipped, 1, false);
-            add("own name, covered", "mine", good, cover, 1, true);
-            add("own name, declined", "mine", good, cover, 0, false);
-            add("edit", "mine", good, "", 0, true, CustomCatalogue::EditMode);
-            add("edit without a value", "mine", {"", good[1]}, refused, 0, false, CustomCatalogue::EditMode);
-        }
-
-        for (const QByteArray number : {"6378137", "6378137.", ".5", "6.378137e6", "0065536.10", "1E-3"}) {
-            row("a " + number, ellipsoid, CustomCatalogue::AddMode, "new", {number, "300"}, "", 0, true);
-            row("f " + number, ellipsoid, CustomCatalogue::AddMode, "new", {"1", number}, "", 0, true);
-        }
-        for (const QByteArray number :
-             {"0", "0.0", "-0", ".", "-6378137", "1e999", "1e-999", "nan", "inf", "-inf", "Infinity", "0x10", "1p3",
-              "6378137,0", "6,378,137", "6 378 137", "6378137m", "1.2.3", "\u0661\u0662"}) {
-            row("a " + number, ellipsoid, CustomCatalogue::EditMode, "mine", {number, "300"}, refused, 0, false);
-            row("f " + number, ellipsoid, CustomCatalogue::AddMode, "new", {"1", number}, refused, 0, false);
+            QStringList values =
+                kind == ellipsoid ? QStringList{"6378137.000", "298.257223563"} : QStringList{"a.ggf", "WGS 84"};
+            if (entered != "both")
+                values[entered == "first" ? 1 : 0].clear();
+            const QString name = QString(quoted.mid(1, quoted.size() - 2)).replace("\\0", QString(QChar(0)));
+            confirmed(kind, modeOf(mode), name, values, outcome);
         }
     }
 
-    void confirm() {
-        QFETCH(QString, kind);
-        QFETCH(int, mode);
-        QFETCH(QString, name);
-        QFETCH(QStringList, values);
-        QFETCH(QString, message);
-        QFETCH(int, answer);
-        QFETCH(bool, accepted);
-        RecordingCatalogue catalogue;
-        fill(catalogue, kind);
-        const QStringList before = stored(catalogue, kind, name);
-        const auto dialog = create(kind, &catalogue, mode);
-        CustomCatalogue::selectName(nameBox(dialog.get()), name);
-        enter(kind, dialog.get(), name, values);
-        dialog->show();
-        catalogue.takeCalls();
-        MessageBoxDouble::answers = {answer};
-
-        button(dialog.get(), "OK")->click();
-
-        QCOMPARE(messages(), message.isEmpty() ? QStringList() : QStringList(message));
-        if (!message.isEmpty())
-            QCOMPARE(MessageBoxDouble::messages[0].parent, dialog.get());
-        QStringList calls;
-        if (mode == CustomCatalogue::AddMode && message != refused)
-            calls << "get" + kind + "(" + name + ")";
-        if (accepted && mode == CustomCatalogue::EditMode && kind == ellipsoid)
-            calls << "deleteEllipsoid(" + name + ")";
-        if (accepted)
-            calls << "add" + kind + "(" + name + ")" << saves(kind);
-        QCOMPARE(catalogue.takeCalls(), calls);
-        QCOMPARE(stored(catalogue, kind, name), accepted ? QStringList{name} + values + QStringList{"0"} : before);
-        QCOMPARE(dialog->isVisible(), !accepted);
-        QCOMPARE(dialog->result(), int(accepted ? QDialog::Accepted : QDialog::Rejected));
-        QCOMPARE(fields(kind, dialog.get()), values);
-        QCOMPARE(nameBox(dialog.get())->currentText(), name);
+    void number_data() { textRows("numbers.txt", {"number", "outcome"}); }
+    void number() {
+        QFETCH(QByteArray, number);
+        QFETCH(QByteArray, outcome);
+        confirmed(ellipsoid, CustomCatalogue::EditMode, "mine", {number, "300"}, outcome);
+        confirmed(ellipsoid, CustomCatalogue::AddMode, "new", {"1", number}, outcome);
     }
 
     void nested_data() {
@@ -400,13 +303,13 @@ private Q_SLOTS:
             fill(catalogue, kind);
             const auto list = create(kind, &catalogue, CustomCatalogue::ListMode);
             CustomCatalogue::selectName(nameBox(list.get()), "mine");
-            const QStringList before = fields(kind, list.get());
+            const QStringList before = fields(list.get());
             const QStringList entered = kind == ellipsoid ? QStringList{"7.0", "8.00"} : QStringList{"b.vgf", "WGS 84"};
             ModalDriver::onNextDialog([&](QDialog* dialog) {
                 QCOMPARE(dialog->parentWidget(), list.get());
                 QCOMPARE(nameBox(dialog)->currentText(), QString(edit ? "mine" : ""));
-                QCOMPARE(fields(kind, dialog)[0], edit ? before[0] : QString());
-                enter(kind, dialog, "new", entered);
+                QCOMPARE(fields(dialog)[0], edit ? before[0] : QString());
+                enter(dialog, "new", entered);
                 if (closing.isEmpty())
                     QTest::keyClick(dialog, Qt::Key_Escape);
                 else
@@ -416,7 +319,7 @@ private Q_SLOTS:
             button(list.get(), opener)->click();
             QCOMPARE(ModalDriver::pending(), 0);
             QCOMPARE(nameBox(list.get())->currentText(), current);
-            QCOMPARE(fields(kind, list.get()), confirmed ? entered : before);
+            QCOMPARE(fields(list.get()), confirmed ? entered : before);
             QVERIFY(button(list.get(), "Edit")->isEnabled());
             QCOMPARE(catalogue.takeCalls().filter(QRegExp("^save")), confirmed ? saves(kind) : QStringList());
         }
@@ -443,8 +346,9 @@ private Q_SLOTS:
             if (stored(catalogue, kind, name).isEmpty())
                 addEntry(catalogue, kind, name, "0");
             const auto list = create(kind, &catalogue, CustomCatalogue::ListMode);
+            const QString first = shown(list.get());
             CustomCatalogue::selectName(nameBox(list.get()), name);
-            const QStringList before = fields(kind, list.get());
+            const QString before = shown(list.get());
             catalogue.takeCalls();
             MessageBoxDouble::reset();
             MessageBoxDouble::answers = {answer};
@@ -455,16 +359,10 @@ private Q_SLOTS:
             QCOMPARE(catalogue.takeCalls().mid(0, 3),
                      answer ? QStringList("delete" + kind + "(" + name + ")") + saves(kind) : QStringList());
             QCOMPARE(stored(catalogue, kind, name).isEmpty(), answer == 1);
-            if (name == "only") {
-                // With nothing to show, an ellipsoid's fields are empty; a geoid's stay as they were.
-                QCOMPARE(nameBox(list.get())->count(), 0);
-                QCOMPARE(fields(kind, list.get()), kind == ellipsoid ? QStringList({"", ""}) : before);
-                for (const char* text : {"Add", "Edit", "Delete"})
-                    QVERIFY(button(list.get(), text)->isEnabled());
-                continue;
-            }
-            QCOMPARE(nameBox(list.get())->currentText(), answer ? QString("WGS 84") : name);
-            QCOMPARE(button(list.get(), "Delete")->isEnabled(), answer == 0);
+            QString after = answer ? first : before;
+            if (name == "only") // with nothing to show, an ellipsoid's fields are empty; a geoid's stay as they were
+                after = kind == ellipsoid ? "; (); (); Add; Edit; Delete" : QString(before).remove(0, name.size());
+            QCOMPARE(shown(list.get()), after);
         }
     }
 
@@ -498,7 +396,7 @@ private Q_SLOTS:
         // Choosing from the list does fill in, the first entry included.
         nameBox(dialog.get())->setCurrentIndex(0);
         QCOMPARE(nameBox(dialog.get())->lineEdit()->text(), QString("WGS 84"));
-        QCOMPARE(fields(ellipsoid, dialog.get()), QStringList({"6378000", "298.30"}));
+        QCOMPARE(fields(dialog.get()), QStringList({"6378000", "298.30"}));
     }
 
     void typedNumber_data() {
@@ -518,34 +416,25 @@ private Q_SLOTS:
         RecordingCatalogue catalogue;
         const auto dialog = create(ellipsoid, &catalogue, CustomCatalogue::AddMode);
         for (int i : {0, 1}) {
-            QTest::keyClicks(child<QLineEdit>(dialog.get(), i), keys);
-            QCOMPARE(child<QLineEdit>(dialog.get(), i)->text(), text);
+            auto* edit = child<QLineEdit>(dialog.get(), i);
+            QTest::keyClicks(edit, keys);
+            QCOMPARE(edit->text(), text);
+            const auto* validator = qobject_cast<const QDoubleValidator*>(edit->validator());
+            QCOMPARE(validator->parent(), edit); // each its own
+            QVERIFY(validator->bottom() == 0.0 && validator->top() == 65535.0 && validator->decimals() == 12);
         }
     }
 
-    void modelFile_data() {
-        // Mode; what is chosen one after the other, "" cancelling the file dialog; what is stored; the content of that
-        // file in the geoid data folder afterwards; the answer whether "mine" is covered, -1 for a new name.
-        const Rows<int, QStringList, QString, QString, int> row({"mode", "chosen", "file", "content", "answer"});
-        const QString copy = QString::fromUtf8("modèle 10%s.ggf");
-        row("from elsewhere", CustomCatalogue::AddMode, {copy}, copy, "elsewhere", -1);
-        row("edited", CustomCatalogue::EditMode, {copy}, copy, "elsewhere", -1);
-        row("edited without a choice", CustomCatalogue::EditMode, {}, "mine.ggf", "(missing)", -1);
-        row("an existing one stays", CustomCatalogue::AddMode, {"there.ggf"}, "there.ggf", "there", -1);
-        row("the existing one itself", CustomCatalogue::AddMode, {"folder/there.ggf"}, "there.ggf", "there", -1);
-        row("the last choice counts", CustomCatalogue::AddMode, {"there.ggf", copy}, copy, "elsewhere", -1);
-        row("a cancelled choice does not", CustomCatalogue::AddMode, {copy, ""}, copy, "elsewhere", -1);
-        row("covered", CustomCatalogue::AddMode, {copy}, copy, "elsewhere", 1);
-        row("not covered", CustomCatalogue::AddMode, {copy}, copy, "(missing)", 0);
-        row("folder's path too long", CustomCatalogue::AddMode, {copy}, copy, "too long", -1);
-    }
+    void modelFile_data() { textRows("models.txt", {"title", "modeName", "choices", "file", "content", "answer"}); }
 
     void modelFile() {
-        QFETCH(int, mode);
-        QFETCH(QStringList, chosen);
-        QFETCH(QString, file);
-        QFETCH(QString, content);
-        QFETCH(int, answer);
+        QFETCH(QByteArray, modeName);
+        QFETCH(QByteArray, choices);
+        QFETCH(QByteArray, file);
+        QFETCH(QByteArray, content);
+        QFETCH(QByteArray, answer);
+        const int mode = modeOf(modeName);
+        const QStringList chosen = QString(choices).split(", ", Qt::SkipEmptyParts);
         const QTemporaryDir root;
         QDir(root.path()).mkpath("bin");
         QDir(root.path()).mkpath("elsewhere");
@@ -553,7 +442,7 @@ private Q_SLOTS:
         QDir().mkpath(folder);
         appFolder = root.path() + "/bin";
         QVERIFY(setContent(folder + "there.ggf", "there"));
-        for (const QString& name : {QString("there.ggf"), file})
+        for (const QString& name : {QString("there.ggf"), QString(file)})
             QVERIFY(setContent(root.path() + "/elsewhere/" + name, "elsewhere"));
 
         GeoidsThatLookForTheFile catalogue;
@@ -563,29 +452,29 @@ private Q_SLOTS:
         CustomCatalogue::selectName(nameBox(dialog.get()), "mine");
         resolvedPaths.clear();
         if (mode == CustomCatalogue::AddMode)
-            nameBox(dialog.get())->setEditText(answer < 0 ? "new" : "mine");
-        for (QString path : chosen) {
-            if (!path.isEmpty() && !path.startsWith("folder/"))
-                path = root.path() + "/elsewhere/" + path;
-            choose(dialog.get(), path.replace("folder/", folder));
-        }
-        QCOMPARE(fields(geoid, dialog.get()), QStringList({file, "WGS 84"}));
+            nameBox(dialog.get())->setEditText(answer.isEmpty() ? "new" : "mine");
+        for (const QString& path : chosen)
+            choose(dialog.get(), path == "cancel"             ? QString()
+                                 : path.startsWith("folder/") ? folder + path.section('/', 1)
+                                                              : root.path() + "/elsewhere/" + path);
+        QCOMPARE(fields(dialog.get()), QStringList({file, "WGS 84"}));
 
         if (content == "too long")
             appFolder = root.path() + "/bin" + QString("/.").repeated(500);
-        MessageBoxDouble::answers = {answer};
+        MessageBoxDouble::answers = {answer == "covered" ? 1 : 0};
         button(dialog.get(), "OK")->click();
-        if (answer != 0)
-            QCOMPARE(stored(catalogue, geoid, nameBox(dialog.get())->currentText()).value(1), file);
-        QCOMPARE(contentOf(folder + file), content == "too long" ? QByteArray("(missing)") : content.toLatin1());
+        const bool added = answer != "declined";
+        if (added)
+            QCOMPARE(stored(catalogue, geoid, nameBox(dialog.get())->currentText()).value(1), QString(file));
+        QCOMPARE(contentOf(folder + file), content == "too long" ? QByteArray("(missing)") : content);
         QCOMPARE(contentOf(folder + "there.ggf"), QByteArray("there"));
         QCOMPARE(QDir(folder).entryList(QDir::Files).count(), content == "elsewhere" ? 2 : 1);
-        QCOMPARE(catalogue.fileWasThere, answer != 0 && (content == "elsewhere" || content == "there"));
+        QCOMPARE(catalogue.fileWasThere, added && (content == "elsewhere" || content == "there"));
         const QString dataFolder = "$(APP_DIR)/../etc/Vornhalde/data/GeoidData/";
         QStringList resolved;
         for (int i = 0; i < chosen.count(); ++i)
             resolved << dataFolder + "|";
-        if (!chosen.isEmpty() && answer != 0)
+        if (!chosen.isEmpty() && added)
             resolved << dataFolder + "%s|" + file;
         QCOMPARE(resolvedPaths, resolved);
         QVERIFY(chosen.isEmpty() || pathBufferSize == 1000);
@@ -593,6 +482,51 @@ private Q_SLOTS:
     }
 
 private:
+    static int modeOf(const QByteArray& name) {
+        return name == "add" ? CustomCatalogue::AddMode : CustomCatalogue::EditMode;
+    }
+
+    /// Fills in a dialog and presses OK; `outcome` as in confirm.txt.
+    void confirmed(const QString& kind, int mode, const QString& name, const QStringList& values,
+                   const QByteArray& outcome) const {
+        const bool isEllipsoid = kind == ellipsoid, accepted = outcome == "accepted" || outcome == "covered";
+        const QString cover = isEllipsoid ? "?Warning|has same name as system, whether cover?"
+                                          : "?Warning|has same file name, whether or not covered?";
+        const QString shipped = isEllipsoid ? "Warning|new add ellipsoid name can't same as system!"
+                                            : "Warning|new geoid name can't same with system name!";
+        const QHash<QByteArray, QString> message{
+            {"refused", refused}, {"shipped", shipped}, {"covered", cover}, {"declined", cover}};
+        RecordingCatalogue catalogue;
+        fill(catalogue, kind);
+        const QStringList before = stored(catalogue, kind, name);
+        const auto dialog = create(kind, &catalogue, mode);
+        CustomCatalogue::selectName(nameBox(dialog.get()), name);
+        enter(dialog.get(), name, values);
+        dialog->show();
+        catalogue.takeCalls();
+        MessageBoxDouble::reset();
+        MessageBoxDouble::answers = {outcome == "declined" ? 0 : 1};
+
+        button(dialog.get(), "OK")->click();
+
+        QCOMPARE(messages().join("; "), message.value(outcome));
+        for (const auto& each : qAsConst(MessageBoxDouble::messages))
+            QCOMPARE(each.parent, dialog.get());
+        QStringList calls;
+        if (mode == CustomCatalogue::AddMode && outcome != "refused")
+            calls << "get" + kind + "(" + name + ")";
+        if (accepted && mode == CustomCatalogue::EditMode && isEllipsoid)
+            calls << "deleteEllipsoid(" + name + ")";
+        if (accepted)
+            calls << "add" + kind + "(" + name + ")" << saves(kind);
+        QCOMPARE(catalogue.takeCalls(), calls);
+        QCOMPARE(stored(catalogue, kind, name), accepted ? QStringList{name} + values + QStringList{"0"} : before);
+        QCOMPARE(dialog->isVisible(), !accepted);
+        QCOMPARE(dialog->result(), int(accepted ? QDialog::Accepted : QDialog::Rejected));
+        QCOMPARE(fields(dialog.get()), values);
+        QCOMPARE(nameBox(dialog.get())->currentText(), name);
+    }
+
     QStringList saves(const QString& kind) const {
         const QString save = "save" + kind + "s(%1)";
         return {save.arg(""), save.arg(home.path() + "/Documents/ArvelaGnss/Data/" + kind + "_custom.xml")};

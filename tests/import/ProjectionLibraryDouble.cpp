@@ -1,6 +1,7 @@
 #include "ProjectionLibraryDouble.h"
 
 #include "catalogue/Sdk.h"
+#include "import/ProjDefineToCoordParam.h"
 
 ProjectionLibraryDouble& ProjectionLibraryDouble::instance() {
     static ProjectionLibraryDouble library;
@@ -17,6 +18,13 @@ void ProjectionLibraryDouble::reset() {
     system = {};
     moduleIsMissing = false;
     readText.clear();
+}
+
+DictionaryGuard ProjectionLibraryDouble::converted(const QByteArray& text) {
+    definition = text;
+    DictionaryGuard result;
+    projDefineToCoordParam(this, result.get());
+    return result;
 }
 
 void ProjectionLibraryDouble::record(const char* call, ProjHandle handle) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalogue/DictionaryGuard.h"
 #include "platform/projection/IProjectionModule.h"
 
 #include <QByteArrayList>
@@ -11,6 +12,9 @@ public:
 
     /// Back to the answers of GRS 1980 without a shift.
     void reset();
+
+    /// The parameter record that the definition in `text` becomes, with the other answers as they are.
+    DictionaryGuard converted(const QByteArray& text);
 
     QByteArrayList calls; ///< those of a handle that is not the double's end with "?"
     bool definitionIsNull = false;

@@ -5,7 +5,7 @@
 #include "support/MessageBoxDouble.h"
 #include "support/RecordingCatalogue.h"
 #include "support/RoomTest.h"
-#include "support/Rows.h"
+#include "support/TextTable.h"
 
 #include <QtWidgets>
 
@@ -32,51 +32,28 @@ private Q_SLOTS:
         QCOMPARE(dialog.windowTitle(), QString("DlgInputName:please input name"));
     }
 
-    void checks_data() {
-        const Rows<int, QString, QString> row({"nameType", "typed", "message"});
-        const QString content = "please input valid content!";
-        const QString sameGroup = "has same as coord group name!", sameSystem = "has same as coord system name!";
-        for (const int type : {0, 1}) {
-            row("empty", type, "", content);
-            row("comma", type, "x,y", content);
-        }
-        row("group: blanks pass", 0, "  ", {});
-        row("group: taken, or unchanged", 0, "A", sameGroup);
-        row("group: other case passes", 0, "a", {});
-        row("group: a system's name passes", 0, "a1", {});
-        row("system: taken, or unchanged", 1, "a1", sameSystem);
-        row("system: taken in another group only", 1, "b1", {});
-        row("system: a group's name passes", 1, "A", {});
-        row("any other type asks for a system", 7, "a1", sameSystem);
-    }
-
+    void checks_data() { textRows("names.txt", {"title", "nameType", "group", "quoted", "message"}); }
     void checks() {
-        QFETCH(int, nameType);
-        QFETCH(QString, typed);
-        QFETCH(QString, message);
+        QFETCH(QByteArray, nameType);
+        QFETCH(QByteArray, group);
+        QFETCH(QByteArray, quoted);
+        QFETCH(QByteArray, message);
+        QString typed = quoted.mid(1, quoted.size() - 2);
+        typed.replace("\\0", QString(QChar(0))).replace("\\ud83d", QString(QChar(0xD83D)));
         DlgInputName dialog(nullptr, &catalogue);
         QCOMPARE(dialog.nameType, 0);
-        dialog.groupName = "A";
-        dialog.nameType = nameType;
+        dialog.groupName = group;
+        dialog.nameType = nameType.toInt();
         dialog.nameEdit->setText(typed);
         dialog.show();
         QTest::keyClick(dialog.nameEdit, Qt::Key_Return);
-        QCOMPARE(dialog.isVisible(), !message.isNull());
-        QCOMPARE(dialog.result(), message.isNull() ? int(QDialog::Accepted) : int(QDialog::Rejected));
+        QCOMPARE(dialog.isVisible(), !message.isEmpty());
+        QCOMPARE(dialog.result(), message.isEmpty() ? int(QDialog::Accepted) : int(QDialog::Rejected));
         QCOMPARE(dialog.getName(), typed);
         const QString shown = "DlgInputName:information|DlgInputName:" + message;
-        QCOMPARE(MessageBoxDouble::texts(), message.isNull() ? QStringList() : QStringList(shown));
+        QCOMPARE(MessageBoxDouble::texts().join("; "), message.isEmpty() ? QString() : shown);
         for (const auto& each : qAsConst(MessageBoxDouble::messages))
             QCOMPARE(each.parent, &dialog);
-    }
-
-    void groupThatIsGoneHoldsNoName() {
-        DlgInputName dialog(nullptr, &catalogue);
-        dialog.groupName = "gone";
-        dialog.nameType = 1;
-        dialog.nameEdit->setText("a1");
-        dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
-        QCOMPARE(dialog.result(), int(QDialog::Accepted));
     }
 
 private:

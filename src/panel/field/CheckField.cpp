@@ -24,6 +24,8 @@ CheckField::CheckField(const ParamField& field, MessageLine* message, QGridLayou
     grid->addWidget(unit, line, 2);
     connect(edit, SIGNAL(textEdited(QString)), this, SLOT(_onTextEdited(QString)));
     connect(edit, SIGNAL(cancelled()), this, SLOT(_onCancelled()));
+    connect(edit, SIGNAL(returnPressed()), this, SLOT(_onEntered()));
+    connect(edit, SIGNAL(left()), this, SLOT(_onLeft()));
 }
 
 QString CheckField::angleText(double degrees, int decimals) {
@@ -33,13 +35,15 @@ QString CheckField::angleText(double degrees, int decimals) {
 }
 
 void CheckField::setValue(double value) {
-    number = lastGood = value;
+    isTyping = false;
+    number = value;
     edit->setText(field.isAngle() ? angleText(value) : QString::number(value, 'f', 4));
     edit->setCursorPosition(0);
     setError(QString());
 }
 
 void CheckField::clear() {
+    isTyping = false;
     number.reset();
     edit->clear();
     setError(QString());
@@ -60,17 +64,37 @@ QString CheckField::unitText() const {
 }
 
 void CheckField::_onTextEdited(const QString& text) {
+    if (!isTyping)
+        numberBefore = number;
+    isTyping = true;
     const FieldInput input = field.parse(text);
     number = input.valid ? std::optional<double>(input.value) : std::nullopt;
-    if (number)
-        lastGood = *number;
     setError(input.reason);
     Q_EMIT edited();
 }
 
+void CheckField::_onEntered() {
+    isTyping = isTyping && !number;
+}
+
+void CheckField::_onLeft() {
+    if (isTyping && !number)
+        restore();
+    isTyping = false;
+}
+
 void CheckField::_onCancelled() {
-    setValue(lastGood);
+    if (isTyping)
+        restore();
     edit->selectAll();
+}
+
+/// Shows the number from before the typing.
+void CheckField::restore() {
+    if (numberBefore)
+        setValue(*numberBefore);
+    else
+        clear();
     Q_EMIT edited();
 }
 

@@ -12,7 +12,8 @@ class QGridLayout;
 class QLabel;
 
 /// One number to compute with, on a form: label, edit, unit. It belongs to no record. What is wrong with a text stands
-/// in a line that several fields share.
+/// in a line that several fields share. As in a FieldRow, Escape brings back the number from before the typing, and so
+/// does leaving a field whose text is refused.
 class CheckField : public QObject {
     Q_OBJECT
 
@@ -47,8 +48,11 @@ Q_SIGNALS:
 private Q_SLOTS:
     void _onTextEdited(const QString& text);
     void _onCancelled();
+    void _onEntered();
+    void _onLeft();
 
 private:
+    void restore();
     void setError(const QString& reason);
 
     ParamField field;
@@ -57,5 +61,6 @@ private:
     QLabel* unit;
     MessageLine* message;
     std::optional<double> number;
-    double lastGood = 0.0;
+    std::optional<double> numberBefore; ///< the typing
+    bool isTyping = false;
 };

@@ -121,7 +121,14 @@ void FileDocument::parseBefore(ptrdiff_t damage, const FileKind& kind) {
         bytes.truncate(int(damage));
     const int end = bytes.lastIndexOf(recordEnd);
     bytes.truncate(end < 0 ? 0 : end + recordEnd.size());
-    parse();
+    const pugi::xml_parse_status status = parse().status;
+    if (status == pugi::status_ok || status == pugi::status_end_element_mismatch)
+        return;
+    // That end stood in a comment, an instruction or a text that does not end itself: the parser's last node is a part.
+    pugi::xml_node part = document;
+    while (part.last_child())
+        part = part.last_child();
+    part.parent().remove_child(part);
 }
 
 /// False when there is more than one element, or text beside it.
@@ -211,12 +218,14 @@ static bool readValues(const pugi::xml_node& element, CatalogueRecord& record) {
     for (const pugi::xml_attribute& attribute : element.attributes())
         keepAttribute(record.unknown, attribute);
     for (const pugi::xml_node& child : element.children()) {
-        if (child.type() == pugi::node_pcdata && !isBlank(child))
-            return false;
-        if (!isElement(child, valueElement))
+        if (isElement(child, valueElement)) {
+            if (!readValue(child, record))
+                return false;
+        } else {
+            if (child.type() == pugi::node_pcdata && !isBlank(child))
+                return false;
             keepChild(record.unknown, child);
-        else if (!readValue(child, record))
-            return false;
+        }
     }
     return true;
 }

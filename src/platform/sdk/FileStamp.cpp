@@ -16,15 +16,15 @@ qint64 timeOf(const QString& path) {
 
 } // namespace
 
-FileStamp::FileStamp(const QString& path, const ContentHash& read)
+FileStamp::FileStamp(const QString& path, const ContentHash& hash)
     : isOfFile(true)
-    , content(read)
+    , content(hash)
     , time(timeOf(path))
     , isSettled(QDateTime::currentMSecsSinceEpoch() - time > coarsestClock) {
 }
 
-bool FileStamp::holds(const ContentHash& other) const {
-    return isOfFile && content == other;
+bool FileStamp::holds(const ContentHash& hash) const {
+    return isOfFile && content == hash;
 }
 
 bool FileStamp::matches(const QString& path) const {

@@ -10,10 +10,10 @@ public:
     /// Of no file; it matches none.
     FileStamp() = default;
 
-    /// Of the file `path` that was just read or written and holds `content`.
-    FileStamp(const QString& path, const ContentHash& content);
+    /// Of the file `path` that was just read or written and has that content.
+    FileStamp(const QString& path, const ContentHash& hash);
 
-    bool holds(const ContentHash& content) const;
+    bool holds(const ContentHash& hash) const;
 
     /// Whether the file still holds the same. It is read only when its size and time don't tell.
     bool matches(const QString& path) const;

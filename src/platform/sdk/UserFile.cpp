@@ -89,13 +89,11 @@ bool UserFile::exists() const {
 
 void UserFile::removeLeftovers() const {
     const QString place = FileReplacement::behindLinks(path);
-    const QString name = QFileInfo(path).fileName();
-    FileReplacement::removeLeftovers(folderOf(path),
-                                     {name, name + QLatin1String(".bak"), name + damagedSuffix + QLatin1Char('*'),
-                                      name + otherSuffix + QLatin1Char('*')});
+    const QString rescue = rescuePath(path);
+    for (const QString& file : {path, rescue})
+        FileReplacement::removeLeftovers(folderOf(file), QFileInfo(file).fileName());
     if (place != path)
-        FileReplacement::removeLeftovers(folderOf(place), {QFileInfo(place).fileName()});
-    FileReplacement::removeLeftovers(folderOf(rescuePath(path)), {name});
+        FileReplacement::removeLeftovers(folderOf(place), QFileInfo(place).fileName());
 }
 
 bool UserFile::hasNewerRescue() const {

@@ -3,39 +3,38 @@
 #include <algorithm>
 #include <cstring>
 
-static constexpr qint64 wordSize = sizeof(quint64);
-
 /// FNV-1a's way, eight bytes at a time: multiplying spreads a bit upwards, the shift brings it down again.
-void ContentHash::mix(quint64 word) {
+void ContentHash::mix(const char* block) {
     constexpr quint64 factor = 0x9E3779B97F4A7C15; // odd; 2^64 divided by the golden ratio
-    hash = (hash ^ word) * factor;
-    hash ^= hash >> 29;
+    for (quint64& lane : lanes) {
+        quint64 word;
+        std::memcpy(&word, block, sizeof word);
+        block += sizeof word;
+        lane = (lane ^ word) * factor;
+        lane ^= lane >> 29;
+    }
 }
 
 void ContentHash::add(const QByteArray& piece) {
+    const size_t blockSize = pending.size();
     const char* next = piece.constData();
-    qint64 left = piece.size();
-    const auto take = [&](quint64* word, qint64 place, qint64 count) {
-        std::memcpy(reinterpret_cast<char*>(word) + place, next, size_t(count));
+    const char* const end = next + piece.size();
+    const size_t place = size_t(bytes) % blockSize;
+    bytes += piece.size();
+    if (place > 0) {
+        const size_t count = std::min(size_t(end - next), blockSize - place);
+        std::memcpy(pending.data() + place, next, count);
         next += count;
-        left -= count;
-        bytes += count;
-    };
-    if (const qint64 place = bytes % wordSize) {
-        take(&pending, place, std::min(left, wordSize - place));
-        if (bytes % wordSize != 0)
+        if (place + count < blockSize)
             return;
-        mix(pending);
-        pending = 0;
+        mix(pending.data());
+        pending.fill('\0');
     }
-    while (left >= wordSize) {
-        quint64 word;
-        take(&word, 0, wordSize);
-        mix(word);
-    }
-    take(&pending, 0, left);
+    for (; size_t(end - next) >= blockSize; next += blockSize)
+        mix(next);
+    std::memcpy(pending.data(), next, size_t(end - next));
 }
 
 bool ContentHash::operator==(const ContentHash& other) const {
-    return bytes == other.bytes && hash == other.hash && pending == other.pending;
+    return bytes == other.bytes && lanes == other.lanes && pending == other.pending;
 }

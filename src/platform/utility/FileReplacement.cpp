@@ -3,7 +3,7 @@
 #include "platform/utility/DiskCalls.h"
 #include "platform/utility/FileHold.h"
 
-#include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QRandomGenerator>
 
@@ -11,17 +11,18 @@ namespace {
 
 // Nobody would call a copy of his own like this.
 const QString mark = QStringLiteral(".unfinished-");
+constexpr int letterCount = 6;
 
 QString randomLetters() {
     QString letters;
-    for (int i = 0; i < 6; ++i)
+    for (int i = 0; i < letterCount; ++i)
         letters += QChar(QLatin1Char(char('a' + QRandomGenerator::global()->bounded(26))));
     return letters;
 }
 
 } // namespace
 
-FileReplacement::FileReplacement(const QString& replaced) : path(replaced), model(replaced) {
+FileReplacement::FileReplacement(const QString& place) : path(place), model(place) {
 }
 
 FileReplacement::~FileReplacement() {
@@ -124,16 +125,17 @@ bool FileReplacement::commit() {
     return true;
 }
 
-void FileReplacement::removeLeftovers(const QString& folder, const QStringList& names) {
-    QStringList patterns;
-    for (const QString& name : names)
-        patterns += name + mark + QLatin1String("??????");
-    const QDateTime yesterday = QDateTime::currentDateTime().addDays(-1);
-    const QFileInfoList found = QDir(folder).entryInfoList(patterns, QDir::Files | QDir::Hidden | QDir::System);
-    for (const QFileInfo& leftover : found) {
-        const FileHold::State state = FileHold::of(leftover.filePath());
-        if (state == FileHold::State::Free ||
-            (state == FileHold::State::Unknown && leftover.lastModified() < yesterday))
-            DiskCalls::remove(leftover.filePath());
+// Without QDir's patterns: a start would spend more on them than on the catalogue.
+void FileReplacement::removeLeftovers(const QString& folder, const QString& nameStart) {
+    QDirIterator files(folder, QDir::Files | QDir::Hidden | QDir::System);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        const QString name = files.fileName();
+        if (!name.startsWith(nameStart) || name.lastIndexOf(mark) != name.size() - mark.size() - letterCount)
+            continue;
+        const FileHold::State state = FileHold::of(path);
+        const bool isOld = files.fileInfo().lastModified() < QDateTime::currentDateTime().addDays(-1);
+        if (state == FileHold::State::Free || (state == FileHold::State::Unknown && isOld))
+            DiskCalls::remove(path);
     }
 }

@@ -15,9 +15,9 @@
 /// Qt's QSaveFile does not do: it puts a file in place whose last block could not be written.
 class FileReplacement {
 public:
-    /// What lies at `path` is a regular file, a symbolic link (which is itself replaced), or nothing. A folder, device,
-    /// pipe or socket is left alone.
-    explicit FileReplacement(const QString& path);
+    /// What lies at `place` is a regular file, a symbolic link (which is itself replaced), or nothing. A folder,
+    /// device, pipe or socket is left alone.
+    explicit FileReplacement(const QString& place);
     /// Takes back what was not committed.
     ~FileReplacement();
 
@@ -27,7 +27,7 @@ public:
     /// The path at the end of a chain of symbolic links, whether there is something or not.
     static QString behindLinks(const QString& path);
 
-    /// The new file gets the permissions of this one, by default of the file at `path`; those of any new file where
+    /// The new file gets the permissions of this one, by default of the replaced file; those of any new file where
     /// there is none, or none that can be read.
     void takePermissionsOf(const QString& file) { model = file; }
 
@@ -54,9 +54,9 @@ public:
     /// Puts the prepared file in place. False, with the old one in place, when that failed.
     bool commit();
 
-    /// Removes what replacements of these files left behind that were killed: `names` are patterns of the files' names.
-    /// What somebody works on is left alone; where that can't be told, it goes after a day.
-    static void removeLeftovers(const QString& folder, const QStringList& names);
+    /// Removes what replacements left behind that were killed, of files whose names begin with `nameStart`. What
+    /// somebody works on is left alone; where that can't be told, it goes after a day.
+    static void removeLeftovers(const QString& folder, const QString& nameStart);
 
     /// Of what was written.
     const ContentHash& content() const { return written; }

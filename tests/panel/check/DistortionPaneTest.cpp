@@ -166,6 +166,10 @@ private Q_SLOTS:
             screen.panel.resize(size);
             QApplication::processEvents();
             QCOMPARE(screen.proposed(), proposed);
+            const QSizeF canvas = screen.plot->canvas()->contentsRect().size();
+            const double shape =
+                screen.plot->axisInterval(QwtPlot::xBottom).width() / screen.plot->axisInterval(QwtPlot::yLeft).width();
+            QVERIFY(std::abs(shape * canvas.height() / canvas.width() - 1.0) < 0.01);
             Q_EMIT screen.find<QComboBox>("Area")->currentIndexChanged(0);
             QCOMPARE(screen.proposed(), proposed);
             // All of it is on the map: 250 km each way.
@@ -175,6 +179,14 @@ private Q_SLOTS:
         // Greatest at (250 km, +-250 km): k = 0.9996 (1 + x^2 / 2 R^2), so k0 is 0.9996 / (1 + half of 375 ppm - 200).
         QVERIFY(std::abs(screen.pane->proposal()->before().smallest + 400.0) < 0.1);
         QVERIFY(std::abs(screen.pane->proposal()->before().largest - 375.3) < 0.5);
+        QStringList texts;
+        for (const QLabel* label : screen.findAll<QLabel>())
+            texts << label->text();
+        QCOMPARE(texts.filter("Distortion in ppm: -400.0 to 375.3 → -387.").size(), 1);
+        for (const QwtPlotItem* item : screen.plot->itemList(QwtPlotItem::Rtti_PlotCurve)) {
+            if (item->title().text() == "Area of the design")
+                QVERIFY(item->isVisible() && std::abs(item->boundingRect().width() - 500.0) < 0.5);
+        }
     }
 
     void designUsesTheHeight() {

@@ -121,6 +121,7 @@ private Q_SLOTS:
 
         // Under another method with another axis, too, the parallel stays where it was.
         editor.setMethod(GaussKrueger);
+        QVERIFY(set(editor, Key::factor, "0.9997"));
         QVERIFY(set(editor, Key::ellipsoidA, "6377397.155"));
         editor.setMethod(Mercator);
         QVERIFY(qAbs(number(editor, Key::cuttingRadius) - 6377397.155 * std::cos(30 * degree)) < 1e-8);
@@ -130,6 +131,13 @@ private Q_SLOTS:
         QVERIFY(set(editor, Key::falseEast, "500000.5"));
         editor.setMethod(Lambert);
         QCOMPARE(value(editor, Key::falseEast), "500000.5");
+
+        // A scale factor that was left out stays out.
+        QVERIFY(set(editor, Key::factor, ""));
+        editor.setMethod(ProjectionMethod::LambertOneParallel);
+        QCOMPARE(number(editor, Key::factor), 1.0);
+        editor.setMethod(Lambert);
+        QCOMPARE(value(editor, Key::factor), "0");
     }
 
     void givesEachMethodItsScale_data() {

@@ -14,6 +14,8 @@ private Q_SLOTS:
         const QDir folder(QCoreApplication::applicationDirPath() + "/../etc/Vornhalde/data/GeoidData");
         QVERIFY(folder.mkpath("."));
         QFile file(folder.filePath("GeoidFileTest.ggf"));
+        file.remove(); // what a run that failed left behind
+        folder.rmdir("GeoidFileTest.ggf");
         QVERIFY(GeoidFile::problem(QString()).contains("no file"));
         QVERIFY(GeoidFile::problem("GeoidFileTest.ggf").contains("Not in the folder"));
         QVERIFY(file.open(QIODevice::WriteOnly));

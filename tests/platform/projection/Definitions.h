@@ -15,3 +15,11 @@ inline QList<double> shiftOf(const QByteArray& definition) {
     const ProjTowgs84 shift = GetTowgs84(InitializeProj(definition.constData()));
     return {shift.dx, shift.dy, shift.dz, shift.rx, shift.ry, shift.rz, shift.ppm};
 }
+
+/// The numbers of a text that blanks part.
+inline QList<double> numbersOf(const QByteArray& text) {
+    QList<double> numbers;
+    for (const QByteArray& number : text.split(' '))
+        numbers << number.toDouble();
+    return numbers;
+}

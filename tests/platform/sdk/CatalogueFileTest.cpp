@@ -324,6 +324,9 @@ private Q_SLOTS:
         row("zeros and more behind", root + "</coordinate_systems>" + QByteArray(3, '\0') + "<more/>", 9);
         row("zeros behind the end", root + "</coordinate_systems>\n" + QByteArray(3, '\0'), 9);
         row("a bit flipped in an end", root + "</coordinatu_systems>", 9);
+        row("an instruction that never ends", "<?coordinate_systems </system>", 0);
+        row("a comment that never ends", root + "<!-- </system></coordinate_systems>", 9);
+        row("a text that never ends", root + "<x y=\"</system>", 9);
     }
 
     void damagedFile() {
@@ -347,6 +350,10 @@ private Q_SLOTS:
         QCOMPARE(contentOf(folders.user + folders.setAside("damaged").constFirst()), content);
         Session next(folders);
         QCOMPARE(describe(next).count('\n'), systems + 1);
+        // Whatever was taken over of it, what is written is whole.
+        const SystemFile read = CatalogueFile::readSystems(folders.user + folders.setAside("damaged").constFirst());
+        QVERIFY(CatalogueFile::write(folders.user + "again", read));
+        QCOMPARE(int(CatalogueFile::readSystems(folders.user + "again").condition), int(FileCondition::Whole));
     }
 
 private:

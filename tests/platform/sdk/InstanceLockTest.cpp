@@ -122,7 +122,22 @@ private Q_SLOTS:
         const auto first = startInstance(dir->path());
         QCOMPARE(answerOf(*first), QByteArray("running"));
         QVERIFY2(timer.elapsed() < 8000, qPrintable(QString::number(timer.elapsed())));
+        QVERIFY(suffix == ".lock" || !QFileInfo::exists(path)); // else every start would wait for it
         const auto second = startInstance(dir->path());
+        QCOMPARE(answerOf(*second), QByteArray("refused"));
+        QVERIFY(second->waitForFinished());
+        end(*first);
+    }
+
+    // The lock decides, even when the one that runs can't answer.
+    void runningWithoutSocket() {
+        const QTemporaryDir dir;
+        const auto first = startInstance(dir.path());
+        QCOMPARE(answerOf(*first), QByteArray("running"));
+        const QDir data(dir.filePath(".local/share/ArvelaGnss/CoordSystemManager"));
+        const QString socket = data.filePath(data.entryList({"*.socket"}, QDir::System).value(0));
+        QVERIFY(QFile::remove(socket));
+        const auto second = startInstance(dir.path());
         QCOMPARE(answerOf(*second), QByteArray("refused"));
         QVERIFY(second->waitForFinished());
         end(*first);

@@ -4,6 +4,7 @@
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 
+#include <QSet>
 #include <QtTest>
 
 #ifdef Q_OS_UNIX
@@ -243,6 +244,10 @@ private Q_SLOTS:
             QVERIFY(folders.rescued().isEmpty());
             QCOMPARE(shown(folders), "last," + next);
             QVERIFY2(unfinished(folders).isEmpty(), qPrintable(unfinished(folders).join(' ')));
+            QByteArrayList generations = {contentOf(folders.systems()), contentOf(folders.previous())};
+            for (const QString& name : folders.generations())
+                generations << contentOf(folders.user + "generations/" + name);
+            QVERIFY(QSet<QByteArray>(generations.begin(), generations.end()).size() == generations.size());
         }
         qInfo("%d calls", places);
         QVERIFY(places >= 5); // folder, create, write, sync, rename
@@ -339,6 +344,23 @@ private Q_SLOTS:
         QCOMPARE(folders.setAside("other").size(), 1);
         QCOMPARE(groupsIn(folders.user + folders.setAside("other")[0]), QByteArray("rescued,1"));
         QCOMPARE(shown(folders), QByteArray("2,1"));
+    }
+
+    // Two saves that could not reach the folder, the second of which knew nothing of the first: both are kept.
+    void rescueBesideAnother() {
+        const Folders folders;
+        saveGroups(folders, 1);
+        Session first(folders);
+        Session second(folders); // on another machine
+        DiskCalls::setFault([&](const char*, const QString& path) { return path.startsWith(folders.user); });
+        first.addGroup("first");
+        first.saveSystems();
+        second.addGroup("second");
+        second.saveSystems();
+        DiskCalls::setFault({});
+        QCOMPARE(folders.rescued().size(), 2);
+        QCOMPARE(shown(folders), QByteArray("second,1"));
+        QVERIFY(filesWith(folders, "first,1") > 0);
     }
 
     // What may lie in the file's place, with what the next start must show after a save, and what must be there still.
@@ -448,19 +470,28 @@ private Q_SLOTS:
     }
 
     void fileThatCouldNotBeReadAtTheStart() {
-        const Folders folders;
-        saveGroups(folders, 2);
-        DiskCalls::setFault([&](const char*, const QString& path) { return path == folders.systems(); });
-        Session session(folders); // another program holds the file
-        DiskCalls::setFault({});
-        QCOMPARE(session.getGroupNames(), "1"); // of the previous generation
-        for (const char* group : {"a", "b", "c"}) {
-            session.addGroup(group);
+        for (const bool forGood : {false, true}) {
+            const Folders folders;
+            saveGroups(folders, 2);
+            DiskCalls::setFault([&](const char*, const QString& path) { return path == folders.systems(); });
+            Session session(folders);               // another program holds the file
+            QCOMPARE(session.getGroupNames(), "1"); // of the previous generation
+            // What can neither be read nor have a second name can still be moved.
+            DiskCalls::setFault([&](const char* call, const QString& path) {
+                return forGood && (path == folders.systems() ? qstrcmp(call, "read") == 0 : qstrcmp(call, "link") == 0);
+            });
+            session.addGroup("a");
             session.saveSystems();
+            DiskCalls::setFault({});
+            QCOMPARE(folders.setAside("other").size(), 1);
+            QCOMPARE(groupsIn(folders.user + folders.setAside("other")[0]), QByteArray("2,1"));
+            for (const char* group : {"b", "c"}) {
+                session.addGroup(group);
+                session.saveSystems();
+            }
+            QCOMPARE(folders.setAside("other").size(), 1);
+            QCOMPARE(shown(folders), QByteArray("c,b,a,1"));
         }
-        QCOMPARE(folders.setAside("other").size(), 1);
-        QCOMPARE(groupsIn(folders.user + folders.setAside("other")[0]), QByteArray("2,1"));
-        QCOMPARE(shown(folders), QByteArray("c,b,a,1"));
     }
 
     void fileThatGrowsNoFurther() {
@@ -505,7 +536,7 @@ private Q_SLOTS:
             QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
             while (filler.write(QByteArray(4096, 'x')) == 4096)
                 ;
-            QVERIFY(filler.resize(filler.size() - free * 1024));
+            QVERIFY(filler.resize(filler.size() - free * qint64(1024)));
             const QByteArray before = contentOf(folders.systems());
             session.saveSystems();
             const bool isReached = contentOf(folders.systems()) != before;

@@ -34,11 +34,11 @@ private Q_SLOTS:
         QByteArray content;
         for (int i = 0; i < 100; ++i)
             content += char(i);
-        for (int first = 0; first <= 17; ++first) {
+        for (int first = 0; first <= 40; ++first) {
             ContentHash hash(content.left(first));
-            hash.add(content.mid(first, 5));
+            hash.add(content.mid(first, 35));
             hash.add({});
-            hash.add(content.mid(first + 5));
+            hash.add(content.mid(first + 35));
             QVERIFY(hash == ContentHash(content));
         }
         for (int i = 0; i < content.size() * 8; ++i) {
@@ -159,7 +159,7 @@ private Q_SLOTS:
         QFile held(file("a.unfinished-heldon"));
         QVERIFY(held.open(QIODevice::WriteOnly));
         const bool isHeld = FileHold::take(held);
-        FileReplacement::removeLeftovers(dir.path(), {"a"});
+        FileReplacement::removeLeftovers(dir.path(), "a");
         QCOMPARE(QFileInfo::exists(held.fileName()), isHeld);
         QStringList left = {"a", "a.backup", "a.unfinished-held", "b.unfinished-abcdef"};
         held.remove();

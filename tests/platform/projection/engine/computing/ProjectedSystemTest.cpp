@@ -1,19 +1,15 @@
-#include "PublishedValues.h"
 #include "catalogue/Angle.h"
-#include "catalogue/CoordParamKey.h"
 #include "catalogue/DictionaryGuard.h"
 #include "import/CoordParamToProjDefine.h"
 #include "platform/projection/IProjectionModule.h"
+#include "support/Files.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 
+#include <QHash>
 #include <QTest>
 
 #include <cmath>
-
-Q_DECLARE_METATYPE(PublishedSystem)
-Q_DECLARE_METATYPE(PublishedRow)
-Q_DECLARE_METATYPE(GeographicPoint)
 
 namespace {
 
@@ -31,15 +27,22 @@ double distance(const GridPoint& left, const GridPoint& right) {
     return std::hypot(left.easting - right.easting, left.northing - right.northing);
 }
 
-DictionaryGuard recordOf(const PublishedSystem& published) {
-    DictionaryGuard record;
-    for (const auto& entry : published.record)
-        record->setText(entry.first, entry.second);
-    return record;
-}
-
-std::unique_ptr<IProjectedSystem> createSystem(const PublishedSystem& published) {
-    return projectionModule()->createSystem(coordParamToProjDefine(*recordOf(published)));
+/// Decimal degrees, or degrees, minutes and seconds as 52:09:22.178N; NaN, which no figure agrees with, for other
+/// texts.
+double number(QByteArray text) {
+    const double sign = text.endsWith('S') || text.endsWith('W') ? -1.0 : 1.0;
+    if (!text.isEmpty() && QByteArray("NSEW").contains(text.back()))
+        text.chop(1);
+    double value = 0.0;
+    double unit = 1.0;
+    for (const QByteArray& part : text.split(':')) {
+        bool ok = false;
+        value += part.toDouble(&ok) * unit;
+        if (!ok)
+            return std::nan("");
+        unit /= 60.0;
+    }
+    return sign * value;
 }
 
 void showDifference(double value, double expected, double tolerance) {
@@ -56,26 +59,45 @@ class ProjectedSystemTest : public QObject {
 private Q_SLOTS:
     void initTestCase() { QVERIFY2(projectionModule(), "the projection module was not found"); }
 
+    /// The rows of published_values.txt, whose head explains them, with the definition of their system.
     void publishedValue_data() {
-        const Rows<PublishedSystem, PublishedRow> rows({"published", "row"});
-        const auto systems = readPublishedValues(TEST_DATA_DIR "/published_values.txt");
-        QVERIFY(systems.size() >= 20);
-        for (const PublishedSystem& published : systems) {
-            QVERIFY2(!published.rows.isEmpty(), published.name);
-            for (const PublishedRow& row : published.rows)
-                rows("line " + QByteArray::number(row.line) + ' ' + row.what + ": " + published.name, published, row);
+        const Rows<QByteArray, QByteArray, QVector<double>> row({"definition", "what", "n"});
+        const QHash<QByteArray, int> sizes{{"point", 5}, {"scale", 4}, {"turn", 4}, {"radius", 3}, {"shift", 7}};
+        const DictionaryGuard record;
+        QByteArray system;
+        int systems = 0, line = 0;
+        for (const QByteArray& text : contentOf(TEST_DATA_DIR "/published_values.txt").split('\n')) {
+            ++line;
+            QByteArrayList items = text.split('#').first().simplified().split(' ');
+            const QByteArray what = items.takeFirst();
+            if (what == "system") {
+                ++systems;
+                system = items.join(' ');
+                record->clear();
+            } else if (sizes.contains(what)) {
+                const QByteArray title = "line " + QByteArray::number(line) + ' ' + what + ": " + system;
+                QVERIFY2(items.size() == sizes[what], title);
+                QVector<double> numbers;
+                for (const QByteArray& item : items)
+                    numbers << number(item);
+                row(title, coordParamToProjDefine(*record), what, numbers);
+            } else if (!what.isEmpty() && what != "source") {
+                const double degreesPerUnit = what.startsWith("_7r") ? 1.0 / 3600.0 : 1.0;
+                record->setText(what, QByteArray::number(number(items.value(0)) * degreesPerUnit, 'g', 17));
+            }
         }
+        QVERIFY(systems >= 20);
     }
 
     void publishedValue() {
-        QFETCH(PublishedSystem, published);
-        QFETCH(PublishedRow, row);
-        const auto system = createSystem(published);
+        QFETCH(QByteArray, definition);
+        QFETCH(QByteArray, what);
+        QFETCH(QVector<double>, n);
+        const auto system = projectionModule()->createSystem(definition);
         QVERIFY(system);
-        const auto& n = row.numbers;
         const double tolerance = n.last();
-        const GeographicPoint place{n[0], n[1], row.what == "shift" ? n[2] : 0.0};
-        if (row.what == "point") {
+        const GeographicPoint place{n[0], n[1], what == "shift" ? n[2] : 0.0};
+        if (what == "point") {
             const GridPoint expected{n[2], n[3]};
             const auto grid = system->toGrid(place);
             const auto back = system->toGeographic(expected, 0.0);
@@ -83,9 +105,10 @@ private Q_SLOTS:
             showDifference(grid->easting, expected.easting, tolerance);
             showDifference(grid->northing, expected.northing, tolerance);
             showDifference(distance(*back, place), 0.0, tolerance * std::sqrt(2.0));
-        } else if (row.what == "radius") {
+            scaleIsTheDerivative(*system, GetProjEllipsoid(InitializeProj(definition)), place);
+        } else if (what == "radius") {
             showDifference(system->meanRadius(n[0]), n[1], tolerance);
-        } else if (row.what == "shift") {
+        } else if (what == "shift") {
             const GeographicPoint expected{n[3], n[4], n[5]};
             const auto wgs84 = system->toWgs84(place);
             const auto back = system->fromWgs84(expected);
@@ -95,65 +118,24 @@ private Q_SLOTS:
         } else {
             const auto scale = system->localScale(place);
             QVERIFY(scale);
-            showDifference(row.what == "scale" ? scale->mean : scale->convergence, n[2], tolerance);
+            showDifference(what == "scale" ? scale->mean : scale->convergence, n[2], tolerance);
         }
-    }
-
-    void scaleIsTheDerivative_data() {
-        const Rows<PublishedSystem> row({"published"});
-        for (const PublishedSystem& published : readPublishedValues(TEST_DATA_DIR "/published_values.txt"))
-            row(published.name, published);
-    }
-
-    /// Scale factors and convergence are those of 200 m along the meridian and the parallel through the point.
-    void scaleIsTheDerivative() {
-        QFETCH(PublishedSystem, published);
-        const auto system = createSystem(published);
-        QVERIFY(system);
-        const DictionaryGuard record = recordOf(published);
-        const double a = dictionary_number(*record, CoordParamKey::ellipsoidA, 0.0);
-        const double flattening = 1.0 / dictionary_number(*record, CoordParamKey::ellipsoidF, 0.0);
-        const double e2 = flattening * (2.0 - flattening);
-        const auto& row = published.rows.first().numbers;
-        const GeographicPoint place{row[0], row[1], 0.0};
-        const double w = std::sqrt(1.0 - e2 * std::pow(std::sin(Angle::toRadians(place.latitude)), 2));
-        const double meridianRadius = a * (1.0 - e2) / (w * w * w);
-        const double parallelRadius = a / w * std::cos(Angle::toRadians(place.latitude));
-
-        const double step = 100.0;
-        const double dLat = Angle::toDegrees(step / meridianRadius);
-        const double dLon = Angle::toDegrees(step / parallelRadius);
-        const auto south = system->toGrid({place.latitude - dLat, place.longitude, 0.0});
-        const auto north = system->toGrid({place.latitude + dLat, place.longitude, 0.0});
-        const auto west = system->toGrid({place.latitude, place.longitude - dLon, 0.0});
-        const auto east = system->toGrid({place.latitude, place.longitude + dLon, 0.0});
-        const auto scale = system->localScale(place);
-        QVERIFY(south && north && west && east && scale);
-        showDifference(scale->meridian, distance(*north, *south) / (2.0 * step), 5e-9);
-        showDifference(scale->parallel, distance(*east, *west) / (2.0 * step), 5e-9);
-        // The meridian's azimuth is 0, its grid bearing minus the convergence.
-        const double bearing =
-            Angle::toDegrees(std::atan2(north->easting - south->easting, north->northing - south->northing));
-        showDifference(std::remainder(scale->convergence + bearing, 360.0), 0.0, 1e-6);
-    }
-
-    void impossiblePoint_data() {
-        const Rows<GeographicPoint> row({"place"});
-        const double nan = std::nan("");
-        row("beyond the pole", GeographicPoint{90.001, 0.0, 0.0});
-        row("twice around", GeographicPoint{0.0, 361.0, 0.0});
-        row("no number", GeographicPoint{nan, 0.0, 0.0});
-        row("no height", GeographicPoint{0.0, 0.0, nan});
-        row("at infinity", GeographicPoint{-90.0, 10.0, 0.0});
     }
 
     /// Nothing comes back, and the next point is computed as if nothing had been asked.
     void impossiblePoint() {
-        QFETCH(GeographicPoint, place);
         const auto system = projectionModule()->createSystem("+proj=lcc +lat_1=40 +lat_2=50 +ellps=GRS80");
-        QVERIFY(!system->toGrid(place) && !system->localScale(place));
-        QVERIFY(!system->toGeographic({std::nan(""), 0.0}, 0.0));
-        QVERIFY(system->toGrid({45.0, 3.0, 0.0}) && system->localScale({45.0, 3.0, 0.0}));
+        const double nan = std::nan("");
+        const QList<QPair<const char*, GeographicPoint>> places{{"beyond the pole", {90.001, 0.0, 0.0}},
+                                                                {"twice around", {0.0, 361.0, 0.0}},
+                                                                {"no number", {nan, 0.0, 0.0}},
+                                                                {"no height", {0.0, 0.0, nan}},
+                                                                {"at infinity", {-90.0, 10.0, 0.0}}};
+        for (const auto& place : places) {
+            QVERIFY2(!system->toGrid(place.second) && !system->localScale(place.second), place.first);
+            QVERIFY(!system->toGeographic({nan, 0.0}, 0.0));
+            QVERIFY(system->toGrid({45.0, 3.0, 0.0}) && system->localScale({45.0, 3.0, 0.0}));
+        }
     }
 
     /// On the central meridian at a height, the distortion is that of the scale factor and of R / (R + h).
@@ -177,6 +159,32 @@ private Q_SLOTS:
         // Higher up it is the parallels, which keep their scale on the grid.
         cassini->linearDistortion(&east, 1, 1000.0, ppm);
         showDifference(ppm[0], (6371000.0 / 6372000.0 - 1.0) * 1e6, 0.01);
+    }
+
+private:
+    /// Scale factors and convergence are those of 200 m along the meridian and the parallel through the point.
+    static void scaleIsTheDerivative(const IProjectedSystem& system, const ProjEllipsoid& ellipsoid,
+                                     const GeographicPoint& place) {
+        const double e2 = 1.0 - std::pow(ellipsoid.b / ellipsoid.a, 2);
+        const double w = std::sqrt(1.0 - e2 * std::pow(std::sin(Angle::toRadians(place.latitude)), 2));
+        const double meridianRadius = ellipsoid.a * (1.0 - e2) / (w * w * w);
+        const double parallelRadius = ellipsoid.a / w * std::cos(Angle::toRadians(place.latitude));
+
+        const double step = 100.0;
+        const double dLat = Angle::toDegrees(step / meridianRadius);
+        const double dLon = Angle::toDegrees(step / parallelRadius);
+        const auto south = system.toGrid({place.latitude - dLat, place.longitude, 0.0});
+        const auto north = system.toGrid({place.latitude + dLat, place.longitude, 0.0});
+        const auto west = system.toGrid({place.latitude, place.longitude - dLon, 0.0});
+        const auto east = system.toGrid({place.latitude, place.longitude + dLon, 0.0});
+        const auto scale = system.localScale(place);
+        QVERIFY(south && north && west && east && scale);
+        showDifference(scale->meridian, distance(*north, *south) / (2.0 * step), 5e-9);
+        showDifference(scale->parallel, distance(*east, *west) / (2.0 * step), 5e-9);
+        // The meridian's azimuth is 0, its grid bearing minus the convergence.
+        const double bearing =
+            Angle::toDegrees(std::atan2(north->easting - south->easting, north->northing - south->northing));
+        showDifference(std::remainder(scale->convergence + bearing, 360.0), 0.0, 1e-6);
     }
 };
 

@@ -2,7 +2,6 @@
 #include "platform/projection/IProjectionModule.h"
 #include "platform/projection/engine/proj/ProjObject.h"
 #include "support/RoomTest.h"
-#include "support/Rows.h"
 #include "support/TextTable.h"
 
 #include <QRandomGenerator>
@@ -43,12 +42,7 @@ private Q_SLOTS:
         proj_log_level(nullptr, PJ_LOG_NONE);
     }
 
-    void normalised_data() {
-        const Rows<QByteArray, QByteArray> row({"given", "expected"});
-        for (const QByteArrayList& columns : textTable("normalised.txt"))
-            row(columns[0], columns[1], columns[2]);
-    }
-
+    void normalised_data() { textRows("normalised.txt", {"title", "given", "expected"}); }
     void normalised() {
         QFETCH(QByteArray, given);
         QFETCH(QByteArray, expected);
@@ -61,12 +55,7 @@ private Q_SLOTS:
         QVERIFY(distance(shiftless, held, longitudeOf(expected) + 2, latitude) < 1e-6);
     }
 
-    void undefined_data() {
-        const Rows<QByteArray> row({"given"});
-        for (const QByteArrayList& columns : textTable("undefined.txt"))
-            row(columns[0], columns[1]);
-    }
-
+    void undefined_data() { textRows("undefined.txt", {"title", "given"}); }
     void undefined() {
         QFETCH(QByteArray, given);
         const QByteArray text = define(given);
@@ -75,23 +64,7 @@ private Q_SLOTS:
         QVERIFY2(text.startsWith("+lat_") || text.startsWith("+lon"), text.constData());
     }
 
-    void plainDefinitionsComputeTheSame_data() {
-        const Rows<QByteArray> row({"pattern"});
-        for (const char* pattern :
-             {"+proj=tmerc +lat_0=%lat +lon_0=%lon +k=%k +x_0=%x +y_0=%x", "+proj=utm +zone=%zone",
-              "+proj=utm +zone=%zone +south", "+proj=merc +lon_0=%lon +k=%k +x_0=%x",
-              "+proj=merc +lon_0=%lon +lat_ts=%lat", "+proj=stere +lat_0=%lat +lon_0=%lon +k=%k +x_0=%x",
-              "+proj=stere +lat_0=90 +lat_ts=%lat +lon_0=%lon", "+proj=stere +lat_0=-90 +k=%k +lon_0=%lon",
-              "+proj=sterea +lat_0=%lat +lon_0=%lon +k_0=%k", "+proj=lcc +lat_1=%lat +lon_0=%lon +k_0=%k",
-              "+proj=lcc +lat_1=%lat +lat_0=%lat +lon_0=%lon +k_0=%k",
-              "+proj=lcc +lat_1=%lat +lat_2=%lat +lat_0=%lat +lon_0=%lon", "+proj=lcc +lat_2=%lat +lon_0=%lon",
-              "+proj=cass +lat_0=%lat +lon_0=%lon +x_0=%x",
-              "+proj=omerc +no_uoff +lat_0=%lat +lonc=%lon +alpha=%alpha +k=%k",
-              "+proj=omerc +no_off +lat_0=-%lat +lonc=%lon +alpha=%alpha +gamma=%alpha",
-              "+proj=omerc +lat_0=%lat +lonc=%lon +alpha=%alpha"})
-            row(pattern, pattern);
-    }
-
+    void plainDefinitionsComputeTheSame_data() { textRows("patterns.txt", {"pattern"}); }
     void plainDefinitionsComputeTheSame() {
         QFETCH(QByteArray, pattern);
         QRandomGenerator random(20);

@@ -1,17 +1,13 @@
-#include "SampleWkt.h"
 #include "platform/projection/Definitions.h"
 #include "platform/projection/IProjectionModule.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
+#include "support/TextTable.h"
 
 #include <QtTest>
 
 #include <cmath>
 #include <cstdio>
-
-using SampleWkt::boundWkt;
-using SampleWkt::transverseMercator;
-using SampleWkt::wkt;
 
 class WktReaderTest : public QObject {
     Q_OBJECT
@@ -19,83 +15,48 @@ class WktReaderTest : public QObject {
 private Q_SLOTS:
     void initTestCase() { QVERIFY2(projectionModule(), "the module lies in ../lib"); }
 
-    void contents_data() {
-        const Rows<QByteArray, int, QByteArray> rows({"text", "content", "name"});
-        const auto row = [&rows](const char* title, const QByteArray& text, WktSystem::Content content,
-                                 const char* name = "") { rows(title, text, int(content), name); };
-        const auto projected = WktSystem::Content::Projected;
-        const QByteArray system = wkt("Transverse_Mercator", transverseMercator);
-        row("ESRI", system, projected, "X");
-        row("round brackets", QByteArray(system).replace('[', '(').replace(']', ')'), projected, "X");
-        row("blanks and words behind", system + "  more", projected, "X");
-        row("any letters", wkt("Transverse_Mercator", transverseMercator, "UNIT[\"Meter\",1]", "\xC3\x96,\xE6\xB8\xAC"),
-            projected, "\xC3\x96,\xE6\xB8\xAC");
-        row("name in ESRI's words",
-            wkt("Transverse_Mercator", transverseMercator, "UNIT[\"Meter\",1]", "WGS_1984_UTM_Zone_31N"), projected,
-            "WGS 84 / UTM zone 31N");
-        row("withdrawn", wkt("Transverse_Mercator", transverseMercator, "UNIT[\"Meter\",1]", "Y (deprecated)"),
-            projected, "Y (deprecated)");
-        row("with a height, WKT 1",
-            "COMPD_CS[\"both\"," + system + R"w(,VERT_CS["v",VERT_DATUM["d",2005],UNIT["metre",1],AXIS["Up",UP]]])w",
-            projected, "X");
-        row("with a height, ESRI",
-            system + R"w(,VERTCS["EGM96_Geoid",VDATUM["EGM96_Geoid"],PARAMETER["Vertical_Shift",0.0],)w"
-                     R"w(PARAMETER["Direction",1.0],UNIT["Meter",1.0]])w",
-            projected, "X");
-        row("bound", boundWkt("Position Vector transformation (geog2D domain)", 1), projected, "b");
-        row("a method that WKT 1 has no name for",
-            wkt("Lambert_Conformal_Conic",
-                R"w(PARAMETER["Central_Meridian",3.0],PARAMETER["Standard_Parallel_1",44.0],PARAMETER["Standard_Parallel_2",49.0],)w"
-                R"w(PARAMETER["Scale_Factor",0.9999],PARAMETER["Latitude_Of_Origin",46.5])w"),
-            projected, "X");
-        row("a geocentric system's code on a geographic one",
-            QByteArray(system).replace("0.0174532925199433]]", "0.0174532925199433],AUTHORITY[\"EPSG\",\"4978\"]]"),
-            projected, "X");
-        row("a method of nobody's", wkt("Unknown", transverseMercator), projected, "X");
-        row("geographic",
-            R"w(GEOGCS["WGS 84",DATUM["WGS_1984",SPHEROID["WGS 84",6378137,298.257223563]],)w"
-            R"w(PRIMEM["Greenwich",0],UNIT["degree",0.0174532925199433]])w",
-            WktSystem::Content::NotProjected);
-        row("local", R"w(LOCAL_CS["Unknown",UNIT["Meter",1.0]])w", WktSystem::Content::NotProjected);
-        const auto unreadable = WktSystem::Content::Unreadable;
-        row("empty", "", unreadable);
-        row("cut off", system.chopped(1), unreadable);
-        row("PROJ.4", "+proj=utm +zone=31", unreadable);
-        row("code", "EPSG:32631", unreadable);
-        row("binary", QByteArray::fromHex("89504e470d0a1a0affd8ffe0"), unreadable);
-        row("brackets only", QByteArray(90000, '['), unreadable);
-        row("nested without end", QByteArray("PROJCS[\"a\",").repeated(9000), unreadable);
-        row("more than GDAL takes", system + QByteArray(200000, 'x'), unreadable);
-    }
+    void projected_data() { textRows("projected.txt", {"title", "name", "ellipsoid", "start", "shift", "text"}); }
 
-    void contents() {
-        QFETCH(QByteArray, text);
-        QFETCH(int, content);
+    void projected() {
         QFETCH(QByteArray, name);
-        const WktSystem system = projectionModule()->readWkt(text);
-        QCOMPARE(int(system.content), content);
-        QCOMPARE(system.name, name);
-    }
-
-    void shifts_data() {
-        const Rows<QByteArray, QList<double>> row({"text", "shift"});
-        const QList<double> british{446.448, -125.157, 542.06, 0.1502, 0.247, 0.8421, -20.4894};
-        row("position vector", boundWkt("Position Vector transformation (geog2D domain)", 1), british);
-        row("coordinate frame", boundWkt("Coordinate Frame rotation (geog2D domain)", -1), british);
-        const QByteArray plain = wkt("Transverse_Mercator", transverseMercator);
-        row("none", plain, {0, 0, 0, 0, 0, 0, 0});
-        const QByteArray shifted = QByteArray(plain).replace("563]", "563],TOWGS84[1,2,3,4,5,6,7]");
-        row("seven", shifted, {1, 2, 3, 4, 5, 6, 7});
-        row("undefined projection", QByteArray(shifted).replace("Transverse_Mercator", "Unknown"),
-            {1, 2, 3, 4, 5, 6, 7});
-    }
-
-    void shifts() {
+        QFETCH(QByteArray, ellipsoid);
+        QFETCH(QByteArray, start);
+        QFETCH(QByteArray, shift);
         QFETCH(QByteArray, text);
-        QFETCH(QList<double>, shift);
-        const QList<double> read = shiftOf(projectionModule()->readWkt(text).definition);
+        const WktSystem system = projectionModule()->readWkt(text);
+        QVERIFY(system.content == WktSystem::Content::Projected);
+        QCOMPARE(system.name, name);
+        const QByteArray definition = define(system.definition);
+        QVERIFY2(definition.startsWith(start) && definition.contains("+proj=") != start.isEmpty(), definition);
+        // The ellipsoid and the shift are the text's in any case.
+        QCOMPARE(QByteArray(GetProjEllipsoid(InitializeProj(system.definition)).name), ellipsoid);
+        const QList<double> expected = numbersOf(shift.isEmpty() ? "0 0 0 0 0 0 0" : shift);
+        const QList<double> read = shiftOf(system.definition);
         for (int i = 0; i < 7; ++i)
-            QVERIFY2(std::abs(read[i] - shift[i]) < 1e-10, qPrintable(QString::number(read[i], 'g', 17)));
+            QVERIFY2(std::abs(read[i] - expected[i]) < 1e-10, QByteArray::number(read[i], 'g', 17));
+    }
+
+    void others_data() {
+        const Rows<QByteArray, bool> row({"text", "isReadable"});
+        const QByteArray system = textTable("projected.txt").first().last();
+        row("geographic", system.mid(system.indexOf("GEOGCS"), system.indexOf(",PROJECTION") - 11), true);
+        row("local", R"(LOCAL_CS["Unknown",UNIT["Meter",1.0]])", true);
+        row("empty", "", false);
+        row("cut off", system.chopped(1), false);
+        row("PROJ.4", "+proj=utm +zone=31", false);
+        row("code", "EPSG:32631", false);
+        row("binary", QByteArray::fromHex("89504e470d0a1a0affd8ffe0"), false);
+        row("brackets only", QByteArray(90000, '['), false);
+        row("nested without end", QByteArray("PROJCS[\"a\",").repeated(9000), false);
+        row("more than GDAL takes", system + QByteArray(200000, 'x'), false);
+    }
+
+    void others() {
+        QFETCH(QByteArray, text);
+        QFETCH(bool, isReadable);
+        const WktSystem system = projectionModule()->readWkt(text);
+        QVERIFY(system.content == (isReadable ? WktSystem::Content::NotProjected : WktSystem::Content::Unreadable));
+        QCOMPARE(system.name, QByteArray());
     }
 
     void nothingReachesTheTerminal() {
@@ -103,8 +64,9 @@ private Q_SLOTS:
         QVERIFY(terminal.open());
         std::fflush(stderr);
         QVERIFY(std::freopen(QFile::encodeName(terminal.fileName()).constData(), "w", stderr));
-        for (const QByteArray& text :
-             {QByteArray("rubbish"), wkt("Unknown", transverseMercator), QByteArray(200000, 'x')})
+        for (const QByteArrayList& columns : textTable("projected.txt"))
+            InitializeProj(projectionModule()->readWkt(columns.last()).definition);
+        for (const QByteArray& text : {QByteArray("rubbish"), QByteArray(200000, 'x')})
             projectionModule()->readWkt(text);
         for (const char* text : {"+proj=omerc +lat_0=4 +alpha=x", "+proj=tmerc +foo +lat_0=99", "+proj=pipeline +step"})
             InitializeProj(text);
