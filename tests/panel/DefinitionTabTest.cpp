@@ -84,8 +84,9 @@ private Q_SLOTS:
                                   .with("remark", "mine")
                                   .record(),
                              PanelOnScreen::Definition);
-        const auto choose = [&](const QString& search, bool accept) {
+        const auto choose = [&](const QString& search, bool accept, bool deprecatedToo = false) {
             ModalDriver::onNextDialog([=](QDialog* dialog) {
+                dialog->findChild<QCheckBox*>()->setChecked(deprecatedToo);
                 QTest::keyClicks(dialog->findChild<QLineEdit*>(), search);
                 auto* buttons = dialog->findChild<QDialogButtonBox*>();
                 buttons->button(accept ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel)->click();
@@ -117,8 +118,8 @@ private Q_SLOTS:
         QVERIFY(!screen.value("_7dx"));
         QCOMPARE(screen.value("datum_name"), "European Terrestrial Reference System 1989");
         QCOMPARE(screen.edits.count(), 2);
-        choose("2163", true); // whose datum the registry leaves open
-        QVERIFY(!screen.value("datum_name") && QByteArray(screen.value("source")).startsWith("EPSG:2163, "));
+        choose("3411", true, true); // whose datum the registry leaves open
+        QVERIFY(!screen.value("datum_name") && QByteArray(screen.value("source")).startsWith("EPSG:3411, "));
 
         PanelOnScreen readOnly(*SampleRecord::named("UTM").record(), PanelOnScreen::Definition, true);
         QVERIFY(!readOnly.find<QPushButton>("From registry...")->isEnabled());

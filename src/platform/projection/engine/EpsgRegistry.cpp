@@ -15,26 +15,15 @@ namespace {
 
 constexpr const char* authority = "EPSG";
 
-/// A bounding box in degrees; west > east when it crosses the antimeridian.
-struct Box {
-    double west, south, east, north;
-
-    bool contains(double latitude, double longitude) const {
-        const bool isBetween =
-            west <= east ? longitude >= west && longitude <= east : longitude >= west || longitude <= east;
-        return isBetween && latitude >= south && latitude <= north;
-    }
-};
-
-std::optional<Box> areaOf(PJ_CONTEXT* context, const PJ* object) {
-    Box box{};
+std::optional<GeographicBox> areaOf(PJ_CONTEXT* context, const PJ* object) {
+    GeographicBox box{};
     const bool isKnown =
         proj_get_area_of_use(context, object, &box.west, &box.south, &box.east, &box.north, nullptr) != 0;
-    return isKnown ? std::optional<Box>(box) : std::nullopt;
+    return isKnown ? std::optional<GeographicBox>(box) : std::nullopt;
 }
 
 /// The operations from a geographic system to WGS 84 that meet the given area, PROJ's first choice first.
-PJ_OBJ_LIST* operationsToWgs84(PJ_CONTEXT* context, const PJ* geographic, const std::optional<Box>& area) {
+PJ_OBJ_LIST* operationsToWgs84(PJ_CONTEXT* context, const PJ* geographic, const std::optional<GeographicBox>& area) {
     PJ_OPERATION_FACTORY_CONTEXT* factory = proj_create_operation_factory_context(context, authority);
     if (area)
         proj_operation_factory_context_set_area_of_interest(context, factory, area->west, area->south, area->east,
@@ -146,8 +135,19 @@ std::vector<RegistryShift> EpsgRegistry::datumShifts(const QByteArray& code) {
 }
 
 std::vector<RegistryShift> EpsgRegistry::datumShiftsAt(const QByteArray& datumName, double latitude, double longitude) {
-    constexpr double aMetre = 1e-5;
+    auto known = shiftsOfDatums.constFind(datumName);
+    if (known == shiftsOfDatums.constEnd())
+        known = shiftsOfDatums.insert(datumName, readShifts(datumName));
     std::vector<RegistryShift> shifts;
+    for (const PlacedShift& placed : *known) {
+        if (placed.area.contains(latitude, longitude))
+            shifts.push_back(placed.shift);
+    }
+    return shifts;
+}
+
+std::vector<EpsgRegistry::PlacedShift> EpsgRegistry::readShifts(const QByteArray& datumName) {
+    std::vector<PlacedShift> shifts;
     datumNames();
     const auto code = datumCodes.constFind(datumName);
     if (code == datumCodes.constEnd())
@@ -158,15 +158,13 @@ std::vector<RegistryShift> EpsgRegistry::datumShiftsAt(const QByteArray& datumNa
         const ProjObject geographic(proj_list_get(context.get(), systems, i));
         if (proj_is_deprecated(geographic.get()))
             continue;
-        PJ_OBJ_LIST* operations =
-            operationsToWgs84(context.get(), geographic.get(),
-                              Box{longitude - aMetre, latitude - aMetre, longitude + aMetre, latitude + aMetre});
+        PJ_OBJ_LIST* operations = operationsToWgs84(context.get(), geographic.get(), std::nullopt);
         for (int j = 0; j < proj_list_get_count(operations); ++j) {
             const ProjObject operation(proj_list_get(context.get(), operations, j));
             const auto area = areaOf(context.get(), operation.get());
             const auto shift = shiftOf(context.get(), operation.get());
-            if (shift && area && area->contains(latitude, longitude))
-                shifts.push_back(*shift);
+            if (shift && area)
+                shifts.push_back({*area, *shift});
         }
         proj_list_destroy(operations);
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/projection/IEpsgRegistry.h"
+#include "platform/projection/engine/proj/GeographicBox.h"
 #include "platform/projection/engine/proj/ProjObject.h"
 
 #include <QHash>
@@ -24,12 +25,19 @@ public:
     std::vector<RegistryEllipsoid> ellipsoids() override;
 
 private:
+    struct PlacedShift {
+        GeographicBox area;
+        RegistryShift shift;
+    };
+
     ProjObject system(const QByteArray& code) const;
     void readSystems();
     void readDatums();
+    std::vector<PlacedShift> readShifts(const QByteArray& datumName);
 
     ProjContext& context;
     std::vector<RegistrySystem> systems;
     std::vector<QByteArray> datums;
     QHash<QByteArray, QByteArray> datumCodes; ///< by the name in `datums`
+    QHash<QByteArray, std::vector<PlacedShift>> shiftsOfDatums;
 };
