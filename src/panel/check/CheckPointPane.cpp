@@ -1,5 +1,6 @@
 #include "panel/check/CheckPointPane.h"
 
+#include "catalogue/CoordParamKey.h"
 #include "panel/computing/DistortionLines.h"
 #include "panel/computing/ShiftEstimate.h"
 #include "panel/computing/ShownSystem.h"
@@ -203,6 +204,8 @@ bool CheckPointPane::isComplete() const {
 
 /// Why there is nothing on WGS 84, and how far off the own datum's figures are there as far as the registry knows.
 QString CheckPointPane::unknownShiftText() const {
+    if (QByteArray(system->record().getValue(CoordParamKey::datumName)) == "World Geodetic System 1984")
+        return PanelText::tr("the same: the system's datum is WGS 84");
     const QString unknown = PanelText::tr("unknown: the system defines no datum shift");
     IProjectionModule* const module = projectionModule();
     const auto estimate =
