@@ -12,7 +12,8 @@ private Q_SLOTS:
     /// Caister Water Tower: 52 39 27.2531 N 1 43 4.5177 E on OSGB36 and 52 39 28.8282 N 1 42 57.8663 E on ETRS89 (the
     /// Ordnance Survey's guide to coordinate systems in Great Britain) are 134 m apart.
     void moves_data() {
-        const Rows<QByteArray, QByteArray, double, bool, double> row({"system", "datum", "latitude", "isKnown", "metres"});
+        const Rows<QByteArray, QByteArray, double, bool, double> row(
+            {"system", "datum", "latitude", "isKnown", "metres"});
         const QByteArray british = "British grid";
         row("OSGB36 at Caister", british, "Ordnance Survey of Great Britain 1936", 52.6575703, true, 134.0);
         row("the same as WGS 84", "UTM", "European Terrestrial Reference System 1989", 52.6575703, true, 0.0);
