@@ -128,6 +128,11 @@ void ProjectionTab::_onNotationChosen() {
 void ProjectionTab::_onEdited() {
     // A scale factor makes the one transverse Mercator method of the other; their fields are the same.
     showMethod();
+    // And the origin says on which side of the equator a standard parallel lies.
+    for (FieldRow* row : qAsConst(rows)) {
+        if (row != sender())
+            row->showValue();
+    }
     showAdvice();
     recordChanged();
 }

@@ -118,6 +118,17 @@ private Q_SLOTS:
         QCOMPARE(screen.edits.count(), 0);
     }
 
+    /// The record keeps the radius of a standard parallel, which has no sign: the origin says on which side it lies.
+    void parallelFollowsTheOriginsSide() {
+        const PanelOnScreen screen(*PanelRecords::imported(ProjectionMethod::Stereographic));
+        screen.type("Latitude of origin", "0");
+        screen.type("Standard parallel", "3.5");
+        for (const char* side : {"-", ""}) {
+            screen.type("Latitude of origin", QString(side) + "90");
+            QCOMPARE(screen.shown("Standard parallel"), QString(side) + "3.5");
+        }
+    }
+
     void goesThroughFieldsByTab() {
         PanelOnScreen screen(*PanelRecords::fresh());
         for (const ProjectionFields& projection : ProjectionFields::all()) {
