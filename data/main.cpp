@@ -1,6 +1,7 @@
 #include "ShippedEllipsoid.h"
 #include "StarterSelection.h"
 #include "catalogue/CatalogueRecordKey.h"
+#include "catalogue/CoordParamKey.h"
 #include "import/CoordParamToProjDefine.h"
 #include "import/WktToCoordParam.h"
 #include "platform/projection/IProjectionModule.h"
@@ -26,13 +27,19 @@ RecordFile ellipsoidContent(IEpsgRegistry& registry) {
     return file;
 }
 
-/// The system as an import of its WKT gives it, added to the group where a record can hold it.
+/// The system as an import of its WKT gives it, with its datum's name and where it is from, added to the group where a
+/// record can hold it.
 void addSystem(CoordSysGroup& group, IEpsgRegistry& registry, const QByteArray& code) {
     if (registry.unitName(code) != "metre")
         return;
     const DictionaryGuard record;
-    if (WktToCoordParam::write(registry.wkt(code, nullptr), record.get()) && coordParamDefinesProjection(*record))
-        group.systems.append(record.get());
+    if (!WktToCoordParam::write(registry.wkt(code, nullptr), record.get()) || !coordParamDefinesProjection(*record))
+        return;
+    const QByteArray datum = registry.datumName(code);
+    if (!datum.isEmpty())
+        record->setText(CoordParamKey::datumName, datum.constData());
+    record->setText(CoordParamKey::source, ("EPSG:" + code + ", " + registry.edition()).constData());
+    group.systems.append(record.get());
 }
 
 SystemFile systemContent(IEpsgRegistry& registry, const QString& rulesPath) {

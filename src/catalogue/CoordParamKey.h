@@ -32,6 +32,11 @@ constexpr const char* shiftRz = "_7rz";
 constexpr const char* shiftPpm = "_7ppm";       ///< scale difference in parts per million
 constexpr const char* geoidName = "geoid_name"; ///< geoid model of the system's heights
 
+// What the parameter panel notes about a system, in words. Nothing is computed from them, and an import writes none.
+constexpr const char* datumName = "datum_name"; ///< as the EPSG registry names it, or any other name
+constexpr const char* source = "source";        ///< where the figures are from: "EPSG:25832, EPSG v10.076, 2022-11-25"
+constexpr const char* remark = "remark";        ///< anything worth knowing
+
 } // namespace CoordParamKey
 
 /// The values of "project_type". There is no 5.

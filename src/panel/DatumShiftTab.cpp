@@ -5,12 +5,18 @@
 #include "panel/field/ChoiceBox.h"
 #include "panel/field/FieldRow.h"
 #include "panel/field/MessageLine.h"
+#include "panel/field/SearchBox.h"
+#include "panel/field/TextField.h"
 #include "panel/record/CoordParamEditor.h"
 #include "panel/record/DatumFields.h"
 #include "panel/record/PanelText.h"
+#include "platform/projection/IEpsgRegistry.h"
+#include "platform/projection/IProjectionModule.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 
 namespace {
@@ -22,23 +28,39 @@ constexpr int sevenParameters = 2;
 
 DatumShiftTab::DatumShiftTab(CoordParamEditor& editor, bool readOnly, QWidget* parent)
     : ParamTab(editor, readOnly, parent)
+    , datumBox(new SearchBox)
+    , datumField(new TextField(editor, CoordParamKey::datumName, datumBox))
     , kindBox(new ChoiceBox)
-    , convention(new QLabel)
+    , kindRemark(new QLabel)
+    , convention(new QLabel(PanelText::tr(
+          "Rotations in the position-vector convention (EPSG 9606, PROJ towgs84). Figures published in the "
+          "coordinate-frame convention (EPSG 9607): type them as they are, then reverse their signs.")))
     , reverseButton(new QPushButton(PanelText::tr("Reverse rotation signs")))
     , reverseMessage(new MessageLine) {
     auto* grid = new QGridLayout(this);
-    grid->setVerticalSpacing(1);
+    grid->setVerticalSpacing(0);
+    auto* datumLabel = new QLabel(PanelText::tr("Datum"));
+    datumLabel->setBuddy(datumBox);
+    datumBox->setAccessibleName(datumLabel->text());
+    datumBox->setToolTip(PanelText::tr("Stands in exported definitions; nothing is computed from it."));
+    datumBox->lineEdit()->setPlaceholderText(PanelText::tr("unknown"));
+    datumBox->setReadOnly(readOnly);
+    grid->addWidget(datumLabel, 0, 0);
+    grid->addWidget(datumBox, 0, 1, 1, 3);
     auto* kindLabel = new QLabel(PanelText::tr("Shift to WGS 84"));
     kindLabel->setBuddy(kindBox);
     kindBox->setAccessibleName(kindLabel->text());
     kindBox->addItem(PanelText::tr("None"), none);
     kindBox->addItem(PanelText::tr("Seven parameters (three: the rest 0)"), sevenParameters);
     kindBox->setEnabled(!readOnly);
-    grid->addWidget(kindLabel, 0, 0);
-    grid->addWidget(kindBox, 0, 1, 1, 3, Qt::AlignLeft);
-    grid->setRowMinimumHeight(1, 10);
+    grid->addWidget(kindLabel, 1, 0);
+    grid->addWidget(kindBox, 1, 1, 1, 3, Qt::AlignLeft);
+    grid->setRowMinimumHeight(2, 4);
+    kindRemark->setWordWrap(true);
+    grid->addWidget(kindRemark, 3, 0, 1, 4);
 
-    int line = 2;
+    constexpr int firstRow = 4;
+    int line = firstRow;
     for (const ParamField& field : DatumFields::shift()) {
         auto* row = new FieldRow(editor, readOnly, grid, line);
         row->setField(&field);
@@ -47,12 +69,17 @@ DatumShiftTab::DatumShiftTab(CoordParamEditor& editor, bool readOnly, QWidget* p
         line += 2;
     }
     convention->setWordWrap(true);
-    grid->addWidget(convention, line, 0, 1, 4);
-    grid->setRowMinimumHeight(line + 1, 6);
-    grid->addWidget(reverseButton, line + 2, 0, 1, 2, Qt::AlignLeft);
-    grid->addWidget(reverseMessage, line + 3, 0, 1, 4);
-    grid->setRowStretch(line + 4, 1);
+    // Beside the rows, where it costs no height.
+    convention->setAlignment(Qt::AlignTop);
+    grid->addWidget(convention, firstRow, 3, line - firstRow, 1);
+    auto* reverseRow = new QHBoxLayout;
+    reverseRow->addWidget(reverseButton);
+    reverseRow->addWidget(reverseMessage, 1);
+    grid->addLayout(reverseRow, line + 1, 0, 1, 4);
+    grid->setRowStretch(line + 2, 1);
 
+    connect(datumBox, SIGNAL(listNeeded()), this, SLOT(_onListNeeded()));
+    connect(datumField, SIGNAL(edited()), this, SLOT(_onDatumEdited()));
     connect(kindBox, SIGNAL(activated(int)), this, SLOT(_onKindActivated(int)));
     connect(reverseButton, SIGNAL(clicked()), this, SLOT(_onReverseClicked()));
 }
@@ -62,6 +89,7 @@ QString DatumShiftTab::title() const {
 }
 
 void DatumShiftTab::showRecord() {
+    datumField->showValue();
     showKind();
     for (FieldRow* row : qAsConst(rows))
         row->showValue();
@@ -80,15 +108,10 @@ void DatumShiftTab::showKind() {
     reverseButton->setVisible(isSeven);
     reverseMessage->setVisible(isSeven);
 
-    if (isSeven)
-        convention->setText(
-            PanelText::tr("Rotations in the position-vector convention (EPSG 9606, PROJ towgs84). Figures published "
-                          "in the coordinate-frame convention (EPSG 9607): type them as they are, then reverse "
-                          "their signs."));
-    else if (kind == none)
-        convention->setText(PanelText::tr("The system's datum counts as WGS 84."));
-    else
-        convention->setText(PanelText::tr("This kind of shift is unknown here; it is kept as it is."));
+    convention->setVisible(isSeven);
+    kindRemark->setVisible(!isSeven);
+    kindRemark->setText(kind == none ? PanelText::tr("Without a shift, coordinates on WGS 84 are unknown.")
+                                     : PanelText::tr("This kind of shift is unknown here; it is kept as it is."));
 }
 
 void DatumShiftTab::showRemarks() {
@@ -103,6 +126,20 @@ void DatumShiftTab::showRemarks() {
     }
     reverseButton->setEnabled(turns && !isReadOnly());
     reverseMessage->setMessage(QString(), MessageLine::Tone::Hint);
+}
+
+void DatumShiftTab::_onListNeeded() {
+    IProjectionModule* const module = datumBox->count() == 0 ? projectionModule() : nullptr;
+    if (!module)
+        return;
+    QStringList names;
+    for (const QByteArray& name : module->registry().datumNames())
+        names.append(QString::fromUtf8(name));
+    datumBox->setNames(names);
+}
+
+void DatumShiftTab::_onDatumEdited() {
+    recordChanged();
 }
 
 void DatumShiftTab::_onKindActivated(int index) {

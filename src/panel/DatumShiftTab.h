@@ -9,8 +9,10 @@ class FieldRow;
 class MessageLine;
 class QLabel;
 class QPushButton;
+class SearchBox;
+class TextField;
 
-/// The tab "Datum shift": none, or the seven parameters from the system's datum to WGS 84.
+/// The tab "Datum shift": the name of the system's datum, and its shift to WGS 84: none, or the seven parameters.
 class DatumShiftTab : public ParamTab {
     Q_OBJECT
 
@@ -23,6 +25,8 @@ protected:
     void showRecord() override;
 
 private Q_SLOTS:
+    void _onListNeeded();
+    void _onDatumEdited();
     void _onKindActivated(int index);
     void _onReverseClicked();
     void _onEdited();
@@ -31,8 +35,11 @@ private:
     void showKind();
     void showRemarks();
 
+    SearchBox* datumBox;
+    TextField* datumField;
     ChoiceBox* kindBox;
     QVector<FieldRow*> rows;
+    QLabel* kindRemark;
     QLabel* convention;
     QPushButton* reverseButton;
     MessageLine* reverseMessage;

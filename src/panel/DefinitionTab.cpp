@@ -6,17 +6,21 @@
 #include "import/WktToCoordParam.h"
 #include "panel/field/ChoiceBox.h"
 #include "panel/field/CopyButton.h"
+#include "panel/field/FieldEdit.h"
 #include "panel/field/MessageLine.h"
+#include "panel/field/TextField.h"
 #include "panel/record/CoordParamEditor.h"
 #include "panel/record/DefinitionState.h"
 #include "panel/record/PanelText.h"
 #include "panel/record/RecordDifferences.h"
+#include "panel/record/RecordWkt.h"
 #include "panel/registry/RegistryDialog.h"
 #include "platform/desktop/VornMessageBox.h"
 #include "platform/projection/IProjectionModule.h"
 
 #include <QFileDialog>
 #include <QFontDatabase>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -71,9 +75,6 @@ void DefinitionTab::build() {
     wktText->setLineWrapMode(QPlainTextEdit::NoWrap);
     remarkLine = new MessageLine;
 
-    registryButton = new QPushButton(PanelText::tr("From registry..."));
-    registryButton->setEnabled(!isReadOnly());
-
     auto* definitionRow = new QHBoxLayout;
     definitionRow->addWidget(new QLabel(PanelText::tr("PROJ definition")));
     definitionRow->addStretch();
@@ -94,7 +95,9 @@ void DefinitionTab::build() {
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(problemLine);
     layout->addWidget(content, 1);
-    layout->addWidget(registryButton, 0, Qt::AlignLeft);
+    auto* notes = new QGridLayout;
+    buildNotes(notes);
+    layout->addLayout(notes);
     connect(dialectBox, SIGNAL(activated(int)), this, SLOT(_onDialectChosen()));
     connect(copyDefinitionButton, SIGNAL(clicked()), this, SLOT(_onCopyDefinition()));
     connect(copyWktButton, SIGNAL(clicked()), this, SLOT(_onCopyWkt()));
@@ -102,9 +105,34 @@ void DefinitionTab::build() {
     connect(registryButton, SIGNAL(clicked()), this, SLOT(_onFromRegistry()));
 }
 
+void DefinitionTab::buildNotes(QGridLayout* grid) {
+    const auto addNote = [&](int line, int columns, const QString& name, const char* key) {
+        auto* edit = new FieldEdit;
+        edit->setWide();
+        if (isReadOnly())
+            edit->setShownOnly();
+        auto* label = new QLabel(name);
+        label->setBuddy(edit);
+        edit->setAccessibleName(name);
+        grid->addWidget(label, line, 0);
+        grid->addWidget(edit, line, 1, 1, columns);
+        auto* field = new TextField(editor(), key, edit);
+        connect(field, SIGNAL(edited()), this, SLOT(_onNoteEdited()));
+        return field;
+    };
+    grid->setVerticalSpacing(3);
+    source = addNote(0, 1, PanelText::tr("Where from"), CoordParamKey::source);
+    registryButton = new QPushButton(PanelText::tr("From registry..."));
+    registryButton->setEnabled(!isReadOnly());
+    grid->addWidget(registryButton, 0, 2);
+    note = addNote(1, 2, PanelText::tr("Remark"), CoordParamKey::remark);
+}
+
 void DefinitionTab::showRecord() {
     if (!content)
         build();
+    source->showValue();
+    note->showValue();
     const DefinitionState state = DefinitionState::of(record());
     definition = state.definition;
     problemLine->setMessage(state.problem, MessageLine::Tone::Error);
@@ -115,12 +143,8 @@ void DefinitionTab::showRecord() {
 }
 
 QByteArray DefinitionTab::wkt(bool indented) const {
-    if (definition.isEmpty())
-        return {};
-    const QString name = QString::fromLocal8Bit(record().getValue(CoordParamKey::name));
-    const QString ellipsoid = QString::fromLocal8Bit(record().getValue(CoordParamKey::ellipsoidName));
-    return projectionModule()->exportWkt(definition, name.toUtf8(), ellipsoid.toUtf8(),
-                                         WktDialect(dialectBox->currentData().toInt()), indented);
+    return definition.isEmpty() ? QByteArray()
+                                : recordWkt(record(), WktDialect(dialectBox->currentData().toInt()), indented);
 }
 
 void DefinitionTab::showWkt() {
@@ -182,7 +206,17 @@ void DefinitionTab::_onFromRegistry() {
     if (dialog.exec() != QDialog::Accepted || !WktToCoordParam::write(dialog.wkt(), chosen.get()))
         return;
     chosen->remove(CoordParamKey::name);
+    const auto set = [&](const char* key, const QByteArray& text) {
+        if (!text.isEmpty())
+            chosen->setText(key, QString::fromUtf8(text).toLocal8Bit().constData());
+    };
+    set(CoordParamKey::datumName, dialog.datumName());
+    set(CoordParamKey::source, dialog.source());
     editor().replaceValues(*chosen);
     showRecord();
+    recordChanged();
+}
+
+void DefinitionTab::_onNoteEdited() {
     recordChanged();
 }

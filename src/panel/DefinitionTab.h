@@ -7,10 +7,12 @@ class ChoiceBox;
 class CopyButton;
 class MessageLine;
 class QPlainTextEdit;
+class QGridLayout;
 class QPushButton;
+class TextField;
 
-/// The tab "Definition": the record as PROJ definition and as WKT, to copy and to save as a .prj file, and the way to
-/// take another definition over from the registry.
+/// The tab "Definition": the record as PROJ definition and as WKT, to copy and to save as a .prj file; where it is
+/// from, and the way to take another definition over from the registry.
 ///
 /// Nothing is built or computed before the tab is first shown.
 class DefinitionTab : public ParamTab {
@@ -30,9 +32,11 @@ private Q_SLOTS:
     void _onCopyWkt();
     void _onSave();
     void _onFromRegistry();
+    void _onNoteEdited();
 
 private:
     void build();
+    void buildNotes(QGridLayout* grid);
     QByteArray wkt(bool indented) const;
     void showWkt();
     QString remark(const QByteArray& text) const;
@@ -47,5 +51,7 @@ private:
     MessageLine* remarkLine = nullptr;
     QPushButton* saveButton = nullptr;
     CopyButton* copyWktButton = nullptr;
+    TextField* source = nullptr;
+    TextField* note = nullptr;
     QPushButton* registryButton = nullptr;
 };

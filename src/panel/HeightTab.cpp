@@ -81,7 +81,7 @@ void HeightTab::_onListNeeded() {
 }
 
 void HeightTab::_onChosen(const QString& name) {
-    editor().setGeoid(name == PanelText::tr("(none)") ? "" : name.toLocal8Bit().constData());
+    editor().setText(CoordParamKey::geoidName, name == PanelText::tr("(none)") ? QString() : name);
     showRecord();
     recordChanged();
 }

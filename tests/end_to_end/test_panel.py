@@ -137,6 +137,8 @@ class Panel(tool.ToolTest):
         press("Escape")
         self.tool.gone("From registry")
         press("Tab")
+        wait_for(lambda: self.tool.tab("Definition").find("text", "Remark").focused, "the field behind the button")
+        press("Tab")
         wait_for(lambda: self.tool.button("Add").focused, "the window's buttons after the tab's last one")
         self.assert_shown("Projection", {"False easting": 1000000})
 

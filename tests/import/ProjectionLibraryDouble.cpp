@@ -56,8 +56,7 @@ WktSystem ProjectionLibraryDouble::readWkt(const QByteArray& wkt) {
     return system;
 }
 
-QByteArray ProjectionLibraryDouble::exportWkt(const QByteArray&, const QByteArray&, const QByteArray&, WktDialect,
-                                              bool) {
+QByteArray ProjectionLibraryDouble::exportWkt(const QByteArray&, const WktNames&, WktDialect, bool) {
     qFatal("The import writes no WKT.");
 }
 

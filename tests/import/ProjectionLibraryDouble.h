@@ -32,7 +32,7 @@ public:
     ProjTowgs84 towgs84(ProjHandle handle) override;
     WktSystem readWkt(const QByteArray& wkt) override;
 
-    QByteArray exportWkt(const QByteArray&, const QByteArray&, const QByteArray&, WktDialect, bool) override;
+    QByteArray exportWkt(const QByteArray&, const WktNames&, WktDialect, bool) override;
     std::unique_ptr<IProjectedSystem> createSystem(const QByteArray&) override;
     IEpsgRegistry& registry() override;
 

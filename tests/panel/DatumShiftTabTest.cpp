@@ -41,6 +41,41 @@ private Q_SLOTS:
         screen.choose("Shift to WGS 84", 1);
         QCOMPARE(recordText(screen.record()), before);
     }
+
+    void namesDatum() {
+        const DictionaryGuard record = PanelRecords::imported(ProjectionMethod::TransverseMercator);
+        const QStringList before = recordText(*record);
+        PanelOnScreen screen(*record, PanelOnScreen::Shift);
+        auto* box = screen.find<QComboBox>("Datum");
+        QCOMPARE(box->count(), 0); // read when it is needed
+        box->showPopup();
+        box->hidePopup();
+        QVERIFY(box->findText("Deutsches Hauptdreiecksnetz") >= 0);
+        QCOMPARE(recordText(screen.record()), before);
+
+        screen.choose("Datum", box->findText("Deutsches Hauptdreiecksnetz"));
+        QCOMPARE(screen.value(Key::datumName), "Deutsches Hauptdreiecksnetz");
+        // It is not of the shift or the ellipsoid: they change without it.
+        screen.choose("Shift to WGS 84", 0);
+        box->lineEdit()->selectAll();
+        QTest::keyClicks(box, "Own");
+        screen.panel.setCurrentIndex(PanelOnScreen::Ellipsoid);
+        screen.choose("Ellipsoid", 2);
+        QCOMPARE(screen.value(Key::datumName), "Own");
+        screen.panel.setCurrentIndex(PanelOnScreen::Definition);
+        QApplication::processEvents();
+        QVERIFY(screen.find<QPlainTextEdit>("WKT")->toPlainText().contains("DATUM[\"D_Own\""));
+        QTest::mouseClick(screen.button("Back to the values before"), Qt::LeftButton);
+        QCOMPARE(recordText(screen.record()), before);
+        screen.panel.setCurrentIndex(PanelOnScreen::Shift);
+        QCOMPARE(box->currentText(), QString());
+
+        const PanelOnScreen readOnly(*record, PanelOnScreen::Shift, true);
+        readOnly.find<QComboBox>("Datum")->showPopup();
+        QCOMPARE(readOnly.find<QComboBox>("Datum")->count(), 0);
+        QTest::keyClicks(readOnly.find<QComboBox>("Datum"), "x");
+        QCOMPARE(recordText(readOnly.record()), before);
+    }
 };
 
 ROOM_TEST(DatumShiftTabTest)

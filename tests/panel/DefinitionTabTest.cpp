@@ -4,6 +4,7 @@
 #include "support/MessageBoxDouble.h"
 #include "support/ModalDriver.h"
 #include "support/PanelOnScreen.h"
+#include "support/PanelRecords.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 #include "support/SampleRecords.h"
@@ -77,11 +78,15 @@ private Q_SLOTS:
     }
 
     void fromRegistry() {
-        PanelOnScreen screen(
-            *SampleRecord::named("Mercator with parallel").with("name", "Mine").with("unknown_key", "kept").record(),
-            PanelOnScreen::Definition);
-        const auto choose = [&](const QString& search, bool accept) {
+        PanelOnScreen screen(*SampleRecord::named("Mercator with parallel")
+                                  .with("name", "Mine")
+                                  .with("unknown_key", "kept")
+                                  .with("remark", "mine")
+                                  .record(),
+                             PanelOnScreen::Definition);
+        const auto choose = [&](const QString& search, bool accept, bool deprecatedToo = false) {
             ModalDriver::onNextDialog([=](QDialog* dialog) {
+                dialog->findChild<QCheckBox*>()->setChecked(deprecatedToo);
                 QTest::keyClicks(dialog->findChild<QLineEdit*>(), search);
                 auto* buttons = dialog->findChild<QDialogButtonBox*>();
                 buttons->button(accept ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel)->click();
@@ -100,15 +105,47 @@ private Q_SLOTS:
         QCOMPARE(screen.number("factor"), 0.9996012717);
         QCOMPARE(screen.value("_7type"), "2"); // the registry's first shift
         QCOMPARE(screen.value("_7dx"), "446.448000");
+        QCOMPARE(screen.value("datum_name"), "Ordnance Survey of Great Britain 1936");
+        const QRegularExpression source("^EPSG:27700, EPSG v[0-9.]+, 20[0-9]{2}-[0-9]{2}-[0-9]{2}$");
+        QVERIFY(source.match(screen.value("source")).hasMatch());
+        QCOMPARE(screen.shown("Where from"), QString(screen.value("source")));
+        QCOMPARE(screen.value("remark"), "mine");
+        QVERIFY(screen.find<QPlainTextEdit>("WKT")->toPlainText().contains("DATUM[\"D_OSGB_1936\""));
         QVERIFY(screen.find<QPlainTextEdit>("PROJ definition")->toPlainText().contains("+k_0=0.9996012717 "));
         // A system without a shift takes the old one away.
         choose("25833", true);
         QCOMPARE(screen.value("_7type"), "0");
         QVERIFY(!screen.value("_7dx"));
+        QCOMPARE(screen.value("datum_name"), "European Terrestrial Reference System 1989");
         QCOMPARE(screen.edits.count(), 2);
+        choose("3411", true, true); // whose datum the registry leaves open
+        QVERIFY(!screen.value("datum_name") && QByteArray(screen.value("source")).startsWith("EPSG:3411, "));
 
         PanelOnScreen readOnly(*SampleRecord::named("UTM").record(), PanelOnScreen::Definition, true);
         QVERIFY(!readOnly.find<QPushButton>("From registry...")->isEnabled());
+    }
+
+    void notes() {
+        // A system without a projection can be noted on as well.
+        const SampleRecord& sample = SampleRecord::named("UTM").with("project_type", "5").with("source", "a map");
+        const QStringList before = recordText(*sample.record());
+        PanelOnScreen screen(*sample.record(), PanelOnScreen::Definition);
+        QCOMPARE(screen.shown("Where from"), QString("a map"));
+        QCOMPARE(recordText(screen.record()), before);
+        screen.type("Where from", "sheet 12, 1936");
+        screen.field("Remark")->setFocus();
+        QApplication::clipboard()->setText("Bär's \"copy\""); // which no key types
+        screen.field("Remark")->paste();
+        QCOMPARE(QString::fromLocal8Bit(screen.value("source")), QString("sheet 12, 1936"));
+        QCOMPARE(QString::fromLocal8Bit(screen.value("remark")), QString("Bär's \"copy\""));
+        QCOMPARE(PanelRecords::changedKeys(before, screen.record()), QStringList({"remark", "source"}));
+        QTest::mouseClick(screen.button("Back to the values before"), Qt::LeftButton);
+        QCOMPARE(recordText(screen.record()), before);
+        QVERIFY(screen.shown("Remark").isEmpty());
+
+        const PanelOnScreen readOnly(*sample.record(), PanelOnScreen::Definition, true);
+        readOnly.type("Remark", "x");
+        QCOMPARE(recordText(readOnly.record()), before);
     }
 };
 

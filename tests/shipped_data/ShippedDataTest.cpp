@@ -135,6 +135,9 @@ private Q_SLOTS:
 
                 QVERIFY2(registry.contains(system.name), system.name);
                 const RegistrySystem entry = registry.take(system.name); // no other group has it
+                const QByteArray source = system.values->getValue(CoordParamKey::source);
+                QVERIFY2(source.startsWith("EPSG:" + entry.code + ", EPSG v"), source);
+                QVERIFY2(system.values->getValue(CoordParamKey::datumName), system.name);
                 const double width = entry.east - entry.west + (entry.east < entry.west ? 360.0 : 0.0);
                 const RegistryConversion conversion(context.get(), entry.code);
                 const auto projected = module->createSystem(coordParamToProjDefine(*system.values));

@@ -1,12 +1,15 @@
 #include "panel/check/CheckPointPane.h"
 
+#include "catalogue/CoordParamKey.h"
 #include "panel/computing/DistortionLines.h"
+#include "panel/computing/ShiftEstimate.h"
 #include "panel/computing/ShownSystem.h"
 #include "panel/field/CheckField.h"
 #include "panel/field/ChoiceBox.h"
 #include "panel/field/CopyButton.h"
 #include "panel/field/MessageLine.h"
 #include "panel/record/PanelText.h"
+#include "platform/projection/IProjectionModule.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -199,6 +202,24 @@ bool CheckPointPane::isComplete() const {
     return projection() && height->value() && (isPlace || isGridPoint);
 }
 
+/// Why there is nothing on WGS 84, and how far off the own datum's figures are there as far as the registry knows.
+QString CheckPointPane::unknownShiftText() const {
+    if (QByteArray(system->record().getValue(CoordParamKey::datumName)) == "World Geodetic System 1984")
+        return PanelText::tr("the same: the system's datum is WGS 84");
+    const QString unknown = PanelText::tr("unknown: the system defines no datum shift");
+    IProjectionModule* const module = projectionModule();
+    const auto estimate =
+        point && module ? ShiftEstimate::at(system->record(), *module, point->own) : std::optional<ShiftEstimate>();
+    if (!estimate)
+        return unknown;
+    const QString smallest = QString::number(estimate->smallest, 'f', 0);
+    const QString largest = QString::number(estimate->largest, 'f', 0);
+    return unknown + '\n' +
+           (smallest == largest
+                ? PanelText::tr("The registry's shifts move this point by %1 m.").arg(largest)
+                : PanelText::tr("The registry's shifts move this point by %1 to %2 m.").arg(smallest, largest));
+}
+
 void CheckPointPane::showResults() {
     const bool ownShown = datum() == CheckPoint::Datum::Own;
     const bool isShiftKnown = !projection() || projection()->hasDatumShift();
@@ -209,7 +230,7 @@ void CheckPointPane::showResults() {
     for (QLabel* result : results)
         result->setText(QStringLiteral("–"));
     if (!isShiftKnown)
-        results[OtherDatum]->setText(PanelText::tr("unknown: the system defines no datum shift"));
+        results[OtherDatum]->setText(unknownShiftText());
     else if (point)
         results[OtherDatum]->setText(placeText(ownShown ? *point->wgs84 : point->own));
     if (!point) {

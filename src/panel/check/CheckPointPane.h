@@ -56,6 +56,7 @@ private:
     bool isComplete() const;
     void showResults();
     void showClosingError();
+    QString unknownShiftText() const;
     QString placeText(const GeographicPoint& place) const;
 
     std::shared_ptr<const ShownSystem> system;

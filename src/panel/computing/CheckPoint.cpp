@@ -1,18 +1,10 @@
 #include "panel/computing/CheckPoint.h"
 
-#include "catalogue/Angle.h"
+#include "panel/computing/GroundDistance.h"
 
 #include <cmath>
 
 namespace {
-
-/// Metres between two places close to each other, on a sphere of the radius `radius`.
-double distance(const GeographicPoint& left, const GeographicPoint& right, double radius) {
-    const double north = Angle::toRadians(left.latitude - right.latitude) * radius;
-    const double east = Angle::toRadians(std::remainder(left.longitude - right.longitude, 360.0)) * radius *
-                        std::cos(Angle::toRadians(left.latitude));
-    return std::hypot(north, east, left.height - right.height);
-}
 
 /// Whether the system can tell where a point of that datum lies.
 bool knows(const IProjectedSystem& system, CheckPoint::Datum datum) {
@@ -44,7 +36,7 @@ std::optional<CheckPoint> CheckPoint::fromGeographic(const IProjectedSystem& sys
     if (datum == Datum::Wgs84)
         result->wgs84 = point;
     result->grid = *grid;
-    result->closingError = distance(*closing, point, system.meanRadius(point.latitude));
+    result->closingError = groundDistance(*closing, point, system.meanRadius(point.latitude));
     return result;
 }
 

@@ -14,6 +14,11 @@ void FieldEdit::setShownOnly() {
     setPalette(colors);
 }
 
+void FieldEdit::setWide() {
+    setMinimumWidth(0);
+    setMaximumWidth(QWIDGETSIZE_MAX);
+}
+
 void FieldEdit::setMarked(bool mark) {
     if (mark == marked)
         return;

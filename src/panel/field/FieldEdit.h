@@ -12,6 +12,9 @@ public:
     /// The value can be read and copied only, and looks like it.
     void setShownOnly();
 
+    /// Takes the width that the form gives it: for words.
+    void setWide();
+
     /// Marks a value that is refused.
     void setMarked(bool mark);
     bool isMarked() const { return marked; }

@@ -89,12 +89,16 @@ void SearchBox::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Escape:
         event->accept();
         completer()->popup()->hide();
+        if (takesAnyText) {
+            Q_EMIT cancelled();
+            return;
+        }
         setShownName(shown);
         lineEdit()->selectAll();
         return;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (lineEdit()->isModified() && filter->rowCount() == 1) {
+        if (!takesAnyText && lineEdit()->isModified() && filter->rowCount() == 1) {
             completer()->popup()->hide();
             choose(filter->index(0, 0).data().toString());
             return;
@@ -115,7 +119,11 @@ void SearchBox::keyPressEvent(QKeyEvent* event) {
 
 void SearchBox::focusOutEvent(QFocusEvent* event) {
     QComboBox::focusOutEvent(event);
-    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
+    if (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason)
+        return;
+    if (takesAnyText)
+        Q_EMIT left();
+    else
         setShownName(shown);
 }
 

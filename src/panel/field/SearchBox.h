@@ -6,7 +6,7 @@ class QSortFilterProxyModel;
 
 /// A list of names in which typing searches: names that hold every typed word are offered, whatever the case. A name
 /// that is not in the list can be shown, but only listed ones can be chosen; any other text gives way to the shown name
-/// when the user leaves, or presses Escape.
+/// when the user leaves, or presses Escape. A box that takes any text leaves the typed one to its owner.
 class SearchBox : public QComboBox {
     Q_OBJECT
 
@@ -14,6 +14,9 @@ public:
     explicit SearchBox(QWidget* parent = nullptr);
 
     void setReadOnly(bool on);
+
+    /// What is typed stands as it is: it need not be a listed name.
+    void setTakesAnyText() { takesAnyText = true; }
 
     /// The names to choose from.
     void setNames(const QStringList& names);
@@ -31,6 +34,10 @@ Q_SIGNALS:
     /// The user chose a listed name.
     void chosen(const QString& name);
 
+    /// Where any text is taken: the user pressed Escape, or went on to something else in the window.
+    void cancelled();
+    void left();
+
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -47,4 +54,5 @@ private:
     QSortFilterProxyModel* filter;
     QString shown;
     bool readOnly = false;
+    bool takesAnyText = false;
 };

@@ -6,6 +6,8 @@
 #include "panel/record/ProjectionFields.h"
 #include "panel/record/StandardParallel.h"
 
+#include <QString>
+
 #include <cmath>
 #include <cstring>
 
@@ -150,6 +152,14 @@ bool CoordParamEditor::type(const ParamField& field, const FieldInput& input) {
     return !now.isSame(before);
 }
 
+bool CoordParamEditor::typeText(const char* key, const QString& text) {
+    State before;
+    before.assign(now);
+    now.assign(beforeTyping);
+    setText(key, text);
+    return !now.isSame(before);
+}
+
 bool CoordParamEditor::cancelTyping() {
     const bool isSame = now.isSame(beforeTyping);
     now.assign(beforeTyping);
@@ -278,19 +288,23 @@ void CoordParamEditor::reverseRotations() {
     });
 }
 
-void CoordParamEditor::setGeoid(const char* name) {
+bool CoordParamEditor::setText(const char* key, const QString& text) {
+    State before;
+    before.assign(now);
     edit([&](IDictionary& record) {
-        if (name && *name)
-            record.setText(Key::geoidName, name);
+        if (text.isEmpty())
+            record.remove(key);
         else
-            record.remove(Key::geoidName);
+            record.setText(key, text.toLocal8Bit().constData());
     });
+    return !now.isSame(before);
 }
 
 void CoordParamEditor::replaceValues(const IDictionary& source) {
     const auto replace = [&](IDictionary& record) {
-        for (const ParamField& field : DatumFields::shift()) {
-            if (source.getValue(Key::shiftType))
+        if (source.getValue(Key::shiftType)) {
+            record.remove(Key::datumName);
+            for (const ParamField& field : DatumFields::shift())
                 record.remove(field.key);
         }
         for (int i = 0; i < source.count(); ++i)

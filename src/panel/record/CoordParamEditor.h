@@ -5,6 +5,7 @@
 
 #include <optional>
 
+class QString;
 struct FieldInput;
 struct ParamField;
 struct ProjectionFields;
@@ -27,8 +28,9 @@ public:
     void startTyping() { beforeTyping.assign(now); }
 
     /// Makes the record what it was before the typing, with what is typed now; with an input that is not valid, exactly
-    /// what it was. False when the record was that already.
+    /// what it was. False when the record was that already. typeText() is for a text, see setText().
     bool type(const ParamField& field, const FieldInput& input);
+    bool typeText(const char* key, const QString& text);
     bool cancelTyping();
 
     /// Takes over name, axis and flattening of an ellipsoid record, with the numbers behind the texts.
@@ -49,11 +51,12 @@ public:
     /// Reverses the three rotations: from the position-vector to the coordinate-frame convention or back.
     void reverseRotations();
 
-    /// The name of the geoid model; an empty name removes it.
-    void setGeoid(const char* name);
+    /// Sets a text that nothing else of the record depends on: a name, a remark. An empty one removes the key. False
+    /// when the record held it already.
+    bool setText(const char* key, const QString& text);
 
     /// Takes over every key of `source`, with the numbers behind the texts; the record's other keys stay. When `source`
-    /// says which datum shift there is ("_7type"), shift keys that it lacks are removed.
+    /// says which datum shift there is ("_7type"), shift keys and the datum's name, where it lacks them, are removed.
     void replaceValues(const IDictionary& source);
 
     /// Whether the record differs from the one that was set.

@@ -8,6 +8,7 @@
 #include "panel/registry/RegistryModel.h"
 
 #include <QCheckBox>
+#include <QDate>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -133,6 +134,17 @@ QByteArray RegistryDialog::wkt() const {
         return {};
     const int shift = shiftBox->currentIndex() - 1;
     return registry.wkt(system->code, shift < 0 ? nullptr : &shifts[std::size_t(shift)]);
+}
+
+QByteArray RegistryDialog::datumName() const {
+    const RegistrySystem* const system = selected();
+    return system ? registry.datumName(system->code) : QByteArray();
+}
+
+QByteArray RegistryDialog::source() const {
+    const RegistrySystem* const system = selected();
+    const QByteArray today = QDate::currentDate().toString(Qt::ISODate).toUtf8();
+    return system ? "EPSG:" + system->code + ", " + registry.edition() + ", " + today : QByteArray();
 }
 
 const RegistrySystem* RegistryDialog::selected() const {

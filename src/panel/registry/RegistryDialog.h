@@ -27,6 +27,13 @@ public:
     /// The chosen system with the chosen shift, as WKT 2 in UTF-8; empty before one is chosen.
     QByteArray wkt() const;
 
+    /// The name of the chosen system's datum, in UTF-8; empty where the registry leaves the datum open.
+    QByteArray datumName() const;
+
+    /// Where the chosen system is from, for people to read: "EPSG:25832, EPSG v10.076, 2026-11-25" with the registry's
+    /// edition and today's date.
+    QByteArray source() const;
+
 private Q_SLOTS:
     void _onSearchChanged();
     void _onSelectionChanged();

@@ -49,6 +49,22 @@ public:
     /// first (larger part of the area, then higher accuracy). Empty for an unknown code.
     virtual std::vector<RegistryShift> datumShifts(const QByteArray& code) = 0;
 
+    /// The shifts to WGS 84 that the registry has for the datum of that name and that are used at a place (degrees).
+    /// Empty for a name that is none of datumNames().
+    virtual std::vector<RegistryShift> datumShiftsAt(const QByteArray& datumName, double latitude,
+                                                     double longitude) = 0;
+
+    /// The names of all geodetic datums that count longitudes from Greenwich, in alphabetical order, without deprecated
+    /// ones. Read by the first call (about 0.05 s); empty when PROJ's database can't be found.
+    virtual const std::vector<QByteArray>& datumNames() = 0;
+
+    /// The name of the datum of the system `code`, counted from Greenwich: "CH1903", not "CH1903 (Bern)". Empty for an
+    /// unknown code, and where the registry leaves the datum open.
+    virtual QByteArray datumName(const QByteArray& code) = 0;
+
+    /// Which edition of the registry this is: "EPSG v10.076". Empty when PROJ's database can't be found.
+    virtual QByteArray edition() = 0;
+
     /// The system `code` as WKT 2:2019, with `shift` (may be null) as its shift to WGS 84. Empty for an unknown code.
     virtual QByteArray wkt(const QByteArray& code, const RegistryShift* shift) = 0;
 

@@ -3,6 +3,7 @@
 #include "platform/projection/IProjectedSystem.h"
 #include "platform/projection/ProjectionLibrary.h"
 #include "platform/projection/WktDialect.h"
+#include "platform/projection/WktNames.h"
 #include "platform/projection/WktSystem.h"
 
 #include <QByteArray>
@@ -29,10 +30,11 @@ public:
     /// mark. Nothing is written to the terminal, whatever it holds.
     virtual WktSystem readWkt(const QByteArray& wkt) = 0;
 
-    /// The definition as WKT, the system and its ellipsoid named as given; numbers with 15 digits. On one line, as
-    /// files hold it, or `indented` on many for reading. Empty when the dialect can't express the definition.
-    virtual QByteArray exportWkt(const QByteArray& definition, const QByteArray& name, const QByteArray& ellipsoidName,
-                                 WktDialect dialect, bool indented) = 0;
+    /// The definition as WKT, its parts named as given: letter for letter, but for blanks and what WKT 1 calls a datum
+    /// of the registry ("D_WGS_1984"). Numbers have 15 digits. On one line, as files hold it, or `indented` on many for
+    /// reading. Empty when the dialect can't express the definition.
+    virtual QByteArray exportWkt(const QByteArray& definition, const WktNames& names, WktDialect dialect,
+                                 bool indented) = 0;
 
     /// The system of a definition "+proj=... +a=... ..." with lengths in metres and longitudes from Greenwich; null
     /// when PROJ can't make a projection of it. An item +towgs84 (3 or 7 values) is the shift.

@@ -125,7 +125,7 @@ void FileDocument::parseBefore(ptrdiff_t damage, const FileKind& kind) {
     if (status == pugi::status_ok || status == pugi::status_end_element_mismatch)
         return;
     // That end stood in a comment, an instruction or a text that does not end itself: the parser's last node is a part.
-    pugi::xml_node part = document;
+    pugi::xml_node part = document.root();
     while (part.last_child())
         part = part.last_child();
     part.parent().remove_child(part);

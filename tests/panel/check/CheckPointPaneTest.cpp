@@ -151,6 +151,11 @@ private Q_SLOTS:
         QVERIFY(std::abs(result(screen, "On WGS 84").section("°", 0, 0).toDouble() - shifted->latitude) < 1e-9);
         QVERIFY(isOffered());
         const QString unknown = "unknown: the system defines no datum shift";
+        screen.show(*SampleRecord::named("UTM").with("datum_name", "World Geodetic System 1984").record());
+        QCOMPARE(result(screen, "On WGS 84"), QString("the same: the system's datum is WGS 84"));
+        // EPSG 1238 on the equator: 0.554 arc-seconds about the Earth's axis are 17.1 m, beside 4.5 m along it.
+        screen.show(*SampleRecord::named("UTM").with("datum_name", "World Geodetic System 1972").record());
+        QCOMPARE(result(screen, "On WGS 84"), unknown + "\nThe registry's shifts move this point by 18 m.");
         screen.show(*SampleRecord::named("UTM").record());
         QCOMPARE(result(screen, "On WGS 84"), unknown);
         QVERIFY(!isOffered());

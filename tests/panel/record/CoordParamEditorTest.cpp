@@ -290,7 +290,7 @@ private Q_SLOTS:
         QVERIFY(set(editor, Key::falseEast, "1"));
         editor.setMethod(Lambert);
         editor.setShift(false);
-        editor.setGeoid("EGM2008");
+        editor.setText(Key::geoidName, "EGM2008");
         const QStringList edited = recordText(editor.record());
         QVERIFY(editor.canGoBack() && !editor.canGoForward());
 

@@ -1,10 +1,10 @@
 #include "panel/record/RecordDifferences.h"
 
 #include "catalogue/CoordParamKey.h"
-#include "import/CoordParamToProjDefine.h"
 #include "import/WktFile.h"
 #include "import/WktToCoordParam.h"
-#include "platform/projection/IProjectionModule.h"
+#include "panel/record/RecordWkt.h"
+#include "platform/projection/WktDialect.h"
 #include "support/Files.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
@@ -54,6 +54,19 @@ private Q_SLOTS:
                 SampleRecord::named("UTM").with("_7type", "2").with("_7dx", "-87").with("_7dz", "0.5");
             translated.title = "shift of three";
             add(translated, isEsri ? QStringList{"the datum shift"} : QStringList());
+            // A datum's name makes no reader look up a shift, or another ellipsoid: the registry has one shift for
+            // RT90.
+            SampleRecord named = SampleRecord::named("Gauss-Kruger").with("ellipsoid_name", "Bessel 1841");
+            named = named.with("ellipsoid_a", "6377397.155").with("ellipsoid_f", "299.1528128");
+            for (const char* datum : {"Rikets koordinatsystem 1990", "RT90", "North American Datum 1927",
+                                      "World Geodetic System 1984", "B\xc3\xa4r's \"Netz\", [1:1000] (x) 100%"}) {
+                named = named.with("datum_name", datum).with("_7type", "0").with("_7dx", "1");
+                named.title = datum;
+                add(named, {});
+                named = named.with("_7type", "2");
+                named.title += " with a shift";
+                add(named, isEsri ? QStringList{"the datum shift"} : QStringList());
+            }
         }
     }
 
@@ -62,9 +75,7 @@ private Q_SLOTS:
         QFETCH(int, dialect);
         QFETCH(QStringList, lost);
         const DictionaryGuard record = sample.record();
-        const QByteArray wkt = projectionModule()->exportWkt(
-            coordParamToProjDefine(*record), QString::fromLocal8Bit(record->getValue(CoordParamKey::name)).toUtf8(),
-            record->getValue(CoordParamKey::ellipsoidName), WktDialect(dialect), false);
+        const QByteArray wkt = recordWkt(*record, WktDialect(dialect), false);
         QVERIFY(!wkt.isEmpty() && !wkt.contains('\n'));
         QTemporaryDir folder;
         QVERIFY(setContent(folder.filePath("saved.prj"), wkt));

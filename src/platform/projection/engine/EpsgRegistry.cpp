@@ -6,18 +6,28 @@
 
 #include <QByteArrayList>
 
+#include <proj_experimental.h>
+
 #include <algorithm>
+#include <optional>
 
 namespace {
 
 constexpr const char* authority = "EPSG";
 
+std::optional<GeographicBox> areaOf(PJ_CONTEXT* context, const PJ* object) {
+    GeographicBox box{};
+    const bool isKnown =
+        proj_get_area_of_use(context, object, &box.west, &box.south, &box.east, &box.north, nullptr) != 0;
+    return isKnown ? std::optional<GeographicBox>(box) : std::nullopt;
+}
+
 /// The operations from a geographic system to WGS 84 that meet the given area, PROJ's first choice first.
-PJ_OBJ_LIST* operationsToWgs84(PJ_CONTEXT* context, const PJ* geographic, const PJ* projected) {
+PJ_OBJ_LIST* operationsToWgs84(PJ_CONTEXT* context, const PJ* geographic, const std::optional<GeographicBox>& area) {
     PJ_OPERATION_FACTORY_CONTEXT* factory = proj_create_operation_factory_context(context, authority);
-    double west = 0.0, south = 0.0, east = 0.0, north = 0.0;
-    if (proj_get_area_of_use(context, projected, &west, &south, &east, &north, nullptr) != 0)
-        proj_operation_factory_context_set_area_of_interest(context, factory, west, south, east, north);
+    if (area)
+        proj_operation_factory_context_set_area_of_interest(context, factory, area->west, area->south, area->east,
+                                                            area->north);
     proj_operation_factory_context_set_spatial_criterion(context, factory, PROJ_SPATIAL_CRITERION_PARTIAL_INTERSECTION);
     proj_operation_factory_context_set_grid_availability_use(context, factory, PROJ_GRID_AVAILABILITY_IGNORED);
     proj_operation_factory_context_set_allow_use_intermediate_crs(context, factory, PROJ_INTERMEDIATE_CRS_USE_NEVER);
@@ -26,6 +36,43 @@ PJ_OBJ_LIST* operationsToWgs84(PJ_CONTEXT* context, const PJ* geographic, const 
     PJ_OBJ_LIST* operations = wgs84 ? proj_create_operations(context, geographic, wgs84.get(), factory) : nullptr;
     proj_operation_factory_context_destroy(factory);
     return operations;
+}
+
+/// The shift that an operation is; nothing when three or seven parameters are not all of it.
+std::optional<RegistryShift> shiftOf(PJ_CONTEXT* context, const PJ* operation) {
+    RegistryShift shift{};
+    if (proj_coordoperation_get_towgs84_values(context, operation, shift.values, 7, 0) == 0)
+        return std::nullopt;
+    const char* area = nullptr;
+    proj_get_area_of_use(context, operation, nullptr, nullptr, nullptr, nullptr, &area);
+    shift.name = QByteArray(proj_get_name(operation));
+    shift.area = QByteArray(area);
+    shift.accuracy = proj_coordoperation_get_accuracy(context, operation);
+    return shift;
+}
+
+QByteArray withoutSuffix(QByteArray name, const QByteArray& suffix) {
+    if (name.endsWith(suffix))
+        name.chop(suffix.size());
+    return name;
+}
+
+/// What EPSG adds to the name of a datum whose longitudes count from elsewhere; empty for Greenwich.
+QByteArray meridianSuffix(PJ_CONTEXT* context, const PJ* datum) {
+    double longitude = 0.0;
+    const ProjObject meridian(proj_get_prime_meridian(context, datum));
+    const bool isElsewhere =
+        meridian && proj_prime_meridian_get_parameters(context, meridian.get(), &longitude, nullptr, nullptr) != 0 &&
+        longitude != 0.0;
+    return isElsewhere ? QByteArray(" (") + proj_get_name(meridian.get()) + ')' : QByteArray();
+}
+
+/// The name of a datum as WKT writes it, counted from Greenwich; empty where EPSG has none but "Not specified (based
+/// on Clarke 1866 ellipsoid)".
+QByteArray nameOf(PJ_CONTEXT* context, const PJ* datum) {
+    const QByteArray name =
+        withoutSuffix(withoutSuffix(proj_get_name(datum), " ensemble"), meridianSuffix(context, datum));
+    return name.startsWith("Not specified") ? QByteArray() : name;
 }
 
 /// The seven numbers of `shift` joined by ",", each with all its digits.
@@ -76,21 +123,89 @@ std::vector<RegistryShift> EpsgRegistry::datumShifts(const QByteArray& code) {
     const ProjObject geographic(projected ? proj_crs_get_geodetic_crs(context.get(), projected.get()) : nullptr);
     if (!geographic)
         return shifts;
-    PJ_OBJ_LIST* operations = operationsToWgs84(context.get(), geographic.get(), projected.get());
+    PJ_OBJ_LIST* operations =
+        operationsToWgs84(context.get(), geographic.get(), areaOf(context.get(), projected.get()));
     for (int i = 0; i < proj_list_get_count(operations); ++i) {
         const ProjObject operation(proj_list_get(context.get(), operations, i));
-        RegistryShift shift{};
-        if (proj_coordoperation_get_towgs84_values(context.get(), operation.get(), shift.values, 7, 0) == 0)
-            continue;
-        const char* area = nullptr;
-        proj_get_area_of_use(context.get(), operation.get(), nullptr, nullptr, nullptr, nullptr, &area);
-        shift.name = QByteArray(proj_get_name(operation.get()));
-        shift.area = QByteArray(area);
-        shift.accuracy = proj_coordoperation_get_accuracy(context.get(), operation.get());
-        shifts.push_back(shift);
+        if (const auto shift = shiftOf(context.get(), operation.get()))
+            shifts.push_back(*shift);
     }
     proj_list_destroy(operations);
     return shifts;
+}
+
+std::vector<RegistryShift> EpsgRegistry::datumShiftsAt(const QByteArray& datumName, double latitude, double longitude) {
+    auto known = shiftsOfDatums.constFind(datumName);
+    if (known == shiftsOfDatums.constEnd())
+        known = shiftsOfDatums.insert(datumName, readShifts(datumName));
+    std::vector<RegistryShift> shifts;
+    for (const PlacedShift& placed : *known) {
+        if (placed.area.contains(latitude, longitude))
+            shifts.push_back(placed.shift);
+    }
+    return shifts;
+}
+
+std::vector<EpsgRegistry::PlacedShift> EpsgRegistry::readShifts(const QByteArray& datumName) {
+    std::vector<PlacedShift> shifts;
+    datumNames();
+    const auto code = datumCodes.constFind(datumName);
+    if (code == datumCodes.constEnd())
+        return shifts;
+    PJ_OBJ_LIST* systems =
+        proj_query_geodetic_crs_from_datum(context.get(), authority, authority, code->constData(), "geographic 2D");
+    for (int i = 0; i < proj_list_get_count(systems); ++i) {
+        const ProjObject geographic(proj_list_get(context.get(), systems, i));
+        if (proj_is_deprecated(geographic.get()))
+            continue;
+        PJ_OBJ_LIST* operations = operationsToWgs84(context.get(), geographic.get(), std::nullopt);
+        for (int j = 0; j < proj_list_get_count(operations); ++j) {
+            const ProjObject operation(proj_list_get(context.get(), operations, j));
+            const auto area = areaOf(context.get(), operation.get());
+            const auto shift = shiftOf(context.get(), operation.get());
+            if (shift && area)
+                shifts.push_back({*area, *shift});
+        }
+        proj_list_destroy(operations);
+    }
+    proj_list_destroy(systems);
+    return shifts;
+}
+
+const std::vector<QByteArray>& EpsgRegistry::datumNames() {
+    if (datums.empty())
+        readDatums();
+    return datums;
+}
+
+void EpsgRegistry::readDatums() {
+    const auto codes = proj_get_codes_from_database(context.get(), authority, PJ_TYPE_GEODETIC_REFERENCE_FRAME, 0);
+    for (auto code = codes; code && *code; ++code) {
+        const ProjObject datum(
+            proj_create_from_database(context.get(), authority, *code, PJ_CATEGORY_DATUM, 0, nullptr));
+        if (!datum || !meridianSuffix(context.get(), datum.get()).isEmpty())
+            continue;
+        const QByteArray name = nameOf(context.get(), datum.get());
+        if (name.isEmpty() || datumCodes.contains(name))
+            continue;
+        datumCodes.insert(name, *code);
+        datums.push_back(name);
+    }
+    proj_string_list_destroy(codes);
+    std::sort(datums.begin(), datums.end(), [](const QByteArray& left, const QByteArray& right) {
+        return qstricmp(left.constData(), right.constData()) < 0;
+    });
+}
+
+QByteArray EpsgRegistry::datumName(const QByteArray& code) {
+    const ProjObject projected = system(code);
+    const ProjObject datum(projected ? proj_crs_get_datum_forced(context.get(), projected.get()) : nullptr);
+    return datum ? nameOf(context.get(), datum.get()) : QByteArray();
+}
+
+QByteArray EpsgRegistry::edition() {
+    const QByteArray version = proj_context_get_database_metadata(context.get(), "EPSG.VERSION");
+    return version.isEmpty() ? version : QByteArray(authority) + ' ' + version;
 }
 
 QByteArray EpsgRegistry::wkt(const QByteArray& code, const RegistryShift* shift) {

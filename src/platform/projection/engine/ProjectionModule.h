@@ -18,9 +18,9 @@ public:
     ProjTowgs84 towgs84(ProjHandle handle) override { return library.definition(handle).towgs84(); }
 
     WktSystem readWkt(const QByteArray& wkt) override { return reader.read(wkt); }
-    QByteArray exportWkt(const QByteArray& definition, const QByteArray& name, const QByteArray& ellipsoidName,
-                         WktDialect dialect, bool indented) override {
-        return geodesy.exportWkt(definition, name, ellipsoidName, dialect, indented);
+    QByteArray exportWkt(const QByteArray& definition, const WktNames& names, WktDialect dialect,
+                         bool indented) override {
+        return geodesy.exportWkt(definition, names, dialect, indented);
     }
     std::unique_ptr<IProjectedSystem> createSystem(const QByteArray& definition) override {
         return geodesy.createSystem(definition);

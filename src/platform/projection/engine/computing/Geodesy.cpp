@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <iterator>
 #include <utility>
 
@@ -61,8 +62,7 @@ ProjObject parsedSystem(PJ_CONTEXT* context, const QByteArray& definition) {
 
 /// The projected system of a definition without a shift. PROJ itself would leave its name open, name its ellipsoid only
 /// where it knows the axes, and draw a polar system's axes along 0 and 90 degrees whatever its central meridian.
-ProjObject namedSystem(PJ_CONTEXT* context, const QByteArray& definition, const QByteArray& name,
-                       const QByteArray& ellipsoidName) {
+ProjObject namedSystem(PJ_CONTEXT* context, const QByteArray& definition, const WktNames& names) {
     const ProjObject parsed = parsedSystem(context, definition);
     const ProjObject ellipsoid(parsed ? proj_get_ellipsoid(context, parsed.get()) : nullptr);
     const ProjObject conversion(parsed ? proj_crs_get_coordoperation(context, parsed.get()) : nullptr);
@@ -73,18 +73,37 @@ ProjObject namedSystem(PJ_CONTEXT* context, const QByteArray& definition, const 
         return nullptr;
     const ProjObject angles(proj_create_ellipsoidal_2D_cs(context, PJ_ELLPS2D_LONGITUDE_LATITUDE, nullptr, 0.0));
     const ProjObject axes(proj_create_cartesian_2D_cs(context, PJ_CART2D_EASTING_NORTHING, nullptr, 0.0));
-    const ProjObject geographic(proj_create_geographic_crs(context, "unknown", "unknown", ellipsoidName.constData(), a,
-                                                           inverseFlattening, "Greenwich", 0.0, nullptr, 0.0,
-                                                           angles.get()));
+    const ProjObject geographic(proj_create_geographic_crs(
+        context, "unknown", names.datum.isEmpty() ? "unknown" : names.datum.constData(), names.ellipsoid.constData(), a,
+        inverseFlattening, "Greenwich", 0.0, nullptr, 0.0, angles.get()));
     return ProjObject(
-        proj_create_projected_crs(context, name.constData(), geographic.get(), conversion.get(), axes.get()));
+        proj_create_projected_crs(context, names.system.constData(), geographic.get(), conversion.get(), axes.get()));
 }
 
-/// `wkt` with `name` to the letter as the system's name: in its ESRI dialect PROJ turns all but plain letters into "_".
-QByteArray withName(const QByteArray& wkt, QByteArray name) {
-    const int open = wkt.indexOf('"');
+QByteArray plainLetters(const QByteArray& text) {
+    QByteArray letters;
+    std::copy_if(text.begin(), text.end(), std::back_inserter(letters),
+                 [](char c) { return std::isalnum(static_cast<unsigned char>(c)) && !(c & 0x80); });
+    return letters;
+}
+
+/// Puts `name` in place of the quoted text after `keyword`.
+void putName(QByteArray& wkt, const char* keyword, QByteArray name) {
+    const int open = wkt.indexOf('"', wkt.indexOf(keyword));
     const int close = wkt.indexOf('"', open + 1);
-    return wkt.left(open + 1) + name.replace('"', "\"\"") + wkt.mid(close);
+    wkt.replace(open + 1, close - open - 1, name.replace('"', "\"\""));
+}
+
+/// The names to the letter: in its ESRI dialect PROJ turns all but plain letters into "_". Where it has ESRI's own name
+/// of a datum, that stays.
+void putEsriNames(QByteArray& wkt, const WktNames& names) {
+    const QByteArray prefix = "D_";
+    const QByteArray datum = names.datum.startsWith(prefix) ? names.datum : prefix + names.datum;
+    const int open = wkt.indexOf("DATUM[\"") + 7;
+    const bool isOwnName = plainLetters(wkt.mid(open, wkt.indexOf('"', open) - open)) == plainLetters(datum);
+    if (!names.datum.isEmpty() && isOwnName)
+        putName(wkt, "DATUM[", QByteArray(datum).replace(' ', '_'));
+    putName(wkt, "PROJCS[", names.system);
 }
 
 } // namespace
@@ -110,16 +129,17 @@ std::unique_ptr<IProjectedSystem> Geodesy::createSystem(const QByteArray& defini
     return std::make_unique<ProjectedSystem>(std::move(projection), std::move(shift), a, b);
 }
 
-QByteArray Geodesy::exportWkt(const QByteArray& definition, const QByteArray& name, const QByteArray& ellipsoidName,
-                              WktDialect dialect, bool indented) {
+QByteArray Geodesy::exportWkt(const QByteArray& definition, const WktNames& names, WktDialect dialect, bool indented) {
     static constexpr PJ_WKT_TYPE types[] = {PJ_WKT1_GDAL, PJ_WKT1_ESRI, PJ_WKT2_2019};
     const char* const options[] = {indented ? "MULTILINE=YES" : "MULTILINE=NO", nullptr};
     const DefinitionParts parts = splitDefinition(definition);
-    ProjObject crs = namedSystem(context.get(), parts.projection, name, ellipsoidName);
+    ProjObject crs = namedSystem(context.get(), parts.projection, names);
     if (crs && !parts.shift.isEmpty())
         crs = boundToWgs84(context.get(), crs, parts.shift);
     if (!crs)
         return {};
-    const QByteArray wkt = proj_as_wkt(context.get(), crs.get(), types[static_cast<int>(dialect)], options);
-    return dialect == WktDialect::Wkt1Esri && !wkt.isEmpty() ? withName(wkt, name) : wkt;
+    QByteArray wkt = proj_as_wkt(context.get(), crs.get(), types[static_cast<int>(dialect)], options);
+    if (dialect == WktDialect::Wkt1Esri && !wkt.isEmpty())
+        putEsriNames(wkt, names);
+    return wkt;
 }

@@ -2,8 +2,7 @@
 
 #include "platform/projection/IProjectedSystem.h"
 #include "platform/projection/WktDialect.h"
-
-#include <QByteArray>
+#include "platform/projection/WktNames.h"
 
 #include <memory>
 
@@ -16,8 +15,7 @@ public:
     explicit Geodesy(ProjContext& context) : context(context) {}
 
     std::unique_ptr<IProjectedSystem> createSystem(const QByteArray& definition);
-    QByteArray exportWkt(const QByteArray& definition, const QByteArray& name, const QByteArray& ellipsoidName,
-                         WktDialect dialect, bool indented);
+    QByteArray exportWkt(const QByteArray& definition, const WktNames& names, WktDialect dialect, bool indented);
 
 private:
     ProjContext& context;

@@ -28,7 +28,7 @@ private Q_SLOTS:
         QFETCH(int, dialect);
         QFETCH(QByteArray, start);
         const auto exported = [dialect](const char* definition, bool indented) {
-            return projectionModule()->exportWkt(definition, "DHDN \"3\"", "Bessel 1841", WktDialect(dialect),
+            return projectionModule()->exportWkt(definition, {"DHDN \"3\"", "Bessel 1841", {}}, WktDialect(dialect),
                                                  indented);
         };
         const char* const definition =
@@ -42,6 +42,32 @@ private Q_SLOTS:
         QCOMPARE(text.contains("418.2") && text.contains("-2.455"), WktDialect(dialect) != WktDialect::Wkt1Esri);
         QVERIFY(exported(definition, true).count('\n') > 10);
         QCOMPARE(exported("+proj=nowhere +a=6377397.155 +rf=299.1528128 +units=m", false), QByteArray());
+    }
+
+    void datumName_data() {
+        const Rows<QByteArray, QByteArray, QByteArray, QByteArray> row({"datum", "gdal", "esri", "wkt2"});
+        row("none", "", "unknown", "D_unknown", "unknown");
+        row("registry's", "Deutsches Hauptdreiecksnetz", "Deutsches_Hauptdreiecksnetz", "D_Deutsches_Hauptdreiecksnetz",
+            "Deutsches Hauptdreiecksnetz");
+        row("ESRI's own name", "European Terrestrial Reference System 1989",
+            "European_Terrestrial_Reference_System_1989", "D_ETRS_1989", "European Terrestrial Reference System 1989");
+        row("WKT 1's own name", "World Geodetic System 1984", "WGS_1984", "D_WGS_1984", "World Geodetic System 1984");
+        row("odd letters", "B\xc3\xa4r's \"Netz\", [1]\\", "B\xc3\xa4r's \"\"Netz\"\", [1]\\",
+            "D_B\xc3\xa4r's_\"\"Netz\"\",_[1]\\", "B\xc3\xa4r's \"\"Netz\"\", [1]\\");
+        row("ESRI's prefix", "D_Own", "D_Own", "D_Own", "D_Own");
+    }
+    void datumName() {
+        QFETCH(QByteArray, datum);
+        QFETCH(QByteArray, gdal);
+        QFETCH(QByteArray, esri);
+        QFETCH(QByteArray, wkt2);
+        const QByteArray expected[] = {gdal, esri, wkt2};
+        for (int dialect = 0; dialect < 3; ++dialect) {
+            const QByteArray text = projectionModule()->exportWkt(
+                "+proj=tmerc +lat_0=0 +lon_0=9 +k_0=1 +x_0=0 +y_0=0 +a=6377397.155 +rf=299.1528128 +units=m",
+                {"DATUM[\"x", "Bessel 1841", datum}, WktDialect(dialect), false);
+            QVERIFY2(text.contains("[\"DATUM[\"\"x\",") && text.contains("DATUM[\"" + expected[dialect] + "\","), text);
+        }
     }
 };
 
