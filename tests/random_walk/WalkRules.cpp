@@ -229,10 +229,12 @@ QString WalkRules::fieldsShowTheRecord() const {
                 .arg(edit->objectName(), edit->text(), record.getValue(field->key));
     }
     for (const SearchBox* box : tool.panel->findChildren<SearchBox*>()) {
-        const bool isEllipsoid = box->accessibleName() == "Ellipsoid";
-        const QString name = QString::fromLocal8Bit(
-            record.getValue(isEllipsoid ? CoordParamKey::ellipsoidName : CoordParamKey::geoidName));
-        const QString expected = name.isEmpty() && !isEllipsoid ? QString("(none)") : name;
+        const QString label = box->accessibleName();
+        const char* const key = label == "Ellipsoid" ? CoordParamKey::ellipsoidName
+                                : label == "Datum"   ? CoordParamKey::datumName
+                                                     : CoordParamKey::geoidName;
+        const QString name = QString::fromLocal8Bit(record.getValue(key));
+        const QString expected = name.isEmpty() && key == CoordParamKey::geoidName ? QString("(none)") : name;
         if (box->isVisible() && !hasKeyboard(box) && !hasKeyboard(box->lineEdit()) &&
             box->lineEdit()->text() != expected)
             return QString("the box shows \"%1\", the record holds \"%2\"").arg(box->lineEdit()->text(), expected);
