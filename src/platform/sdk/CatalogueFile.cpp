@@ -93,7 +93,8 @@ FileDocument::FileDocument(const QString& path, const FileKind& kind, FileConten
     const pugi::xml_parse_result result = parse();
     if (!result && DiskCalls::read(path, &bytes)) // parsing has changed them
         parseBefore(result.offset, kind);
-    root = document.child(kind.root);
+    // An instruction can bear the root's name.
+    root = document.find_child([&kind](const pugi::xml_node& node) { return isElement(node, kind.root); });
     const bool hasOneRoot = keepSurroundings(content);
     const int version = root.attribute(versionAttribute).as_int();
     if (isText && result && hasOneRoot && version >= 1 && version <= formatVersion)

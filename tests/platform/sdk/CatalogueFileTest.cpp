@@ -325,6 +325,7 @@ private Q_SLOTS:
         row("zeros behind the end", root + "</coordinate_systems>\n" + QByteArray(3, '\0'), 9);
         row("a bit flipped in an end", root + "</coordinatu_systems>", 9);
         row("an instruction that never ends", "<?coordinate_systems </system>", 0);
+        row("an instruction of the root's name", "<?coordinate_systems x?>" + root, 9);
         row("a comment that never ends", root + "<!-- </system></coordinate_systems>", 9);
         row("a text that never ends", root + "<x y=\"</system>", 9);
     }
