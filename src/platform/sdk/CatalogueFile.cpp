@@ -11,6 +11,7 @@
 #include <pugixml.hpp>
 
 #include <cstring>
+#include <vector>
 
 const FileKind systemFile{"coordinate_systems", "system", CoordParamKey::name};
 const FileKind ellipsoidFile{"ellipsoids", "ellipsoid", EllipsoidKey::name};
@@ -45,7 +46,22 @@ static void keepAttribute(UnknownXml& unknown, const pugi::xml_attribute& attrib
     unknown.attributes += QByteArray(" ") + attribute.name() + "=\"" + FileText::escaped(attribute.value()) + '"';
 }
 
-static QByteArray xmlOf(const pugi::xml_node& node) {
+/// The blank texts between nodes, which the parser drops unless they are written as references.
+struct BlankTexts : pugi::xml_tree_walker {
+    bool for_each(pugi::xml_node& node) override {
+        if (isBlank(node) && (node.previous_sibling() || node.next_sibling()))
+            found.push_back(node);
+        return true;
+    }
+    std::vector<pugi::xml_node> found;
+};
+
+/// The node as XML that reads the same again.
+static QByteArray xmlOf(pugi::xml_node node) {
+    BlankTexts blanks;
+    node.traverse(blanks);
+    for (const pugi::xml_node& blank : blanks.found)
+        blank.parent().remove_child(blank);
     ByteArrayWriter writer;
     node.print(writer, "", pugi::format_raw, pugi::encoding_utf8);
     // A text gets a line of its own when it is written, and must not get another one at every save.

@@ -164,7 +164,7 @@ private Q_SLOTS:
         setContent(folders.systems(), kept[0] + kept[1] + kept[2] + "<value key=\"name\" text=\"s\"/>" + kept[3] +
                                           kept[4] + "</value>" + kept[5] + kept[6] + "</system>" + kept[11] + kept[12] +
                                           kept[13] + kept[14] + kept[15] + kept[7] + "</group>" + kept[8] + kept[9] +
-                                          kept[10] + "</coordinate_systems>");
+                                          kept[10] + "<note>&#10; <b/></note></coordinate_systems>");
         Session first(folders);
         QCOMPARE(first.getGroupNames(), "g");
         QCOMPARE(first.systems("g"), QByteArray("s"));
@@ -181,6 +181,7 @@ private Q_SLOTS:
         const QByteArray saved = contentOf(folders.systems());
         for (const QByteArray& piece : kept)
             QVERIFY2(saved.contains(piece), piece.constData());
+        QVERIFY(saved.contains("<note><b/></note>")); // nothing that reads as blank the next time
         Session(folders).saveSystems();
         QCOMPARE(contentOf(folders.systems()), saved);
     }
