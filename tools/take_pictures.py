@@ -36,8 +36,9 @@ class Photographer:
 
     def window(self):
         self.tool.item(tool.ROOT)
+        first = self.tool.items()[2]
         self.tool.item(self.tool.items()[1]).double_click()
-        wait_for(lambda: GRID not in self.tool.items() and len(self.tool.items()) < 100, "the first group to be folded")
+        wait_for(lambda: first not in self.tool.items(), "the first group to be folded")
         self.tool.scroll_to(COUNTRY)
         self.tool.unfold(COUNTRY)
         self.tool.scroll_to(GRID)
@@ -92,6 +93,7 @@ class Photographer:
         press("Escape")
         self.tool.gone("Edit Ellipsoid")
 
+        self.tool.scroll_to(tool.ROOT)  # the shown system was looked up again
         self.tool.command(self.tool.item(tool.ROOT), "AddGeoid")
         self.tool.dialog("New Geoid", "Add").find("push button", "Add").click()
         entry = self.tool.dialog("New Geoid", "OK")
