@@ -64,6 +64,7 @@ static QByteArray xmlOf(pugi::xml_node node) {
         blank.parent().remove_child(blank);
     ByteArrayWriter writer;
     node.print(writer, "", pugi::format_raw, pugi::encoding_utf8);
+    writer.text.replace("\r", "&#13;"); // it was a reference: any other is a line feed by now
     // A text gets a line of its own when it is written, and must not get another one at every save.
     return node.type() == pugi::node_pcdata ? writer.text.trimmed() : writer.text;
 }

@@ -148,7 +148,7 @@ private Q_SLOTS:
             "<group name=\"g\" colour=\"red\">",
             "<system checked=\"2024-02-29\">",
             "<value key=\"org_lon\" text=\"9\" unit=\"deg\">",
-            "<source> EPSG <b>1</b></source>",
+            "<source> EPSG <b>1&#13;2</b></source>",
             "<!-- measured twice -->",
             "<history><entry at=\"1\"/>  text\n of two lines </history>",
             "<!-- of the group -->",
