@@ -42,6 +42,14 @@ private Q_SLOTS:
         QCOMPARE(recordText(screen.record()), before);
     }
 
+    void keepsAnUnknownKind() {
+        const DictionaryGuard record = PanelRecords::imported(ProjectionMethod::TransverseMercator);
+        record->setText(Key::shiftType, "5");
+        const PanelOnScreen screen(*record, PanelOnScreen::Shift);
+        QCOMPARE(screen.find<QComboBox>("Shift to WGS 84")->currentIndex(), -1);
+        QCOMPARE(recordText(screen.record()), recordText(*record));
+    }
+
     void namesDatum() {
         const DictionaryGuard record = PanelRecords::imported(ProjectionMethod::TransverseMercator);
         const QStringList before = recordText(*record);

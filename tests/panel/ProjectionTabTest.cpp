@@ -109,6 +109,7 @@ private Q_SLOTS:
         // In the next panel too, and where it is switched on another tab.
         const PanelOnScreen other(*record);
         QCOMPARE(other.shown("Latitude of origin"), QString("49°50'00\""));
+        QCOMPARE(other.find<QComboBox>("Show angles in")->currentIndex(), int(AngleNotation::DegreesMinutesSeconds));
         screen.panel.setCurrentIndex(PanelOnScreen::Check);
         QApplication::processEvents();
         screen.choose("Show angles in", int(AngleNotation::DecimalDegrees));
@@ -127,6 +128,14 @@ private Q_SLOTS:
             screen.type("Latitude of origin", QString(side) + "90");
             QCOMPARE(screen.shown("Standard parallel"), QString(side) + "3.5");
         }
+    }
+
+    void showsNoMethodWhereNoneFits() {
+        const DictionaryGuard record = PanelRecords::imported(ProjectionMethod::TransverseMercator);
+        dic_set_value(record.get(), Key::factor, "%f", 0.0);
+        const PanelOnScreen screen(*record);
+        QCOMPARE(screen.find<QComboBox>("Projection method")->currentIndex(), -1);
+        QVERIFY(!screen.field("Scale factor"));
     }
 
     void goesThroughFieldsByTab() {

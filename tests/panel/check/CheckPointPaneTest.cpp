@@ -84,10 +84,16 @@ private Q_SLOTS:
         QVERIFY(result(screen, "Combined factor").endsWith("  (73.63 ppm)"));
         QCOMPARE(result(screen, "Convergence"), QString("1.5843465°"));
         QCOMPARE(result(screen, "Closing error"), QString("0.000 mm"));
+        // The same point from the other side, at the same height.
+        screen.type("Latitude", "-37 57 03.72030");
+        screen.type("Longitude", "144 25 29.52440");
+        QVERIFY(std::abs(factor(result(screen, "Combined factor")) - 1.0000736337) < 5e-9);
+        screen.type("Northing", "5796489.777");
         AngleText::setNotation(AngleNotation::DegreesMinutesSeconds);
         screen.panel.findChild<CheckPointPane*>()->showNotation();
         QCOMPARE(result(screen, "Convergence").left(10), QString("1°35'03.64"));
         QCOMPARE(screen.shown("Latitude").left(12), QString("-37°57'03.72"));
+        QCOMPARE(screen.shown("Longitude").left(12), QString("144°25'29.52"));
         // The page below says the same.
         screen.find<QPushButton>("Copy as text")->click();
         const QStringList copied = QApplication::clipboard()->text().split('\n');

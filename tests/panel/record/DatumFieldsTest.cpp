@@ -22,6 +22,7 @@ private Q_SLOTS:
         row("_7dx=-3001", "Unusually large.");
         row("_7dz=2624", "");
         row("_7ry=0.0167", "Unusually large."); // degrees: 60.1 seconds
+        row("_7rx=-0.0167", "Unusually large.");
         row("_7ppm=-101", "Unusually large.");
     }
 

@@ -37,6 +37,8 @@ private Q_SLOTS:
         row("point across the antimeridian", {"", -18.0, 179.9, false}, {"3460"}, {"28992"});
         row("point beyond the antimeridian", {"", -18.0, -179.5, false}, {"3460"}, {"28992"});
         row("the same point counted west", {"", -18.0, -180.1, false}, {"3460"}, {"28992"});
+        row("point to the north of it", {"", 60.0, 5.0, false}, {"32631"}, {"28992"});
+        row("point counted once round", {"", 52.0, 365.0, false}, {"28992"}, {"27700"});
         row("half a point is none", {"", 52.0, none, false}, {"27700", "32633"}, {});
     }
 
