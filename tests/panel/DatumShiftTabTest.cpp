@@ -44,10 +44,12 @@ private Q_SLOTS:
 
     void keepsAnUnknownKind() {
         const DictionaryGuard record = PanelRecords::imported(ProjectionMethod::TransverseMercator);
-        record->setText(Key::shiftType, "5");
-        const PanelOnScreen screen(*record, PanelOnScreen::Shift);
-        QCOMPARE(screen.find<QComboBox>("Shift to WGS 84")->currentIndex(), -1);
-        QCOMPARE(recordText(screen.record()), recordText(*record));
+        for (const char* kind : {"5", "grid"}) {
+            record->setText(Key::shiftType, kind);
+            const PanelOnScreen screen(*record, PanelOnScreen::Shift);
+            QCOMPARE(screen.find<QComboBox>("Shift to WGS 84")->currentIndex(), -1);
+            QCOMPARE(recordText(screen.record()), recordText(*record));
+        }
     }
 
     void namesDatum() {
