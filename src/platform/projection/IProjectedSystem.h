@@ -26,6 +26,11 @@ struct LocalScale {
     double largest;  ///< over all directions, the major semi-axis
     double convergence; ///< degrees; a true azimuth is the grid bearing plus the convergence
 
+    /// The same scale in every direction.
+    static LocalScale conformal(double scale, double convergence) {
+        return {scale, scale, scale, scale, scale, convergence};
+    }
+
     /// Whether the scale is the same in every direction. Where Tissot's axes differ by less than 1e-7, the difference
     /// is noise of the numerical differentiation.
     bool isConformal() const { return largest - smallest < 1e-7; }

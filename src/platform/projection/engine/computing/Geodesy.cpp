@@ -91,9 +91,6 @@ void putEsriNames(QByteArray& wkt, const WktNames& names) {
 
 std::unique_ptr<IProjectedSystem> Geodesy::createSystem(const QByteArray& definition) {
     const DefinitionParts parts = splitDefinition(definition);
-    const ProjObject crs = parsedSystem(context.get(), parts.projection);
-    if (!crs || proj_get_type(crs.get()) != PJ_TYPE_PROJECTED_CRS)
-        return nullptr;
     auto projection = definedProjection(context, parts.projection);
     const ProjItems items(definition);
     Ellipsoid ellipsoid;

@@ -8,7 +8,8 @@
 
 class ProjContext;
 
-/// The projection of a definition (its datum shift plays no part), computed by what keeps the micrometre; null when
-/// PROJ can't make a projection of it. That is PROJ itself, but for the oblique Mercator: near the azimuths 90 and -90
-/// PROJ's omerc is off by up to 0.3 m, and loses 0.5 mm with each turn there and back; see ObliqueMercator.h.
+/// The projection of a definition, whose datum shift plays no part; null when PROJ can't make a projection of it. What
+/// PROJ does not compute to the micrometre at its limits is computed by the classes of engine/plane: omerc, stere,
+/// sterea, lcc, and tmerc on a sphere; bench/limits measures it. The rest, and what has items that these don't know, is
+/// PROJ's.
 std::unique_ptr<PlaneProjection> definedProjection(const ProjContext& context, const QByteArray& definition);

@@ -1,17 +1,15 @@
 #pragma once
 
+#include "platform/projection/engine/plane/ConformalSphere.h"
 #include "platform/projection/engine/plane/PlaneProjection.h"
 
-#include <array>
-
 /// The oblique Mercator projection: Hotine's rectified skew orthomorphic, variant B (EPSG method 9815), by its azimuth
-/// or by two points of its central line.
+/// or by two points of its central line. With the azimuth 0 on a sphere it is the transverse Mercator projection.
 ///
 /// Not by the formulas of EPSG guidance note 7-2, whose arc sine of a number near 1 costs half of the digits where the
-/// azimuth at the projection centre is near 90 degrees, but by their geometry, which loses none: the ellipsoid goes
-/// conformally onto the sphere that fits it best at the centre (Gauss 1843; the guidance note's aposphere), where the
-/// central line is a great circle, and the sphere onto the plane by Mercator's projection with the great circle for its
-/// equator. Both agree to 1e-8 m, bench/limits shows.
+/// azimuth at the projection centre is near 90 degrees, but by their geometry, which loses none: the central line is a
+/// great circle of the sphere that fits best at the centre (the guidance note's aposphere), which goes onto the plane
+/// by Mercator's projection with this circle for its equator.
 class ObliqueMercator : public PlaneProjection {
 public:
     /// Metres and degrees.
@@ -20,8 +18,8 @@ public:
         double e2; ///< the square of the first eccentricity
         double latitudeOfCentre;
         double longitudeOfCentre;
-        double azimuth;   ///< of the central line at the centre; of any turn, and the other direction is the same line
-        double gridAngle; ///< from grid north to the line; the azimuth in most systems
+        double azimuth;   ///< of the central line at the centre
+        double gridAngle; ///< from grid north to the line
         double scale;     ///< along the central line
         double eastingAtCentre;
         double northingAtCentre;
@@ -29,16 +27,15 @@ public:
 
     explicit ObliqueMercator(const Parameters& parameters);
 
-    /// Longitude and azimuth of the centre, where the great circle on the sphere through two places reaches the
-    /// centre's latitude, and the azimuth for the grid angle; the other parameters as given. The azimuth lies within
-    /// -90 to 90: of the two places with that latitude, the centre is the one that the line passes going north, from
-    /// where it crosses the equator within 90 degrees of the middle of the two places. Nothing when the line does not
-    /// reach that latitude.
+    /// The parameters with longitude, azimuth and grid angle of the centre, which is where the great circle on the
+    /// sphere through two places reaches the centre's latitude. Of the two such places it is the one that the line
+    /// passes on its way north from where it crosses the equator within 90 degrees of the middle of the two given ones;
+    /// so the azimuth is within -90 to 90 (Snyder 1987, page 72). Nothing when the line does not reach that latitude.
     static std::optional<Parameters> throughPlaces(Parameters parameters, const GeographicPoint& first,
                                                    const GeographicPoint& second);
 
-    /// From the natural origin, where the central line crosses the aposphere's equator, to the centre along the line
-    /// (EPSG guidance note 7-2, u_c), for an azimuth within -90 to 90. Metres.
+    /// From the natural origin, where the central line crosses the sphere's equator, to the centre along the line
+    /// (the guidance note's u_c), for an azimuth within -90 to 90. Metres.
     static double distanceFromNaturalOrigin(const Parameters& parameters);
 
     std::optional<GridPoint> toGrid(const GeographicPoint& point) const override;
@@ -48,24 +45,9 @@ public:
     std::optional<LocalScale> localScale(const GeographicPoint& point) const override;
 
 private:
-    using Vector = std::array<double, 3>;
+    using Vector = ConformalSphere::Vector;
 
-    /// The sphere that fits the ellipsoid best at a latitude.
-    struct Sphere {
-        Sphere(const Parameters& parameters);
-
-        /// The unit vector of a place (radians), its longitude counted from the centre's.
-        Vector vector(double phi, double lambda) const;
-
-        double e;
-        double exponent; ///< spherical longitudes and isometric latitudes per the ellipsoid's, B in the guidance note
-        double radius;
-        double centre;            ///< the sphere's latitude of the centre
-        double isometricCentre;   ///< the ellipsoid's isometric latitude there
-        double isometricOnSphere; ///< the sphere's isometric latitude there
-    };
-
-    /// A place on the sphere towards the centre, along the line from there, and to its right.
+    /// A vector's parts towards the centre, along the line from there, and to its right.
     struct Turned {
         double towards, along, right;
     };
@@ -74,8 +56,8 @@ private:
     double lambda(const GeographicPoint& point) const;
 
     Parameters given;
-    Sphere sphere;
-    double scaledRadius;
+    ConformalSphere sphere;
+    double radius;
     Vector centre, line, side;
     double sineOfGrid, cosineOfGrid;
 };

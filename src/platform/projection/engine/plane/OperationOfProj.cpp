@@ -11,7 +11,7 @@ PJ_COORD toRadians(const GeographicPoint& point) {
 
 } // namespace
 
-OperationOfProj::OperationOfProj(ProjObject operation) : operation(std::move(operation)) {
+OperationOfProj::OperationOfProj(ProjObject operation, double a) : operation(std::move(operation)), a(a) {
 }
 
 std::optional<GridPoint> OperationOfProj::toGrid(const GeographicPoint& point) const {
@@ -23,10 +23,29 @@ std::optional<GridPoint> OperationOfProj::toGrid(const GeographicPoint& point) c
 }
 
 std::optional<GeographicPoint> OperationOfProj::toGeographic(const GridPoint& point, double height) const {
-    const PJ_COORD place = proj_trans(operation.get(), PJ_INV, proj_coord(point.easting, point.northing, height, 0.0));
+    PJ_COORD place = proj_trans(operation.get(), PJ_INV, proj_coord(point.easting, point.northing, height, 0.0));
     if (!std::isfinite(place.lpz.phi) || !std::isfinite(place.lpz.lam))
         return std::nullopt;
+    place = refined(place, point);
     return GeographicPoint{proj_todeg(place.lpz.phi), proj_todeg(place.lpz.lam), height};
+}
+
+/// A place that comes back farther away than what is left of an iteration is left alone: that is for its user to see.
+PJ_COORD OperationOfProj::refined(const PJ_COORD& place, const GridPoint& point) const {
+    constexpr double small = 1e-7, large = 1e-3; // metres
+    const PJ_COORD back = proj_trans(operation.get(), PJ_FWD, place);
+    const double east = point.easting - back.xy.x, north = point.northing - back.xy.y;
+    const double miss = std::hypot(east, north);
+    if (!(miss > small && miss < large))
+        return place;
+    // Its derivatives are those on an ellipsoid with the semi-major axis 1.
+    const PJ_FACTORS factors = proj_factors(operation.get(), place);
+    const double determinant = a * (factors.dx_dlam * factors.dy_dphi - factors.dx_dphi * factors.dy_dlam);
+    PJ_COORD better = place;
+    better.lpz.lam += (east * factors.dy_dphi - north * factors.dx_dphi) / determinant;
+    better.lpz.phi += (north * factors.dx_dlam - east * factors.dy_dlam) / determinant;
+    const bool isPlace = std::isfinite(better.lpz.lam) && std::abs(better.lpz.phi) <= proj_torad(90.0);
+    return isPlace ? better : place;
 }
 
 std::optional<LocalScale> OperationOfProj::localScale(const GeographicPoint& point) const {
