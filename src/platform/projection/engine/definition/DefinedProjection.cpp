@@ -179,6 +179,8 @@ std::unique_ptr<PlaneProjection> definedProjection(const ProjContext& context, c
     ProjObject operation(proj_create(context.get(), definition.constData()));
     if (!operation || !crs || proj_get_type(crs.get()) != PJ_TYPE_PROJECTED_CRS)
         return nullptr;
-    return projection ? std::move(projection)
-                      : std::make_unique<OperationOfProj>(std::move(operation), maker.semiMajorAxis());
+    if (projection)
+        return projection;
+    // PROJ's inverse of cass closes to 5e-6 m.
+    return std::make_unique<OperationOfProj>(std::move(operation), maker.semiMajorAxis(), items.text("proj") == "cass");
 }

@@ -11,7 +11,8 @@ PJ_COORD toRadians(const GeographicPoint& point) {
 
 } // namespace
 
-OperationOfProj::OperationOfProj(ProjObject operation, double a) : operation(std::move(operation)), a(a) {
+OperationOfProj::OperationOfProj(ProjObject operation, double a, bool refines)
+    : operation(std::move(operation)), a(a), refines(refines) {
 }
 
 std::optional<GridPoint> OperationOfProj::toGrid(const GeographicPoint& point) const {
@@ -26,13 +27,14 @@ std::optional<GeographicPoint> OperationOfProj::toGeographic(const GridPoint& po
     PJ_COORD place = proj_trans(operation.get(), PJ_INV, proj_coord(point.easting, point.northing, height, 0.0));
     if (!std::isfinite(place.lpz.phi) || !std::isfinite(place.lpz.lam))
         return std::nullopt;
-    place = refined(place, point);
+    if (refines)
+        place = refined(place, point);
     return GeographicPoint{proj_todeg(place.lpz.phi), proj_todeg(place.lpz.lam), height};
 }
 
 /// A place that comes back farther away than what is left of an iteration is left alone: that is for its user to see.
 PJ_COORD OperationOfProj::refined(const PJ_COORD& place, const GridPoint& point) const {
-    constexpr double small = 1e-7, large = 1e-3; // metres
+    constexpr double small = 1e-8, large = 1e-3; // metres
     const PJ_COORD back = proj_trans(operation.get(), PJ_FWD, place);
     const double east = point.easting - back.xy.x, north = point.northing - back.xy.y;
     const double miss = std::hypot(east, north);

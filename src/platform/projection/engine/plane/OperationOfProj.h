@@ -6,12 +6,11 @@
 /// A projection as PROJ computes it.
 class OperationOfProj : public PlaneProjection {
 public:
-    /// `operation` runs from radians to metres on an ellipsoid with the semi-major axis `a` (metres).
-    OperationOfProj(ProjObject operation, double a);
+    /// `operation` runs from radians to metres on an ellipsoid with the semi-major axis `a` (metres). Where its inverse
+    /// is not exact to the micrometre, `refines` adds a step of Newton's method.
+    OperationOfProj(ProjObject operation, double a, bool refines);
 
     std::optional<GridPoint> toGrid(const GeographicPoint& point) const override;
-
-    /// PROJ's inverse, where need be with a step of Newton's method behind it: that of cass closes to 5e-6 m.
     std::optional<GeographicPoint> toGeographic(const GridPoint& point, double height) const override;
 
     /// By numerical differentiation.
@@ -22,4 +21,5 @@ private:
 
     ProjObject operation;
     double a;
+    bool refines;
 };
