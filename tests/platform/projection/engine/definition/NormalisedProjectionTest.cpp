@@ -2,9 +2,11 @@
 #include "platform/projection/IProjectionModule.h"
 #include "platform/projection/engine/proj/ProjObject.h"
 #include "support/RoomTest.h"
+#include "support/Rows.h"
 #include "support/TextTable.h"
 
 #include <QRandomGenerator>
+#include <QTest>
 
 #include <cmath>
 
@@ -53,6 +55,24 @@ private Q_SLOTS:
         held += given.contains("to_meter") ? " +to_meter=0.3047972654" : given.contains("neu") ? " +axis=neu" : "";
         const double latitude = given.contains("lat_0=-90") || given.contains("south") ? -70 : 47;
         QVERIFY(distance(shiftless, held, longitudeOf(expected) + 2, latitude) < 1e-6);
+    }
+
+    /// Where PROJ's omerc is off by decimetres, and another latitude as good as any.
+    void azimuth90_data() {
+        const Rows<double, QByteArray> row({"latitude", "projection"});
+        for (const double latitude : {45.0, 46.5, 33.3, 50.1, 47.1}) {
+            for (const char* projection : {"somerc +lon_0=7.5", "omerc +lonc=7.5 +alpha=90 +gamma=90",
+                                           "omerc +lonc=7.5 +alpha=90 +no_uoff", "omerc +lonc=7.5 +alpha=-90 +no_uoff"})
+                row(QByteArray::number(latitude) + ' ' + projection, latitude, projection);
+        }
+    }
+    void azimuth90() {
+        QFETCH(double, latitude);
+        QFETCH(QByteArray, projection);
+        const QByteArray place = " +lat_0=" + QByteArray::number(latitude) + " +x_0=600000 +y_0=200000 +ellps=bessel";
+        const QByteArray held = define("+proj=" + projection + place);
+        QVERIFY2(held.startsWith("+proj=omerc") && held.contains(" +lonc=7.5 "), held.constData());
+        QVERIFY(define("+proj=omerc +lonc=7.5 +alpha=90 +gamma=89.999" + place).indexOf("+proj=") < 0);
     }
 
     void undefined_data() { textRows("undefined.txt", {"title", "given"}); }
