@@ -8,9 +8,9 @@ double IsometricLatitude::ofLatitude(double phi, double e) {
 }
 
 double IsometricLatitude::toLatitude(double psi, double e) {
-    constexpr double mostOfDouble = 700; // sinh() overflows beyond; the latitude has long been a right angle
-    constexpr int mostSteps = 6;         // three do
-    const double tangent = std::sinh(std::clamp(psi, -mostOfDouble, mostOfDouble)); // of the conformal latitude
+    constexpr double farthest = 300; // the latitude has long been a right angle there, and no square overflows
+    constexpr int mostSteps = 6;     // three do
+    const double tangent = std::sinh(std::clamp(psi, -farthest, farthest)); // of the conformal latitude
     const double e2 = e * e;
     double tau = tangent / std::sqrt(1 - e2);
     for (int step = 0; step < mostSteps; ++step) {
