@@ -138,14 +138,27 @@ private Q_SLOTS:
 
     /// Rotations of 20 arc-seconds are no small angles: there and back they miss by centimetres.
     void unreliableResult() {
-        PanelOnScreen screen(*SampleRecord::named("British grid").with("_7rx", "0.0055").record(),
-                             PanelOnScreen::Check);
-        screen.type("Latitude", "52");
-        screen.type("Longitude", "1");
-        QCOMPARE(result(screen, "Closing error"), QString("0.000 mm"));
-        screen.find<QComboBox>("Datum")->setCurrentIndex(1);
-        QVERIFY2(result(screen, "Closing error").endsWith("  The projection is not reliable here."),
-                 qPrintable(result(screen, "Closing error")));
+        PanelOnScreen screen(*SampleRecord::named("British grid").record(), PanelOnScreen::Check);
+        screen.type("Latitude", "0");
+        screen.type("Longitude", "74");
+        QVERIFY(result(screen, "Closing error")
+                    .endsWith(" mm, datum shift 0.000 mm  The projection is not reliable here."));
+        // Into the Earth's middle.
+        screen.show(*SampleRecord::named("British grid").with("_7dx", "-3890000").with("_7dz", "-5037000").record());
+        screen.type("Latitude", "52.5");
+        screen.type("Longitude", "0");
+        QVERIFY(result(screen, "Closing error").startsWith("0.000 mm, datum shift "));
+        QVERIFY(result(screen, "Closing error").endsWith(" mm  The datum shift is not reliable here."));
+    }
+
+    void notConformal() {
+        PanelOnScreen screen(*SampleRecord::named("Cassini").record(), PanelOnScreen::Check);
+        screen.type("Latitude", "10.5");
+        screen.type("Longitude", "-60.4");
+        QCOMPARE(result(screen, "Combined factor"), result(screen, "Grid scale factor"));
+        QVERIFY(result(screen, "Combined factor").startsWith("along the meridian 1.00012"));
+        QCOMPARE(result(screen, "Convergence"),
+                 QString("along the meridian 0.1700792°\nin other directions off by up to 13.4\""));
     }
 
     void otherDatumIsUnknownWithoutShift() {
