@@ -1,15 +1,31 @@
 #include "Reference.h"
 
-#include <quadmath.h>
-
 #include <GeographicLib/Ellipsoid.hpp>
 #include <GeographicLib/TransverseMercatorExact.hpp>
 
 #include <cmath>
 
-namespace {
+__extension__ typedef __float128 Quad; // NOLINT(modernize-use-using): the extension goes with a typedef only
 
-__extension__ typedef __float128 Quad;
+// Of GCC's libquadmath, whose header other compilers' tools don't find.
+extern "C" {
+Quad acosq(Quad);
+Quad asinq(Quad);
+Quad atan2q(Quad, Quad);
+Quad atanhq(Quad);
+Quad atanq(Quad);
+Quad copysignq(Quad, Quad);
+Quad cosq(Quad);
+Quad fabsq(Quad);
+Quad logq(Quad);
+Quad powq(Quad, Quad);
+Quad remainderq(Quad, Quad);
+Quad sinq(Quad);
+Quad sqrtq(Quad);
+Quad tanq(Quad);
+}
+
+namespace {
 
 const Quad pi = acosq(-1);
 

@@ -43,7 +43,7 @@ public:
     virtual ~IProjectedSystem() = default;
 
     /// From latitude and longitude on the system's own datum; the height plays no part. Exact to better than 1e-6 m
-    /// within a method's useful area, at the limits of its parameters, too (the transverse Mercator within 80 degrees
+    /// within a method's useful area, at the limits of its parameters, too (the transverse Mercator within 4,000 km
     /// of the central meridian); bench/limits measures it.
     virtual std::optional<GridPoint> toGrid(const GeographicPoint& point) const = 0;
 
