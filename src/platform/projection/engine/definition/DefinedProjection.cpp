@@ -23,7 +23,8 @@ namespace {
 class Maker {
 public:
     explicit Maker(const ProjItems& items) : items(items), primeMeridian(primeMeridianOf(items)) {
-        known = ellipsoid.read(items) && (!items.has("units") || items.text("units") == "m");
+        known = ellipsoid.read(items) && std::isfinite(primeMeridian) &&
+                (!items.has("units") || items.text("units") == "m");
     }
 
     struct Method {
@@ -67,7 +68,7 @@ private:
 };
 
 const Maker::Method Maker::methods[] = {
-    {"omerc", "lat_0 lonc lon_0 alpha gamma lat_1 lon_1 lat_2 lon_2 no_uoff no_off", &Maker::obliqueMercator},
+    {"omerc", "lat_0 lonc lon_0 alpha gamma lat_1 lon_1 lat_2 lon_2", &Maker::obliqueMercator},
     {"tmerc", "lat_0 lon_0", &Maker::transverseMercator},
     {"stere", "lat_0 lon_0 lat_ts", &Maker::stereographic},
     {"sterea", "lat_0 lon_0", &Maker::doubleStereographic},
@@ -83,14 +84,14 @@ std::unique_ptr<PlaneProjection> Maker::make() const {
 }
 
 bool Maker::knows(const char* keys) const {
-    static const QByteArrayList common = QByteArray("k k_0 x_0 y_0 a b rf f R es e").split(' ');
-    static const QByteArrayList words = QByteArray("proj ellps datum pm units no_defs type title wktext").split(' ');
+    static const QByteArrayList numbers = QByteArray("k k_0 x_0 y_0 a b rf f R es e").split(' ');
+    static const QByteArrayList words =
+        QByteArray("proj ellps datum pm units no_defs type title wktext no_uoff no_off").split(' ');
     const QByteArrayList angles = QByteArray(keys).split(' ');
     return std::all_of(items.all().begin(), items.all().end(), [&](const ProjItems::Item& item) {
-        if (words.contains(item.key) || item.key == "no_uoff" || item.key == "no_off")
-            return item.key.startsWith("no_") ? item.key == "no_defs" || angles.contains(item.key) : true;
-        return angles.contains(item.key) ? std::isfinite(ProjItems::toAngle(item.value))
-                                         : common.contains(item.key) && std::isfinite(ProjItems::toNumber(item.value));
+        return words.contains(item.key) ||
+               (angles.contains(item.key) && std::isfinite(ProjItems::toAngle(item.value))) ||
+               (numbers.contains(item.key) && std::isfinite(ProjItems::toNumber(item.value)));
     });
 }
 
