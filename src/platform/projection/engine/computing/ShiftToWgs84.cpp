@@ -6,7 +6,9 @@
 
 namespace {
 
-using Vector = std::array<double, 3>;
+using Vectors::cross;
+using Vectors::product;
+using Vectors::Vector;
 
 constexpr double wgs84A = 6378137.0;
 constexpr double wgs84B = wgs84A - wgs84A / 298.257223563;
@@ -44,11 +46,6 @@ std::optional<GeographicPoint> toGeographic(const Vector& place, double a, doubl
     return point;
 }
 
-Vector cross(const Vector& left, const Vector& right) {
-    return {left[1] * right[2] - left[2] * right[1], left[2] * right[0] - left[0] * right[2],
-            left[0] * right[1] - left[1] * right[0]};
-}
-
 } // namespace
 
 ShiftToWgs84::ShiftToWgs84(const ProjTowgs84& shift, double a, double b)
@@ -74,12 +71,8 @@ std::optional<GeographicPoint> ShiftToWgs84::inverse(const GeographicPoint& poin
     for (std::size_t i = 0; i < 3; ++i)
         place[i] = (place[i] - translation[i]) / scale;
     const Vector turn = cross(rotation, place);
-    double along = 0;
-    double square = 0;
-    for (std::size_t i = 0; i < 3; ++i) {
-        along += rotation[i] * place[i];
-        square += rotation[i] * rotation[i];
-    }
+    const double along = product(rotation, place);
+    const double square = product(rotation, rotation);
     for (std::size_t i = 0; i < 3; ++i)
         place[i] = (place[i] - turn[i] + rotation[i] * along) / (1 + square);
     return toGeographic(place, a, b);

@@ -2,8 +2,8 @@
 
 #include "platform/projection/IProjectedSystem.h"
 #include "platform/projection/ProjectionLibrary.h"
+#include "platform/projection/engine/plane/Vectors.h"
 
-#include <array>
 #include <optional>
 
 /// The shift from an own datum to WGS 84 between geocentric coordinates: EPSG method 9606, the position-vector
@@ -18,10 +18,8 @@ public:
     std::optional<GeographicPoint> inverse(const GeographicPoint& point) const;
 
 private:
-    using Vector = std::array<double, 3>;
-
-    Vector translation;
-    Vector rotation; ///< radians
+    Vectors::Vector translation;
+    Vectors::Vector rotation; ///< radians
     double scale;
     double a, b;
 };

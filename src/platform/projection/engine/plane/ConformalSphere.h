@@ -1,12 +1,12 @@
 #pragma once
 
-#include <array>
+#include "platform/projection/engine/plane/Vectors.h"
 
 /// A sphere onto which an ellipsoid goes conformally: its longitudes and isometric latitudes are those of the
 /// ellipsoid, counted from a centre, times a constant. Angles in degrees and radians as said, lengths in metres.
 class ConformalSphere {
 public:
-    using Vector = std::array<double, 3>;
+    using Vector = Vectors::Vector;
 
     /// The sphere that fits best at a latitude (degrees), where the scale differs from 1 by the third power of the
     /// distance only (Gauss 1843): that of the oblique Mercator and the double stereographic projection.
@@ -47,24 +47,3 @@ private:
     double isometricCentre;   ///< on the ellipsoid
     double isometricOnSphere; ///< the same on the sphere
 };
-
-/// Vectors in space.
-namespace Vectors {
-
-using Vector = ConformalSphere::Vector;
-
-inline double product(const Vector& left, const Vector& right) {
-    return left[0] * right[0] + left[1] * right[1] + left[2] * right[2];
-}
-
-inline Vector cross(const Vector& left, const Vector& right) {
-    return {left[1] * right[2] - left[2] * right[1], left[2] * right[0] - left[0] * right[2],
-            left[0] * right[1] - left[1] * right[0]};
-}
-
-/// a x + b y
-inline Vector sum(double a, const Vector& x, double b, const Vector& y) {
-    return {a * x[0] + b * y[0], a * x[1] + b * y[1], a * x[2] + b * y[2]};
-}
-
-} // namespace Vectors

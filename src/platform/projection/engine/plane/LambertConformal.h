@@ -5,7 +5,7 @@
 /// The Lambert conic conformal projection with one standard parallel or two (EPSG methods 9801, 1102 and 9802).
 ///
 /// By formulas that hold for every cone: PROJ's lcc, as EPSG guidance note 7-2, takes the difference of two radii,
-/// which grow without bounds as the cone becomes a cylinder (off by 1 m with a parallel of 0.1 arc-seconds), and the
+/// which grow without bounds as the cone becomes a cylinder (off by 7 mm with a parallel of 0.04 arc-seconds), and the
 /// constant of the cone from two differences, which vanish as the parallels come together (off by 7 mm with 20
 /// arc-microseconds between them).
 class LambertConformal : public PlaneProjection {
