@@ -106,16 +106,19 @@ private Q_SLOTS:
         QVERIFY(proposal->after().extreme() < 0.06);
     }
 
-    /// From 177 degrees east to 177 west, whose middle is neither beyond 180 nor at the end of the map.
+    /// From 177 degrees east to 177 and to 175 west.
     void acrossTheAntimeridian() {
         const DictionaryGuard record = SampleRecord::named("UTM").with(CoordParamKey::orgLon, "178").record();
-        QVector<GeographicPoint> points;
-        for (double longitude = 177.0; longitude <= 183.0; longitude += 0.5)
-            points.append({-16.0, std::remainder(longitude, 360.0), 0.0});
-        const auto proposal = DesignProposal::make(*record, *projectionModule(), points, 0.0, true);
-        QVERIFY(proposal && proposal->changes().size() == 2);
-        QCOMPARE(proposal->changes().first().after, 180.0);
-        QVERIFY2(proposal->after().extreme() < 640.0, qPrintable(QString::number(proposal->after().extreme())));
+        for (const double east : {183.0, 185.0}) {
+            QVector<GeographicPoint> points;
+            for (double longitude = 177.0; longitude <= east; longitude += 0.5)
+                points.append({-16.0, std::remainder(longitude, 360.0), 0.0});
+            const auto proposal = DesignProposal::make(*record, *projectionModule(), points, 0.0, true);
+            QVERIFY(proposal && proposal->changes().size() == 2);
+            QCOMPARE(proposal->changes().first().after, east == 183.0 ? 180.0 : -179.0);
+            QVERIFY2(proposal->after().extreme() < (east == 183.0 ? 640.0 : 1130.0),
+                     qPrintable(QString::number(proposal->after().extreme())));
+        }
     }
 
     /// What changes less than the rounding is not worth a change, nor is a line that makes nothing better.
