@@ -153,10 +153,9 @@ private Q_SLOTS:
         QCOMPARE(catalogue->takeCalls(), (QStringList{"treeItemClicked(B,same)", "treeItemClicked(B,same)"}));
     }
 
-    void menuFollowsTheItem_data() { textRows("menus.txt", {"item", "entries"}); }
+    void menuFollowsTheItem_data() { textRows("menus.txt"); }
     void menuFollowsTheItem() {
-        QFETCH(QByteArray, item);
-        QFETCH(QByteArray, entries);
+        const auto [item, entries] = textRow<2>();
         startTree();
         QStringList shown;
         QPoint place;
@@ -166,21 +165,10 @@ private Q_SLOTS:
         QCOMPARE(place, QPoint(123, 45));
     }
 
-    void command_data() {
-        textRows("commands.txt", {"title", "clicked", "on", "entry", "asked", "typed", "log", "treeAfter",
-                                  "currentAfter", "namesAfter"});
-    }
+    void command_data() { textRows("commands.txt"); }
 
     void command() {
-        QFETCH(QByteArray, clicked);
-        QFETCH(QByteArray, on);
-        QFETCH(QByteArray, entry);
-        QFETCH(QByteArray, asked);
-        QFETCH(QByteArray, typed);
-        QFETCH(QByteArray, log);
-        QFETCH(QByteArray, treeAfter);
-        QFETCH(QByteArray, currentAfter);
-        QFETCH(QByteArray, namesAfter);
+        const auto [title, clicked, on, entry, asked, typed, log, treeAfter, currentAfter, namesAfter] = textRow<10>();
         startTree();
         // The name dialog is used again and again; its Cancel button had the focus last.
         ModalDriver::onNextDialog([](QDialog* dialog) {

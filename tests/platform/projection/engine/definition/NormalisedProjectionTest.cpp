@@ -42,10 +42,9 @@ private Q_SLOTS:
         proj_log_level(nullptr, PJ_LOG_NONE);
     }
 
-    void normalised_data() { textRows("normalised.txt", {"title", "given", "expected"}); }
+    void normalised_data() { textRows("normalised.txt"); }
     void normalised() {
-        QFETCH(QByteArray, given);
-        QFETCH(QByteArray, expected);
+        const auto [title, given, expected] = textRow<3>();
         QCOMPARE(define(given), expected + noShift);
         QCOMPARE(define(define(given)), define(given));
         const QByteArray shiftless = QByteArray(given).replace("+nadgrids=@null", "").replace("+datum=", "+ellps=");
@@ -55,18 +54,18 @@ private Q_SLOTS:
         QVERIFY(distance(shiftless, held, longitudeOf(expected) + 2, latitude) < 1e-6);
     }
 
-    void undefined_data() { textRows("undefined.txt", {"title", "given"}); }
+    void undefined_data() { textRows("undefined.txt"); }
     void undefined() {
-        QFETCH(QByteArray, given);
+        const auto [title, given] = textRow<2>();
         const QByteArray text = define(given);
         QVERIFY2(!text.isEmpty() && !text.contains("proj=") && !text.contains("k_0=") && !text.contains("nan"),
                  text.constData());
         QVERIFY2(text.startsWith("+lat_") || text.startsWith("+lon"), text.constData());
     }
 
-    void plainDefinitionsComputeTheSame_data() { textRows("patterns.txt", {"pattern"}); }
+    void plainDefinitionsComputeTheSame_data() { textRows("patterns.txt"); }
     void plainDefinitionsComputeTheSame() {
-        QFETCH(QByteArray, pattern);
+        const auto [pattern] = textRow<1>();
         QRandomGenerator random(20);
         const QList<QByteArray> ends{" +ellps=GRS80",
                                      " +ellps=bessel +pm=ferro",
