@@ -199,7 +199,7 @@ private Q_SLOTS:
             RecordingCatalogue catalogue;
             fill(catalogue, kind);
             for (const QString& flag : flagsOfOwn + flagsOfOthers)
-                addEntry(catalogue, kind, '"' + flag + '"', flag);
+                addEntry(catalogue, kind, flag.isNull() ? "no flag" : "flag " + flag, flag);
             const auto dialog = create(kind, &catalogue, CustomCatalogue::ListMode);
             for (int i = 4; i < nameBox(dialog.get())->count(); ++i) {
                 nameBox(dialog.get())->setCurrentIndex(i);
