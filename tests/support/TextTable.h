@@ -8,16 +8,21 @@
 #include <algorithm>
 #include <array>
 
-/// The rows of a table in a text file of the test's folder: columns parted by "|", blanks around them dropped, "\t" for
-/// a tab; empty lines and those that begin with "#" apart.
+/// The rows of a table in a text file of the test's folder: columns parted by "|", blanks around them dropped, "\t",
+/// "\n",
+/// "\r" and "\x7f" as in C++; empty lines and those that begin with "#" apart.
 inline QList<QByteArrayList> textTable(const char* file) {
     QList<QByteArrayList> rows;
-    for (QByteArray line : contentOf(QString(TEST_DATA_DIR "/%1").arg(file)).split('\n')) {
+    for (const QByteArray& line : contentOf(QString(TEST_DATA_DIR "/%1").arg(file)).split('\n')) {
         if (line.trimmed().isEmpty() || line.startsWith('#'))
             continue;
         QByteArrayList columns;
-        for (const QByteArray& column : line.replace("\\t", "\t").split('|'))
-            columns.append(column.trimmed());
+        for (QByteArray column : line.split('|')) {
+            column = column.trimmed().replace("\\t", "\t").replace("\\n", "\n").replace("\\r", "\r");
+            for (int at = 0; (at = column.indexOf("\\x", at)) >= 0; ++at)
+                column.replace(at, 4, QByteArray::fromHex(column.mid(at + 2, 2)));
+            columns.append(column);
+        }
         rows.append(columns);
     }
     return rows;
