@@ -11,9 +11,6 @@ public:
     using Create = std::unique_ptr<QObject> (*)();
 
     RoomTest(const char* name, Create create);
-
-    /// Runs the classes; how many of them failed.
-    static int run(int argc, char** argv);
 };
 
 #define ROOM_TEST(TestClass)                                                                                           \
