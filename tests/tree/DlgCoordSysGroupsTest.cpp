@@ -32,24 +32,19 @@ void fillCatalogue(RecordingCatalogue& catalogue) {
     catalogue.addTestGroup("C");
 }
 
-/// The item at "root", "group" or "group/system"; not a hidden one.
-QTreeWidgetItem* itemAtPath(const QTreeWidget& tree, const QString& path) {
-    QTreeWidgetItem* item = tree.topLevelItem(0);
-    for (const QString& part : path.split('/')) {
-        for (int i = 0; i < item->childCount(); ++i) {
-            if (item->child(i)->text(0) == part && !item->child(i)->isHidden()) {
-                item = item->child(i);
-                break;
-            }
-        }
-    }
-    return item;
-}
-
 QString pathOf(const QTreeWidgetItem* item) {
     if (!item->parent())
         return "root";
     return item->parent()->parent() ? item->parent()->text(0) + "/" + item->text(0) : item->text(0);
+}
+
+/// The item at "root", "group" or "group/system"; not a hidden one.
+QTreeWidgetItem* itemAtPath(QTreeWidget& tree, const QString& path) {
+    for (QTreeWidgetItemIterator it(&tree, QTreeWidgetItemIterator::NotHidden); *it; ++it) {
+        if (pathOf(*it) == path)
+            return *it;
+    }
+    return nullptr;
 }
 
 // The whole tree as one text: groups with their systems in brackets, hidden items with a "-" in front.
@@ -213,12 +208,8 @@ private Q_SLOTS:
             const QPoint pos = tree->visualItemRect(itemAtPath(*tree, "A/" + name)).center();
             QHelpEvent event(QEvent::ToolTip, pos, tree->viewport()->mapToGlobal(pos));
             QApplication::sendEvent(tree->viewport(), &event);
-            QTextDocument read;
-            if (Qt::mightBeRichText(QToolTip::text()))
-                read.setHtml(QToolTip::text());
-            else
-                read.setPlainText(QToolTip::text());
-            QCOMPARE(read.toPlainText(), name);
+            const QString text = QToolTip::text();
+            QCOMPARE(Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text, name);
             QToolTip::hideText();
         }
     }
