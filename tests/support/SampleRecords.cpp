@@ -6,34 +6,14 @@
 
 #include <algorithm>
 
-namespace {
-
-/// A record of "key=value" items separated by blanks ("~" stands for a blank), on GRS 1980 unless it says otherwise.
-SampleRecord sample(const QByteArray& title, const QByteArray& items) {
-    SampleRecord record{title,
-                        {{"name", title},
-                         {"ellipsoid_name", "GRS 1980"},
-                         {"ellipsoid_a", "6378137"},
-                         {"ellipsoid_f", "298.257222101"},
-                         {"_7type", "0"}}};
-    for (const QByteArray& item : items.split(' ')) {
-        const int equals = item.indexOf('=');
-        record = record.with(item.left(equals), item.mid(equals + 1).replace('~', ' '));
-    }
-    return record;
-}
-
-} // namespace
-
 SampleRecord SampleRecord::with(const QByteArray& key, const QByteArray& text) const {
     SampleRecord changed = *this;
-    for (auto& value : changed.values) {
-        if (value.first == key) {
-            value.second = text;
-            return changed;
-        }
-    }
-    changed.values.append({key, text});
+    const auto found = std::find_if(changed.values.begin(), changed.values.end(),
+                                    [&](const auto& value) { return value.first == key; });
+    if (found == changed.values.end())
+        changed.values.append({key, text});
+    else
+        found->second = text;
     return changed;
 }
 
@@ -51,8 +31,15 @@ std::unique_ptr<IProjectedSystem> SampleRecord::system() const {
 const QVector<SampleRecord>& SampleRecord::all() {
     static const QVector<SampleRecord> records = [] {
         QVector<SampleRecord> read;
-        for (const QByteArrayList& row : textTable("samples.txt"))
-            read << sample(row[0], row[1]);
+        const QByteArray onGrs80 = "ellipsoid_name=GRS~1980 ellipsoid_a=6378137 ellipsoid_f=298.257222101 _7type=0 ";
+        for (const QByteArrayList& row : textTable("samples.txt")) {
+            SampleRecord sample{row[0], {{"name", row[0]}}};
+            for (const QByteArray& item : (onGrs80 + row[1]).split(' ')) {
+                const QByteArray key = item.split('=').first();
+                sample = sample.with(key, item.mid(key.size() + 1).replace('~', ' '));
+            }
+            read << sample;
+        }
         return read;
     }();
     return records;
