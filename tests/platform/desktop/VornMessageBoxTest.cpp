@@ -15,7 +15,7 @@ private Q_SLOTS:
     void box() {
         const auto row = textRow<4>();
         const bool question = row[1] == "question";
-        const QByteArray keys = row[2];
+        const QByteArray& keys = row[2];
         QByteArray answer = row[3];
         QWidget parent;
         const QString text = "Delete <b>x</b> & 100%1\nof \"it\"?", title = "Title <i>";
