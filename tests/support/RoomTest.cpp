@@ -1,5 +1,6 @@
 #include "support/RoomTest.h"
 
+#include <QDir>
 #include <QTest>
 
 #include <map>
@@ -20,6 +21,10 @@ static std::map<std::string, RoomTest::Create>& classes() {
 
 RoomTest::RoomTest(const char* name, Create create) {
     classes().emplace(name, create);
+}
+
+QString RoomTest::dataPath(const QString& name) {
+    return QDir(TEST_DATA_DIR).filePath(name);
 }
 
 int main(int argc, char** argv) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 
 #include <memory>
 
@@ -11,6 +12,9 @@ public:
     using Create = std::unique_ptr<QObject> (*)();
 
     RoomTest(const char* name, Create create);
+
+    /// The path of a file of the room's folder; an absolute path stays.
+    static QString dataPath(const QString& name);
 };
 
 #define ROOM_TEST(TestClass)                                                                                           \

@@ -32,7 +32,7 @@ const QVector<SampleRecord>& SampleRecord::all() {
     static const QVector<SampleRecord> records = [] {
         QVector<SampleRecord> read;
         const QByteArray onGrs80 = "ellipsoid_name=GRS~1980 ellipsoid_a=6378137 ellipsoid_f=298.257222101 _7type=0 ";
-        for (const QByteArrayList& row : textTable("samples.txt")) {
+        for (const QByteArrayList& row : textTable(SAMPLES)) {
             SampleRecord sample{row[0], {{"name", row[0]}}};
             for (const QByteArray& item : (onGrs80 + row[1]).split(' ')) {
                 const QByteArray key = item.split('=').first();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/Files.h"
+#include "support/RoomTest.h"
 
 #include <QByteArrayList>
 #include <QTest>
@@ -13,7 +14,7 @@
 /// "\r" and "\x7f" as in C++; empty lines and those that begin with "#" apart.
 inline QList<QByteArrayList> textTable(const char* file) {
     QList<QByteArrayList> rows;
-    for (const QByteArray& line : contentOf(QString(TEST_DATA_DIR "/%1").arg(file)).split('\n')) {
+    for (const QByteArray& line : contentOf(RoomTest::dataPath(file)).split('\n')) {
         if (line.trimmed().isEmpty() || line.startsWith('#'))
             continue;
         QByteArrayList columns;
