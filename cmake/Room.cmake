@@ -26,21 +26,16 @@ function(add_room name)
   target_link_libraries(${name} PUBLIC vorn_options ${ROOM_PUBLIC} PRIVATE ${ROOM_PRIVATE})
 endfunction()
 
-# The test program of a room: tests/<folder>/*.cpp, run offscreen by CTest under the name <name>. Its main function is
-# support/main_gui.cpp where it links test_gui, else support/main.cpp.
+# The test program of a room: tests/<folder>/*.cpp, run offscreen by CTest under the name <name>; with the tool's application
+# object where it links test_gui.
 #   add_room_test(<name> <libraries>...)
 function(add_room_test name)
   file(GLOB sources CONFIGURE_DEPENDS *.h *.cpp)
-  set(support ${PROJECT_SOURCE_DIR}/tests/support)
-  if(test_gui IN_LIST ARGN)
-    list(APPEND sources ${support}/main_gui.cpp)
-  else()
-    list(APPEND sources ${support}/main.cpp)
-  endif()
-  add_executable(${name} ${sources} ${support}/RoomTest.cpp)
+  add_executable(${name} ${sources} ${PROJECT_SOURCE_DIR}/tests/support/RoomTest.cpp)
   target_link_libraries(${name} PRIVATE vorn_options ${ARGN} Qt5::Test)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-  target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_CURRENT_SOURCE_DIR}")
+  target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_CURRENT_SOURCE_DIR}"
+                                             "$<$<IN_LIST:test_gui,${ARGN}>:ROOM_TEST_GUI>")
   # Beside bin/, so that $(APP_DIR)/../etc and ../lib are the build tree's own.
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   add_test(NAME ${name} COMMAND ${name})

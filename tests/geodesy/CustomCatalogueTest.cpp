@@ -23,8 +23,7 @@
 
 namespace {
 
-const QString ellipsoid = QStringLiteral("Ellipsoid");
-const QString geoid = QStringLiteral("Geoid");
+const QString ellipsoid = QStringLiteral("Ellipsoid"), geoid = QStringLiteral("Geoid");
 const QString refused = QStringLiteral("information|please input correct param!");
 
 QString appFolder;         ///< what "$(APP_DIR)" stands for
@@ -49,10 +48,9 @@ void addEntry(RecordingCatalogue& catalogue, const QString& kind, const QString&
 void fill(RecordingCatalogue& catalogue, const QString& kind) {
     if (kind == geoid)
         catalogue.addTestEllipsoid("WGS 84", "6378137.0", "298.257223563", "1");
-    addEntry(catalogue, kind, "WGS 84", "1");
-    addEntry(catalogue, kind, "plain", QString());
-    addEntry(catalogue, kind, "mine", "0");
-    addEntry(catalogue, kind, "mine too", "0");
+    for (const auto& [name, flag] :
+         {std::pair<QString, QString>{"WGS 84", "1"}, {"plain", {}}, {"mine", "0"}, {"mine too", "0"}})
+        addEntry(catalogue, kind, name, flag);
     catalogue.takeCalls();
 }
 
@@ -181,13 +179,9 @@ private Q_SLOTS:
 
     void cleanup() { QCOMPARE(dictionary_alive_count(), aliveAtStart); }
 
-    void modes_data() { textRows("modes.txt", {"title", "kind", "mode", "window", "layout", "expected"}); }
+    void modes_data() { textRows("modes.txt"); }
     void modes() {
-        QFETCH(QByteArray, kind);
-        QFETCH(QByteArray, mode);
-        QFETCH(QByteArray, window);
-        QFETCH(QByteArray, layout);
-        QFETCH(QByteArray, expected);
+        const auto [title, kind, mode, window, layout, expected] = textRow<6>();
         RecordingCatalogue catalogue;
         fill(catalogue, kind);
         const auto dialog = create(kind, &catalogue, mode.toInt());
@@ -198,29 +192,21 @@ private Q_SLOTS:
         QCOMPARE(nameBox(dialog.get())->count(), 4);
     }
 
-    void selection_data() {
-        const Rows<QString, bool> row({"flag", "own"});
-        row("0", "0", true);
-        row("1", "1", false);
-        row("missing", QString(), false);
-        row("a text", "own", true);
-        row("empty", "", true);
-        row("00 and a tail", " 00x", true);
-        row("negative", "-1", false);
-    }
-
     /// What the list enables for an entry that is selected, and what it shows of one without values.
     void selection() {
-        QFETCH(QString, flag);
-        QFETCH(bool, own);
+        const QStringList flagsOfOwn = {"0", "own", "", " 00x"}, flagsOfOthers = {"1", QString(), "-1"};
         for (const QString& kind : {ellipsoid, geoid}) {
             RecordingCatalogue catalogue;
             fill(catalogue, kind);
-            addEntry(catalogue, kind, "last", flag);
+            for (const QString& flag : flagsOfOwn + flagsOfOthers)
+                addEntry(catalogue, kind, flag.isNull() ? "no flag" : "flag " + flag, flag);
             const auto dialog = create(kind, &catalogue, CustomCatalogue::ListMode);
-            nameBox(dialog.get())->setCurrentIndex(4);
-            QVERIFY(shown(dialog.get()).endsWith(own ? "; Add; Edit; Delete" : "; Add; (Edit); (Delete)"));
-
+            for (int i = 4; i < nameBox(dialog.get())->count(); ++i) {
+                nameBox(dialog.get())->setCurrentIndex(i);
+                const bool own = i < 4 + flagsOfOwn.size();
+                QCOMPARE(shown(dialog.get()).section("; ", -3),
+                         QString(own ? "Add; Edit; Delete" : "Add; (Edit); (Delete)"));
+            }
             IDictionary* record = (kind == ellipsoid ? catalogue.ellipsoids : catalogue.geoids).find("mine");
             for (const char* key : {EllipsoidKey::a, EllipsoidKey::f, GeoidKey::file, GeoidKey::ellipsoid})
                 record->remove(key);
@@ -231,9 +217,9 @@ private Q_SLOTS:
 
     void emptyList_data() {
         const Rows<QString, bool> row({"kind", "nullList"});
-        for (const bool null : {false, true}) {
-            row(null ? "ellipsoids, null" : "ellipsoids, empty", ellipsoid, null);
-            row(null ? "geoids, null" : "geoids, empty", geoid, null);
+        for (const QString& kind : {ellipsoid, geoid}) {
+            row(kind.toLatin1() + ", null", kind, true);
+            row(kind.toLatin1() + ", empty", kind, false);
         }
     }
 
@@ -258,33 +244,26 @@ private Q_SLOTS:
         QCOMPARE(catalogue.calls.filter(QRegExp("^(add|delete|save)")), QStringList());
     }
 
-    void confirm_data() { textRows("confirm.txt", {"title", "mode", "quoted", "entered", "outcome"}); }
+    void confirm_data() { textRows("confirm.txt"); }
     void confirm() {
-        QFETCH(QByteArray, mode);
-        QFETCH(QByteArray, quoted);
-        QFETCH(QByteArray, entered);
-        QFETCH(QByteArray, outcome);
-        for (const QString& kind : {ellipsoid, geoid}) {
-            QStringList values =
-                kind == ellipsoid ? QStringList{"6378137.000", "298.257223563"} : QStringList{"a.ggf", "WGS 84"};
-            if (entered != "both")
-                values[entered == "first" ? 1 : 0].clear();
-            const QString name = QString(quoted.mid(1, quoted.size() - 2)).replace("\\0", QString(QChar(0)));
-            confirmed(kind, modeOf(mode), name, values, outcome);
-        }
+        const auto [title, mode, quoted, entered, outcome] = textRow<5>();
+        const QString name = QString(quoted.mid(1, quoted.size() - 2)).replace("\\0", QString(QChar(0)));
+        for (const auto& [kind, first, second] :
+             {std::make_tuple(ellipsoid, "6378137.000", "298.257223563"), {geoid, "a.ggf", "WGS 84"}})
+            confirmed(kind, modeOf(mode), name, {entered == "second" ? "" : first, entered == "first" ? "" : second},
+                      outcome);
     }
 
-    void number_data() { textRows("numbers.txt", {"number", "outcome"}); }
+    void number_data() { textRows("numbers.txt"); }
     void number() {
-        QFETCH(QByteArray, number);
-        QFETCH(QByteArray, outcome);
+        const auto [number, outcome] = textRow<2>();
         confirmed(ellipsoid, CustomCatalogue::EditMode, "mine", {number, "300"}, outcome);
         confirmed(ellipsoid, CustomCatalogue::AddMode, "new", {"1", number}, outcome);
     }
 
     void nested_data() {
         // current: in the list afterwards; "mine" before
-        const Rows<QString, QString, QString> row({"opener", "closer", "current"});
+        const Rows<QString, QString, QString> row({"opener", "closing", "current"});
         row("add", "Add", "OK", "new");
         row("add, cancelled", "Add", "Cancel", "mine");
         row("edit", "Edit", "OK", "mine");
@@ -294,10 +273,9 @@ private Q_SLOTS:
 
     void nested() {
         QFETCH(QString, opener);
-        QFETCH(QString, closer);
+        QFETCH(QString, closing);
         QFETCH(QString, current);
-        const bool edit = opener == "Edit", confirmed = closer == "OK";
-        const QString closing = closer;
+        const bool edit = opener == "Edit", confirmed = closing == "OK";
         for (const QString& kind : {ellipsoid, geoid}) {
             RecordingCatalogue catalogue;
             fill(catalogue, kind);
@@ -366,80 +344,67 @@ private Q_SLOTS:
         }
     }
 
-    void typedNameStaysTyped_data() {
-        const Rows<QString> row({"typed"});
-        for (const char* typed : {"WGS", "wgs 84", "mine"})
-            row(typed, typed);
-    }
-
     /// Neither the name nor the values typed before it turn into those of an entry.
     void typedNameStaysTyped() {
-        QFETCH(QString, typed);
         RecordingCatalogue catalogue;
         fill(catalogue, ellipsoid);
-        const auto dialog = create(ellipsoid, &catalogue, CustomCatalogue::AddMode);
-        dialog->show();
-        QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
-        auto* a = child<QLineEdit>(dialog.get(), 0);
-        QTest::keyClicks(a, "6378001.50");
-        nameBox(dialog.get())->setFocus();
-        QTest::keyClicks(nameBox(dialog.get()), typed);
-        QTest::keyClick(nameBox(dialog.get()), Qt::Key_Tab);
-        QVERIFY(a->hasFocus());
-        QCOMPARE(nameBox(dialog.get())->lineEdit()->text(), typed);
-        QCOMPARE(a->text(), QString("6378001.50"));
+        for (const QString typed : {"WGS", "wgs 84", "mine"}) {
+            const auto dialog = create(ellipsoid, &catalogue, CustomCatalogue::AddMode);
+            QComboBox* const name = nameBox(dialog.get());
+            dialog->show();
+            QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
+            auto* a = child<QLineEdit>(dialog.get(), 0);
+            QTest::keyClicks(a, "6378001.50");
+            name->setFocus();
+            QTest::keyClicks(name, typed);
+            QTest::keyClick(name, Qt::Key_Tab);
+            QVERIFY(a->hasFocus());
+            QCOMPARE(name->lineEdit()->text(), typed);
+            QCOMPARE(a->text(), QString("6378001.50"));
 
-        QTest::keyClick(nameBox(dialog.get()), Qt::Key_Return);
-        QCOMPARE(messages(), QStringList(refused)); // f is empty
-        QCOMPARE(nameBox(dialog.get())->count(), 4);
+            MessageBoxDouble::reset();
+            QTest::keyClick(name, Qt::Key_Return);
+            QCOMPARE(messages(), QStringList(refused)); // f is empty
+            QCOMPARE(name->count(), 4);
 
-        // Choosing from the list does fill in, the first entry included.
-        nameBox(dialog.get())->setCurrentIndex(0);
-        QCOMPARE(nameBox(dialog.get())->lineEdit()->text(), QString("WGS 84"));
-        QCOMPARE(fields(dialog.get()), QStringList({"6378000", "298.30"}));
-    }
-
-    void typedNumber_data() {
-        const Rows<QString, QString> row({"keys", "text"});
-        row("semi-major axis", "6378137.000", "6378137.000");
-        row("inverse flattening", "298.257223563", "298.257223563");
-        row("decimal comma", "298,25", "298,25");
-        row("sign", "-5", "5");
-        row("letters", "0x1f nan", "01");
-        row("twelve decimals", "0.1234567890123", "0.123456789012");
+            // Choosing from the list does fill in, the first entry included.
+            name->setCurrentIndex(0);
+            QCOMPARE(name->lineEdit()->text(), QString("WGS 84"));
+            QCOMPARE(fields(dialog.get()), QStringList({"6378000", "298.30"}));
+        }
     }
 
     /// The keys that the number fields take, in a locale whose decimal separator is a comma.
     void typedNumber() {
-        QFETCH(QString, keys);
-        QFETCH(QString, text);
         RecordingCatalogue catalogue;
         const auto dialog = create(ellipsoid, &catalogue, CustomCatalogue::AddMode);
         for (int i : {0, 1}) {
             auto* edit = child<QLineEdit>(dialog.get(), i);
-            QTest::keyClicks(edit, keys);
-            QCOMPARE(edit->text(), text);
+            for (const auto& [keys, text] : {std::make_pair("298.257223563", "298.257223563"),
+                                             {"298,25", "298,25"},
+                                             {"-5", "5"},
+                                             {"0x1f nan", "01"},
+                                             {"0.1234567890123", "0.123456789012"}}) {
+                edit->clear();
+                QTest::keyClicks(edit, keys);
+                QCOMPARE(edit->text(), QString(text));
+            }
             const auto* validator = qobject_cast<const QDoubleValidator*>(edit->validator());
             QCOMPARE(validator->parent(), edit); // each its own
             QVERIFY(validator->bottom() == 0.0 && validator->top() == 65535.0 && validator->decimals() == 12);
         }
     }
 
-    void modelFile_data() { textRows("models.txt", {"title", "modeName", "choices", "file", "content", "answer"}); }
+    void modelFile_data() { textRows("models.txt"); }
 
     void modelFile() {
-        QFETCH(QByteArray, modeName);
-        QFETCH(QByteArray, choices);
-        QFETCH(QByteArray, file);
-        QFETCH(QByteArray, content);
-        QFETCH(QByteArray, answer);
+        const auto [title, modeName, choices, file, content, answer] = textRow<6>();
         const int mode = modeOf(modeName);
         const QStringList chosen = QString(choices).split(", ", Qt::SkipEmptyParts);
         const QTemporaryDir root;
-        QDir(root.path()).mkpath("bin");
-        QDir(root.path()).mkpath("elsewhere");
         const QString folder = root.path() + "/etc/Vornhalde/data/GeoidData/";
-        QDir().mkpath(folder);
+        for (const QString& each : {folder, root.path() + "/bin", root.path() + "/elsewhere"})
+            QDir().mkpath(each);
         appFolder = root.path() + "/bin";
         QVERIFY(setContent(folder + "there.ggf", "there"));
         for (const QString& name : {QString("there.ggf"), QString(file)})
@@ -471,9 +436,7 @@ private Q_SLOTS:
         QCOMPARE(QDir(folder).entryList(QDir::Files).count(), content == "elsewhere" ? 2 : 1);
         QCOMPARE(catalogue.fileWasThere, added && (content == "elsewhere" || content == "there"));
         const QString dataFolder = "$(APP_DIR)/../etc/Vornhalde/data/GeoidData/";
-        QStringList resolved;
-        for (int i = 0; i < chosen.count(); ++i)
-            resolved << dataFolder + "|";
+        QStringList resolved = QVector<QString>(chosen.count(), dataFolder + "|").toList();
         if (!chosen.isEmpty() && added)
             resolved << dataFolder + "%s|" + file;
         QCOMPARE(resolvedPaths, resolved);

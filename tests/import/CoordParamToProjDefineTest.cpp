@@ -13,9 +13,9 @@ class CoordParamToProjDefineTest : public QObject {
 private Q_SLOTS:
     void init() { library.reset(); }
 
-    void thereAndBack_data() { textRows("there_and_back.txt", {"title", "definition"}); }
+    void thereAndBack_data() { textRows("there_and_back.txt"); }
     void thereAndBack() {
-        QFETCH(QByteArray, definition);
+        const auto [title, definition] = textRow<2>();
         library.shift = {446.448, -125.157, 542.06, 0.1502, 0.247, 0.8421, -20.4894};
         const QByteArray scaled = definition.contains("k_0") ? definition : definition + " +k_0=1";
         const DictionaryGuard record = library.converted(scaled);
@@ -29,9 +29,9 @@ private Q_SLOTS:
         QCOMPARE(coordParamToProjDefine(*record), definition + " +a=6378137 +b=6378137 +units=m +no_defs");
     }
 
-    void withoutAProjection_data() { textRows("records_without_projection.txt", {"title", "items"}); }
+    void withoutAProjection_data() { textRows("records_without_projection.txt"); }
     void withoutAProjection() {
-        QFETCH(QByteArray, items);
+        const auto [title, items] = textRow<2>();
         const DictionaryGuard record = library.converted("+proj=tmerc +lat_0=0 +lon_0=117 +k=1 +x_0=500000 +y_0=0");
         QVERIFY(coordParamDefinesProjection(*record));
         setItems(record.get(), items);

@@ -45,20 +45,15 @@ private Q_SLOTS:
         QCOMPARE(keysOf(*library.converted("")), keys + " _7dx _7dy _7dz _7rx _7ry _7rz _7ppm");
     }
 
-    void conversions_data() { textRows("conversions.txt", {"title", "definition", "items"}); }
+    void conversions_data() { textRows("conversions.txt"); }
     void conversions() {
-        QFETCH(QByteArray, definition);
-        QFETCH(QByteArray, items);
+        const auto [title, definition, items] = textRow<3>();
         QCOMPARE(inRecord(*library.converted(definition), items), items);
     }
 
-    void handles_data() { textRows("handles.txt", {"title", "id", "name", "b", "shift", "items"}); }
+    void handles_data() { textRows("handles.txt"); }
     void handles() {
-        QFETCH(QByteArray, id);
-        QFETCH(QByteArray, name);
-        QFETCH(QByteArray, b);
-        QFETCH(QByteArray, shift);
-        QFETCH(QByteArray, items);
+        const auto [title, id, name, b, shift, items] = textRow<6>();
         const auto given = [](const QByteArray& text) { return text.isEmpty() ? nullptr : text.constData(); };
         library.projEllipsoid = {given(id), 6378137, b.toDouble(), given(name)};
         QVector<double> numbers;

@@ -1,20 +1,11 @@
 #include "RandomUser.h"
-#include "ToolOnScreen.h"
 #include "WalkRules.h"
-#include "app/VornCoordSysMainWindow.h"
-#include "catalogue/CoordParamKey.h"
 #include "catalogue/DictionaryGuard.h"
-#include "catalogue/ICoordSysGroup.h"
-#include "panel/DlgCoordParam.h"
-#include "panel/record/AngleText.h"
-#include "platform/sdk/Catalogue.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 
 #include <QtTest>
 #include <QtWidgets>
-
-#include <cstdio>
 
 namespace {
 
@@ -70,18 +61,15 @@ private Q_SLOTS:
 
         QMap<QByteArray, int> effects;
         QStringList last;
-        std::FILE* const log = qEnvironmentVariableIsSet("RANDOM_WALK_LOG")
-                                   ? std::fopen(qgetenv("RANDOM_WALK_LOG").constData(), "a")
-                                   : nullptr;
+        QFile log(qEnvironmentVariable("RANDOM_WALK_LOG"));
+        log.open(QIODevice::Append | QIODevice::Unbuffered);
         for (int i = 0; i < steps; ++i) {
             rules.beginStep();
             const int systems = tool.items(2).count();
             user.step();
             last << QString("%1: %2").arg(i).arg(user.did());
-            if (log) {
-                std::fprintf(log, "%s\n", qPrintable(last.last()));
-                std::fflush(log);
-            }
+            if (log.isOpen())
+                log.write(last.last().toLocal8Bit() + '\n');
             last = last.mid(qMax(0, last.size() - 12));
             const QString broken = rules.broken();
             if (!broken.isEmpty()) {
@@ -96,8 +84,6 @@ private Q_SLOTS:
                     ++effects[map->isEnabled() ? "map" : "no projection"];
             }
         }
-        if (log)
-            std::fclose(log);
         QStringList reached;
         for (auto effect = effects.begin(); effect != effects.end(); ++effect)
             reached << QString("%1 steps %2").arg(*effect).arg(QString::fromLatin1(effect.key()));
@@ -148,26 +134,13 @@ private:
                     own.getGroup(count % 120 ? "A" : "B")->addCoordSystem(systems->getCoordSystem(name.constData()));
             }
         }
-        const QList<QPair<const char*, const char*>> odd{
-            {CoordParamKey::projectType, "5"},
-            {CoordParamKey::projectType, "x"},
-            {CoordParamKey::factor, "nan"},
-            {CoordParamKey::factor, "1e400"},
-            {CoordParamKey::ellipsoidA, "-1"},
-            {CoordParamKey::ellipsoidF, "0"},
-            {CoordParamKey::ellipsoidF, "0.5"},
-            {CoordParamKey::orgLon, ""},
-            {CoordParamKey::orgLat, "100"},
-            {CoordParamKey::shiftType, "9"},
-            {CoordParamKey::geoidName, "none"},
-            {CoordParamKey::falseEast, "1e300"},
-            {CoordParamKey::cuttingRadius, "-5"},
-            {CoordParamKey::projectType, "10"},
-            {"unknown", "<kept>"},
-        };
-        for (const auto& value : odd) {
+        const QByteArray odd = "project_type=5|project_type=x|factor=nan|factor=1e400|ellipsoid_a=-1|ellipsoid_f=0|"
+                               "ellipsoid_f=0.5|org_lon=|org_lat=100|_7type=9|geoid_name=none|false_east=1e300|"
+                               "cutting_radius=-5|project_type=10|unknown=<kept>";
+        for (const QByteArray& item : odd.split('|')) {
+            const QByteArray key = item.split('=')[0], value = item.split('=')[1];
             const DictionaryGuard record;
-            record->setText(CoordParamKey::name, QByteArray(value.first) + ' ' + value.second);
+            record->setText(CoordParamKey::name, key + ' ' + value);
             record->setText(CoordParamKey::ellipsoidName, "WGS 84");
             dic_set_value(record.get(), CoordParamKey::ellipsoidA, "%f", 6378137.0);
             dic_set_value(record.get(), CoordParamKey::ellipsoidF, "%f", 298.257223563);
@@ -176,7 +149,7 @@ private:
                  {CoordParamKey::orgLon, CoordParamKey::orgLat, CoordParamKey::falseEast, CoordParamKey::falseNorth})
                 dic_set_value(record.get(), key, "%f", 10.0);
             dic_set_value(record.get(), CoordParamKey::factor, "%f", 0.9999);
-            record->setText(value.first, value.second);
+            record->setText(key, value);
             own.getGroup("Odd")->addCoordSystem(record.get());
         }
         QDir().mkpath(folder);

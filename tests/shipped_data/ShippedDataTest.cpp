@@ -66,11 +66,9 @@ private Q_SLOTS:
         QVERIFY(systems.condition == FileCondition::Whole);
     }
 
-    void ellipsoidFigures_data() { textRows("ellipsoids.txt", {"name", "a", "f"}); }
+    void ellipsoidFigures_data() { textRows("ellipsoids.txt"); }
     void ellipsoidFigures() {
-        QFETCH(QByteArray, name);
-        QFETCH(QByteArray, a);
-        QFETCH(QByteArray, f);
+        const auto [name, a, f] = textRow<3>();
         const CatalogueRecord* ellipsoid = ellipsoids.records.find(name);
         QVERIFY(ellipsoid);
         QCOMPARE(QByteArray(ellipsoid->values->getValue(EllipsoidKey::a)), a);
@@ -95,11 +93,9 @@ private Q_SLOTS:
         QVERIFY(std::abs(number(*clarke, EllipsoidKey::f) - 20926348.0 / (20926348 - 20855233)) < 1e-9);
     }
 
-    void systemFigures_data() { textRows("systems.txt", {"name", "group", "items"}); }
+    void systemFigures_data() { textRows("systems.txt"); }
     void systemFigures() {
-        QFETCH(QByteArray, name);
-        QFETCH(QByteArray, group);
-        QFETCH(QByteArray, items);
+        const auto [name, group, items] = textRow<3>();
         const CoordSysGroup* found = systems.groups.find(group);
         const CatalogueRecord* system = found ? found->systems.find(name) : nullptr;
         QVERIFY(system);
@@ -158,13 +154,11 @@ private Q_SLOTS:
         QVERIFY(count > 2500);
     }
 
-    void systemsStandInTheirOrder_data() { textRows("order.txt", {"group", "name", "counts"}); }
+    void systemsStandInTheirOrder_data() { textRows("order.txt"); }
 
     /// A group begins with these; the first group is the first that a user sees.
     void systemsStandInTheirOrder() {
-        QFETCH(QByteArray, group);
-        QFETCH(QByteArray, name);
-        QFETCH(QByteArray, counts);
+        const auto [group, name, counts] = textRow<3>();
         QCOMPARE(systems.groups.begin()->name, QByteArray("WGS 84 / UTM North"));
         const CoordSysGroup* found = systems.groups.find(group);
         QVERIFY(found);

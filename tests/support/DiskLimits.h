@@ -4,17 +4,27 @@
 #include <QString>
 #include <QtGlobal>
 
-#ifdef Q_OS_UNIX
+#ifdef Q_OS_LINUX
 #include <sys/resource.h>
 #include <unistd.h>
 
 #include <csignal>
 #endif
 
-/// While it lives no file of this process grows beyond `bytes`: the system refuses the rest, as a full disk does.
-class FileSizeLimit {
+/// A limit while it lives, where this process may set one here.
+class Limit {
 public:
-#ifdef Q_OS_UNIX
+    Limit() = default;
+    Limit(const Limit&) = delete;
+    Limit& operator=(const Limit&) = delete;
+
+    bool works = false;
+};
+
+/// No file of this process grows beyond `bytes`: the system refuses the rest, as a full disk does.
+class FileSizeLimit : public Limit {
+#ifdef Q_OS_LINUX
+public:
     explicit FileSizeLimit(qint64 bytes) {
         std::signal(SIGXFSZ, SIG_IGN);
         getrlimit(RLIMIT_FSIZE, &before);
@@ -24,50 +34,36 @@ public:
     ~FileSizeLimit() {
         setrlimit(RLIMIT_FSIZE, &before);
     }
+
+private:
+    rlimit before{};
 #else
+public:
     explicit FileSizeLimit(qint64) {
     }
 #endif
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-    bool works = false;
-
-private:
-#ifdef Q_OS_UNIX
-    rlimit before{};
-#endif
 };
 
-/// An administrator's process is an ordinary user's while it lives: permissions stop it.
-class OrdinaryUser {
-public:
+/// An administrator's process is an ordinary user's: permissions stop it.
+class OrdinaryUser : public Limit {
 #ifdef Q_OS_LINUX
-    OrdinaryUser() : isAdministrator(geteuid() == 0) {
+public:
+    OrdinaryUser() {
         works = !isAdministrator || setresuid(nobody, nobody, 0) == 0;
     }
     ~OrdinaryUser() {
         if (isAdministrator && setresuid(0, 0, 0) != 0)
             qFatal("The administrator's rights don't come back.");
     }
-#else
-    OrdinaryUser() {
-    }
-#endif
-    OrdinaryUser(const OrdinaryUser&) = delete;
-    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-
-    bool works = false;
 
 private:
-#ifdef Q_OS_LINUX
     static constexpr uid_t nobody = 65534;
-    bool isAdministrator;
+    const bool isAdministrator = geteuid() == 0;
 #endif
 };
 
-/// A small disk at the folder `path`, where this process may mount one.
-class SmallDisk {
+/// A small disk at the folder `path`.
+class SmallDisk : public Limit {
 public:
     SmallDisk(const QString& folder, int kilobytes) : path(folder) {
         works =
@@ -77,10 +73,6 @@ public:
         if (works)
             QProcess::execute("umount", {"-l", path});
     }
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
-
-    bool works = false;
 
 private:
     QString path;

@@ -1,9 +1,17 @@
 #include "support/RoomTest.h"
 
+#include <QDir>
 #include <QTest>
 
 #include <map>
 #include <string>
+
+// The tool's own application object where the room has widgets, so that any locale carries any name.
+#ifdef ROOM_TEST_GUI
+#include "platform/desktop/Applicationx.h"
+#else
+#include <QCoreApplication>
+#endif
 
 // By name, so that the order does not depend on the linker.
 static std::map<std::string, RoomTest::Create>& classes() {
@@ -15,7 +23,16 @@ RoomTest::RoomTest(const char* name, Create create) {
     classes().emplace(name, create);
 }
 
-int RoomTest::run(int argc, char** argv) {
+QString RoomTest::dataPath(const QString& name) {
+    return QDir(TEST_DATA_DIR).filePath(name);
+}
+
+int main(int argc, char** argv) {
+#ifdef ROOM_TEST_GUI
+    const Applicationx application(argc, argv, "test", "test");
+#else
+    const QCoreApplication application(argc, argv);
+#endif
     const std::string only = argc > 1 && classes().count(argv[1]) > 0 ? argv[1] : "";
     if (!only.empty()) {
         // QTest gets the arguments behind the class's name.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 
 #include <memory>
 
@@ -12,8 +13,8 @@ public:
 
     RoomTest(const char* name, Create create);
 
-    /// Runs the classes; how many of them failed.
-    static int run(int argc, char** argv);
+    /// The path of a file of the room's folder; an absolute path stays.
+    static QString dataPath(const QString& name);
 };
 
 #define ROOM_TEST(TestClass)                                                                                           \

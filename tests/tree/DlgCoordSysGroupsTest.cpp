@@ -32,24 +32,19 @@ void fillCatalogue(RecordingCatalogue& catalogue) {
     catalogue.addTestGroup("C");
 }
 
-/// The item at "root", "group" or "group/system"; not a hidden one.
-QTreeWidgetItem* itemAtPath(const QTreeWidget& tree, const QString& path) {
-    QTreeWidgetItem* item = tree.topLevelItem(0);
-    for (const QString& part : path.split('/')) {
-        for (int i = 0; i < item->childCount(); ++i) {
-            if (item->child(i)->text(0) == part && !item->child(i)->isHidden()) {
-                item = item->child(i);
-                break;
-            }
-        }
-    }
-    return item;
-}
-
 QString pathOf(const QTreeWidgetItem* item) {
     if (!item->parent())
         return "root";
     return item->parent()->parent() ? item->parent()->text(0) + "/" + item->text(0) : item->text(0);
+}
+
+/// The item at "root", "group" or "group/system"; not a hidden one.
+QTreeWidgetItem* itemAtPath(QTreeWidget& tree, const QString& path) {
+    for (QTreeWidgetItemIterator it(&tree, QTreeWidgetItemIterator::NotHidden); *it; ++it) {
+        if (pathOf(*it) == path)
+            return *it;
+    }
+    return nullptr;
 }
 
 // The whole tree as one text: groups with their systems in brackets, hidden items with a "-" in front.
@@ -153,10 +148,9 @@ private Q_SLOTS:
         QCOMPARE(catalogue->takeCalls(), (QStringList{"treeItemClicked(B,same)", "treeItemClicked(B,same)"}));
     }
 
-    void menuFollowsTheItem_data() { textRows("menus.txt", {"item", "entries"}); }
+    void menuFollowsTheItem_data() { textRows("menus.txt"); }
     void menuFollowsTheItem() {
-        QFETCH(QByteArray, item);
-        QFETCH(QByteArray, entries);
+        const auto [item, entries] = textRow<2>();
         startTree();
         QStringList shown;
         QPoint place;
@@ -166,21 +160,10 @@ private Q_SLOTS:
         QCOMPARE(place, QPoint(123, 45));
     }
 
-    void command_data() {
-        textRows("commands.txt", {"title", "clicked", "on", "entry", "asked", "typed", "log", "treeAfter",
-                                  "currentAfter", "namesAfter"});
-    }
+    void command_data() { textRows("commands.txt"); }
 
     void command() {
-        QFETCH(QByteArray, clicked);
-        QFETCH(QByteArray, on);
-        QFETCH(QByteArray, entry);
-        QFETCH(QByteArray, asked);
-        QFETCH(QByteArray, typed);
-        QFETCH(QByteArray, log);
-        QFETCH(QByteArray, treeAfter);
-        QFETCH(QByteArray, currentAfter);
-        QFETCH(QByteArray, namesAfter);
+        const auto [title, clicked, on, entry, asked, typed, log, treeAfter, currentAfter, namesAfter] = textRow<10>();
         startTree();
         // The name dialog is used again and again; its Cancel button had the focus last.
         ModalDriver::onNextDialog([](QDialog* dialog) {
@@ -225,12 +208,8 @@ private Q_SLOTS:
             const QPoint pos = tree->visualItemRect(itemAtPath(*tree, "A/" + name)).center();
             QHelpEvent event(QEvent::ToolTip, pos, tree->viewport()->mapToGlobal(pos));
             QApplication::sendEvent(tree->viewport(), &event);
-            QTextDocument read;
-            if (Qt::mightBeRichText(QToolTip::text()))
-                read.setHtml(QToolTip::text());
-            else
-                read.setPlainText(QToolTip::text());
-            QCOMPARE(read.toPlainText(), name);
+            const QString text = QToolTip::text();
+            QCOMPARE(Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text, name);
             QToolTip::hideText();
         }
     }

@@ -32,12 +32,9 @@ private Q_SLOTS:
         QCOMPARE(dialog.windowTitle(), QString("DlgInputName:please input name"));
     }
 
-    void checks_data() { textRows("names.txt", {"title", "nameType", "group", "quoted", "message"}); }
+    void checks_data() { textRows("names.txt"); }
     void checks() {
-        QFETCH(QByteArray, nameType);
-        QFETCH(QByteArray, group);
-        QFETCH(QByteArray, quoted);
-        QFETCH(QByteArray, message);
+        const auto [title, nameType, group, quoted, message] = textRow<5>();
         QString typed = quoted.mid(1, quoted.size() - 2);
         typed.replace("\\0", QString(QChar(0))).replace("\\ud83d", QString(QChar(0xD83D)));
         DlgInputName dialog(nullptr, &catalogue);

@@ -63,12 +63,9 @@ private Q_SLOTS:
             QVERIFY(setContent(folder.filePath(file.first), file.second));
     }
 
-    void import_data() { textRows("imports.txt", {"title", "clicked", "files", "messages", "added"}); }
+    void import_data() { textRows("imports.txt"); }
     void import() {
-        QFETCH(QByteArray, clicked);
-        QFETCH(QByteArray, files);
-        QFETCH(QByteArray, messages);
-        QFETCH(QByteArray, added);
+        const auto [title, clicked, files, messages, added] = textRow<5>();
         startTree();
         if (!clicked.isEmpty())
             tree->selectFirstCoordSystem();

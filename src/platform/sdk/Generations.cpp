@@ -6,6 +6,9 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSet>
+#include <QVector>
+
+#include <algorithm>
 
 namespace {
 
@@ -31,12 +34,16 @@ bool Generations::take(const QString& generation) const {
 void Generations::thin() const {
     const QString saves =
         QStringLiteral("%1.%2-%3-*").arg(name, QString(8, QLatin1Char('?')), QString(6, QLatin1Char('?')));
-    const QFileInfoList latestFirst = QDir(folder).entryInfoList({saves}, QDir::Files, QDir::Time);
+    // QDir would ask for the local time of both files in every comparison: a third of what a small save costs.
+    QVector<QPair<QDateTime, QFileInfo>> latestFirst;
+    for (const QFileInfo& generation : QDir(folder).entryInfoList({saves}, QDir::Files, QDir::Unsorted))
+        latestFirst.append({generation.lastModified(), generation});
+    std::sort(latestFirst.begin(), latestFirst.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
     QSet<QDate> days;
     qint64 bytes = 0;
     int kept = 0;
-    for (const QFileInfo& generation : latestFirst) {
-        const QDate day = generation.lastModified().date();
+    for (const auto& [saved, generation] : qAsConst(latestFirst)) {
+        const QDate day = saved.date();
         const bool isLastOfDay = !days.contains(day) && kept < lastSaves + lastDays;
         const bool fits = bytes + generation.size() <= mostBytes;
         if (kept > 0 && !(fits && (kept < lastSaves || isLastOfDay))) {

@@ -4,7 +4,11 @@
 
 #include <QFont>
 #include <QIcon>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
+
+#include <cstdlib>
 
 /// What the application object of this test program's own start has set up.
 class ApplicationxTest : public QObject {
@@ -17,6 +21,22 @@ private Q_SLOTS:
         QVERIFY(QCoreApplication::testAttribute(Qt::AA_EnableHighDpiScaling));
         for (const int size : {16, 32, 48, 128})
             QVERIFY(QApplication::windowIcon().availableSizes().contains(QSize(size, size)));
+        QCOMPARE(std::strtod("0.5", nullptr), 0.5);
+    }
+
+    /// The same on a desktop with a decimal comma.
+    void decimalComma() {
+        const QTemporaryDir folder;
+        if (QProcess::execute("localedef", {"-i", "de_DE", "-f", "UTF-8", folder.filePath("de_DE.UTF-8")}) != 0)
+            QSKIP("no locale with a decimal comma can be made");
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("LC_ALL", "de_DE.UTF-8");
+        environment.insert("LOCPATH", folder.path());
+        QProcess test;
+        test.setProcessEnvironment(environment);
+        test.start(QCoreApplication::applicationFilePath(), {"ApplicationxTest", "preparesTheProcess"});
+        QVERIFY(test.waitForFinished());
+        QVERIFY2(test.exitCode() == 0, test.readAllStandardOutput());
     }
 };
 

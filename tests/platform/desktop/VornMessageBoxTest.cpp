@@ -11,12 +11,12 @@ class VornMessageBoxTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void box_data() { textRows("boxes.txt", {"title", "kind", "keys", "answer"}); }
+    void box_data() { textRows("boxes.txt"); }
     void box() {
-        QFETCH(QByteArray, kind);
-        QFETCH(QByteArray, keys);
-        QFETCH(QByteArray, answer);
-        const bool question = kind == "question";
+        const auto row = textRow<4>();
+        const bool question = row[1] == "question";
+        const QByteArray& keys = row[2];
+        QByteArray answer = row[3];
         QWidget parent;
         const QString text = "Delete <b>x</b> & 100%1\nof \"it\"?", title = "Title <i>";
         ModalDriver::onNextDialog([&](QDialog* dialog) {

@@ -1,7 +1,7 @@
 #include "Session.h"
 #include "support/RecordText.h"
 #include "support/RoomTest.h"
-#include "support/Rows.h"
+#include "support/TextTable.h"
 
 #include <QRandomGenerator>
 #include <QTextCodec>
@@ -32,16 +32,11 @@ static void saveNineSystems(const Folders& folders) {
 
 static QByteArray describe(Catalogue& catalogue) {
     QByteArray text;
-    const QList<QByteArray> groups = QByteArray(catalogue.getGroupNames()).split(',');
-    for (const QByteArray& group : groups) {
-        if (!catalogue.hasGroup(group.constData()))
-            continue;
-        const QList<QByteArray> systems = QByteArray(catalogue.getGroup(group)->getCoordSystemNames()).split(',');
-        for (const QByteArray& system : systems) {
-            const IDictionary* record = catalogue.getGroup(group)->getCoordSystem(system);
-            if (!record)
-                continue;
-            text += group + '/' + system + ':' + recordText(*record).join(' ').toUtf8() + '\n';
+    for (const QByteArray& group : QByteArray(catalogue.getGroupNames()).split(',')) {
+        ICoordSysGroup* const systems = catalogue.getGroup(group);
+        for (const QByteArray& system : QByteArray(systems ? systems->getCoordSystemNames() : "").split(',')) {
+            if (const IDictionary* record = systems ? systems->getCoordSystem(system) : nullptr)
+                text += group + '/' + system + ':' + recordText(*record).join(' ').toUtf8() + '\n';
         }
     }
     return text;
@@ -58,29 +53,10 @@ private Q_SLOTS:
 
     void cleanup() { QCOMPARE(dictionary_alive_count(), alive); }
 
-    void textsSurvive_data() {
-        const Rows<QByteArray, QByteArray> row({"codec", "text"});
-        const QByteArray utf8("UTF-8");
-        row("quotes", utf8, "\"a\" 'b' `c`");
-        row("markup", utf8, "<a href=\"x\">&amp;&#65;</a>]]>-->");
-        row("percent", utf8, "100 %s %n %01 %");
-        row("blanks around", utf8, "  a  b  ");
-        row("a blank", utf8, " ");
-        row("line breaks", utf8, "\na\r\nb\rc\td\n");
-        row("controls", utf8, "%\x01 \x1b[1m\x7f \xC3\xA9");
-        row("emoji", utf8, "M\xC3\xBCnchen \xE6\x96\xB0 \xF0\x9F\x97\xBA");
-        row("byte-order mark", utf8, "\xEF\xBB\xBFname");
-        row("no character", utf8, "\xEF\xBF\xBF \xEF\xBF\xBE");
-        row("broken UTF-8", utf8, "M\xFCnchen \xC3");
-        row("surrogate", utf8, "\xED\xA0\x80");
-        row("Latin-1", "ISO-8859-1", "M\xFCnchen \xC3\xA9");
-        row("Windows-1252", "windows-1252", "\x80 \x81 M\xFCnchen");
-        row("GBK", "GBK", "\xD0\xC2 | \x81\x5C"); // a backslash as second byte
-    }
-
+    void textsSurvive_data() { textRows("texts.txt"); }
     void textsSurvive() {
-        QFETCH(QByteArray, codec);
-        QFETCH(QByteArray, text);
+        const auto [title, codec, quoted] = textRow<3>();
+        const QByteArray text = quoted.mid(1, quoted.size() - 2);
         QTextCodec* local = QTextCodec::codecForName(codec);
         QVERIFY(local);
         QTextCodec::setCodecForLocale(local);
@@ -143,28 +119,13 @@ private Q_SLOTS:
 
     void unknownContentSurvives() {
         const Folders folders;
-        const QByteArrayList kept = {
-            "<coordinate_systems version=\"1\" site=\"Ulm &amp; &#10;Neu-Ulm\">",
-            "<group name=\"g\" colour=\"red\">",
-            "<system checked=\"2024-02-29\">",
-            "<value key=\"org_lon\" text=\"9\" unit=\"deg\">",
-            "<source> EPSG <b>1&#13;2</b></source>",
-            "<!-- measured twice -->",
-            "<history><entry at=\"1\"/>  text\n of two lines </history>",
-            "<!-- of the group -->",
-            "<group name=\"g\"><system><value key=\"name\" text=\"in a second g\"/></system></group>",
-            "<group name=\"a,b\"/>",
-            "<group/>",
-            "<system><value key=\"name\" text=\"s\"/><value key=\"second s\" text=\"1\"/></system>",
-            "<system><value key=\"name\" text=\"no text\"/><value key=\"factor\"/></system>",
-            R"(<system><value key="name" text="no number"/><value key="factor" text="1" number="one"/></system>)",
-            "<system><value key=\"name\" text=\"lost\"/>value key=\"factor\" text=\"0.9996\"/&gt;</system>",
-            "<system><value key=\"nameless\" text=\"1\"/></system>",
-        };
-        setContent(folders.systems(), kept[0] + kept[1] + kept[2] + "<value key=\"name\" text=\"s\"/>" + kept[3] +
-                                          kept[4] + "</value>" + kept[5] + kept[6] + "</system>" + kept[11] + kept[12] +
-                                          kept[13] + kept[14] + kept[15] + kept[7] + "</group>" + kept[8] + kept[9] +
-                                          kept[10] + "<note>&#10; <b/></note></coordinate_systems>");
+        QByteArray content;
+        QByteArrayList kept;
+        for (const QByteArrayList& piece : textTable("unknown.txt")) {
+            content += piece.join();
+            kept << piece[0];
+        }
+        QVERIFY(setContent(folders.systems(), content));
         Session first(folders);
         QCOMPARE(first.getGroupNames(), "g");
         QCOMPARE(first.systems("g"), QByteArray("s"));
@@ -187,44 +148,20 @@ private Q_SLOTS:
     }
 
     // Loading and saving again gives the same bytes, whatever stood where.
-    void surroundings_data() {
-        // %1: what stands there is in the saved file as well.
-        const Rows<QByteArray, QByteArrayList> row({"content", "kept"});
-        const QByteArray start = "<coordinate_systems version=\"1\">";
-        const QByteArray end = "</coordinate_systems>";
-        const QByteArray system = "<system><value key=\"name\" text=\"s\"/></system>";
-        row("empty group", start + "\n  <group name=\"g\">\n  </group>\n" + end, {});
-        row("blank lines", start + "\n\n \t <group name=\"g\"> " + system + "\r\n </group>\n\n" + end + "\n\n", {});
-        row("empty record", start + "<group name=\"g\"><system>\n</system></group>" + end, {});
-        row("text in a group", start + "<group name=\"g\">a\n  b " + system + "\n c</group>" + end, {"a\n  b", "c"});
-        row("text in the root", start + "one<group name=\"g\"/>\n  two\n" + end, {"one", "two"});
-        row("text in a value",
-            start + R"(<group name="g"><system><value key="name" text="s"> t </value></system></group>)" + end,
-            {">\n        t\n"});
-        row("comments outside", "<!-- before -->\n" + start + end + "<!-- behind\n twice --> <!---->",
-            {"<!-- before -->\n<coord", "tems>\n<!-- behind\n twice -->\n<!---->\n"});
-        row("instructions",
-            "<?xml-stylesheet href=\"a.xsl\"?>" + start + "<?group g?><group name=\"g\"><?system x?>" + system +
-                "</group>" + end + "<?last?>",
-            {"\n<?xml-stylesheet href=\"a.xsl\"?>\n", "<?group g?>", "<?system x?>", "<?last?>"});
-        row("document type", "<!DOCTYPE coordinate_systems>" + start + "<group name=\"g\"/>" + end,
-            {"\n<!DOCTYPE coordinate_systems>\n"});
-        row("byte-order mark", "\xEF\xBB\xBF<?xml version=\"1.0\"?>" + start + "<group name=\"g\"/>" + end, {});
-        const QString wide =
-            QString::fromLatin1("<?xml version=\"1.0\" encoding=\"UTF-16\"?>" + start + "<group name=\"g\"/>" + end);
-        row("UTF-16", "\xFF\xFE" + QByteArray(reinterpret_cast<const char*>(wide.utf16()), wide.size() * 2), {});
-    }
-
+    void surroundings_data() { textRows("surroundings.txt"); }
     void surroundings() {
-        QFETCH(QByteArray, content);
-        QFETCH(QByteArrayList, kept);
+        auto [title, content, kept] = textRow<3>();
+        content.replace("<root>", "<coordinate_systems version=\"1\">").replace("</root>", "</coordinate_systems>");
+        content.replace("<s/>", "<system><value key=\"name\" text=\"s\"/></system>");
+        if (title == "UTF-16")
+            content = QTextCodec::codecForName("UTF-16")->fromUnicode(QString::fromLatin1(content));
         const Folders folders;
         QVERIFY(setContent(folders.systems(), content));
         Session first(folders);
         first.saveSystems();
         QVERIFY(folders.setAside("damaged").isEmpty()); // it is whole
         const QByteArray saved = contentOf(folders.systems());
-        for (const QByteArray& piece : kept)
+        for (const QByteArray& piece : kept.split('~'))
             QVERIFY2(saved.contains(piece), saved.constData());
         QVERIFY(isWellFormed(folders.systems()));
         Session(folders).saveSystems();
@@ -254,21 +191,6 @@ private Q_SLOTS:
             QVERIFY2(isKept, qPrintable(QString::number(bit)));
             QVERIFY(QDir(folders.user + "generations").removeRecursively());
         }
-    }
-
-    void manyKeys() {
-        const Folders folders;
-        QByteArray content =
-            "<coordinate_systems version=\"1\"><group name=\"g\"><system><value key=\"name\" text=\"s\"/>";
-        for (int i = 0; i < 100000; ++i)
-            content += "<value key=\"" + QByteArray::number(i) + "\" text=\"" + QByteArray::number(i) + "\"/>";
-        QVERIFY(setContent(folders.systems(), content + "</system></group></coordinate_systems>"));
-        QElapsedTimer timer;
-        timer.start();
-        Session session(folders);
-        session.saveSystems();
-        QCOMPARE(session.getGroup("g")->getCoordSystem("s")->getValue("99999"), "99999");
-        QVERIFY(timer.elapsed() < 5000); // 0.2 s against 17
     }
 
     void truncatedFile() {
@@ -305,53 +227,28 @@ private Q_SLOTS:
         }
     }
 
-    void damagedFile_data() {
-        // The content, with "%" for a good file's content without its root element, and how many systems can be read.
-        const Rows<QByteArray, int> row({"content", "systems"});
-        const QByteArray root = "<coordinate_systems version=\"1\">%";
-        row("empty", "", 0);
-        row("zeros", QByteArray(3000, '\0'), 0);
-        row("no XML", QByteArray::fromHex("7f454c4620fffe"), 0);
-        row("another file", "<html>%</html>", 0);
-        row("newer format", "<coordinate_systems version=\"2\">%</coordinate_systems>", 9);
-        row("no version", "<coordinate_systems>%</coordinate_systems>", 9);
-        row("version 0", "<coordinate_systems version=\"0\">%</coordinate_systems>", 9);
-        row("two roots", root + "</coordinate_systems><x/>", 9);
-        row("group not closed", "<coordinate_systems version=\"1\"><group name=\"x\">%", 0);
-        row("zeros behind", root + QByteArray(100, '\0'), 9);
-        row("text behind", root + "</coordinate_systems> 7", 9);
-        row("a letter behind", root + "</coordinate_systems>x", 9);
-        row("text before", "x" + root + "</coordinate_systems>", 9);
-        row("zeros and more behind", root + "</coordinate_systems>" + QByteArray(3, '\0') + "<more/>", 9);
-        row("zeros behind the end", root + "</coordinate_systems>\n" + QByteArray(3, '\0'), 9);
-        row("a bit flipped in an end", root + "</coordinatu_systems>", 9);
-        row("an instruction that never ends", "<?coordinate_systems </system>", 0);
-        row("an instruction of the root's name", "<?coordinate_systems x?>" + root, 9);
-        row("a comment that never ends", root + "<!-- </system></coordinate_systems>", 9);
-        row("a text that never ends", root + "<x y=\"</system>", 9);
-    }
-
+    void damagedFile_data() { textRows("damaged.txt"); }
     void damagedFile() {
-        QFETCH(QByteArray, content);
-        QFETCH(int, systems);
+        auto [title, content, systems] = textRow<3>();
         const Folders folders;
         saveNineSystems(folders);
         const QByteArray good = contentOf(folders.systems());
         const int start = good.indexOf("<group");
-        content.replace("%", good.mid(start, good.indexOf("</coordinate_systems>") - start));
+        content.replace("%", good.mid(start, good.indexOf("</coordinate_systems>") - start))
+            .replace("<root>", "<coordinate_systems version=\"1\">");
         QVERIFY(setContent(folders.systems(), content));
         Session session(folders);
         QCOMPARE(describe(session).count('\n'), 8);
         QVERIFY(setContent(folders.previous(), "<")); // no help from there
         Session alone(folders);
-        QCOMPARE(describe(alone).count('\n'), systems);
+        QCOMPARE(describe(alone).count('\n'), systems.toInt());
         alone.add("new", "new");
         alone.saveSystems();
         alone.saveSystems();
         QCOMPARE(folders.setAside("damaged").size(), 1);
         QCOMPARE(contentOf(folders.user + folders.setAside("damaged").constFirst()), content);
         Session next(folders);
-        QCOMPARE(describe(next).count('\n'), systems + 1);
+        QCOMPARE(describe(next).count('\n'), systems.toInt() + 1);
         // Whatever was taken over of it, what is written is whole.
         const SystemFile read = CatalogueFile::readSystems(folders.user + folders.setAside("damaged").constFirst());
         QVERIFY(CatalogueFile::write(folders.user + "again", read));

@@ -36,10 +36,8 @@ private Q_SLOTS:
             QVERIFY(setContent(dir.filePath("generations/" + name), "x"));
         for (int day = 0; day < saves.size(); ++day) {
             for (int save = 0; save < saves[day]; ++save) {
-                QFile file(previous);
-                QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(megabytes * qint64(1000000)));
-                QVERIFY(file.setFileTime(timeOf(day, save), QFileDevice::FileModificationTime));
-                file.close();
+                QVERIFY(setContent(previous, "") && QFile::resize(previous, megabytes * qint64(1000000)) &&
+                        setChanged(previous, timeOf(day, save)));
                 QVERIFY(generations.take(previous) && !QFileInfo::exists(previous));
             }
         }
@@ -56,14 +54,10 @@ private Q_SLOTS:
     void savesOfTheSameMoment() {
         const QTemporaryDir dir{quickFolder()};
         const Generations generations(dir.filePath("a.vcs"));
-        for (const char* content : {"1", "2", "3"}) {
-            QFile file(dir.filePath("a.vcs.bak"));
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == 1);
-            QVERIFY(file.flush() &&
-                    file.setFileTime(QDate(2024, 2, 29).startOfDay(), QFileDevice::FileModificationTime));
-            file.close();
-            QVERIFY(generations.take(file.fileName()));
-        }
+        const QString previous = dir.filePath("a.vcs.bak");
+        for (const char* content : {"1", "2", "3"})
+            QVERIFY(setContent(previous, content) && setChanged(previous, QDate(2024, 2, 29).startOfDay()) &&
+                    generations.take(previous));
         generations.thin();
         QCOMPARE(QDir(dir.filePath("generations")).entryList(QDir::Files).size(), 3);
     }

@@ -74,7 +74,7 @@ private Q_SLOTS:
         session.addEllipsoidOf("foreign", "1", "1");
         session.addEllipsoidOf("no longer own", "1", "0");
         session.addEllipsoidOf("no longer own", "2", "1");
-        DictionaryGuard geoid;
+        const DictionaryGuard geoid;
         for (const char* key : {"geoid_name", "geoid_file", "geoid_ellipsoid"})
             geoid->setText(key, key);
         geoid->setText("geoid_flag", "0");

@@ -38,14 +38,22 @@ struct Folders {
     }
     QStringList generations() const { return QDir(user + "generations").entryList(QDir::Files, QDir::Name); }
     /// The rescued saves, one file for each file of the user.
-    QStringList rescued() const {
+    QStringList rescued() const { return filesBelow(rescue); }
+    static QStringList filesBelow(const QString& path, const QString& pattern = "*") {
         QStringList files;
-        QDirIterator file(rescue, QDir::Files | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+        QDirIterator file(path, {pattern}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
         while (file.hasNext())
             files << file.next();
         return files;
     }
+    /// The groups that the next start shows.
+    QByteArray shown() const;
 };
+
+inline bool setChanged(const QString& path, const QDateTime& time) {
+    QFile file(path);
+    return file.open(QIODevice::ReadWrite) && file.setFileTime(time, QFileDevice::FileModificationTime);
+}
 
 struct Session : Catalogue {
     explicit Session(const Folders& folders) : Catalogue(folders.shipped, folders.rescue), user(folders.user) {
@@ -54,6 +62,13 @@ struct Session : Catalogue {
     void saveSystems() {
         saveCoordSystems("");
         saveCoordSystems(QFile::encodeName(user + systemsName).constData());
+    }
+    /// Saves after the addition of each of these groups.
+    void saveWith(const QByteArrayList& groups) {
+        for (const QByteArray& group : groups) {
+            addGroup(group);
+            saveSystems();
+        }
     }
     void saveRecords() {
         saveEllipsoids("");
@@ -82,3 +97,7 @@ struct Session : Catalogue {
 
     QString user;
 };
+
+inline QByteArray Folders::shown() const {
+    return Session(*this).getGroupNames();
+}

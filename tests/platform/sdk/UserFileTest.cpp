@@ -7,49 +7,38 @@
 #include <QSet>
 #include <QtTest>
 
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <utility>
+
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
 #endif
-
-/// Saves the groups from "1" to the last, one after another.
-static void saveGroups(const Folders& folders, int last) {
-    Session session(folders);
-    for (int i = 1; i <= last; ++i) {
-        session.addGroup(QByteArray::number(i).constData());
-        session.saveSystems();
-    }
-}
-
-/// The groups that the next start shows.
-static QByteArray shown(const Folders& folders) {
-    return Session(folders).getGroupNames();
-}
 
 static QByteArray groupsIn(const QString& path) {
     const SystemFile file = CatalogueFile::readSystems(path);
     return file.condition == FileCondition::Whole ? file.groups.names() : QByteArray("(not whole)");
 }
 
-/// Every file that holds `groups` and can be read whole, wherever it lies.
-static int filesWith(const Folders& folders, const QByteArray& groups) {
-    int found = 0;
-    QDirIterator file(folders.dir.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (file.hasNext())
-        found += groupsIn(file.next()) == groups ? 1 : 0;
-    return found;
+/// What the files hold that were set aside as "damaged" or "other".
+static QByteArrayList groupsAside(const Folders& folders, const char* as = "other") {
+    QByteArrayList groups;
+    for (const QString& name : folders.setAside(as))
+        groups << groupsIn(folders.user + name);
+    return groups;
 }
 
-static QStringList unfinished(const Folders& folders) {
-    QStringList files;
-    QDirIterator file(folders.dir.path(), {"*.unfinished-*"}, QDir::Files, QDirIterator::Subdirectories);
-    while (file.hasNext())
-        files << file.next();
-    return files;
+/// Whether any file that can be read whole holds `groups`, wherever it lies.
+static bool isKept(const Folders& folders, const QByteArray& groups) {
+    const QStringList files = Folders::filesBelow(folders.dir.path());
+    return std::any_of(files.begin(), files.end(), [&](const QString& file) { return groupsIn(file) == groups; });
 }
 
-/// Lets the call at `place` fail, counted from 0, or that one and all behind it; says which it was.
+/// Lets calls fail while it lives.
 class Fault {
 public:
+    /// The call at `place`, counted from 0, or that one and all behind it.
     Fault(int place, bool forGood) {
         DiskCalls::setFault([this, place, forGood](const char* call, const QString& path) {
             const bool fails = calls == place || (forGood && calls > place);
@@ -58,11 +47,15 @@ public:
             return fails;
         });
     }
+    /// All calls on paths that begin so.
+    explicit Fault(const QString& start) {
+        DiskCalls::setFault([start](const char*, const QString& path) { return path.startsWith(start); });
+    }
     ~Fault() { DiskCalls::setFault({}); }
     Fault(const Fault&) = delete;
     Fault& operator=(const Fault&) = delete;
 
-    QByteArray failed; ///< empty while no call has come so far
+    QByteArray failed; ///< which it was at `place`; empty while no call has come so far
 
 private:
     int calls = 0;
@@ -72,20 +65,20 @@ class UserFileTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup() { DiskCalls::setFault({}); }
+
     void generations() {
         const Folders folders;
         QVERIFY(QDir(folders.user).removeRecursively()); // the save makes the folder
         Session session(folders);
-        QByteArray last = "(missing)";
-        QByteArray older = "(missing)";
+        QByteArray last = "(missing)", older = last;
         for (const char* group : {"1", "2", "3"}) {
             session.addGroup(group);
             session.saveCoordSystems("");
             QCOMPARE(contentOf(folders.systems()), last); // it stays
             session.saveCoordSystems(QFile::encodeName(folders.systems()).constData());
             QCOMPARE(contentOf(folders.previous()), last);
-            older = last;
-            last = contentOf(folders.systems());
+            older = std::exchange(last, contentOf(folders.systems()));
         }
         session.saveSystems(); // nothing new
         QCOMPARE(contentOf(folders.systems()), last);
@@ -93,20 +86,18 @@ private Q_SLOTS:
         QCOMPARE(folders.generations().size(), 1);
         QCOMPARE(groupsIn(folders.user + "generations/" + folders.generations()[0]), QByteArray("1"));
         QVERIFY(QFile::remove(folders.systems()));
-        QCOMPARE(shown(folders), QByteArray("2,1"));
-        for (int i = 4; i < 20; ++i) {
-            session.addGroup(QByteArray::number(i).constData());
-            session.saveSystems();
-        }
+        QCOMPARE(folders.shown(), QByteArray("2,1"));
+        for (int i = 4; i < 20; ++i)
+            session.saveWith({QByteArray::number(i)});
         QCOMPARE(folders.generations().size(), 10);
-        QVERIFY(QDir(folders.user).entryList({"*.other-*", "*.damaged-*"}).isEmpty());
+        QVERIFY(folders.setAside("other").isEmpty() && folders.setAside("damaged").isEmpty());
         QVERIFY(folders.rescued().isEmpty());
     }
 
     void otherContent_data() {
-        // What lies there: "same size" is the file with another name in it, a digit of which is "#" in the table.
+        // What lies there: "same size" is the file with another letter in it.
         const Rows<QByteArray, bool> row({"content", "isRewritten"});
-        row("another whole file", "<coordinate_systems version=\"1\"><group name=\"theirs\"/></coordinate_systems>",
+        row("another whole file", R"(<coordinate_systems version="1"><group name="theirs"/></coordinate_systems>)",
             true);
         row("damaged", "<coordinate_systems version=\"1\"><group", true);
         row("of the same size", "same size", true);
@@ -121,7 +112,7 @@ private Q_SLOTS:
             // Either this program wrote the file, or it was not there when it started.
             const Folders folders;
             if (hasLoadedIt)
-                saveGroups(folders, 2);
+                Session(folders).saveWith({"1", "2"});
             Session session(folders);
             session.addGroup("mine");
             if (hasLoadedIt)
@@ -132,125 +123,98 @@ private Q_SLOTS:
             if (content == "same size")
                 theirs.replace("mine", "mind");
             QVERIFY(setContent(folders.systems(), theirs));
-            const int others = isRewritten || !hasLoadedIt ? 1 : 0;
-            for (int save = 0; save < 3; ++save) {
-                session.addGroup(QByteArray::number(10 + save).constData());
-                session.saveSystems();
-            }
-            QCOMPARE(folders.setAside("other").size(), others);
-            if (others)
-                QCOMPARE(contentOf(folders.user + folders.setAside("other")[0]), theirs);
+            session.saveWith({"10", "11", "12"});
+            const QStringList others = folders.setAside("other");
+            QCOMPARE(others.size(), isRewritten || !hasLoadedIt ? 1 : 0);
+            QVERIFY(others.isEmpty() || contentOf(folders.user + others[0]) == theirs);
             QVERIFY(folders.setAside("damaged").isEmpty());
-            QVERIFY(shown(folders).startsWith("12,11,10,mine"));
+            QVERIFY(folders.shown().startsWith("12,11,10,mine"));
         }
     }
 
-    void touchedFileIsNoOther() {
-        const Folders folders;
-        saveGroups(folders, 2);
-        Session session(folders);
-        QFile file(folders.systems());
-        QVERIFY(file.open(QIODevice::ReadWrite));
-        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(-3), QFileDevice::FileModificationTime));
-        file.close();
-        session.addGroup("3");
-        session.saveSystems();
-        QVERIFY(folders.setAside("other").isEmpty());
-        QCOMPARE(groupsIn(folders.previous()), QByteArray("2,1"));
-    }
-
-    // An old file is not read again for a save: that would be half of what the save costs.
-    void loadedFileIsReadOnce() {
-        const Folders folders;
-        saveGroups(folders, 2);
-        QFile file(folders.systems());
-        QVERIFY(file.open(QIODevice::ReadWrite));
-        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(-3), QFileDevice::FileModificationTime));
-        file.close();
-        Session session(folders);
-        int reads = 0;
-        DiskCalls::setFault([&](const char* call, const QString&) {
-            reads += qstrcmp(call, "read") == 0 ? 1 : 0;
-            return false;
-        });
-        session.addGroup("3");
-        session.saveSystems();
-        DiskCalls::setFault({});
-        QCOMPARE(reads, 0);
-        QCOMPARE(shown(folders), QByteArray("3,2,1"));
+    // A file that was only touched is no other, and an old one is not read again for a save: that would be half of what
+    // the save costs.
+    void oldFile() {
+        for (const bool isTouchedLater : {true, false}) {
+            const Folders folders;
+            Session(folders).saveWith({"1", "2"});
+            const auto touch = [&] { return setChanged(folders.systems(), QDateTime::currentDateTime().addDays(-3)); };
+            QVERIFY(isTouchedLater || touch());
+            Session session(folders);
+            QVERIFY(!isTouchedLater || touch());
+            int reads = 0;
+            DiskCalls::setFault([&](const char* call, const QString&) {
+                reads += qstrcmp(call, "read") == 0 ? 1 : 0;
+                return false;
+            });
+            session.saveWith({"3"});
+            DiskCalls::setFault({});
+            QVERIFY(isTouchedLater || reads == 0);
+            QVERIFY(folders.setAside("other").isEmpty());
+            QCOMPARE(groupsIn(folders.previous()), QByteArray("2,1"));
+            QCOMPARE(folders.shown(), QByteArray("3,2,1"));
+        }
     }
 
     // One call of a save fails, or the disk fails from there on: the next start shows the new content, in the first
     // case, and the old or the new in the second; what was there before is there still.
     void everyCallOfASaveFails_data() {
         const Rows<QByteArray, bool> row({"before", "forGood"});
-        for (const bool forGood : {false, true}) {
-            const QByteArray end = forGood ? ", for good" : ", once";
-            row("known" + end, "known", forGood);
-            row("first save" + end, "missing", forGood);
-            row("another's" + end, "other", forGood);
-            row("damaged" + end, "damaged", forGood);
-            row("rescued" + end, "rescued", forGood);
+        for (const QByteArray before : {"known", "missing", "other", "damaged", "rescued"}) {
+            row(before + ", once", before, false);
+            row(before + ", for good", before, true);
         }
     }
 
     void everyCallOfASaveFails() {
         QFETCH(QByteArray, before);
         QFETCH(bool, forGood);
-        bool hasFailed = true;
         int places = 0;
-        for (int place = 0; hasFailed; ++place) {
+        for (bool hasFailed = true; hasFailed; ++places) {
             const Folders folders;
             if (before != "missing")
-                saveGroups(folders, 3);
+                Session(folders).saveWith({"1", "2", "3"});
             if (before == "damaged")
                 QVERIFY(QFile::resize(folders.systems(), 50));
             if (before == "rescued") {
                 Session session(folders);
-                session.addGroup("4");
                 const Fault full(0, true);
-                session.saveSystems();
+                session.saveWith({"4"});
             }
             Session session(folders);
-            const QByteArray old = session.getGroupNames();
+            const QByteArray old = session.getGroupNames(), theirs = "theirs,2,1";
             if (before == "other")
                 QVERIFY(setContent(folders.systems(), contentOf(folders.systems()).replace("\"3\"", "\"theirs\"")));
             session.addGroup("new");
             const QByteArray next = session.getGroupNames();
             QByteArray failed;
             {
-                const Fault fault(place, forGood);
+                const Fault fault(places, forGood);
                 session.saveSystems();
                 failed = fault.failed;
             }
             hasFailed = !failed.isEmpty();
-            places += hasFailed ? 1 : 0;
-            const QByteArray found = shown(folders);
-            const QByteArray theirs = "theirs,2,1";
+            const QByteArray found = folders.shown();
             QVERIFY2(found == next || (forGood && (found == old || found == theirs)), found.constData());
             // Both generations before, but for the one that just could not be kept.
-            if (before == "known" && !failed.contains(".bak"))
-                QVERIFY(filesWith(folders, "3,2,1") > 0);
-            if (before == "known" && !failed.contains("generations"))
-                QVERIFY(filesWith(folders, "2,1") > 0);
-            if (before == "other")
-                QVERIFY(filesWith(folders, theirs) > 0);
-            if (before == "damaged")
-                QVERIFY(filesWith(folders, "(not whole)") > 0);
+            if (before == "known")
+                QVERIFY((failed.contains(".bak") || isKept(folders, "3,2,1")) &&
+                        (failed.contains("generations") || isKept(folders, "2,1")));
+            QVERIFY(before != "other" || isKept(folders, theirs));
+            QVERIFY(before != "damaged" || isKept(folders, "(not whole)"));
             // It recovers: the next save of the same program reaches the folder, and nothing is left behind.
-            session.addGroup("last");
-            session.saveSystems();
+            session.saveWith({"last"});
             QCOMPARE(groupsIn(folders.systems()), "last," + next);
             QVERIFY(folders.rescued().isEmpty());
-            QCOMPARE(shown(folders), "last," + next);
-            QVERIFY2(unfinished(folders).isEmpty(), qPrintable(unfinished(folders).join(' ')));
-            QByteArrayList generations = {contentOf(folders.systems()), contentOf(folders.previous())};
+            QCOMPARE(folders.shown(), "last," + next);
+            QCOMPARE(Folders::filesBelow(folders.dir.path(), "*.unfinished-*"), QStringList());
+            QSet<QByteArray> contents = {contentOf(folders.systems()), contentOf(folders.previous())};
             for (const QString& name : folders.generations())
-                generations << contentOf(folders.user + "generations/" + name);
-            QVERIFY(QSet<QByteArray>(generations.begin(), generations.end()).size() == generations.size());
+                contents << contentOf(folders.user + "generations/" + name);
+            QCOMPARE(contents.size(), 2 + folders.generations().size());
         }
-        qInfo("%d calls", places);
-        QVERIFY(places >= 5); // folder, create, write, sync, rename
+        qInfo("%d calls", places - 1);
+        QVERIFY(places > 5); // folder, create, write, sync, rename
     }
 
     // The start that finds a rescued save brings it home; whatever fails there, it is shown, and what was in the file's
@@ -259,12 +223,12 @@ private Q_SLOTS:
         bool hasFailed = true;
         for (int place = 0; hasFailed; ++place) {
             const Folders folders;
-            saveGroups(folders, 2);
+            Session(folders).saveWith({"1", "2"});
             Session before(folders);
-            before.addGroup("rescued");
-            DiskCalls::setFault([&](const char*, const QString& path) { return path.startsWith(folders.user); });
-            before.saveSystems();
-            DiskCalls::setFault({});
+            {
+                const Fault unreachable(folders.user);
+                before.saveWith({"rescued"});
+            }
             QCOMPARE(folders.rescued().size(), 1);
             QCOMPARE(groupsIn(folders.systems()), QByteArray("2,1"));
             {
@@ -274,42 +238,35 @@ private Q_SLOTS:
                 if (!fault.failed.startsWith("read"))
                     QCOMPARE(next.getGroupNames(), "rescued,2,1");
             }
-            QVERIFY(filesWith(folders, "2,1") > 0);
-            QCOMPARE(shown(folders), QByteArray("rescued,2,1"));
+            QVERIFY(isKept(folders, "2,1"));
+            QCOMPARE(folders.shown(), QByteArray("rescued,2,1"));
         }
     }
 
     void rescue() {
         const Folders folders;
-        saveGroups(folders, 2);
+        Session(folders).saveWith({"1", "2"});
         QTest::qWait(5); // the later save has a later time
         // The data folder can't be reached: a file lies in its place.
-        const QString away = folders.dir.filePath("away");
-        const auto unreachable = [&](bool is) {
-            const QString user = folders.dir.filePath("user");
-            return is ? QFile::rename(user, away) && setContent(user, "a file")
-                      : QFile::remove(user) && QFile::rename(away, user);
-        };
-        QVERIFY(unreachable(true));
+        const QString user = folders.dir.filePath("user"), away = folders.dir.filePath("away");
+        QVERIFY(QFile::rename(user, away) && setContent(user, "a file"));
         Session session(folders);
         QCOMPARE(session.getGroupNames(), "");
-        session.addGroup("a");
-        session.saveSystems();
+        session.saveWith({"a"});
         session.addEllipsoidOf("e", "1", "0");
         session.saveRecords();
         QCOMPARE(folders.rescued().size(), 3);
-        QCOMPARE(contentOf(folders.dir.filePath("user")), QByteArray("a file"));
-        session.addGroup("b");
-        session.saveSystems(); // the next one takes the rescued one's place
+        QCOMPARE(contentOf(user), QByteArray("a file"));
+        session.saveWith({"b"}); // the next one takes the rescued one's place
         QCOMPARE(folders.rescued().size(), 3);
-        QCOMPARE(shown(folders), QByteArray("b,a")); // still unreachable
+        QCOMPARE(folders.shown(), QByteArray("b,a")); // still unreachable
 
         // Another data folder of the same user has saves of its own.
         Folders another;
         another.rescue = folders.rescue;
-        QCOMPARE(shown(another), QByteArray(""));
+        QCOMPARE(another.shown(), QByteArray(""));
 
-        QVERIFY(unreachable(false));
+        QVERIFY(QFile::remove(user) && QFile::rename(away, user));
         {
             Session next(folders);
             QCOMPARE(next.getGroupNames(), "b,a");
@@ -317,143 +274,109 @@ private Q_SLOTS:
         }
         QVERIFY(folders.rescued().isEmpty());
         QCOMPARE(groupsIn(folders.systems()), QByteArray("b,a"));
-        QCOMPARE(folders.setAside("other").size(), 1);
-        QCOMPARE(groupsIn(folders.user + folders.setAside("other")[0]), QByteArray("2,1"));
-        QCOMPARE(shown(folders), QByteArray("b,a"));
+        QCOMPARE(groupsAside(folders), QByteArrayList{"2,1"});
+        QCOMPARE(folders.shown(), QByteArray("b,a"));
     }
 
     void rescueThatIsNoLongerTheLatest() {
         const Folders folders;
-        saveGroups(folders, 1);
+        Session(folders).saveWith({"1"});
         Session session(folders);
-        session.addGroup("rescued");
-        DiskCalls::setFault([&](const char*, const QString& path) { return path.startsWith(folders.user); });
-        session.saveSystems();
-        DiskCalls::setFault({});
+        {
+            const Fault unreachable(folders.user);
+            session.saveWith({"rescued"});
+        }
         // Meanwhile another machine has saved to the folder.
-        QVERIFY(setContent(folders.systems(), contentOf(folders.systems()).replace("\"1\">", "\"1\"> ")));
-        QFile file(folders.systems());
-        QVERIFY(file.open(QIODevice::ReadWrite));
-        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(60), QFileDevice::FileModificationTime));
-        file.close();
+        QVERIFY(setContent(folders.systems(), contentOf(folders.systems()).replace("\"1\">", "\"1\"> ")) &&
+                setChanged(folders.systems(), QDateTime::currentDateTime().addSecs(60)));
         Session next(folders);
         QCOMPARE(next.getGroupNames(), "1");
-        next.addGroup("2");
-        next.saveSystems();
+        next.saveWith({"2"});
         QVERIFY(folders.rescued().isEmpty());
-        QCOMPARE(folders.setAside("other").size(), 1);
-        QCOMPARE(groupsIn(folders.user + folders.setAside("other")[0]), QByteArray("rescued,1"));
-        QCOMPARE(shown(folders), QByteArray("2,1"));
+        QCOMPARE(groupsAside(folders), QByteArrayList{"rescued,1"});
+        QCOMPARE(folders.shown(), QByteArray("2,1"));
     }
 
     // Two saves that could not reach the folder, the second of which knew nothing of the first: both are kept.
     void rescueBesideAnother() {
         const Folders folders;
-        saveGroups(folders, 1);
-        Session first(folders);
-        Session second(folders); // on another machine
-        DiskCalls::setFault([&](const char*, const QString& path) { return path.startsWith(folders.user); });
-        first.addGroup("first");
-        first.saveSystems();
-        second.addGroup("second");
-        second.saveSystems();
-        DiskCalls::setFault({});
+        Session(folders).saveWith({"1"});
+        Session first(folders), second(folders); // on another machine
+        {
+            const Fault unreachable(folders.user);
+            first.saveWith({"first"});
+            second.saveWith({"second"});
+        }
         QCOMPARE(folders.rescued().size(), 2);
-        QCOMPARE(shown(folders), QByteArray("second,1"));
-        QVERIFY(filesWith(folders, "first,1") > 0);
+        QCOMPARE(folders.shown(), QByteArray("second,1"));
+        QVERIFY(isKept(folders, "first,1"));
     }
 
-    // What may lie in the file's place, with what the next start must show after a save, and what must be there still.
+    // What may lie in the file's place, with whether a save still reaches the folder.
     void oddPlaces_data() {
-        const Rows<QByteArray, bool> row({"place", "isInFolder"});
-        row("pipe", "pipe", false);
-        row("folder", "folder", false);
-        row("link to a device", "device", false);
-        row("link to nothing", "dangling", true);
-        row("link to nowhere", "nowhere", false);
-        row("link to a file", "link", true);
-        row("link in a circle", "circle", true);
-        row("read-only file", "read-only", true);
-        row("unreadable file", "unreadable", true);
-        row("read-only folder", "read-only folder", false);
-        row("unreadable previous one", "unreadable previous", true);
-        row("link as previous one", "previous link", true);
-        row("folder as previous one", "previous folder", true);
-        row("pipe as previous one", "previous pipe", true);
-        row("file as folder of the generations", "generations", true);
+        const Rows<bool> row({"isInFolder"});
+        for (const char* place : {"pipe", "folder", "device", "link to nowhere", "read-only folder"})
+            row(place, false);
+        for (const char* place :
+             {"link to nothing", "link", "circle", "read-only", "unreadable", "unreadable previous", "previous link",
+              "previous folder", "previous pipe", "file as folder of the generations"})
+            row(place, true);
     }
 
     void oddPlaces() {
 #ifdef Q_OS_UNIX
-        QFETCH(QByteArray, place);
         QFETCH(bool, isInFolder);
+        const QByteArray place = QTest::currentDataTag();
         const OrdinaryUser user;
         if (!user.works)
             QSKIP("permissions can't be tried here");
         const Folders folders;
-        const QString file = folders.systems();
-        const QString target = folders.dir.filePath("target.vcs");
+        const QString file = folders.systems(), previous = folders.previous();
+        const QString target = folders.dir.filePath("target.vcs"), generations = folders.user + "generations";
         if (place != "pipe" && place != "folder" && place != "device" && place != "circle")
-            saveGroups(folders, 3);
+            Session(folders).saveWith({"1", "2", "3"});
         const QByteArray content = contentOf(file);
-        const auto replaceBy = [&](const QString& path, const QString& link) {
+        const auto link = [](const QString& path, const QString& to) {
             QFile::remove(path);
-            return QFile::link(link, path);
+            return QFile::link(to, path);
         };
         const auto pipe = [](const QString& path) {
             QFile::remove(path);
             return mkfifo(QFile::encodeName(path).constData(), 0600) == 0;
         };
-        bool isMade = true;
-        if (place == "pipe")
-            isMade = pipe(file);
-        else if (place == "folder")
-            isMade = QDir().mkpath(file + "/inside");
-        else if (place == "device")
-            isMade = replaceBy(file, "/dev/null");
-        else if (place == "dangling")
-            isMade = replaceBy(file, target);
-        else if (place == "nowhere")
-            isMade = replaceBy(file, folders.dir.filePath("nowhere/target.vcs"));
-        else if (place == "link")
-            isMade = QFile::rename(file, target) && replaceBy(file, target);
-        else if (place == "circle")
-            isMade = replaceBy(file, file);
-        else if (place == "read-only")
-            isMade = QFile::setPermissions(file, QFile::ReadOwner | QFile::ReadUser);
-        else if (place == "unreadable")
-            isMade = QFile::setPermissions(file, {});
-        else if (place == "read-only folder")
-            isMade = QFile::setPermissions(folders.user, QFile::ReadOwner | QFile::ExeOwner);
-        else if (place == "unreadable previous")
-            isMade = QFile::setPermissions(folders.previous(), {});
-        else if (place == "previous link")
-            isMade = setContent(target, "theirs") && replaceBy(folders.previous(), target);
-        else if (place == "previous folder")
-            isMade = QFile::remove(folders.previous()) && QDir().mkpath(folders.previous() + "/inside");
-        else if (place == "previous pipe")
-            isMade = pipe(folders.previous());
-        else if (place == "generations")
-            isMade =
-                QDir(folders.user + "generations").removeRecursively() && setContent(folders.user + "generations", "");
-        QVERIFY(isMade);
+        const std::map<QByteArray, std::function<bool()>> make{
+            {"pipe", [&] { return pipe(file); }},
+            {"folder", [&] { return QDir().mkpath(file + "/inside"); }},
+            {"device", [&] { return link(file, "/dev/null"); }},
+            {"link to nothing", [&] { return link(file, target); }},
+            {"link to nowhere", [&] { return link(file, folders.dir.filePath("nowhere/target.vcs")); }},
+            {"link", [&] { return QFile::rename(file, target) && link(file, target); }},
+            {"circle", [&] { return link(file, file); }},
+            {"read-only", [&] { return QFile::setPermissions(file, QFile::ReadOwner | QFile::ReadUser); }},
+            {"unreadable", [&] { return QFile::setPermissions(file, {}); }},
+            {"read-only folder",
+             [&] { return QFile::setPermissions(folders.user, QFile::ReadOwner | QFile::ExeOwner); }},
+            {"unreadable previous", [&] { return QFile::setPermissions(previous, {}); }},
+            {"previous link", [&] { return setContent(target, "theirs") && link(previous, target); }},
+            {"previous folder", [&] { return QFile::remove(previous) && QDir().mkpath(previous + "/inside"); }},
+            {"previous pipe", [&] { return pipe(previous); }},
+            {"file as folder of the generations",
+             [&] { return QDir(generations).removeRecursively() && setContent(generations, ""); }},
+        };
+        QVERIFY(make.at(place)());
 
-        Session session(folders);
-        session.addGroup("new");
-        session.saveSystems();
-        session.addGroup("newer");
-        session.saveSystems();
+        Session(folders).saveWith({"new", "newer"});
         QCOMPARE(folders.rescued().isEmpty(), isInFolder);
         if (place == "read-only folder")
             QFile::setPermissions(folders.user, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        const QByteArray next = shown(folders);
+        const QByteArray next = folders.shown();
         QVERIFY2(next.startsWith("newer,new"), next.constData());
         if (place == "pipe" || place == "folder" || place == "device")
             QVERIFY(!QFileInfo(file).isFile());
-        if (place == "link" || place == "dangling")
+        if (place == "link" || place == "link to nothing")
             QVERIFY(QFileInfo(file).isSymLink() && groupsIn(target).startsWith("newer,new"));
         if (place == "read-only")
-            QCOMPARE(QFileInfo(file).permissions(), QFileInfo(folders.previous()).permissions());
+            QCOMPARE(QFileInfo(file).permissions(), QFileInfo(previous).permissions());
         if (place == "unreadable") {
             const QString aside = folders.user + folders.setAside("other").value(0);
             QCOMPARE(QFileInfo(aside).permissions(), QFile::Permissions());
@@ -461,18 +384,18 @@ private Q_SLOTS:
             QCOMPARE(contentOf(aside), content);
         }
         if (place == "previous link")
-            QVERIFY(contentOf(target) == "theirs" && !QFileInfo(folders.previous()).isSymLink());
+            QVERIFY(contentOf(target) == "theirs" && !QFileInfo(previous).isSymLink());
         if (place == "previous folder")
-            QVERIFY(QFileInfo(folders.previous() + "/inside").isDir());
-        if (place == "unreadable previous" || place == "generations")
-            QCOMPARE(groupsIn(folders.previous()), QByteArray("new,3,2,1"));
+            QVERIFY(QFileInfo(previous + "/inside").isDir());
+        if (place == "unreadable previous" || place.endsWith("generations"))
+            QCOMPARE(groupsIn(previous), QByteArray("new,3,2,1"));
 #endif
     }
 
     void fileThatCouldNotBeReadAtTheStart() {
         for (const bool forGood : {false, true}) {
             const Folders folders;
-            saveGroups(folders, 2);
+            Session(folders).saveWith({"1", "2"});
             DiskCalls::setFault([&](const char*, const QString& path) { return path == folders.systems(); });
             Session session(folders);               // another program holds the file
             QCOMPARE(session.getGroupNames(), "1"); // of the previous generation
@@ -480,25 +403,19 @@ private Q_SLOTS:
             DiskCalls::setFault([&](const char* call, const QString& path) {
                 return forGood && (path == folders.systems() ? qstrcmp(call, "read") == 0 : qstrcmp(call, "link") == 0);
             });
-            session.addGroup("a");
-            session.saveSystems();
+            session.saveWith({"a"});
             DiskCalls::setFault({});
+            QCOMPARE(groupsAside(folders), QByteArrayList{"2,1"});
+            session.saveWith({"b", "c"});
             QCOMPARE(folders.setAside("other").size(), 1);
-            QCOMPARE(groupsIn(folders.user + folders.setAside("other")[0]), QByteArray("2,1"));
-            for (const char* group : {"b", "c"}) {
-                session.addGroup(group);
-                session.saveSystems();
-            }
-            QCOMPARE(folders.setAside("other").size(), 1);
-            QCOMPARE(shown(folders), QByteArray("c,b,a,1"));
+            QCOMPARE(folders.shown(), QByteArray("c,b,a,1"));
         }
     }
 
     void fileThatGrowsNoFurther() {
         const Folders folders;
-        saveGroups(folders, 2);
-        const QByteArray saved = contentOf(folders.systems());
-        const QByteArray previous = contentOf(folders.previous());
+        Session(folders).saveWith({"1", "2"});
+        const QByteArray saved = contentOf(folders.systems()), previous = contentOf(folders.previous());
         Session session(folders);
         for (int i = 0; i < 200; ++i)
             session.add("new", QByteArray::number(i).constData());
@@ -509,10 +426,10 @@ private Q_SLOTS:
             session.saveSystems(); // the rescue folder is as full
             QCOMPARE(contentOf(folders.systems()), saved);
             QCOMPARE(contentOf(folders.previous()), previous);
-            QVERIFY(folders.rescued().isEmpty() && unfinished(folders).isEmpty());
+            QCOMPARE(folders.rescued() + Folders::filesBelow(folders.user, "*.unfinished-*"), QStringList());
         }
         session.saveSystems();
-        QCOMPARE(shown(folders), QByteArray("new,2,1"));
+        QCOMPARE(folders.shown(), QByteArray("new,2,1"));
     }
 
     void fullDisk() {
@@ -520,12 +437,10 @@ private Q_SLOTS:
         const SmallDisk disk(folders.user, 1024);
         if (!disk.works)
             QSKIP("no disk may be mounted here");
-        {
-            Session session(folders);
-            for (int i = 0; i < 200; ++i)
-                session.add("new", QByteArray::number(-i).constData());
-            session.saveSystems();
-        }
+        Session first(folders);
+        for (int i = 0; i < 200; ++i)
+            first.add("new", QByteArray::number(-i).constData());
+        first.saveSystems();
         int reached = 0;
         for (int free = 0; free <= 80; free += 8) {
             Session session(folders);

@@ -6,28 +6,31 @@
 #include "support/DiskLimits.h"
 #include "support/Files.h"
 #include "support/RoomTest.h"
-#include "support/Rows.h"
 
 #include <QDir>
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <memory>
+
 class FileReplacementTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() {
+        dir = std::make_unique<QTemporaryDir>();
+        path = dir->filePath("a.prj");
+        QVERIFY(setContent(path, "old"));
+        error.clear();
+    }
     void cleanup() { DiskCalls::setFault({}); }
 
     void replaces() {
-        const QTemporaryDir dir;
-        const QString path = dir.filePath("a.prj");
-        const QByteArray large(300000, 'x');
-        QString error;
-        for (const QByteArray& content : {QByteArray("first"), QByteArray(), large}) {
+        for (const QByteArray& content : {QByteArray("first"), QByteArray(), QByteArray(300000, 'x')}) {
             QVERIFY(process_replace_file(path, content, &error));
             QCOMPARE(contentOf(path), content);
         }
-        QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList("a.prj"));
+        QCOMPARE(files(), QStringList("a.prj"));
     }
 
     void piecesMakeNoDifference() {
@@ -36,9 +39,8 @@ private Q_SLOTS:
             content += char(i);
         for (int first = 0; first <= 40; ++first) {
             ContentHash hash(content.left(first));
-            hash.add(content.mid(first, 35));
-            hash.add({});
-            hash.add(content.mid(first + 35));
+            for (const QByteArray& piece : {content.mid(first, 35), QByteArray(), content.mid(first + 35)})
+                hash.add(piece);
             QVERIFY(hash == ContentHash(content));
         }
         for (int i = 0; i < content.size() * 8; ++i) {
@@ -50,121 +52,97 @@ private Q_SLOTS:
     }
 
     void everyCallFailsOnce() {
-        const QTemporaryDir dir;
-        const QString path = dir.filePath("a.prj");
-        QVERIFY(setContent(path, "old"));
-        bool hasFailed = true;
         int failures = 0;
-        for (int place = 0; hasFailed; ++place) {
-            hasFailed = false;
+        for (bool hasFailed = true; hasFailed; failures += hasFailed ? 1 : 0) {
             int calls = 0;
-            QByteArray failed;
-            DiskCalls::setFault([&](const char* call, const QString&) {
-                if (calls++ != place)
-                    return false;
-                failed = call;
-                return hasFailed = true;
+            hasFailed = false;
+            DiskCalls::setFault([&](const char*, const QString&) {
+                hasFailed = hasFailed || calls == failures;
+                return calls++ == failures;
             });
-            QString error;
             const bool isReplaced = process_replace_file(path, "new", &error);
             DiskCalls::setFault({});
             QCOMPARE(isReplaced, !hasFailed);
             QCOMPARE(contentOf(path), QByteArray(hasFailed ? "old" : "new"));
-            QVERIFY2(!hasFailed || !error.isEmpty(), failed);
-            QCOMPARE(QDir(dir.path()).entryList(QDir::Files).size(), 1);
-            failures += hasFailed ? 1 : 0;
+            QCOMPARE(error.isEmpty(), !hasFailed);
+            QCOMPARE(files(), QStringList("a.prj"));
+            error.clear();
         }
         QCOMPARE(failures, 4); // create, write, sync, rename
     }
 
     void sizeOnDiskCounts() {
-        const QTemporaryDir dir;
-        const QString path = dir.filePath("a.prj");
-        QVERIFY(setContent(path, "old"));
         // Every call says that all is well, and yet the last block is not there.
         DiskCalls::setFault([](const char* call, const QString& file) {
             if (qstrcmp(call, "sync") == 0)
                 QFile::resize(file, 2);
             return false;
         });
-        QString error;
-        QVERIFY(!process_replace_file(path, "new", &error));
-        QVERIFY(!error.isEmpty());
-        QCOMPARE(contentOf(path), QByteArray("old"));
+        stays(path, "new");
     }
 
     void fullDisk() {
-        const QTemporaryDir dir;
-        const QString path = dir.filePath("a.prj");
-        QVERIFY(setContent(path, "old"));
         for (const int limit : {0, 1, 700, 16384, 19999}) {
             const FileSizeLimit full(limit);
             if (!full.works)
                 QSKIP("no limit for files here");
-            QString error;
-            QVERIFY(!process_replace_file(path, QByteArray(20000, 'x'), &error));
-            QVERIFY(!error.isEmpty());
-            QCOMPARE(contentOf(path), QByteArray("old"));
-            QCOMPARE(QDir(dir.path()).entryList(QDir::Files).size(), 1);
+            stays(path, QByteArray(20000, 'x'));
         }
     }
 
     void permissionsAndLinks() {
-        const QTemporaryDir dir;
-        const QString target = dir.filePath("target.prj");
-        const QString link = dir.filePath("link.prj");
-        const QString dangling = dir.filePath("dangling.prj");
+        const QString link = dir->filePath("link.prj"), dangling = dir->filePath("dangling.prj");
         const QFile::Permissions own = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
-        QVERIFY(setContent(target, "old") && QFile::setPermissions(target, own));
-        QVERIFY(QFile::link("target.prj", link) && QFile::link(dir.filePath("later.prj"), dangling));
-        QString error;
+        QVERIFY(QFile::setPermissions(path, own));
+        QVERIFY(QFile::link("a.prj", link) && QFile::link(dir->filePath("later.prj"), dangling));
         QVERIFY(process_replace_file(link, "new", &error) && process_replace_file(dangling, "later", &error));
         QVERIFY(QFileInfo(link).isSymLink() && QFileInfo(dangling).isSymLink());
-        QCOMPARE(contentOf(target), QByteArray("new"));
-        QCOMPARE(QFile::permissions(target), own);
-        QCOMPARE(contentOf(dir.filePath("later.prj")), QByteArray("later"));
+        QCOMPARE(contentOf(path), QByteArray("new"));
+        QCOMPARE(QFile::permissions(path), own);
+        QCOMPARE(contentOf(dir->filePath("later.prj")), QByteArray("later"));
         // A replacement itself does not follow.
         FileReplacement replacement(link);
-        QVERIFY(replacement.prepareCopyOf(target) && replacement.commit());
+        QVERIFY(replacement.prepareCopyOf(path) && replacement.commit());
         QVERIFY(!QFileInfo(link).isSymLink());
         QCOMPARE(QFile::permissions(link), own);
     }
 
-    void nothingButFiles_data() {
-        const Rows<QString> row({"place"});
-        row("a folder", "folder");
-        row("a device", "device");
-        row("no folder", "missing/a.prj");
-        row("a file as folder", "file/a.prj");
-    }
-
     void nothingButFiles() {
-        QFETCH(QString, place);
-        const QTemporaryDir dir;
-        QVERIFY(QDir(dir.path()).mkpath("folder/inside") && QFile::link("/dev/null", dir.filePath("device")));
-        QVERIFY(setContent(dir.filePath("file"), "content"));
-        QString error;
-        QVERIFY(!process_replace_file(dir.filePath(place), "new", &error));
-        QVERIFY(!error.isEmpty());
-        QCOMPARE(QDir(dir.path()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot),
-                 (QStringList{"device", "file", "folder"}));
+        QVERIFY(QDir(dir->path()).mkpath("folder/inside") && QFile::link("/dev/null", dir->filePath("device")));
+        for (const char* place : {"folder", "device", "no folder/a.prj", "a.prj/file as folder"})
+            stays(dir->filePath(place), "new");
         QVERIFY(QFileInfo::exists("/dev/null") && !QFileInfo("/dev/null").isFile());
+        QVERIFY(QFileInfo(dir->filePath("folder/inside")).isDir() && QFileInfo(dir->filePath("device")).isSymLink());
+        QVERIFY(!QFileInfo::exists(dir->filePath("no folder")));
     }
 
     void leftovers() {
-        const QTemporaryDir dir;
-        const auto file = [&](const char* name) { return dir.filePath(name); };
         for (const char* name : {"a.unfinished-abcdef", "a.backup", "a.unfinished-held", "b.unfinished-abcdef", "a"})
-            QVERIFY(setContent(file(name), "x"));
-        QFile held(file("a.unfinished-heldon"));
+            QVERIFY(setContent(dir->filePath(name), "x"));
+        QFile held(dir->filePath("a.unfinished-heldon"));
         QVERIFY(held.open(QIODevice::WriteOnly));
         const bool isHeld = FileHold::take(held);
-        FileReplacement::removeLeftovers(dir.path(), "a");
+        FileReplacement::removeLeftovers(dir->path(), "a");
         QCOMPARE(QFileInfo::exists(held.fileName()), isHeld);
-        QStringList left = {"a", "a.backup", "a.unfinished-held", "b.unfinished-abcdef"};
         held.remove();
-        QCOMPARE(QDir(dir.path()).entryList(QDir::Files, QDir::Name), left);
+        QCOMPARE(files(), (QStringList{"a", "a.backup", "a.prj", "a.unfinished-held", "b.unfinished-abcdef"}));
     }
+
+private:
+    QStringList files() const { return QDir(dir->path()).entryList(QDir::Files, QDir::Name); }
+
+    /// A replacement at `place` fails, with a reason, and changes nothing.
+    void stays(const QString& place, const QByteArray& content) {
+        const QStringList before = files();
+        error.clear();
+        QVERIFY2(!process_replace_file(place, content, &error), qPrintable(place));
+        QVERIFY(!error.isEmpty());
+        QCOMPARE(contentOf(path), QByteArray("old"));
+        QCOMPARE(files(), before);
+    }
+
+    std::unique_ptr<QTemporaryDir> dir;
+    QString path, error;
 };
 
 ROOM_TEST(FileReplacementTest)

@@ -13,10 +13,9 @@ class DatumShiftTest : public QObject {
 private Q_SLOTS:
     void initTestCase() { QVERIFY2(projectionModule(), "the module lies in ../lib"); }
 
-    void shifts_data() { textRows("shifts.txt", {"items", "shift"}); }
+    void shifts_data() { textRows("shifts.txt"); }
     void shifts() {
-        QFETCH(QByteArray, items);
-        QFETCH(QByteArray, shift);
+        const auto [items, shift] = textRow<2>();
         QCOMPARE(shiftOf("+proj=tmerc " + items), numbersOf(shift));
         QVERIFY(define("+proj=tmerc " + items).startsWith("+proj=tmerc"));
     }

@@ -11,13 +11,9 @@ class EllipsoidTest : public QObject {
 private Q_SLOTS:
     void initTestCase() { QVERIFY2(projectionModule(), "the module lies in ../lib"); }
 
-    void ellipsoids_data() { textRows("ellipsoids.txt", {"items", "id", "name", "a", "b"}); }
+    void ellipsoids_data() { textRows("ellipsoids.txt"); }
     void ellipsoids() {
-        QFETCH(QByteArray, items);
-        QFETCH(QByteArray, id);
-        QFETCH(QByteArray, name);
-        QFETCH(QByteArray, a);
-        QFETCH(QByteArray, b);
+        const auto [items, id, name, a, b] = textRow<5>();
         const ProjEllipsoid ellipsoid = GetProjEllipsoid(InitializeProj(("+proj=tmerc " + items).constData()));
         QCOMPARE(QByteArray(ellipsoid.id), id);
         QCOMPARE(QByteArray(ellipsoid.name), name);

@@ -2,11 +2,9 @@
 #include "platform/projection/IProjectionModule.h"
 #include "platform/projection/engine/proj/ProjObject.h"
 #include "support/RoomTest.h"
-#include "support/Rows.h"
 #include "support/TextTable.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 #include <cmath>
 
@@ -44,10 +42,9 @@ private Q_SLOTS:
         proj_log_level(nullptr, PJ_LOG_NONE);
     }
 
-    void normalised_data() { textRows("normalised.txt", {"title", "given", "expected"}); }
+    void normalised_data() { textRows("normalised.txt"); }
     void normalised() {
-        QFETCH(QByteArray, given);
-        QFETCH(QByteArray, expected);
+        const auto [title, given, expected] = textRow<3>();
         QCOMPARE(define(given), expected + noShift);
         QCOMPARE(define(define(given)), define(given));
         const QByteArray shiftless = QByteArray(given).replace("+nadgrids=@null", "").replace("+datum=", "+ellps=");
@@ -57,36 +54,32 @@ private Q_SLOTS:
         QVERIFY(distance(shiftless, held, longitudeOf(expected) + 2, latitude) < 1e-6);
     }
 
-    /// Where PROJ's omerc is off by decimetres, and another latitude as good as any.
-    void azimuth90_data() {
-        const Rows<double, QByteArray> row({"latitude", "projection"});
-        for (const double latitude : {45.0, 46.5, 33.3, 50.1, 47.1}) {
-            for (const char* projection : {"somerc +lon_0=7.5", "omerc +lonc=7.5 +alpha=90 +gamma=90",
-                                           "omerc +lonc=7.5 +alpha=90 +no_uoff", "omerc +lonc=7.5 +alpha=-90 +no_uoff"})
-                row(QByteArray::number(latitude) + ' ' + projection, latitude, projection);
+    /// Held at the latitudes where PROJ's omerc is off by decimetres, too.
+    void azimuth90() {
+        for (const char* const latitude : {"45", "46.5", "33.3", "50.1", "47.1"}) {
+            const QByteArray place = QByteArray(" +lat_0=") + latitude + " +x_0=600000 +y_0=200000 +ellps=bessel";
+            for (const char* const projection :
+                 {"somerc +lon_0=7.5", "omerc +lonc=7.5 +alpha=90 +gamma=90", "omerc +lonc=7.5 +alpha=90 +no_uoff",
+                  "omerc +lonc=7.5 +alpha=-90 +no_uoff"}) {
+                const QByteArray held = define("+proj=" + (projection + place));
+                QVERIFY2(held.startsWith("+proj=omerc") && held.contains(" +lonc=7.5 "), held.constData());
+            }
+            QVERIFY(!define("+proj=omerc +lonc=7.5 +alpha=90 +gamma=89.999" + place).contains("+proj="));
         }
     }
-    void azimuth90() {
-        QFETCH(double, latitude);
-        QFETCH(QByteArray, projection);
-        const QByteArray place = " +lat_0=" + QByteArray::number(latitude) + " +x_0=600000 +y_0=200000 +ellps=bessel";
-        const QByteArray held = define("+proj=" + projection + place);
-        QVERIFY2(held.startsWith("+proj=omerc") && held.contains(" +lonc=7.5 "), held.constData());
-        QVERIFY(define("+proj=omerc +lonc=7.5 +alpha=90 +gamma=89.999" + place).indexOf("+proj=") < 0);
-    }
 
-    void undefined_data() { textRows("undefined.txt", {"title", "given"}); }
+    void undefined_data() { textRows("undefined.txt"); }
     void undefined() {
-        QFETCH(QByteArray, given);
+        const auto [title, given] = textRow<2>();
         const QByteArray text = define(given);
         QVERIFY2(!text.isEmpty() && !text.contains("proj=") && !text.contains("k_0=") && !text.contains("nan"),
                  text.constData());
         QVERIFY2(text.startsWith("+lat_") || text.startsWith("+lon"), text.constData());
     }
 
-    void plainDefinitionsComputeTheSame_data() { textRows("patterns.txt", {"pattern"}); }
+    void plainDefinitionsComputeTheSame_data() { textRows("patterns.txt"); }
     void plainDefinitionsComputeTheSame() {
-        QFETCH(QByteArray, pattern);
+        const auto [pattern] = textRow<1>();
         QRandomGenerator random(20);
         const QList<QByteArray> ends{" +ellps=GRS80",
                                      " +ellps=bessel +pm=ferro",

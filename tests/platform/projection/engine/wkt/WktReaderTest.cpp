@@ -15,14 +15,10 @@ class WktReaderTest : public QObject {
 private Q_SLOTS:
     void initTestCase() { QVERIFY2(projectionModule(), "the module lies in ../lib"); }
 
-    void projected_data() { textRows("projected.txt", {"title", "name", "ellipsoid", "start", "shift", "text"}); }
+    void projected_data() { textRows("projected.txt"); }
 
     void projected() {
-        QFETCH(QByteArray, name);
-        QFETCH(QByteArray, ellipsoid);
-        QFETCH(QByteArray, start);
-        QFETCH(QByteArray, shift);
-        QFETCH(QByteArray, text);
+        const auto [title, name, ellipsoid, start, shift, text] = textRow<6>();
         const WktSystem system = projectionModule()->readWkt(text);
         QVERIFY(system.content == WktSystem::Content::Projected);
         QCOMPARE(system.name, name);

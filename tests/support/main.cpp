@@ -1,8 +1,0 @@
-#include "support/RoomTest.h"
-
-#include <QCoreApplication>
-
-int main(int argc, char** argv) {
-    const QCoreApplication application(argc, argv);
-    return RoomTest::run(argc, argv);
-}
