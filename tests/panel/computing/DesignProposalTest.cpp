@@ -116,7 +116,7 @@ private Q_SLOTS:
             const auto proposal = DesignProposal::make(*record, *projectionModule(), points, 0.0, true);
             QVERIFY(proposal && proposal->changes().size() == 2);
             QCOMPARE(proposal->changes().first().after, east == 183.0 ? 180.0 : -179.0);
-            QVERIFY2(proposal->after().extreme() < (east == 183.0 ? 640.0 : 1130.0),
+            QVERIFY2(proposal->after().extreme() < (east == 183.0 ? 640.0 : 1134.0),
                      qPrintable(QString::number(proposal->after().extreme())));
         }
     }

@@ -65,8 +65,8 @@ private Q_SLOTS:
     void publishedValue_data() {
         const Rows<QByteArray, QByteArray, QVector<double>, double, QVector<double>> row(
             {"definition", "what", "n", "unit", "trips"});
-        QStringList files{TEST_DATA_DIR "/published_values.txt", TEST_DATA_DIR "/limits.txt"};
-        for (const QFileInfo& file : QDir(TEST_DATA_DIR "/gigs").entryInfoList({"*.txt"}))
+        QStringList files{RoomTest::dataPath("published_values.txt"), RoomTest::dataPath("limits.txt")};
+        for (const QFileInfo& file : QDir(RoomTest::dataPath("gigs")).entryInfoList({"*.txt"}))
             files << file.filePath();
         QCOMPARE(files.size(), 15);
         for (const QString& file : files)
