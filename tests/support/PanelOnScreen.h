@@ -1,14 +1,19 @@
 #pragma once
 
 #include "panel/DlgCoordParam.h"
-#include "panel/field/MessageLine.h"
+#include "panel/record/AngleText.h"
+#include "support/OnScreen.h"
+#include "support/PanelRecords.h"
 #include "support/RecordingCatalogue.h"
+#include "support/SampleRecords.h"
 
-#include <QtTest>
-#include <QtWidgets>
-
-/// The panel in a window, on a catalogue with a few ellipsoids and a geoid, and a hand that types.
-class PanelOnScreen {
+/// The panel in a window, on a catalogue with a few ellipsoids and a geoid.
+///   A script starts with "Tab: record" or "Tab, read-only: record", where a record is "British grid" (a sample),
+///   "imported 9" (by method) or "fresh", and changes to it behind ", ".
+///   done: "show=record", "refresh" (the same record again)
+///   seen: "edits" since the last record was shown, "changed" keys since then (nothing: the record is as it was),
+///         "value:key" and "number:key" of the record
+class PanelOnScreen : public OnScreen {
 public:
     enum Tab { Ellipsoid, Projection, Shift, Height, Check, Definition };
 
@@ -20,14 +25,44 @@ public:
         catalogue.addTestEllipsoid("Bessel Namibia", "6377483.865280419", "299.1528128", "1");
         catalogue.addTestGeoid("EGM2008", "egm2008.ggf", "WGS 84", "1");
         panel.resize(640, 560);
-        panel.show();
-        QApplication::setActiveWindow(&panel);
+        open(panel);
         show(record, tab);
         QApplication::processEvents();
+        acts["show"] = [this](const QString& text) { show(*recordOf(text)); };
+        acts["refresh"] = [this](const QString&) { panel.setCoordParam(this->record()); };
+        sights["edits"] = [this](const QString&) { return QString::number(edits.count()); };
+        sights["changed"] = [this](const QString&) {
+            const QStringList keys = PanelRecords::changedKeys(before, this->record());
+            return keys.isEmpty() && recordText(this->record()) != before ? "order" : keys.join(' ');
+        };
+        sights["value"] = [this](const QString& key) { return QString::fromLocal8Bit(value(key.toLatin1())); };
+        sights["number"] = [this](const QString& key) { return QString::number(number(key.toLatin1()), 'g', 17); };
+    }
+
+    /// As a script starts.
+    explicit PanelOnScreen(const QString& start)
+        : PanelOnScreen(*recordOf(start.section(": ", 1)), Ellipsoid, start.section(": ", 0, 0).endsWith("read-only")) {
+        AngleText::setNotation(AngleNotation::DecimalDegrees);
+        turnTo(start.section(QRegularExpression("[,:]"), 0, 0));
+        QApplication::processEvents();
+    }
+
+    static DictionaryGuard recordOf(const QString& text) {
+        QByteArrayList parts;
+        for (const QString& part : text.split(", "))
+            parts << part.toLocal8Bit();
+        const QByteArray name = parts.takeFirst();
+        DictionaryGuard record = name == "fresh" ? PanelRecords::fresh()
+                                 : name.startsWith("imported")
+                                     ? PanelRecords::imported(ProjectionMethod(name.mid(9).toInt()))
+                                     : SampleRecord::named(name).record();
+        PanelRecords::change(*record, parts);
+        return record;
     }
 
     void show(const IDictionary& record) {
         panel.setCoordParam(record);
+        before = recordText(panel.getMetaData());
         edits.clear();
     }
 
@@ -36,66 +71,18 @@ public:
         show(record);
     }
 
-    const IDictionary& record() const { return panel.getMetaData(); }
-    const char* value(const char* key) const { return record().getValue(key); }
-    double number(const char* key) const { return dictionary_number(record(), key, qQNaN()); }
-
-    template <typename Widget> QList<Widget*> findAll() const {
-        QList<Widget*> visible;
-        for (Widget* widget : panel.findChildren<Widget*>()) {
-            if (widget->isVisible())
-                visible << widget;
-        }
-        return visible;
-    }
-
-    /// A visible widget by its accessible name or, if it is a button, its text; null when there is none.
-    template <typename Widget> Widget* find(const QString& name) const {
-        for (Widget* widget : findAll<Widget>()) {
-            const auto* button = qobject_cast<QAbstractButton*>(widget);
-            if (widget->accessibleName() == name || (button && button->text() == name))
-                return widget;
-        }
-        return nullptr;
-    }
-
-    QLineEdit* field(const char* label) const { return find<QLineEdit>(DlgCoordParam::tr(label)); }
-    QString shown(const char* label) const { return field(label)->text(); }
-
-    QPushButton* button(const char* text) const { return find<QPushButton>(text); }
-
-    /// Replaces the field's text by typing.
-    QLineEdit* type(const char* label, const QString& typed) const {
-        QLineEdit* edit = field(label);
-        edit->setFocus();
-        edit->selectAll();
-        if (typed.isEmpty())
-            QTest::keyClick(edit, Qt::Key_Delete);
-        QTest::keyClicks(edit, typed);
-        return edit;
-    }
-
-    void choose(const QString& box, int index) const {
-        auto* combo = find<QComboBox>(box);
-        combo->setCurrentIndex(index);
-        Q_EMIT combo->activated(index);
-    }
-
     void chooseMethod(ProjectionMethod method) const {
         choose("Projection method", find<QComboBox>("Projection method")->findData(int(method)));
     }
 
-    /// Every message on the visible tab, the problem first; none that a greyed tab does not show.
-    QStringList messages() const {
-        QStringList texts;
-        for (const MessageLine* line : findAll<MessageLine>()) {
-            if (!line->text().isEmpty() && line->isEnabled())
-                texts << line->text();
-        }
-        return texts;
-    }
+    const IDictionary& record() const { return panel.getMetaData(); }
+    const char* value(const char* key) const { return record().getValue(key); }
+    double number(const char* key) const { return dictionary_number(record(), key, qQNaN()); }
 
     RecordingCatalogue catalogue;
     DlgCoordParam panel;
     QSignalSpy edits;
+
+private:
+    QStringList before;
 };
