@@ -22,7 +22,15 @@ public:
         QApplication::setActiveWindow(window);
         sights["state"] = [this](const QString& name) -> QString {
             const auto* widget = find<QWidget>(name);
-            return !widget ? "missing" : widget->isEnabled() ? "enabled" : "grey";
+            return !widget                                 ? "missing"
+                   : !widget->isEnabled()                  ? "grey"
+                   : widget->property("readOnly").toBool() ? "read-only"
+                                                           : "enabled";
+        };
+        acts["open"] = [this](const QString& box) {
+            find<QComboBox>(box)->showPopup();
+            find<QComboBox>(box)->hidePopup();
+            QApplication::setActiveWindow(window);
         };
         sights["tip"] = [this](const QString& name) { return find<QWidget>(name)->toolTip(); };
         sights["description"] = [this](const QString& name) { return find<QWidget>(name)->accessibleDescription(); };
@@ -40,6 +48,15 @@ public:
             return items.join(", ");
         };
         sights["red"] = [this](const QString&) { return isRed() ? "yes" : "no"; };
+        sights["found"] = [this](const QString& box) -> QString {
+            const QCompleter* search = find<QComboBox>(box)->completer();
+            return search->popup()->isVisible() ? QString::number(search->completionModel()->rowCount()) : "closed";
+        };
+        acts["measure"] = [this](const QString& name) { measured = find<QWidget>(name)->width(); };
+        sights["as wide"] = [this](const QString& name) {
+            return find<QWidget>(name)->width() == measured ? "yes" : "no";
+        };
+        acts["wait for"] = [this](const QString& name) { QTRY_VERIFY(find<QWidget>(name)); };
     }
 
     template <typename Widget> QList<Widget*> findAll() const {
@@ -124,10 +141,14 @@ protected:
         auto* box = find<QComboBox>(word);
         if (acts.contains(word)) {
             acts[word](text);
-        } else if (word.startsWith('<')) {
+            QApplication::processEvents();
+            return;
+        }
+        if (word.startsWith('<')) {
             QTest::keyClick(QApplication::activePopupWidget() ? QApplication::activePopupWidget() : keyboard,
                             Qt::Key(QKeySequence(rest.chopped(1))[0]));
         } else if (word.startsWith('@')) {
+            QVERIFY2(find<QWidget>(rest), qPrintable("No " + rest));
             find<QWidget>(rest)->setFocus();
         } else if (word.startsWith('+')) {
             QTest::keyClicks(keyboard, rest);
@@ -138,7 +159,7 @@ protected:
         } else if (text.isNull() && turnTo(word)) {
         } else if (auto* spin = find<QSpinBox>(word)) {
             spin->setValue(text.toInt());
-        } else if (box && has(box, text)) {
+        } else if (box && box->findText(text) >= 0) {
             choose(word, box->findText(text));
         } else if (auto* pressed = find<QAbstractButton>(word)) {
             QTest::mouseClick(pressed, Qt::LeftButton, {}, {8, pressed->height() / 2}); // on a check mark, too
@@ -146,6 +167,8 @@ protected:
             type(word, text);
         }
         QApplication::processEvents();
+        if (!QApplication::activePopupWidget())
+            QApplication::setActiveWindow(window); // a desktop does so when a popup is gone
     }
 
     QString see(const QString& what) override {
@@ -167,6 +190,8 @@ protected:
     QWidget* window = nullptr;
 
 private:
+    int measured = 0;
+
     static QString nameOf(const QWidget* widget) {
         const auto* button = qobject_cast<const QAbstractButton*>(widget);
         return button ? button->text() : widget->accessibleName();
@@ -184,15 +209,5 @@ private:
     static QLineEdit* inputOf(QWidget* widget) {
         auto* box = qobject_cast<QComboBox*>(widget);
         return box ? box->lineEdit() : qobject_cast<QLineEdit*>(widget);
-    }
-
-    /// Whether the box's list has the text, which may be read when it is opened.
-    bool has(QComboBox* box, const QString& text) const {
-        if (box->findText(text) < 0) {
-            box->showPopup();
-            box->hidePopup();
-            QApplication::setActiveWindow(window);
-        }
-        return box->findText(text) >= 0;
     }
 };

@@ -10,9 +10,9 @@
 /// The panel in a window, on a catalogue with a few ellipsoids and a geoid.
 ///   A script starts with "Tab: record" or "Tab, read-only: record", where a record is "British grid" (a sample),
 ///   "imported 9" (by method) or "fresh", and changes to it behind ", ".
-///   done: "show=record", "refresh" (the same record again)
-///   seen: "edits" since the last record was shown, "changed" keys since then (nothing: the record is as it was),
-///         "value:key" and "number:key" of the record
+///   done: "show=record", "refresh" (the same record again), "mark" for what is counted or compared since then
+///   seen: "edits" since a record was shown or the mark, "changed" keys since then (nothing: the record is as it was),
+///         of a record that is told of; "value:key" and "number:key" of the record
 class PanelOnScreen : public OnScreen {
 public:
     enum Tab { Ellipsoid, Projection, Shift, Height, Check, Definition };
@@ -29,23 +29,33 @@ public:
         show(record, tab);
         QApplication::processEvents();
         acts["show"] = [this](const QString& text) { show(*recordOf(text)); };
+        acts["mark"] = [this](const QString&) { mark(); };
+        acts["mark edits"] = [this](const QString&) { edits.clear(); };
         acts["refresh"] = [this](const QString&) { panel.setCoordParam(this->record()); };
         sights["edits"] = [this](const QString&) { return QString::number(edits.count()); };
         sights["changed"] = [this](const QString&) {
-            const QStringList keys = PanelRecords::changedKeys(before, this->record());
-            return keys.isEmpty() && recordText(this->record()) != before ? "order" : keys.join(' ');
+            const QStringList now = recordText(this->record()),
+                              keys = PanelRecords::changedKeys(before, this->record());
+            return now != told ? "not told of" : keys.isEmpty() && now != before ? "order" : keys.join(' ');
         };
-        sights["value"] = [this](const QString& key) { return QString::fromLocal8Bit(value(key.toLatin1())); };
-        sights["number"] = [this](const QString& key) { return QString::number(number(key.toLatin1()), 'g', 17); };
+        sights["value"] = [this](const QString& key) {
+            const char* const text = value(key.toLatin1());
+            return text ? QString::fromLocal8Bit(text) : "(none)";
+        };
+        sights["number"] = [this](const QString& key) {
+            return QString::number(number(key.toLatin1()), 'g', QLocale::FloatingPointShortest);
+        };
+        QObject::connect(&panel, &DlgCoordParam::dataChanged, [this] { told = recordText(this->record()); });
     }
 
     /// As a script starts.
     explicit PanelOnScreen(const QString& start)
         : PanelOnScreen(*recordOf(start.section(": ", 1)), Ellipsoid, start.section(": ", 0, 0).endsWith("read-only")) {
-        AngleText::setNotation(AngleNotation::DecimalDegrees);
         turnTo(start.section(QRegularExpression("[,:]"), 0, 0));
         QApplication::processEvents();
     }
+
+    ~PanelOnScreen() override { AngleText::setNotation(AngleNotation::DecimalDegrees); }
 
     static DictionaryGuard recordOf(const QString& text) {
         QByteArrayList parts;
@@ -62,17 +72,12 @@ public:
 
     void show(const IDictionary& record) {
         panel.setCoordParam(record);
-        before = recordText(panel.getMetaData());
-        edits.clear();
+        mark();
     }
 
     void show(const IDictionary& record, int tab) {
         panel.setCurrentIndex(tab);
         show(record);
-    }
-
-    void chooseMethod(ProjectionMethod method) const {
-        choose("Projection method", find<QComboBox>("Projection method")->findData(int(method)));
     }
 
     const IDictionary& record() const { return panel.getMetaData(); }
@@ -84,5 +89,11 @@ public:
     QSignalSpy edits;
 
 private:
+    void mark() {
+        told = before = recordText(record());
+        edits.clear();
+    }
+
     QStringList before;
+    QStringList told; ///< the record when it was last told of
 };

@@ -23,11 +23,13 @@ public:
 
     virtual ~Script() = default;
 
-    /// Makes the file's scripts rows of the test: for its `_data()`, with the columns "start" and "steps".
-    static void addRows(const char* file) {
+    /// Makes the files' scripts rows of the test: for its `_data()`, with the columns "start" and "steps".
+    static void addRows(std::initializer_list<const char*> files) {
         QTest::addColumn<QString>("start");
         QTest::addColumn<QList<QByteArrayList>>("steps");
-        QList<QByteArrayList> table = textTable(file);
+        QList<QByteArrayList> table;
+        for (const char* file : files)
+            table += textTable(file);
         while (!table.isEmpty()) {
             const QByteArrayList head = table.takeFirst();
             QVERIFY2(head[0].startsWith("= "), head[0]);

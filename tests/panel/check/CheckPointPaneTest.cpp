@@ -15,7 +15,7 @@ private Q_SLOTS:
         QVERIFY(screen.panel.findChild<CheckPointPane*>() && !screen.panel.findChild<QPlainTextEdit*>());
     }
 
-    void script_data() { Script::addRows("check_point.txt"); }
+    void script_data() { Script::addRows({"check_point.txt"}); }
 
     void script() {
         QFETCH(QString, start);

@@ -109,7 +109,7 @@ class DistortionPaneTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void script_data() { Script::addRows("distortion.txt"); }
+    void script_data() { Script::addRows({"distortion.txt"}); }
 
     void script() {
         QFETCH(QString, start);
