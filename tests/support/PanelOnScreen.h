@@ -5,11 +5,9 @@
 #include "support/OnScreen.h"
 #include "support/PanelRecords.h"
 #include "support/RecordingCatalogue.h"
-#include "support/SampleRecords.h"
 
 /// The panel in a window, on a catalogue with a few ellipsoids and a geoid.
-///   A script starts with "Tab: record" or "Tab, read-only: record", where a record is "British grid" (a sample),
-///   "imported 9" (by method) or "fresh", and changes to it behind ", ".
+///   A script starts with "Tab: record" or "Tab, read-only: record"; a record is as of PanelRecords::of().
 ///   done: "show=record", "refresh" (the same record again), "mark" for what is counted or compared since then
 ///   seen: "edits" since a record was shown or the mark, "changed" keys since then (nothing: the record is as it was),
 ///         of a record that is told of; "value:key" and "number:key" of the record
@@ -28,7 +26,7 @@ public:
         open(panel);
         show(record, tab);
         QApplication::processEvents();
-        acts["show"] = [this](const QString& text) { show(*recordOf(text)); };
+        acts["show"] = [this](const QString& text) { show(*PanelRecords::of(text)); };
         acts["mark"] = [this](const QString&) { mark(); };
         acts["mark edits"] = [this](const QString&) { edits.clear(); };
         acts["refresh"] = [this](const QString&) { panel.setCoordParam(this->record()); };
@@ -50,25 +48,13 @@ public:
 
     /// As a script starts.
     explicit PanelOnScreen(const QString& start)
-        : PanelOnScreen(*recordOf(start.section(": ", 1)), Ellipsoid, start.section(": ", 0, 0).endsWith("read-only")) {
+        : PanelOnScreen(*PanelRecords::of(start.section(": ", 1)), Ellipsoid,
+                        start.section(": ", 0, 0).endsWith("read-only")) {
         turnTo(start.section(QRegularExpression("[,:]"), 0, 0));
         QApplication::processEvents();
     }
 
     ~PanelOnScreen() override { AngleText::setNotation(AngleNotation::DecimalDegrees); }
-
-    static DictionaryGuard recordOf(const QString& text) {
-        QByteArrayList parts;
-        for (const QString& part : text.split(", "))
-            parts << part.toLocal8Bit();
-        const QByteArray name = parts.takeFirst();
-        DictionaryGuard record = name == "fresh" ? PanelRecords::fresh()
-                                 : name.startsWith("imported")
-                                     ? PanelRecords::imported(ProjectionMethod(name.mid(9).toInt()))
-                                     : SampleRecord::named(name).record();
-        PanelRecords::change(*record, parts);
-        return record;
-    }
 
     void show(const IDictionary& record) {
         panel.setCoordParam(record);

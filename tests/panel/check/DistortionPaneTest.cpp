@@ -5,6 +5,7 @@
 #include "support/PanelOnScreen.h"
 #include "support/RoomTest.h"
 
+#include <qwt_plot_curve.h>
 #include <qwt_plot_marker.h>
 
 namespace {
@@ -46,8 +47,9 @@ public:
             return QString("%1 to %2").arg(ends.minValue(), 0, 'f', 1).arg(ends.maxValue(), 0, 'f', 1);
         };
         sights["outline"] = [this](const QString&) {
-            const QRectF area = item("Area of the design")->boundingRect();
-            return QString::number(area.width(), 'f', 1) + " km";
+            const auto* line = static_cast<QwtPlotCurve*>(item("Area of the design"));
+            const bool isClosed = line->sample(0) == line->sample(int(line->dataSize()) - 1);
+            return QString("%1 km, %2").arg(line->boundingRect().width(), 0, 'f', 1).arg(isClosed ? "closed" : "open");
         };
         sights["square"] = [this](const QString&) {
             const QSizeF canvas = plot->canvas()->contentsRect().size();
@@ -139,7 +141,7 @@ private Q_SLOTS:
         };
         for (const auto& event : events) {
             // The line with the reason takes room from the picture, which is drawn once more.
-            screen.show(*PanelOnScreen::recordOf("UTM, project_type=5"));
+            screen.show(*PanelRecords::of("UTM, project_type=5"));
             event();
             QCOMPARE(screen.messages().size(), 1);
             QVERIFY(screen.sights["ppm"](QString()) == "(missing)" && !screen.pane->proposal());
