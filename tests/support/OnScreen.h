@@ -6,57 +6,49 @@
 #include <QtTest>
 #include <QtWidgets>
 
-/// A window as its user sees it: what is visible, by its name on the screen, and a hand that types. Its scripts know,
-/// beside the window's own acts and sights:
-///   done: "Name=text" types into the field, or chooses in the box, if its list has the text; "Name" presses a button,
-///   or
-///         turns to a tab; "@Name" goes to it, "+text" types on where the keyboard is, "^text" pastes over all there,
-///         and
-///         "<Escape>" is a key
-///   seen: "Name=text" is what it shows, and "(missing)", if there is no such thing; "state:Name" is "grey" or not, ...
+/// A window as its user sees it: what is visible, by its name on the screen, and a hand that types. Scripts know,
+/// beside the words that the window adds:
+///   done: "Name=text" types into that field, or chooses in that box, if its list has the text;
+///         "Name" presses that button or turns to that tab; "@Name" goes to it;
+///         "+text" types on where the keyboard is, "^text" pastes over all there, "<Esc>" is a key
+///   seen: "Name=text" is what it shows, "(missing)" without such a thing; "state:Name" is "grey" or not, ...
 class OnScreen : public Script {
 public:
     void open(QWidget& opened) {
         window = &opened;
         window->show();
         QApplication::setActiveWindow(window);
-        sights["state"] = [this](const QString& name) -> QString {
-            const auto* widget = find<QWidget>(name);
-            return !widget                                 ? "missing"
-                   : !widget->isEnabled()                  ? "grey"
-                   : widget->property("readOnly").toBool() ? "read-only"
-                                                           : "enabled";
-        };
         acts["open"] = [this](const QString& box) {
             find<QComboBox>(box)->showPopup();
             find<QComboBox>(box)->hidePopup();
             QApplication::setActiveWindow(window);
         };
-        sights["tip"] = [this](const QString& name) { return find<QWidget>(name)->toolTip(); };
-        sights["description"] = [this](const QString& name) { return find<QWidget>(name)->accessibleDescription(); };
+        acts["measure"] = [this](const QString& name) { measured = find<QWidget>(name)->width(); };
+        acts["wait for"] = [this](const QString& name) { QTRY_VERIFY(find<QWidget>(name)); };
         sights["says"] = [this](const QString&) { return messages().join(" / "); };
         sights["keyboard"] = [](const QString&) { return nameOf(QApplication::focusWidget()); };
         sights["copied"] = [](const QString&) { return QApplication::clipboard()->text(); };
-        sights["listed"] = [this](const QString& box) { return QString::number(find<QComboBox>(box)->count()); };
-        sights["greyed"] = [this](const QString& box) {
+        sights["red"] = [this](const QString&) { return isRed() ? "yes" : "no"; };
+        addSight<QWidget>("tip", [](const QWidget* widget) { return widget->toolTip(); });
+        addSight<QWidget>("description", [](const QWidget* widget) { return widget->accessibleDescription(); });
+        addSight<QWidget>("as wide",
+                          [this](const QWidget* widget) { return widget->width() == measured ? "yes" : "no"; });
+        addSight<QWidget>("state", [](const QWidget* widget) {
+            return !widget->isEnabled() ? "grey" : widget->property("readOnly").toBool() ? "read-only" : "enabled";
+        });
+        addSight<QComboBox>("listed", [](const QComboBox* box) { return QString::number(box->count()); });
+        addSight<QComboBox>("found", [](const QComboBox* box) -> QString {
+            const QCompleter* search = box->completer();
+            return search->popup()->isVisible() ? QString::number(search->completionModel()->rowCount()) : "closed";
+        });
+        addSight<QComboBox>("greyed", [](const QComboBox* box) {
             QStringList items;
-            const auto* model = find<QComboBox>(box)->model();
-            for (int i = 0; i < model->rowCount(); ++i) {
-                if (!(model->flags(model->index(i, 0)) & Qt::ItemIsEnabled))
-                    items << model->index(i, 0).data().toString();
+            for (int i = 0; i < box->count(); ++i) {
+                if (!(box->model()->flags(box->model()->index(i, 0)) & Qt::ItemIsEnabled))
+                    items << box->itemText(i);
             }
             return items.join(", ");
-        };
-        sights["red"] = [this](const QString&) { return isRed() ? "yes" : "no"; };
-        sights["found"] = [this](const QString& box) -> QString {
-            const QCompleter* search = find<QComboBox>(box)->completer();
-            return search->popup()->isVisible() ? QString::number(search->completionModel()->rowCount()) : "closed";
-        };
-        acts["measure"] = [this](const QString& name) { measured = find<QWidget>(name)->width(); };
-        sights["as wide"] = [this](const QString& name) {
-            return find<QWidget>(name)->width() == measured ? "yes" : "no";
-        };
-        acts["wait for"] = [this](const QString& name) { QTRY_VERIFY(find<QWidget>(name)); };
+        });
     }
 
     template <typename Widget> QList<Widget*> findAll() const {
@@ -190,6 +182,13 @@ protected:
     QWidget* window = nullptr;
 
 private:
+    template <typename Widget, typename Give> void addSight(const QString& word, Give give) {
+        sights[word] = [this, give](const QString& name) -> QString {
+            const auto* widget = find<Widget>(name);
+            return widget ? QString(give(widget)) : "(missing)";
+        };
+    }
+
     int measured = 0;
 
     static QString nameOf(const QWidget* widget) {

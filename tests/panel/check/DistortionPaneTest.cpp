@@ -48,8 +48,14 @@ public:
         };
         sights["outline"] = [this](const QString&) {
             const auto* line = static_cast<QwtPlotCurve*>(item("Area of the design"));
+            const QRectF area = line->boundingRect();
+            const QwtInterval east = plot->axisInterval(QwtPlot::xBottom), north = plot->axisInterval(QwtPlot::yLeft);
             const bool isClosed = line->sample(0) == line->sample(int(line->dataSize()) - 1);
-            return QString("%1 km, %2").arg(line->boundingRect().width(), 0, 'f', 1).arg(isClosed ? "closed" : "open");
+            const bool isSeen = east.contains(area.left()) && east.contains(area.right()) &&
+                                north.contains(area.top()) && north.contains(area.bottom());
+            return QString("%1 km%2%3")
+                .arg(area.width(), 0, 'f', 1)
+                .arg(isClosed ? ", closed" : "", isSeen ? ", seen" : "");
         };
         sights["square"] = [this](const QString&) {
             const QSizeF canvas = plot->canvas()->contentsRect().size();
@@ -57,9 +63,6 @@ public:
                             1.0) < 0.01
                        ? "yes"
                        : "no";
-        };
-        sights["shows 250 km each way"] = [this](const QString&) {
-            return std::min(across(QwtPlot::xBottom), across(QwtPlot::yLeft)) >= 500.0 ? "yes" : "no";
         };
     }
 
