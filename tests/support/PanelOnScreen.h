@@ -70,10 +70,6 @@ public:
     const char* value(const char* key) const { return record().getValue(key); }
     double number(const char* key) const { return dictionary_number(record(), key, qQNaN()); }
 
-    RecordingCatalogue catalogue;
-    DlgCoordParam panel;
-    QSignalSpy edits;
-
 private:
     void mark() {
         told = before = recordText(record());
@@ -82,4 +78,9 @@ private:
 
     QStringList before;
     QStringList told; ///< the record when it was last told of
+
+public:
+    RecordingCatalogue catalogue;
+    DlgCoordParam panel;
+    QSignalSpy edits;
 };
