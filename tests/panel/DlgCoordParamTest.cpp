@@ -1,6 +1,5 @@
 #include "panel/record/ProjectionFields.h"
 #include "support/PanelOnScreen.h"
-#include "support/PanelRecords.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 
@@ -26,8 +25,6 @@ class DlgCoordParamTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { AngleText::setNotation(AngleNotation::DecimalDegrees); }
-
     void givesBackUneditedRecord_data() {
         // method: -1: a fresh one, -2: odd texts, -3: nothing
         const Rows<int> row({"method"});
@@ -69,58 +66,6 @@ private Q_SLOTS:
         screen.panel.setCoordParam(screen.record());
         QCOMPARE(recordText(screen.record()), before);
         QCOMPARE(screen.edits.count(), 0);
-    }
-
-    /// What the window's catalogue holds, when it takes the record over with every dataChanged().
-    void tellsOfEveryReturn() {
-        PanelOnScreen screen(*PanelRecords::imported(ProjectionMethod::TransverseMercatorScaled));
-        QStringList kept = recordText(screen.record());
-        const QStringList before = kept;
-        connect(&screen.panel, &DlgCoordParam::dataChanged, &screen.panel, [&] { kept = recordText(screen.record()); });
-        const QList<QPair<const char*, QString>> refused = {
-            {"Central meridian", "200"}, {"Latitude of origin", "45,5"}, {"False easting", "5x5"}};
-        for (const auto& [label, text] : refused) {
-            screen.type(label, text);
-            QCOMPARE(kept, before);
-        }
-        screen.type("False easting", "5");
-        screen.edits.clear();
-        QTest::keyClick(screen.field("False easting"), Qt::Key_Escape);
-        QCOMPARE(screen.edits.count(), 1);
-        QCOMPARE(kept, before);
-
-        // Another system while a text is refused: nothing of it goes along.
-        screen.type("False easting", "5x");
-        const DictionaryGuard other = PanelRecords::imported(ProjectionMethod::LambertTwoParallels);
-        screen.show(*other);
-        QCOMPARE(recordText(screen.record()), recordText(*other));
-        QCOMPARE(screen.shown("False easting"), QString("500000"));
-        QCOMPARE(screen.edits.count(), 0);
-    }
-
-    void leadsBackToTheValuesBefore() {
-        const DictionaryGuard record = PanelRecords::imported(ProjectionMethod::TransverseMercatorScaled);
-        PanelOnScreen screen(*record);
-        auto* back = screen.button("Back to the values before");
-        QVERIFY(!back->isEnabled());
-        screen.chooseMethod(ProjectionMethod::Mercator);
-        screen.type("False easting", "1");
-        const QStringList edited = recordText(screen.record());
-        screen.panel.setCurrentIndex(PanelOnScreen::Ellipsoid); // it goes along from page to page
-        QVERIFY(back->isVisible() && back->isEnabled());
-        screen.edits.clear();
-        QTest::mouseClick(back, Qt::LeftButton);
-        QCOMPARE(recordText(screen.record()), recordText(*record));
-        QCOMPARE(screen.edits.count(), 1);
-        QCOMPARE(back->text(), QString("Forward to the edited values"));
-        screen.panel.setCurrentIndex(PanelOnScreen::Projection);
-        QCOMPARE(screen.shown("Scale factor"), QString("0.9999"));
-
-        QTest::mouseClick(back, Qt::LeftButton);
-        QCOMPARE(recordText(screen.record()), edited);
-        QCOMPARE(screen.edits.count(), 2);
-        screen.show(*PanelRecords::fresh());
-        QVERIFY(!back->isEnabled());
     }
 
     void takesNoEditsBeforeItHasARecord() {

@@ -1,6 +1,5 @@
 #include "panel/record/ProjectionFields.h"
 #include "support/PanelOnScreen.h"
-#include "support/PanelRecords.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 
@@ -8,20 +7,10 @@ namespace Key = CoordParamKey;
 
 Q_DECLARE_METATYPE(ProjectionMethod)
 
-namespace {
-
-int shownMethod(const PanelOnScreen& screen) {
-    return screen.find<QComboBox>("Projection method")->currentData().toInt();
-}
-
-} // namespace
-
 class ProjectionTabTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { AngleText::setNotation(AngleNotation::DecimalDegrees); }
-
     void editsEveryField_data() {
         const Rows<ProjectionMethod, int> row({"method", "index"});
         for (const ProjectionFields& projection : ProjectionFields::all()) {
@@ -39,7 +28,7 @@ private Q_SLOTS:
             dic_set_value(record.get(), Key::factor, "%f", 1.0);
         const QStringList before = recordText(*record);
         PanelOnScreen screen(*record);
-        QCOMPARE(shownMethod(screen), int(method));
+        QCOMPARE(screen.find<QComboBox>("Projection method")->currentData().toInt(), int(method));
 
         // The field stands where the table says, with its unit, and shows the record's number.
         const bool isScale = field.quantity == Quantity::ScaleFactor;
@@ -75,67 +64,12 @@ private Q_SLOTS:
         QCOMPARE(recordText(screen.record()), recordText(*edited));
     }
 
-    void choosesTheMethod() {
-        PanelOnScreen screen(*PanelRecords::fresh());
-        QCOMPARE(shownMethod(screen), 0);
-        QCOMPARE(screen.messages(), QStringList("No projection yet: choose the method."));
-        QVERIFY(!screen.field("False easting"));
-        screen.chooseMethod(ProjectionMethod::TransverseMercatorScaled);
-        QCOMPARE(screen.edits.count(), 1);
-        QCOMPARE(screen.shown("Scale factor"), QString("0.9996"));
-        QCOMPARE(screen.messages().count("Still to choose."), 5);
-        screen.type("Scale factor", "1");
-        QCOMPARE(shownMethod(screen), int(ProjectionMethod::TransverseMercator));
-        QCOMPARE(screen.messages().count("Still to choose."), 4);
-
-        const DictionaryGuard utm = PanelRecords::imported(ProjectionMethod::TransverseMercatorScaled);
-        screen.show(*utm);
-        screen.chooseMethod(ProjectionMethod::LambertTwoParallels);
-        QCOMPARE(screen.shown("Scale factor"), QString("1"));
-        QCOMPARE(screen.messages().count("Still to choose."), 1);
-        screen.chooseMethod(ProjectionMethod::TransverseMercatorScaled);
-        QCOMPARE(recordText(screen.record()), recordText(*utm));
-    }
-
-    void showsAnglesAsChosen() {
-        const DictionaryGuard record = PanelRecords::imported(ProjectionMethod::TransverseMercator);
-        PanelOnScreen screen(*record);
-        screen.type("Central meridian", "117.50");
-        screen.edits.clear();
+    void nextPanelShowsAnglesAsChosen() {
+        const PanelOnScreen screen("Projection: imported 0");
         screen.choose("Show angles in", int(AngleNotation::DegreesMinutesSeconds));
-        QCOMPARE(screen.shown("Central meridian"), QString("117°30'00\""));
-        QCOMPARE(screen.value(Key::orgLon), "117.50");
-
-        // In the next panel too, and where it is switched on another tab.
-        const PanelOnScreen other(*record);
+        const PanelOnScreen other(screen.record());
         QCOMPARE(other.shown("Latitude of origin"), QString("49°50'00\""));
-        QCOMPARE(other.find<QComboBox>("Show angles in")->currentIndex(), int(AngleNotation::DegreesMinutesSeconds));
-        screen.panel.setCurrentIndex(PanelOnScreen::Check);
-        QApplication::processEvents();
-        screen.choose("Show angles in", int(AngleNotation::DecimalDegrees));
-        screen.panel.setCurrentIndex(PanelOnScreen::Projection);
-        QCOMPARE(screen.shown("Central meridian"), QString("117.50"));
-        QCOMPARE(screen.find<QComboBox>("Show angles in")->currentIndex(), int(AngleNotation::DecimalDegrees));
-        QCOMPARE(screen.edits.count(), 0);
-    }
-
-    /// The record keeps the radius of a standard parallel, which has no sign: the origin says on which side it lies.
-    void parallelFollowsTheOriginsSide() {
-        const PanelOnScreen screen(*PanelRecords::imported(ProjectionMethod::Stereographic));
-        screen.type("Latitude of origin", "0");
-        screen.type("Standard parallel", "3.5");
-        for (const char* side : {"-", ""}) {
-            screen.type("Latitude of origin", QString(side) + "90");
-            QCOMPARE(screen.shown("Standard parallel"), QString(side) + "3.5");
-        }
-    }
-
-    void showsNoMethodWhereNoneFits() {
-        const DictionaryGuard record = PanelRecords::imported(ProjectionMethod::TransverseMercator);
-        dic_set_value(record.get(), Key::factor, "%f", 0.0);
-        const PanelOnScreen screen(*record);
-        QCOMPARE(screen.find<QComboBox>("Projection method")->currentIndex(), -1);
-        QVERIFY(!screen.field("Scale factor"));
+        QCOMPARE(other.shown("Show angles in"), QString("Degrees, minutes, seconds"));
     }
 
     void goesThroughFieldsByTab() {

@@ -1,14 +1,17 @@
 #pragma once
 
 #include "panel/DlgCoordParam.h"
-#include "panel/field/MessageLine.h"
+#include "panel/record/AngleText.h"
+#include "support/OnScreen.h"
+#include "support/PanelRecords.h"
 #include "support/RecordingCatalogue.h"
 
-#include <QtTest>
-#include <QtWidgets>
-
-/// The panel in a window, on a catalogue with a few ellipsoids and a geoid, and a hand that types.
-class PanelOnScreen {
+/// The panel in a window, on a catalogue with a few ellipsoids and a geoid.
+///   A script starts with "Tab: record" or "Tab, read-only: record"; a record is as of PanelRecords::of().
+///   done: "show=record", "refresh" (the same record again), "mark" for what is counted or compared since then
+///   seen: "edits" since a record was shown or the mark, "changed" keys since then (nothing: the record is as it was),
+///         of a record that is told of; "value:key" and "number:key" of the record
+class PanelOnScreen : public OnScreen {
 public:
     enum Tab { Ellipsoid, Projection, Shift, Height, Check, Definition };
 
@@ -20,15 +23,42 @@ public:
         catalogue.addTestEllipsoid("Bessel Namibia", "6377483.865280419", "299.1528128", "1");
         catalogue.addTestGeoid("EGM2008", "egm2008.ggf", "WGS 84", "1");
         panel.resize(640, 560);
-        panel.show();
-        QApplication::setActiveWindow(&panel);
+        open(panel);
         show(record, tab);
+        QApplication::processEvents();
+        acts["show"] = [this](const QString& text) { show(*PanelRecords::of(text)); };
+        acts["mark"] = [this](const QString&) { mark(); };
+        acts["mark edits"] = [this](const QString&) { edits.clear(); };
+        acts["refresh"] = [this](const QString&) { panel.setCoordParam(this->record()); };
+        sights["edits"] = [this](const QString&) { return QString::number(edits.count()); };
+        sights["changed"] = [this](const QString&) {
+            const QStringList now = recordText(this->record()),
+                              keys = PanelRecords::changedKeys(before, this->record());
+            return now != told ? "not told of" : keys.isEmpty() && now != before ? "order" : keys.join(' ');
+        };
+        sights["value"] = [this](const QString& key) {
+            const char* const text = value(key.toLatin1());
+            return text ? QString::fromLocal8Bit(text) : "(none)";
+        };
+        sights["number"] = [this](const QString& key) {
+            return QString::number(number(key.toLatin1()), 'g', QLocale::FloatingPointShortest);
+        };
+        QObject::connect(&panel, &DlgCoordParam::dataChanged, [this] { told = recordText(this->record()); });
+    }
+
+    /// As a script starts.
+    explicit PanelOnScreen(const QString& start)
+        : PanelOnScreen(*PanelRecords::of(start.section(": ", 1)), Ellipsoid,
+                        start.section(": ", 0, 0).endsWith("read-only")) {
+        turnTo(start.section(QRegularExpression("[,:]"), 0, 0));
         QApplication::processEvents();
     }
 
+    ~PanelOnScreen() override { AngleText::setNotation(AngleNotation::DecimalDegrees); }
+
     void show(const IDictionary& record) {
         panel.setCoordParam(record);
-        edits.clear();
+        mark();
     }
 
     void show(const IDictionary& record, int tab) {
@@ -40,61 +70,16 @@ public:
     const char* value(const char* key) const { return record().getValue(key); }
     double number(const char* key) const { return dictionary_number(record(), key, qQNaN()); }
 
-    template <typename Widget> QList<Widget*> findAll() const {
-        QList<Widget*> visible;
-        for (Widget* widget : panel.findChildren<Widget*>()) {
-            if (widget->isVisible())
-                visible << widget;
-        }
-        return visible;
+private:
+    void mark() {
+        told = before = recordText(record());
+        edits.clear();
     }
 
-    /// A visible widget by its accessible name or, if it is a button, its text; null when there is none.
-    template <typename Widget> Widget* find(const QString& name) const {
-        for (Widget* widget : findAll<Widget>()) {
-            const auto* button = qobject_cast<QAbstractButton*>(widget);
-            if (widget->accessibleName() == name || (button && button->text() == name))
-                return widget;
-        }
-        return nullptr;
-    }
+    QStringList before;
+    QStringList told; ///< the record when it was last told of
 
-    QLineEdit* field(const char* label) const { return find<QLineEdit>(DlgCoordParam::tr(label)); }
-    QString shown(const char* label) const { return field(label)->text(); }
-
-    QPushButton* button(const char* text) const { return find<QPushButton>(text); }
-
-    /// Replaces the field's text by typing.
-    QLineEdit* type(const char* label, const QString& typed) const {
-        QLineEdit* edit = field(label);
-        edit->setFocus();
-        edit->selectAll();
-        if (typed.isEmpty())
-            QTest::keyClick(edit, Qt::Key_Delete);
-        QTest::keyClicks(edit, typed);
-        return edit;
-    }
-
-    void choose(const QString& box, int index) const {
-        auto* combo = find<QComboBox>(box);
-        combo->setCurrentIndex(index);
-        Q_EMIT combo->activated(index);
-    }
-
-    void chooseMethod(ProjectionMethod method) const {
-        choose("Projection method", find<QComboBox>("Projection method")->findData(int(method)));
-    }
-
-    /// Every message on the visible tab, the problem first; none that a greyed tab does not show.
-    QStringList messages() const {
-        QStringList texts;
-        for (const MessageLine* line : findAll<MessageLine>()) {
-            if (!line->text().isEmpty() && line->isEnabled())
-                texts << line->text();
-        }
-        return texts;
-    }
-
+public:
     RecordingCatalogue catalogue;
     DlgCoordParam panel;
     QSignalSpy edits;

@@ -3,6 +3,7 @@
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/DictionaryGuard.h"
 #include "support/RecordText.h"
+#include "support/SampleRecords.h"
 
 #include <QByteArrayList>
 
@@ -50,6 +51,19 @@ inline void change(IDictionary& record, const QByteArrayList& changes) {
         else
             record.setText(key, item.mid(key.size() + 1).replace('~', ' '));
     }
+}
+
+/// "British grid" (a sample), "imported 9" (by method) or "fresh", and changes to it behind ", ".
+inline DictionaryGuard of(const QString& text) {
+    QByteArrayList parts;
+    for (const QString& part : text.split(", "))
+        parts << part.toLocal8Bit();
+    const QByteArray name = parts.takeFirst();
+    DictionaryGuard record = name == "fresh"               ? fresh()
+                             : name.startsWith("imported") ? imported(ProjectionMethod(name.mid(9).toInt()))
+                                                           : SampleRecord::named(name).record();
+    change(*record, parts);
+    return record;
 }
 
 /// The keys whose text or number differs, or that only one record has, in alphabetical order.

@@ -1,8 +1,6 @@
-#include "panel/record/AngleText.h"
 #include "support/PanelOnScreen.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
-#include "support/SampleRecords.h"
 
 namespace {
 
@@ -44,13 +42,13 @@ private Q_SLOTS:
     void fits() {
         QFETCH(SampleRecord, sample);
         QFETCH(int, page);
-        AngleText::setNotation(AngleNotation::DegreesMinutesSeconds);
         const QFont usual = QApplication::font();
         QFont larger = usual;
         larger.setPixelSize(17);
         QApplication::setFont(larger);
         {
             PanelOnScreen screen(*sample.record(), PanelOnScreen::Check);
+            screen.choose("Show angles in", int(AngleNotation::DegreesMinutesSeconds));
             screen.panel.resize(516, 548);
             screen.panel.findChild<QTabWidget*>()->setCurrentIndex(page);
             QApplication::processEvents();
@@ -65,7 +63,6 @@ private Q_SLOTS:
             }
         }
         QApplication::setFont(usual);
-        AngleText::setNotation(AngleNotation::DecimalDegrees);
     }
 };
 

@@ -14,28 +14,31 @@ class DistortionLinesTest : public QObject {
 
 private Q_SLOTS:
     void linesAreWhereTheyBelong_data() {
-        const Rows<bool, int, bool> row({"meridian", "parallels", "trueScale"});
-        row("UTM", true, 0, false);
-        row("Mercator with parallel", true, 1, true);
-        row("Polar with parallel", true, 1, true);
-        row("Polar with scale", true, 0, false);
-        row("Stereographic", true, 0, false);
-        row("Lambert one parallel", true, 1, false);
-        row("Lambert two parallels", true, 2, true);
-        row("Oblique Mercator", false, 0, false);
-        row("Oblique Mercator two points", false, 0, false);
+        // middleLatitude: of the parallels
+        const Rows<bool, int, bool, double> row({"meridian", "parallels", "trueScale", "middleLatitude"});
+        row("UTM", true, 0, false, 0.0);
+        row("Mercator with parallel", true, 1, true, 42.0);
+        row("Polar with parallel", true, 1, true, -71.0);
+        row("Polar with scale", true, 0, false, 0.0);
+        row("Stereographic", true, 0, false, 0.0);
+        row("Lambert one parallel", true, 1, false, 18.0);
+        row("Lambert two parallels", true, 2, true, 29.333333333333333);
+        row("Oblique Mercator", false, 0, false, 0.0);
+        row("Oblique Mercator two points", false, 0, false, 0.0);
     }
 
     void linesAreWhereTheyBelong() {
         QFETCH(bool, meridian);
         QFETCH(int, parallels);
         QFETCH(bool, trueScale);
+        QFETCH(double, middleLatitude);
         const QByteArray title = QTest::currentDataTag();
         const SampleRecord& sample = SampleRecord::named(title);
         const DictionaryGuard record = sample.record();
         const auto system = sample.system();
         const auto middle = DistortionLines::middleOfParallels(*record, *system);
         QCOMPARE(middle.has_value(), parallels > 0);
+        QVERIFY(!middle || std::abs(system->toGeographic(*middle, 0.0)->latitude - middleLatitude) < 1e-6);
         const GridPoint centre = middle ? *middle : DistortionLines::origin(*record);
         const double width = title == "Polar with parallel" ? 5e6 : 1e6;
         const DistortionLines lines(*record, *system, {centre, width, width});

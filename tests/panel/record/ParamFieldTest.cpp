@@ -61,6 +61,7 @@ private Q_SLOTS:
         row("500000.50", Key::falseEast, "500000.50");
         row("304800.6096012192", Key::falseEast, "#304800.6096012192");
         row("-2.455", Key::shiftRz, "#-0.0006819444444444444");
+        row("0.00001", Key::shiftPpm, "#0.00001");
         row("9,5", Key::orgLon, "9,5");
     }
 

@@ -1,0 +1,98 @@
+#include "import/WktToCoordParam.h"
+#include "panel/record/RecordDifferences.h"
+#include "support/Files.h"
+#include "support/MessageBoxDouble.h"
+#include "support/ModalDriver.h"
+#include "support/PanelOnScreen.h"
+#include "support/RoomTest.h"
+
+#include <QTemporaryDir>
+
+namespace {
+
+/// Takes a system of the registry, as the user who types its code in the dialog.
+void takeFromRegistry(const PanelOnScreen& screen, const QString& code, QDialogButtonBox::StandardButton answer,
+                      bool deprecatedToo) {
+    ModalDriver::onNextDialog([=](QDialog* dialog) {
+        dialog->findChild<QCheckBox*>()->setChecked(deprecatedToo);
+        QTest::keyClicks(dialog->findChild<QLineEdit*>(), code);
+        dialog->findChild<QDialogButtonBox*>()->button(answer)->click();
+    });
+    screen.button("From registry...")->click();
+    QCOMPARE(ModalDriver::pending(), 0);
+}
+
+/// Saves the definition; the file name that was offered and what an import of the file lacks.
+QString saveDefinition(const PanelOnScreen& screen) {
+    QTemporaryDir folder;
+    QString offered;
+    ModalDriver::onNextDialog([&](QDialog* dialog) {
+        auto* files = qobject_cast<QFileDialog*>(dialog);
+        offered = QFileInfo(files->selectedFiles().first()).fileName();
+        auto* name = files->findChild<QLineEdit*>("fileNameEdit");
+        name->setText(folder.filePath("saved"));
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+    screen.button("Save as .prj")->click();
+    const DictionaryGuard imported;
+    const bool isRead = WktToCoordParam::write(contentOf(folder.filePath("saved.prj")), imported.get());
+    return offered + " lacks " + (isRead ? recordDifferences(screen.record(), *imported).join(", ") : "all");
+}
+
+} // namespace
+
+/// What the panel's tabs do, over the real projection module.
+class PanelScriptTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void script_data() {
+        Script::addRows({"field/field_row.txt", "field/text_field.txt", "field/check_field.txt", "field/search_box.txt",
+                         "field/copy_button.txt", "ellipsoid_tab.txt", "projection_tab.txt", "datum_shift_tab.txt",
+                         "height_tab.txt", "definition_tab.txt"});
+    }
+
+    void script() {
+        QFETCH(QString, start);
+        PanelOnScreen screen(start);
+        const QDir models(QCoreApplication::applicationDirPath() + "/../etc/Vornhalde/data/GeoidData");
+        const QString model = models.filePath("PanelScriptTest.ggf");
+        QWidget otherWindow;
+        screen.acts["other window"] = [&](const QString&) {
+            otherWindow.show();
+            QApplication::setActiveWindow(&otherWindow);
+        };
+        screen.acts["disable"] = [&](const QString&) { screen.panel.setEnabled(false); };
+        screen.acts["add geoid"] = [&](const QString& name) {
+            screen.catalogue.addTestGeoid(name.toLatin1(), "PanelScriptTest.ggf", "GRS 1980", "0");
+        };
+        screen.acts["delete geoid"] = [&](const QString& name) { screen.catalogue.deleteGeoid(name.toLatin1()); };
+        screen.acts["write model"] = [&](const QString&) { QVERIFY(models.mkpath(".") && setContent(model, "model")); };
+        screen.acts["remove model"] = [&](const QString&) { QVERIFY(QFile::remove(model)); };
+        screen.acts["add ellipsoid"] = [&](const QString& text) {
+            const QByteArrayList values = text.toLatin1().split(' ');
+            IDictionary* added = screen.catalogue.addTestEllipsoid(values[0], "", "", "0");
+            dic_set_value(added, CoordParamKey::ellipsoidA, "%f", values[1].toDouble());
+            dic_set_value(added, CoordParamKey::ellipsoidF, "%f", values[2].toDouble());
+        };
+        screen.acts["delete ellipsoid"] = [&](const QString& name) {
+            screen.catalogue.deleteEllipsoid(name.toLatin1());
+        };
+        screen.acts["registry"] = [&](const QString& code) {
+            takeFromRegistry(screen, code, QDialogButtonBox::Ok, false);
+        };
+        screen.acts["registry cancelled"] = [&](const QString& code) {
+            takeFromRegistry(screen, code, QDialogButtonBox::Cancel, false);
+        };
+        screen.acts["registry of deprecated ones"] = [&](const QString& code) {
+            takeFromRegistry(screen, code, QDialogButtonBox::Ok, true);
+        };
+        screen.sights["saved"] = [&](const QString&) { return saveDefinition(screen); };
+        MessageBoxDouble::reset();
+        screen.play();
+        QVERIFY(MessageBoxDouble::messages.isEmpty());
+    }
+};
+
+ROOM_TEST(PanelScriptTest)
+#include "PanelScriptTest.moc"
