@@ -31,8 +31,8 @@ double coneConstant(double latitude1, double latitude2, double e2) {
     const double cosines =
         std::abs(tangents) < 0.5 ? 2 * std::atanh(tangents) : std::log(std::cos(phi1) / std::cos(phi2));
     const double radii = cosines + std::log1p(-e2 * squares / (1 - e2 * sine1 * sine1)) / 2;
-    constexpr double near = 0.02;
-    if (std::abs(half) > near)
+    constexpr double closeBy = 0.02; // radians
+    if (std::abs(half) > closeBy)
         return radii / (IsometricLatitude::ofLatitude(phi2, e) - IsometricLatitude::ofLatitude(phi1, e));
     const double sines = 2 * std::cos(middle) * std::sin(half); // sine2 - sine1
     return radii / (std::atanh(sines / (std::pow(std::sin(half), 2) + std::pow(std::cos(middle), 2))) -

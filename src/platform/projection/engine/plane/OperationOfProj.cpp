@@ -34,11 +34,11 @@ std::optional<GeographicPoint> OperationOfProj::toGeographic(const GridPoint& po
 
 /// A place that comes back farther away than what is left of an iteration is left alone: that is for its user to see.
 PJ_COORD OperationOfProj::refined(const PJ_COORD& place, const GridPoint& point) const {
-    constexpr double small = 1e-8, large = 1e-3; // metres
+    constexpr double least = 1e-8, most = 1e-3; // metres
     const PJ_COORD back = proj_trans(operation.get(), PJ_FWD, place);
     const double east = point.easting - back.xy.x, north = point.northing - back.xy.y;
     const double miss = std::hypot(east, north);
-    if (!(miss > small && miss < large))
+    if (!(miss > least && miss < most))
         return place;
     // Its derivatives are those on an ellipsoid with the semi-major axis 1.
     const PJ_FACTORS factors = proj_factors(operation.get(), place);

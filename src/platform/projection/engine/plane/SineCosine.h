@@ -12,10 +12,12 @@ struct SineCosine {
         const bool isSteep = std::abs(fromRight) < 45;
         const bool isBehind = fromRight >= 45;
         const double angle = isSteep ? fromRight : isBehind ? std::abs(turns) - 180 : turns;
-        const double small = std::sin(Angle::toRadians(angle));
-        const double large = std::cos(Angle::toRadians(angle));
-        sine = isSteep ? std::copysign(large, turns) : isBehind ? std::copysign(1, turns) * -small : small;
-        cosine = isSteep ? -small : isBehind ? -large : large;
+        const double sineOfAngle = std::sin(Angle::toRadians(angle));
+        const double cosineOfAngle = std::cos(Angle::toRadians(angle));
+        sine = isSteep    ? std::copysign(cosineOfAngle, turns)
+               : isBehind ? std::copysign(1, turns) * -sineOfAngle
+                          : sineOfAngle;
+        cosine = isSteep ? -sineOfAngle : isBehind ? -cosineOfAngle : cosineOfAngle;
     }
 
     double sine, cosine;
