@@ -78,6 +78,9 @@ for room in $(find . -name '*.h' -printf '%P\n' -o -name '*.cpp' -printf '%P\n' 
         \<qwt* | \<Qwt*)
             [ "$room" = panel/check ] || complain "$place" "only panel/check uses $header"
             ;;
+        \<Eigen*)
+            [ "$room" = panel/computing ] || complain "$place" "only panel/computing uses $header"
+            ;;
         *)
             case " $without_widgets " in
             *" $room "*)
