@@ -60,6 +60,7 @@ DatumShiftTab::DatumShiftTab(CoordParamEditor& editor, bool readOnly, QWidget* p
     grid->addWidget(kindLabel, 1, 0);
     auto* kindRow = new QHBoxLayout;
     kindRow->addWidget(kindBox);
+    kindRow->addSpacing(6);
     kindRow->addWidget(fromPointsButton);
     kindRow->addStretch(1);
     fromPointsButton->setEnabled(!readOnly);

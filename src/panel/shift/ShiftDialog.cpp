@@ -25,12 +25,18 @@ using Kind = ShiftFromPoints::Kind;
 
 namespace {
 
-/// "598.1 ± 0.3 m", with as many decimals as the field's value gets in the record.
+/// Without a minus before zeros.
+QString fixed(double value, int decimals) {
+    const double unit = std::pow(10.0, decimals);
+    return QString::number(std::round(value * unit) / unit + 0.0, 'f', decimals);
+}
+
+/// "598.100 ± 0.300 m".
 QString valueText(const ParamField& field, double value, double deviation) {
     const int decimals = field.quantity == Quantity::Length ? 3 : 5;
-    QString text = QString::number(value, 'f', decimals);
+    QString text = fixed(value, decimals);
     if (!std::isnan(deviation))
-        text += " ± " + QString::number(deviation, 'f', decimals);
+        text += " ± " + fixed(deviation, decimals);
     const QString unit = field.unitText(AngleNotation::DecimalDegrees);
     return text + (field.quantity == Quantity::SmallRotation ? "" : " ") + unit;
 }
@@ -55,7 +61,7 @@ ShiftDialog::ShiftDialog(ShiftPointsModel& points, const IDictionary& record, QW
     buildTable(layout);
     buildResult(layout);
     connect(&points, SIGNAL(pointsChanged()), this, SLOT(_onPointsChanged()));
-    resize(980, 600);
+    resize(1150, 600);
     table->setFocus();
     showResult();
 }
@@ -87,9 +93,10 @@ void ShiftDialog::buildTable(QVBoxLayout* layout) {
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
     table->horizontalHeader()->setHighlightSections(false);
+    table->setTabKeyNavigation(false);
     const int digit = table->fontMetrics().horizontalAdvance('0');
     for (int column = 0; column < ShiftPointsModel::ColumnCount; ++column)
-        table->setColumnWidth(column, digit * (column < ShiftPointsModel::Before ? 15 : 10));
+        table->setColumnWidth(column, digit * (column < ShiftPointsModel::Before ? 14 : 10));
     layout->addWidget(table, 1);
     auto* row = new QHBoxLayout;
     auto* pasteButton = new QPushButton(PanelText::tr("Paste"));
@@ -115,26 +122,28 @@ void ShiftDialog::buildResult(QVBoxLayout* layout) {
         value = new QLabel;
         value->setAccessibleName(label->text());
         value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        grid->addWidget(label, i % 3 + (i == 6 ? 3 : 0), i / 3 % 2 * 2);
-        grid->addWidget(value, i % 3 + (i == 6 ? 3 : 0), i / 3 % 2 * 2 + 1);
+        value->setMinimumWidth(value->fontMetrics().horizontalAdvance("-0000.00000 ± 000.00000 ppm"));
+        grid->addWidget(label, i, 0);
+        grid->addWidget(value, i, 1);
     }
-    grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(3, 1);
-    layout->addLayout(grid);
     summaryLabel = new QLabel;
     summaryLabel->setAccessibleName(PanelText::tr("Summary"));
     adviceLabel = new QLabel;
     adviceLabel->setAccessibleName(PanelText::tr("Advice"));
+    auto* texts = new QVBoxLayout;
     for (QLabel* label : {summaryLabel, adviceLabel}) {
         label->setWordWrap(true);
         label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-        label->setMinimumHeight(label->fontMetrics().lineSpacing() * 2);
-        layout->addWidget(label);
+        texts->addWidget(label);
     }
+    texts->addStretch(1);
+    auto* row = new QHBoxLayout;
+    row->addLayout(grid);
+    row->addSpacing(12);
+    row->addLayout(texts, 1);
+    layout->addLayout(row);
     buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     buttons->button(QDialogButtonBox::Ok)->setText(PanelText::tr("Take over"));
-    for (QAbstractButton* button : buttons->buttons())
-        qobject_cast<QPushButton*>(button)->setAutoDefault(false); // Enter is for the table
     layout->addWidget(buttons);
     connect(buttons, SIGNAL(accepted()), this, SLOT(accept()));
     connect(buttons, SIGNAL(rejected()), this, SLOT(reject()));
@@ -174,7 +183,7 @@ QString ShiftDialog::summary() const {
     if (solution.problem().isEmpty()) {
         parts << (std::isnan(solution.unitWeight())
                       ? PanelText::tr("Just enough points: nothing is left over to tell how good the shift is.")
-                      : PanelText::tr("Standard deviation of a coordinate: %1 m, from %2 more than needed.")
+                      : PanelText::tr("Standard deviation of a coordinate: %1 m (redundancy %2).")
                             .arg(NumberText::rounded(solution.unitWeight(), 4))
                             .arg(solution.redundancy()));
         QStringList strongest;
@@ -213,6 +222,14 @@ void ShiftDialog::keyPressEvent(QKeyEvent* event) {
         _onPaste();
     else if (event->matches(QKeySequence::Delete) && table->hasFocus())
         _onRemove();
+    else if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && table->hasFocus())
+        editCell(); // rather than press the default button
     else
         Dialog::keyPressEvent(event);
+}
+
+void ShiftDialog::editCell() {
+    const QModelIndex cell = table->currentIndex();
+    if (points.flags(cell) & Qt::ItemIsEditable)
+        table->edit(cell);
 }

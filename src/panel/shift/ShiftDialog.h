@@ -39,6 +39,7 @@ private:
     void buildTable(QVBoxLayout* layout);
     void buildResult(QVBoxLayout* layout);
     void showResult();
+    void editCell();
     QString summary() const;
 
     ShiftPointsModel& points;

@@ -6,8 +6,10 @@
 #include "panel/record/NumberText.h"
 #include "panel/record/PanelText.h"
 
+#include <QColor>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -141,6 +143,8 @@ std::optional<std::array<double, 3>> ShiftPointsModel::readPlace(Row& row, int f
         const QString& text = row.texts[at];
         if (text.isEmpty()) {
             isComplete = false;
+            if (!row.isEmpty())
+                row.reasons[at] = PanelText::tr("A value is needed.");
             continue;
         }
         const auto value = isGeographic && i < 2
@@ -251,6 +255,10 @@ QVariant ShiftPointsModel::data(const QModelIndex& index, int role) const {
         return QVariant();
     case Qt::TextAlignmentRole:
         return int(Qt::AlignVCenter | (column == Name ? Qt::AlignLeft : Qt::AlignRight));
+    case Qt::ForegroundRole:
+        if (isTyped && !row.reasons[std::size_t(column)].isEmpty())
+            return QColor(0xb2182b);
+        return row.isUsed ? QVariant() : QColor(Qt::gray);
     case Qt::ToolTipRole:
         return isTyped ? row.reasons[std::size_t(column)] : QString();
     default:

@@ -9,9 +9,10 @@
 namespace {
 
 /// The dialog on a sample's record. A script starts with the record's name and changes to it.
-///   done: "paste=lines" with the keyboard in the table's first column, "paste at row,column=lines", "select=row,column",
-///         "cell row,column=text" types into a cell, "reopen" on the same points
-///   seen: "rows", "cell:row,column", "tip of:row,column", "heading:column", "can take over"
+///   done: "points=name" copies those of points.txt, "paste" (=lines) them by the keyboard, "select=row,column",
+///         "type=text" into that cell, "space" and "delete" are keys in the table, "reopen" the dialog on the same
+///         points
+///   seen: "rows", "cell:row,column", "tip of:row,column", "checked:row", "heading:column"
 class ShiftDialogOnScreen : public OnScreen {
 public:
     explicit ShiftDialogOnScreen(const QString& start) : points(nullptr) {
@@ -24,15 +25,26 @@ public:
         acts["reopen"] = [this](const QString&) { show(); };
         acts["select"] = [this](const QString& cell) { table()->setCurrentIndex(index(cell)); };
         acts["type"] = [this](const QString& text) {
-            QTest::keyClick(table(), Qt::Key_F2);
+            QTest::keyClick(table(), Qt::Key_Return);
             auto* editor = table()->viewport()->findChild<QLineEdit*>();
             QVERIFY(editor);
-            editor->selectAll();
+            editor->clear();
             QTest::keyClicks(editor, text);
             QTest::keyClick(editor, Qt::Key_Return);
+            QCoreApplication::processEvents(); // the table takes the text over later
+            QCoreApplication::sendPostedEvents(editor, QEvent::DeferredDelete);
+        };
+        acts["points"] = [this](const QString& name) {
+            QStringList lines;
+            for (const QByteArrayList& row : textTable("points.txt")) {
+                if (row[0] == name)
+                    lines << QString::fromUtf8(row[1]).simplified();
+            }
+            QApplication::clipboard()->setText(lines.join("\n"));
         };
         acts["paste"] = [this](const QString& lines) {
-            QApplication::clipboard()->setText(lines);
+            if (!lines.isEmpty())
+                QApplication::clipboard()->setText(lines);
             QTest::keyClick(table(), Qt::Key_V, Qt::ControlModifier);
         };
         acts["space"] = [this](const QString&) { QTest::keyClick(table(), Qt::Key_Space); };
@@ -41,7 +53,7 @@ public:
         sights["cell"] = [this](const QString& cell) { return index(cell).data().toString(); };
         sights["tip of"] = [this](const QString& cell) { return index(cell).data(Qt::ToolTipRole).toString(); };
         sights["checked"] = [this](const QString& row) {
-            return index(row + ",0").data(Qt::CheckStateRole).toInt() == Qt::Checked ? "yes" : "no";
+            return index(row + ",0").data(Qt::CheckStateRole) == Qt::Checked ? "yes" : "no";
         };
         sights["heading"] = [this](const QString& column) {
             return points.headerData(column.toInt(), Qt::Horizontal).toString();
