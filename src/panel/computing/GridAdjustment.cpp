@@ -58,8 +58,9 @@ std::optional<LeastSquares> GridAdjustment::estimate(const QVector<const ParamFi
             return std::nullopt;
         VectorXd misfits(2 * points.size());
         for (int i = 0; i < points.size(); ++i) {
-            misfits(2 * i) = -(*left)[i].easting;
-            misfits(2 * i + 1) = -(*left)[i].northing;
+            const Eigen::Index row = Eigen::Index(2) * i;
+            misfits(row) = -(*left)[i].easting;
+            misfits(row + 1) = -(*left)[i].northing;
         }
         LeastSquares solution = LeastSquares::solve(*design, misfits);
         if (!solution.isDetermined())
@@ -102,8 +103,9 @@ std::optional<MatrixXd> GridAdjustment::derivatives(const QVector<const ParamFie
         if (!slopes)
             return std::nullopt;
         for (int i = 0; i < points.size(); ++i) {
-            design(2 * i, column) = (*slopes)[i].easting;
-            design(2 * i + 1, column) = (*slopes)[i].northing;
+            const Eigen::Index row = Eigen::Index(2) * i;
+            design(row, column) = (*slopes)[i].easting;
+            design(row + 1, column) = (*slopes)[i].northing;
         }
     }
     return grid ? std::optional<MatrixXd>(design) : std::nullopt;

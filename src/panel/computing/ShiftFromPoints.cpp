@@ -71,7 +71,7 @@ bool areOnLine(const MatrixXd& places, const Vector3d& centroid) {
     const Vector3d up = centroid.normalized();
     const MatrixXd flat = places - up * (up.transpose() * places);
     const Eigen::SelfAdjointEigenSolver<Matrix3d> spread(Matrix3d(flat * flat.transpose()), Eigen::EigenvaluesOnly);
-    const Vector3d squares = spread.eigenvalues(); // ascending: what is left of the height, the width, the length
+    const Vector3d& squares = spread.eigenvalues(); // ascending: what is left of the height, the width, the length
     return !(squares(1) > lineWidth * lineWidth * squares(2));
 }
 
@@ -143,11 +143,12 @@ ShiftFromPoints ShiftFromPoints::solve(const QVector<Point>& points, Kind kind) 
     MatrixXd design = MatrixXd::Zero(3 * used.size(), count);
     VectorXd shifts(3 * used.size());
     for (int i = 0; i < used.size(); ++i) {
-        shifts.segment<3>(3 * i) = vector(used[i]->wgs84) - vector(used[i]->own);
-        design.block<3, 3>(3 * i, 0).setIdentity();
+        const Index row = Index(3) * i;
+        shifts.segment<3>(row) = vector(used[i]->wgs84) - vector(used[i]->own);
+        design.block<3, 3>(row, 0).setIdentity();
         if (kind == Kind::Seven) {
-            design.block<3, 3>(3 * i, 3) = -cross(places.col(i)); // q × x = -x × q
-            design.block<3, 1>(3 * i, 6) = places.col(i);
+            design.block<3, 3>(row, 3) = -cross(places.col(i)); // q × x = -x × q
+            design.block<3, 1>(row, 6) = places.col(i);
         }
     }
     const LeastSquares solution = LeastSquares::solve(design, shifts);

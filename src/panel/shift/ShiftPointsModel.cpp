@@ -105,7 +105,7 @@ void ShiftPointsModel::paste(const QString& text, int row, int column) {
             rows.resize(row + 1);
         const QStringList parts = cells(line);
         for (int i = 0; i < parts.size() && column + i < typedColumns; ++i)
-            rows[row].texts[std::size_t(column + i)] = parts[i];
+            rows[row].texts[std::size_t(column) + std::size_t(i)] = parts[i];
         ++row;
     }
     endResetModel();
@@ -139,7 +139,7 @@ std::optional<std::array<double, 3>> ShiftPointsModel::readPlace(Row& row, int f
     std::array<double, 3> values{};
     bool isComplete = true;
     for (int i = 0; i < 3; ++i) {
-        const auto at = std::size_t(first + i);
+        const auto at = std::size_t(first) + std::size_t(i);
         const QString& text = row.texts[at];
         if (text.isEmpty()) {
             isComplete = false;
@@ -184,8 +184,8 @@ void ShiftPointsModel::read(Row& row) const {
             std::sqrt(std::pow(point.wgs84.x, 2) + std::pow(point.wgs84.y, 2) + std::pow(point.wgs84.z, 2));
         constexpr double least = 6.3e6, greatest = 6.5e6;
         if (!(radius > least && radius < greatest)) {
-            for (int i = 0; i < 3; ++i)
-                row.reasons[std::size_t(Wgs84 + i)] = PanelText::tr("This place is not on the Earth.");
+            for (std::size_t i = Wgs84; i < Wgs84 + 3; ++i)
+                row.reasons[i] = PanelText::tr("This place is not on the Earth.");
         }
     }
     const bool isRefused =

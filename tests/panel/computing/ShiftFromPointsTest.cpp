@@ -37,7 +37,7 @@ std::array<double, 3> numbers(const QByteArray& text) {
 }
 
 /// A place of the table, and where it is on the ellipsoid, roughly where it is given in X Y Z.
-std::pair<GeocentricPoint, GeographicPoint> place(QByteArray text) {
+std::pair<GeocentricPoint, GeographicPoint> place(const QByteArray& text) {
     const int colon = text.indexOf(':');
     const auto [first, second, third] = numbers(text.mid(colon + 1).replace("°", "").replace("m", ""));
     if (colon > 0) {

@@ -34,7 +34,7 @@ public:
             QCoreApplication::processEvents(); // the table takes the text over later
             QCoreApplication::sendPostedEvents(editor, QEvent::DeferredDelete);
         };
-        acts["points"] = [this](const QString& name) {
+        acts["points"] = [](const QString& name) {
             QStringList lines;
             for (const QByteArrayList& row : textTable("points.txt")) {
                 if (row[0] == name)
