@@ -140,7 +140,7 @@ ShiftFromPoints ShiftFromPoints::solve(const QVector<Point>& points, Kind kind) 
     const MatrixXd places = centred(used, centroid);
 
     const Index count = Index(kind);
-    MatrixXd design = MatrixXd::Zero(3 * used.size(), count);
+    MatrixXd design = MatrixXd::Zero(Index(3) * used.size(), count);
     VectorXd shifts(3 * used.size());
     for (int i = 0; i < used.size(); ++i) {
         const Index row = Index(3) * i;
