@@ -177,7 +177,9 @@ void DatumShiftTab::_onFromPointsClicked() {
         points = new ShiftPointsModel(this);
     points->setSystem(ShownSystem::of(record(), nullptr));
     ShiftDialog dialog(*points, record(), this);
-    if (dialog.exec() != QDialog::Accepted)
+    const bool isAccepted = dialog.exec() == QDialog::Accepted;
+    points->setSystem(nullptr);
+    if (!isAccepted)
         return;
     dialog.shift().apply(editor());
     showRecord();

@@ -141,7 +141,7 @@ ShiftFromPoints ShiftFromPoints::solve(const QVector<Point>& points, Kind kind) 
 
     const Index count = Index(kind);
     MatrixXd design = MatrixXd::Zero(Index(3) * used.size(), count);
-    VectorXd shifts(3 * used.size());
+    VectorXd shifts(design.rows());
     for (int i = 0; i < used.size(); ++i) {
         const Index row = Index(3) * i;
         shifts.segment<3>(row) = vector(used[i]->wgs84) - vector(used[i]->own);
