@@ -178,10 +178,11 @@ void DatumShiftTab::_onFromPointsClicked() {
     points->setSystem(ShownSystem::of(record(), nullptr));
     ShiftDialog dialog(*points, record(), this);
     const bool isAccepted = dialog.exec() == QDialog::Accepted;
-    points->setSystem(nullptr);
+    const ShiftFromPoints shift = dialog.shift();
+    points->setSystem(nullptr); // which the dialog would follow
     if (!isAccepted)
         return;
-    dialog.shift().apply(editor());
+    shift.apply(editor());
     showRecord();
     recordChanged();
 }

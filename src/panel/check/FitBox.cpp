@@ -125,11 +125,13 @@ QString FitBox::effectText() const {
                                metres(FitToPoints::rms(result.residualsAfter())),
                                metres(largest(result.residualsBefore())), metres(largest(result.residualsAfter())))};
     if (const auto& remains = result.remainder()) {
-        constexpr double arcSeconds = 3600.0;
-        parts << PanelText::tr("Against the ground remain a rotation of %1 ± %2\" and a scale of %3 ± %4 ppm.")
-                     .arg(NumberText::rounded(remains->rotation * arcSeconds, 2),
-                          NumberText::rounded(remains->rotationDeviation * arcSeconds, 2),
-                          NumberText::rounded(remains->scale, 2), NumberText::rounded(remains->scaleDeviation, 2));
+        const bool isLarge = std::abs(remains->rotation) > 0.1;
+        const double unit = isLarge ? 1.0 : 3600.0;
+        parts << PanelText::tr("Against the ground remain a rotation of %1 ± %2%3 and a scale of %4 ± %5 ppm.")
+                     .arg(NumberText::rounded(remains->rotation * unit, isLarge ? 4 : 2),
+                          NumberText::rounded(remains->rotationDeviation * unit, isLarge ? 4 : 2),
+                          isLarge ? QStringLiteral("°") : QStringLiteral("\""), NumberText::rounded(remains->scale, 2),
+                          NumberText::rounded(remains->scaleDeviation, 2));
     }
     return parts.join(' ');
 }

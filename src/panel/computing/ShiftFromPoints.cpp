@@ -216,6 +216,8 @@ ShiftFromPoints ShiftFromPoints::solve(const QVector<Point>& points, Kind kind) 
 }
 
 void ShiftFromPoints::apply(CoordParamEditor& editor) const {
+    if (!reason.isEmpty())
+        return;
     editor.setShift(true);
     constexpr int decimals[] = {4, 4, 4, 7, 7, 7, 7};
     for (std::size_t i = 0; i < values.size(); ++i) {

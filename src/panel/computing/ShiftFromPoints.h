@@ -71,8 +71,8 @@ public:
     /// A warning that the parameters can't be told apart, with a recommendation, translated; empty without one.
     const QString& advice() const { return recommendation; }
 
-    /// Puts the parameters into the record as if typed, rounded to 0.1 mm, 1e-7 arc-seconds and 1e-7 ppm: less than
-    /// 0.1 mm at a point.
+    /// Puts the parameters, if there are any, into the record as if typed, rounded to 0.1 mm, 1e-7 arc-seconds and 1e-7
+    /// ppm: less than 0.1 mm at a point.
     void apply(CoordParamEditor& editor) const;
 
 private:

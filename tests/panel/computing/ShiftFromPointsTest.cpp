@@ -287,6 +287,10 @@ private Q_SLOTS:
         const ShiftFromPoints shift = ShiftFromPoints::solve(points, Kind(kind));
         QVERIFY2(said.isEmpty() ? shift.problem().isEmpty() : shift.problem().startsWith(said),
                  shift.problem().toUtf8());
+        CoordParamEditor editor;
+        editor.setRecord(*SampleRecord::named("British grid").record());
+        shift.apply(editor);
+        QCOMPARE(editor.canGoBack(), said.isEmpty());
     }
 
     void refusesWhatNoRecordHolds() {
