@@ -244,6 +244,14 @@ private Q_SLOTS:
         }
     }
 
+    /// Computed minus given, at 0 N 90 E, where X goes west, Y up and Z north.
+    void residualDirections() {
+        const GeographicPoint place{0.0, 90.0, 0.0};
+        const GeocentricPoint there = EllipsoidAxes::wgs84().toGeocentric(place);
+        const auto left = ShiftFromPoints::residual({3, 4, 5, 0, 0, 0, 0}, {"one", place, there, there});
+        QVERIFY(std::abs(left.east + 3) < 1e-9 && std::abs(left.north - 5) < 1e-9 && std::abs(left.up - 4) < 1e-9);
+    }
+
     void leavesOut() {
         std::mt19937 random(5);
         QVector<Point> points = randomPoints(random, 5, 10.0, someShift, 0.0);
