@@ -42,7 +42,7 @@ public:
     };
 
     /// More points are not looked at: they would take longer than a user waits for a keystroke.
-    static constexpr int mostPoints = 5000;
+    static constexpr int mostPoints = 10000;
 
     /// problem() says why there is no result.
     static FitToPoints solve(const IDictionary& record, IProjectionModule& module, const QVector<KnownPoint>& points,

@@ -249,7 +249,7 @@ private Q_SLOTS:
                  found.problem().toUtf8());
         QVERIFY(said.isEmpty() || found.changes().isEmpty());
         const QVector<KnownPoint> tooMany(FitToPoints::mostPoints + 1, {{52.0, 5.0, 0.0}, {155000.0, 463000.0}});
-        QVERIFY(fit(own, tooMany, {}).problem().startsWith("A fit takes 5000 points"));
+        QVERIFY(fit(own, tooMany, {}).problem().startsWith("A fit takes 10000 points"));
     }
 
     void diagnosis_data() { textRows("fits.txt"); }
