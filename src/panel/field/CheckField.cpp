@@ -29,9 +29,7 @@ CheckField::CheckField(const ParamField& field, MessageLine* message, QGridLayou
 }
 
 QString CheckField::angleText(double degrees, int decimals) {
-    const double steps = AngleText::notation() == AngleNotation::DecimalDegrees ? std::pow(10.0, decimals)
-                                                                                : 3600.0 * std::pow(10.0, decimals - 4);
-    return AngleText::format(std::round(degrees * steps) / steps + 0.0, AngleText::notation());
+    return AngleText::rounded(degrees, decimals);
 }
 
 void CheckField::setValue(double value) {
