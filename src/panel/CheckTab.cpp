@@ -2,12 +2,15 @@
 
 #include "panel/check/CheckPointPane.h"
 #include "panel/check/DistortionPane.h"
+#include "panel/check/PointsPane.h"
 #include "panel/computing/ShownSystem.h"
 #include "panel/field/AngleNotationBox.h"
+#include "panel/field/LengthUnitBox.h"
 #include "panel/field/MessageLine.h"
 #include "panel/record/CoordParamEditor.h"
 #include "panel/record/PanelText.h"
 
+#include <QHBoxLayout>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -26,14 +29,23 @@ void CheckTab::build() {
     pages->addTab(pointPane, PanelText::tr("Point"));
     distortionPane = new DistortionPane(isReadOnly());
     pages->addTab(distortionPane, PanelText::tr("Distortion"));
+    pointsPane = new PointsPane;
+    pages->addTab(pointsPane, PanelText::tr("Points"));
     connect(pages, SIGNAL(currentChanged(int)), this, SLOT(_onPageChanged()));
     connect(distortionPane, SIGNAL(proposalAccepted()), this, SLOT(_onProposalAccepted()));
 
     notationBox = new AngleNotationBox;
     notationBox->setAccessibleName(PanelText::tr("Show angles in"));
     notationBox->setToolTip(notationBox->accessibleName());
-    pages->setCornerWidget(notationBox);
+    unitBox = new LengthUnitBox;
+    auto* corner = new QWidget;
+    auto* boxes = new QHBoxLayout(corner);
+    boxes->setContentsMargins(0, 0, 0, 0);
+    boxes->addWidget(unitBox);
+    boxes->addWidget(notationBox);
+    pages->setCornerWidget(corner);
     connect(notationBox, SIGNAL(notationChosen()), this, SLOT(_onNotationChosen()));
+    connect(unitBox, SIGNAL(unitChosen()), this, SLOT(_onUnitChosen()));
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(problemLine);
@@ -47,10 +59,13 @@ void CheckTab::showRecord() {
     pointPane->setSystem(system);
     pointPane->showNotation();
     distortionPane->setSystem(system, pointPane->place());
+    pointsPane->setSystem(system);
+    pointsPane->showNotation();
     problemLine->setMessage(system->problem(), MessageLine::Tone::Error);
     problemLine->setVisible(!system->problem().isEmpty());
     pages->setEnabled(system->projection() != nullptr);
     notationBox->showNotation();
+    unitBox->showUnit();
 }
 
 void CheckTab::_onPageChanged() {
@@ -69,5 +84,11 @@ void CheckTab::_onProposalAccepted() {
 
 void CheckTab::_onNotationChosen() {
     pointPane->showNotation();
+    pointsPane->showNotation();
     Q_EMIT angleNotationChanged();
+}
+
+void CheckTab::_onUnitChosen() {
+    pointPane->showNotation();
+    pointsPane->showNotation();
 }

@@ -11,6 +11,7 @@
 namespace {
 
 constexpr std::size_t linesToLookAt = 40;
+constexpr std::size_t mostColumns = 100;
 
 bool isBlank(char c) {
     return c == ' ' || c == '\t';
@@ -334,7 +335,7 @@ PointLayout PointLayout::withGuessedColumns(const QByteArray& head) const {
     const auto lines = firstLines(head, linesToLookAt);
     std::size_t count = 0;
     for (const auto& line : lines)
-        count = std::max(count, line.size());
+        count = std::min(std::max(count, line.size()), mostColumns);
     layout.hasHeading = false;
     layout.columns.assign(count, PointColumn::None);
     if (lines.empty())
@@ -342,7 +343,8 @@ PointLayout PointLayout::withGuessedColumns(const QByteArray& head) const {
     std::size_t known = 0;
     bool isNumeric = false;
     std::vector<PointColumn> named(count, PointColumn::None);
-    for (std::size_t i = 0; i < lines[0].size(); ++i) {
+    const std::size_t headings = std::min(lines[0].size(), count);
+    for (std::size_t i = 0; i < headings; ++i) {
         double value = 0.0;
         named[i] = meaning(lines[0][i]);
         // The first of two columns with such a name is the one.
@@ -357,8 +359,8 @@ PointLayout PointLayout::withGuessedColumns(const QByteArray& head) const {
         below.push_back(contentOf(lines, i, 1, decimalComma));
         areNumbersBelow = areNumbersBelow || below.back().isNumber() || below.back().isAngle();
     }
-    layout.hasHeading = !isNumeric && (known >= 2 || (areNumbersBelow && lines.size() > 1 && lines[0].size() >= 2 &&
-                                                      below[lines[0].size() - 1].numbers > 0));
+    layout.hasHeading = !isNumeric && (known >= 2 || (areNumbersBelow && lines.size() > 1 && headings >= 2 &&
+                                                      below[headings - 1].numbers > 0));
     layout.columns = named;
     if (layout.hasHeading && layout.isComplete())
         return layout;

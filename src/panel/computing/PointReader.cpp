@@ -18,20 +18,6 @@ bool isUtf16(const QByteArray& bytes) {
     return bytes.startsWith("\xff\xfe") || bytes.startsWith("\xfe\xff");
 }
 
-/// What a column may hold: degrees, or metres.
-bool isInRange(PointColumn column, double value) {
-    switch (column) {
-    case PointColumn::Latitude:
-        return std::abs(value) <= 90.0;
-    case PointColumn::Longitude:
-        return std::abs(value) <= 360.0;
-    case PointColumn::Height:
-        return value >= -20000.0 && value <= 100000.0;
-    default:
-        return std::abs(value) <= 1e9;
-    }
-}
-
 } // namespace
 
 PointReader::PointReader(PointLayout layout, double metresPerUnit, PointTable& table)
@@ -163,7 +149,7 @@ void PointReader::readLine(std::string_view line) {
             continue;
         isAnything = true;
         isUnread[i] = !readNumber(column, texts[i], &values[i]);
-        isOutOfRange[i] = !isUnread[i] && !isInRange(column, values[i]);
+        isOutOfRange[i] = !isUnread[i] && !PointTable::accepts(column, values[i]);
         if (isUnread[i] || isOutOfRange[i]) {
             isRead = false;
             values[i] = nothing;

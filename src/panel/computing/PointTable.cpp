@@ -50,6 +50,19 @@ void appendClean(std::string& texts, std::string_view added) {
 
 } // namespace
 
+bool PointTable::accepts(PointColumn column, double value) {
+    switch (column) {
+    case PointColumn::Latitude:
+        return std::abs(value) <= 90.0;
+    case PointColumn::Longitude:
+        return std::abs(value) <= 360.0;
+    case PointColumn::Height:
+        return value >= -20000.0 && value <= 100000.0;
+    default:
+        return std::abs(value) <= 1e9;
+    }
+}
+
 std::size_t PointTable::append(std::string_view name, std::string_view line) {
     for (auto* columns : {&numbers[0], &numbers[1], &numbers[2], &numbers[3], &numbers[4], &computed[0], &computed[1]})
         columns->push_back(nothing);

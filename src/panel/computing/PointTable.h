@@ -22,6 +22,10 @@ class PointTable {
 public:
     static constexpr std::size_t numberCount = 5;
 
+    /// Whether a column of numbers may hold a value: latitudes to 90, longitudes to 360 degrees, heights of -20 to
+    /// 100 km, a grid to 1e9 m.
+    static bool accepts(PointColumn column, double value);
+
     std::size_t size() const { return states.size(); }
     bool isEmpty() const { return states.empty(); }
 

@@ -1,5 +1,7 @@
 #include "panel/record/LengthUnit.h"
 
+#include "panel/record/NumberText.h"
+
 LengthUnit::Kind LengthUnit::chosenUnit = LengthUnit::Metre;
 
 double LengthUnit::metres(Kind unit) {
@@ -8,4 +10,15 @@ double LengthUnit::metres(Kind unit) {
 
 QString LengthUnit::symbol(Kind unit) {
     return unit == Metre ? "m" : unit == InternationalFoot ? "ft" : "ftUS";
+}
+
+bool LengthUnit::parse(const QString& text, double* metres) {
+    QString number = text.trimmed(), plain;
+    if (number.endsWith(symbol(), Qt::CaseInsensitive))
+        number.chop(symbol().size());
+    double value = 0.0;
+    if (!NumberText::parse(number, &value, &plain))
+        return false;
+    *metres = value * LengthUnit::metres();
+    return true;
 }

@@ -1,0 +1,565 @@
+#include "panel/check/PointsPane.h"
+
+#include "panel/check/PointColumnsDialog.h"
+#include "panel/check/PointsModel.h"
+#include "panel/check/PointsPlot.h"
+#include "panel/check/SlicedWork.h"
+#include "panel/computing/DuplicateNames.h"
+#include "panel/computing/PointReader.h"
+#include "panel/computing/PointStatistics.h"
+#include "panel/computing/PointWriter.h"
+#include "panel/computing/ShownSystem.h"
+#include "panel/field/ChoiceBox.h"
+#include "panel/field/MessageLine.h"
+#include "panel/record/LengthUnit.h"
+#include "panel/record/PanelText.h"
+#include "platform/desktop/VornMessageBox.h"
+
+#include <QBuffer>
+#include <QClipboard>
+#include <QDoubleSpinBox>
+#include <QFile>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSaveFile>
+#include <QSplitter>
+#include <QTableView>
+#include <QToolButton>
+
+#include <cmath>
+
+namespace {
+
+constexpr int headSize = 65536;
+constexpr qint64 bytesPerPiece = 32768;
+constexpr std::size_t rowsPerPiece = 1000;
+constexpr std::size_t rowsAtOnce = 2000; ///< so many are computed before the window is seen again
+constexpr std::size_t mostCopied = 200000;
+
+} // namespace
+
+PointsPane::PointsPane(QWidget* parent)
+    : QWidget(parent)
+    , work(new SlicedWork(this))
+    , model(new PointsModel(this))
+    , table(new QTableView)
+    , plot(new PointsPlot)
+    , datumBox(new ChoiceBox)
+    , toleranceBox(new QDoubleSpinBox)
+    , counts(new QLabel)
+    , readout(new QLabel)
+    , message(new MessageLine)
+    , progress(new QProgressBar)
+    , cancelButton(new QPushButton(PanelText::tr("Cancel"))) {
+    buildTable();
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 6, 0, 0);
+    layout->setVerticalSpacing(3);
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(4);
+    openButton = newButton(PanelText::tr("Open..."), SLOT(_onOpen()));
+    pasteButton = newButton(PanelText::tr("Paste"), SLOT(_onPaste()));
+    copyButton = newButton(PanelText::tr("Copy"), SLOT(_onCopy()));
+    saveButton = newButton(PanelText::tr("Save as CSV..."), SLOT(_onSave()));
+    deleteButton = newButton(PanelText::tr("Delete"), SLOT(_onDelete()));
+    clearButton = newButton(PanelText::tr("Clear"), SLOT(_onClear()));
+    for (QToolButton* button : {openButton, pasteButton, copyButton, saveButton, deleteButton, clearButton})
+        buttons->addWidget(button);
+    buttons->addStretch();
+    datumBox->addItem(PanelText::tr("Own datum"));
+    datumBox->addItem(PanelText::tr("WGS 84"));
+    datumBox->setAccessibleName(PanelText::tr("Datum of latitude, longitude and height"));
+    datumBox->setToolTip(datumBox->accessibleName());
+    buttons->addWidget(datumBox);
+    auto* splitter = new QSplitter;
+    splitter->setChildrenCollapsible(false);
+    plot->setMinimumSize(150, 120);
+    splitter->addWidget(table);
+    splitter->addWidget(plot);
+    splitter->setStretchFactor(0, 3);
+    splitter->setStretchFactor(1, 2);
+    auto* working = new QHBoxLayout;
+    progress->setRange(0, 1000);
+    working->addWidget(progress, 1);
+    working->addWidget(cancelButton);
+    readout->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    layout->addLayout(buttons, 0, 0);
+    layout->addWidget(splitter, 1, 0);
+    layout->setRowStretch(1, 1);
+    layout->addWidget(readout, 2, 0);
+    buildFigures();
+    layout->addWidget(message, 4, 0);
+    layout->addLayout(working, 5, 0);
+    connect(datumBox, SIGNAL(currentIndexChanged(int)), this, SLOT(_onDatumChanged()));
+    connect(plot, SIGNAL(pointed(int)), this, SLOT(_onPointed(int)));
+    connect(plot, SIGNAL(clicked(int)), this, SLOT(_onClicked(int)));
+    connect(plot, SIGNAL(resized()), this, SLOT(_onPlotResized()));
+    connect(work, SIGNAL(progressed(double)), this, SLOT(_onProgressed(double)));
+    connect(work, SIGNAL(ended()), this, SLOT(_onWorkEnded()));
+    connect(cancelButton, SIGNAL(clicked()), this, SLOT(_onCancel()));
+    showTolerance();
+    _onWorkEnded();
+    _onPointed(-1);
+}
+
+PointsPane::~PointsPane() = default;
+
+QToolButton* PointsPane::newButton(const QString& text, const char* slot) {
+    auto* button = new QToolButton;
+    button->setText(text);
+    button->setFocusPolicy(Qt::StrongFocus);
+    connect(button, SIGNAL(clicked()), this, slot);
+    return button;
+}
+
+void PointsPane::buildTable() {
+    table->setModel(model);
+    table->setAccessibleName(PanelText::tr("Points"));
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setTabKeyNavigation(false);
+    table->setWordWrap(false);
+    table->setMinimumWidth(180);
+    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
+    QHeaderView* const header = table->horizontalHeader();
+    header->setHighlightSections(false);
+    header->setStretchLastSection(true);
+    const auto width = [&](const char* text) { return table->fontMetrics().horizontalAdvance(text) + 14; };
+    for (int column = 0; column < PointsModel::Remark; ++column)
+        header->resizeSection(column, width(column == PointsModel::Name        ? "[x] Point 12345"
+                                            : column <= PointsModel::Longitude ? "-179.1234567891"
+                                            : column == PointsModel::Height    ? "1234.1234"
+                                            : column <= PointsModel::Northing  ? "-1234567.1234"
+                                                                               : "-123.1234"));
+    table->installEventFilter(this);
+    connect(model, SIGNAL(edited(int)), this, SLOT(_onEdited(int)));
+    connect(model, SIGNAL(usedChanged()), this, SLOT(_onUsedChanged()));
+    connect(model, SIGNAL(refused(QString)), this, SLOT(_onRefused(QString)));
+    connect(table->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)), this,
+            SLOT(_onSelectionChanged()));
+}
+
+void PointsPane::buildFigures() {
+    auto* grid = new QGridLayout;
+    grid->setVerticalSpacing(0);
+    grid->setHorizontalSpacing(12);
+    const QString columns[] = {PanelText::tr("mean"), PanelText::tr("RMS"), PanelText::tr("largest")};
+    const QString lines[] = {"ΔE", "ΔN", PanelText::tr("Distance")};
+    for (int column = 0; column < FigureColumnCount; ++column)
+        grid->addWidget(new QLabel(columns[column]), 0, column + 1, Qt::AlignRight);
+    for (int line = 0; line < FigureLineCount; ++line) {
+        grid->addWidget(new QLabel(lines[line]), line + 1, 0);
+        for (int column = 0; column < FigureColumnCount; ++column) {
+            auto* label = new QLabel;
+            label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+            label->setAccessibleName(lines[line] + ' ' + columns[column]);
+            grid->addWidget(label, line + 1, column + 1, Qt::AlignRight);
+            figures[std::size_t(line)][std::size_t(column)] = label;
+        }
+    }
+    auto* toleranceLabel = new QLabel(PanelText::tr("Tolerance"));
+    toleranceLabel->setBuddy(toleranceBox);
+    toleranceBox->setToolTip(PanelText::tr("Points that are farther off are marked."));
+    toleranceBox->setRange(0.0, 1e6);
+    auto* row = new QHBoxLayout;
+    row->addWidget(toleranceLabel);
+    row->addWidget(toleranceBox);
+    row->addStretch();
+    grid->addLayout(row, 0, 4, 1, 1);
+    counts->setWordWrap(true);
+    counts->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    grid->addWidget(counts, 1, 4, 3, 1);
+    grid->setColumnStretch(4, 1);
+    qobject_cast<QGridLayout*>(layout())->addLayout(grid, 3, 0);
+    connect(toleranceBox, SIGNAL(valueChanged(double)), this, SLOT(_onToleranceChanged()));
+}
+
+const PointTable& PointsPane::points() const {
+    return model->points();
+}
+
+CheckPoint::Datum PointsPane::datum() const {
+    return datumBox->currentIndex() == 0 ? CheckPoint::Datum::Own : CheckPoint::Datum::Wgs84;
+}
+
+QString PointsPane::lengthText(double metres) const {
+    return QString::number(metres / LengthUnit::metres(), 'f', 4);
+}
+
+void PointsPane::setSystem(const std::shared_ptr<const ShownSystem>& shown) {
+    const bool isSame = system && shown && system->projection() == shown->projection();
+    system = shown;
+    if (isSame)
+        return;
+    isStale = true;
+    if (isVisible())
+        recompute();
+}
+
+void PointsPane::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (isStale && !work->isRunning())
+        recompute();
+}
+
+void PointsPane::showNotation() {
+    showTolerance();
+    model->refresh();
+    showResults();
+}
+
+void PointsPane::showTolerance() {
+    const QSignalBlocker blocker(toleranceBox);
+    toleranceBox->setDecimals(LengthUnit::chosen() == LengthUnit::Metre ? 3 : 4);
+    toleranceBox->setSingleStep(0.01);
+    toleranceBox->setSuffix(' ' + LengthUnit::symbol());
+    toleranceBox->setValue(model->tolerance() / LengthUnit::metres());
+}
+
+void PointsPane::say(const QString& text, bool isError) {
+    message->setMessage(text, isError ? MessageLine::Tone::Error : MessageLine::Tone::Hint);
+}
+
+void PointsPane::begin(const QString& what, const std::function<double()>& piece, const std::function<void()>& done) {
+    workName = what;
+    progress->setFormat(what + " %p %");
+    progress->setValue(0);
+    for (QWidget* widget : {static_cast<QWidget*>(progress), static_cast<QWidget*>(cancelButton)})
+        widget->show();
+    // What is shown can be looked at meanwhile, but must not change.
+    for (QWidget* widget : {static_cast<QWidget*>(openButton), static_cast<QWidget*>(pasteButton),
+                            static_cast<QWidget*>(saveButton), static_cast<QWidget*>(deleteButton),
+                            static_cast<QWidget*>(clearButton), static_cast<QWidget*>(datumBox)})
+        widget->setEnabled(false);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    work->start(piece, done);
+}
+
+void PointsPane::_onProgressed(double part) {
+    progress->setValue(int(part * 1000.0));
+}
+
+void PointsPane::_onWorkEnded() {
+    progress->hide();
+    cancelButton->hide();
+    const bool isAnything = !points().isEmpty();
+    for (QToolButton* button : {openButton, pasteButton})
+        button->setEnabled(true);
+    for (QToolButton* button : {copyButton, saveButton, deleteButton, clearButton})
+        button->setEnabled(isAnything);
+    datumBox->setEnabled(true);
+    table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
+                           QAbstractItemView::AnyKeyPressed);
+}
+
+void PointsPane::_onCancel() {
+    work->cancel();
+    say(PanelText::tr("Cancelled: %1").arg(workName));
+    showResults();
+}
+
+void PointsPane::_onOpen() {
+    QFileDialog dialog(this, PanelText::tr("Open points"), QString(),
+                       PanelText::tr("Points") + " (*.csv *.txt *.asc *.xyz);;" + PanelText::tr("All files") + " (*)");
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return;
+    const QString path = dialog.selectedFiles().first();
+    auto file = std::make_unique<QFile>(path);
+    const QString name = QFileInfo(path).fileName();
+    if (!file->open(QIODevice::ReadOnly))
+        return say(PanelText::tr("%1 can't be read: %2").arg(name, file->errorString()), true);
+    read(std::move(file), name);
+}
+
+void PointsPane::_onPaste() {
+    auto buffer = std::make_unique<QBuffer>();
+    buffer->setData(QGuiApplication::clipboard()->text().toUtf8());
+    buffer->open(QIODevice::ReadOnly);
+    read(std::move(buffer), PanelText::tr("The clipboard"));
+}
+
+void PointsPane::read(std::unique_ptr<QIODevice> source, const QString& name) {
+    const QByteArray start = source->peek(headSize);
+    const QString refusal = PointReader::refusal(start);
+    if (!refusal.isEmpty())
+        return say(name + ": " + refusal, true);
+    PointColumnsDialog dialog(PointReader::decodedHead(start), this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    struct Reading {
+        std::unique_ptr<QIODevice> source;
+        PointTable table;
+        std::unique_ptr<PointReader> reader;
+    };
+    const auto reading = std::make_shared<Reading>();
+    reading->source = std::move(source);
+    reading->reader =
+        std::make_unique<PointReader>(dialog.pointLayout(), LengthUnit::metres(dialog.unit()), reading->table);
+    const auto piece = [this, reading, name] {
+        QIODevice& from = *reading->source;
+        const QByteArray bytes = from.read(bytesPerPiece);
+        reading->reader->add(bytes);
+        if (reading->table.isFull()) {
+            work->cancel();
+            say(PanelText::tr("%1 has too many points; nothing of it is taken.").arg(name), true);
+            return 1.0;
+        }
+        if (bytes.isEmpty() || from.atEnd())
+            return 1.0;
+        return from.size() > 0 ? 0.999 * double(from.pos()) / double(from.size()) : 0.0;
+    };
+    begin(PanelText::tr("Reading"), piece, [this, reading, name] {
+        const auto* file = qobject_cast<const QFile*>(reading->source.get());
+        const QString error = file && file->error() != QFile::NoError ? file->errorString() : QString();
+        reading->reader->finish();
+        const std::size_t count = reading->table.size();
+        model->append(std::move(reading->table));
+        if (error.isEmpty())
+            say(PanelText::tr("%1: %2 rows read.").arg(name).arg(count));
+        else
+            say(PanelText::tr("%1 can't be read to its end: %2").arg(name, error), true);
+        recompute();
+    });
+}
+
+/// Computes all points, few at once, many in slices; then their names are compared, and all is shown.
+void PointsPane::recompute() {
+    const IProjectedSystem* const projection = system ? system->projection() : nullptr;
+    isStale = false;
+    if (points().size() <= rowsAtOnce) {
+        model->computed().compute(0, points().size(), projection, datum());
+        findDuplicates();
+        return;
+    }
+    const auto shown = system; // as long as it is computed with
+    const auto next = std::make_shared<std::size_t>(0);
+    // Cut short, the rest would show what another system made of it.
+    isStale = true;
+    begin(
+        PanelText::tr("Computing"),
+        [this, shown, next] {
+            const std::size_t last = std::min(*next + rowsPerPiece, points().size());
+            model->computed().compute(*next, last, shown ? shown->projection() : nullptr, datum());
+            *next = last;
+            return points().isEmpty() ? 1.0 : double(last) / double(points().size());
+        },
+        [this] {
+            isStale = false;
+            findDuplicates();
+        });
+}
+
+void PointsPane::findDuplicates() {
+    const auto names = std::make_shared<DuplicateNames>(model->computed());
+    if (points().size() <= rowsAtOnce) {
+        names->mark(points().size());
+        showResults();
+        _onWorkEnded();
+        return;
+    }
+    begin(
+        PanelText::tr("Comparing names"), [names] { return names->mark(rowsPerPiece) ? 0.5 : 1.0; },
+        [this] { showResults(); });
+}
+
+void PointsPane::showResults() {
+    const PointStatistics statistics = PointStatistics::of(points(), model->tolerance());
+    showFigures(statistics);
+    model->refresh();
+    plot->showPoints(points(), model->tolerance());
+}
+
+void PointsPane::showFigures(const PointStatistics& statistics) {
+    const PointStatistics::Figures* const lines[] = {&statistics.easting, &statistics.northing, &statistics.distance};
+    for (std::size_t line = 0; line < FigureLineCount; ++line) {
+        const double values[] = {lines[line]->mean, lines[line]->rms, lines[line]->largest};
+        for (std::size_t column = 0; column < FigureColumnCount; ++column)
+            figures[line][column]->setText(statistics.count > 0 ? lengthText(values[column]) : QStringLiteral("–"));
+    }
+    QStringList texts{PanelText::tr("%1 points, %2 with both pairs")
+                          .arg(points().size())
+                          .arg(statistics.count + statistics.leftOut)};
+    if (statistics.leftOut > 0)
+        texts << PanelText::tr("%1 left out").arg(statistics.leftOut);
+    if (statistics.beyond > 0)
+        texts << PanelText::tr("%1 beyond the tolerance").arg(statistics.beyond);
+    if (statistics.problems > 0)
+        texts << PanelText::tr("%1 without a result").arg(statistics.problems);
+    if (statistics.duplicates > 0)
+        texts << PanelText::tr("%1 with a name that another has").arg(statistics.duplicates);
+    counts->setText(points().isEmpty() ? PanelText::tr("Paste, open or type points.") : texts.join(", "));
+}
+
+void PointsPane::_onDatumChanged() {
+    recompute();
+}
+
+void PointsPane::_onToleranceChanged() {
+    model->setTolerance(toleranceBox->value() * LengthUnit::metres());
+    showResults();
+}
+
+void PointsPane::_onEdited(int row) {
+    model->computed().compute(std::size_t(row), std::size_t(row) + 1, system ? system->projection() : nullptr, datum());
+    say(QString());
+    findDuplicates();
+}
+
+void PointsPane::_onUsedChanged() {
+    showResults();
+}
+
+void PointsPane::_onRefused(const QString& reason) {
+    say(reason, true);
+}
+
+void PointsPane::_onSelectionChanged() {
+    const QModelIndex current = table->currentIndex();
+    const bool isPoint = current.isValid() && std::size_t(current.row()) < points().size();
+    plot->setSelected(isPoint && table->selectionModel()->hasSelection() ? current.row() : -1);
+}
+
+void PointsPane::_onClicked(int row) {
+    table->setCurrentIndex(model->index(row, 0));
+    table->scrollTo(model->index(row, 0));
+    table->setFocus();
+}
+
+void PointsPane::_onPointed(int row) {
+    if (row < 0 || std::size_t(row) >= points().size()) {
+        readout->setText(PanelText::tr("Point at the picture for a point's name."));
+        return;
+    }
+    const std::string_view name = points().name(std::size_t(row));
+    QString text = QString::fromUtf8(name.data(), int(name.size()));
+    if (text.isEmpty())
+        text = PanelText::tr("Row %1").arg(row + 1);
+    const GridPoint difference = points().difference(std::size_t(row));
+    if (!std::isnan(difference.easting))
+        text += QString("   ΔE %1   ΔN %2   %3 %4")
+                    .arg(lengthText(difference.easting), lengthText(difference.northing),
+                         lengthText(std::hypot(difference.easting, difference.northing)), LengthUnit::symbol());
+    readout->setText(text);
+}
+
+void PointsPane::_onPlotResized() {
+    plot->showPoints(points(), model->tolerance());
+}
+
+void PointsPane::_onCopy() {
+    const QModelIndexList rows = table->selectionModel()->selectedRows();
+    const PointWriter writer(points(), '\t', PointWriter::Digits::AsShown, LengthUnit::metres());
+    std::string text = writer.heading().toStdString();
+    std::size_t count = 0;
+    const auto add = [&](std::size_t row) {
+        if (row >= points().size() || count == mostCopied)
+            return;
+        writer.write(row, text);
+        ++count;
+    };
+    if (rows.isEmpty()) {
+        for (std::size_t row = 0; row < std::min(points().size(), mostCopied); ++row)
+            add(row);
+    } else {
+        for (const QModelIndex& index : rows)
+            add(std::size_t(index.row()));
+    }
+    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+    const std::size_t wanted = rows.isEmpty() ? points().size() : std::size_t(rows.size());
+    if (count == mostCopied && wanted > count)
+        say(PanelText::tr("Only the first %1 rows are copied. Save as CSV for all.").arg(count), true);
+    else
+        say(PanelText::tr("%1 rows copied.").arg(count));
+}
+
+void PointsPane::_onSave() {
+    const QString asShown = PanelText::tr("CSV as shown") + " (*.csv)";
+    const QString full = PanelText::tr("CSV with all digits") + " (*.csv)";
+    QFileDialog dialog(this, PanelText::tr("Save points"), QString(), asShown + ";;" + full);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix("csv");
+    if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty())
+        save(dialog.selectedFiles().first(), dialog.selectedNameFilter() == full);
+}
+
+void PointsPane::save(const QString& path, bool isFull) {
+    struct Saving {
+        QSaveFile file;
+        PointWriter writer;
+        std::size_t next = 0;
+    };
+    const std::shared_ptr<Saving> saving(
+        new Saving{QSaveFile(path),
+                   {points(), ',', isFull ? PointWriter::Digits::Full : PointWriter::Digits::AsShown,
+                    LengthUnit::metres()}});
+    const auto failed = [this, saving, path] {
+        say(PanelText::tr("%1 can't be saved: %2").arg(QFileInfo(path).fileName(), saving->file.errorString()), true);
+    };
+    // The mark tells a spreadsheet that it is UTF-8.
+    if (!saving->file.open(QIODevice::WriteOnly) || saving->file.write("\xef\xbb\xbf" + saving->writer.heading()) < 0)
+        return failed();
+    begin(
+        PanelText::tr("Saving"),
+        [this, saving, failed] {
+            std::string text;
+            const std::size_t last = std::min(saving->next + rowsPerPiece, points().size());
+            for (; saving->next < last; ++saving->next)
+                saving->writer.write(saving->next, text);
+            if (saving->file.write(text.data(), qint64(text.size())) < 0) {
+                work->cancel();
+                failed();
+                return 1.0;
+            }
+            return double(last) / double(points().size());
+        },
+        [this, saving, failed, path] {
+            if (saving->file.commit())
+                say(PanelText::tr("%1: %2 rows saved.").arg(QFileInfo(path).fileName()).arg(points().size()));
+            else
+                failed();
+        });
+}
+
+void PointsPane::_onDelete() {
+    const QModelIndexList rows = table->selectionModel()->selectedRows();
+    if (rows.isEmpty())
+        return say(PanelText::tr("No row is selected."));
+    const std::size_t before = points().size();
+    model->remove(rows);
+    say(PanelText::tr("%1 rows deleted.").arg(before - points().size()));
+    findDuplicates();
+}
+
+void PointsPane::_onClear() {
+    if (!VornMessageBox::information(this, PanelText::tr("Clear"),
+                                     PanelText::tr("Remove all %1 points from the table?").arg(points().size())))
+        return;
+    model->clear();
+    say(QString());
+    recompute();
+}
+
+/// Copying, pasting and deleting by the keys that every table has.
+bool PointsPane::eventFilter(QObject* object, QEvent* event) {
+    if (object == table && event->type() == QEvent::KeyPress) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        const std::pair<bool, QToolButton*> keys[] = {{key->matches(QKeySequence::Copy), copyButton},
+                                                      {key->matches(QKeySequence::Paste), pasteButton},
+                                                      {key->matches(QKeySequence::Delete), deleteButton}};
+        for (const auto& [isPressed, button] : keys) {
+            if (isPressed) {
+                button->click();
+                return true;
+            }
+        }
+    }
+    return QWidget::eventFilter(object, event);
+}

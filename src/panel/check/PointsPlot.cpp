@@ -1,0 +1,254 @@
+#include "panel/check/PointsPlot.h"
+
+#include "panel/record/LengthUnit.h"
+#include "panel/record/PanelText.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <qwt_painter.h>
+#include <qwt_plot_canvas.h>
+#include <qwt_plot_item.h>
+#include <qwt_plot_layout.h>
+#include <qwt_scale_draw.h>
+#include <qwt_scale_map.h>
+#include <qwt_scale_widget.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr int pixelsPerCell = 4; ///< of points in one cell, one is drawn
+constexpr double vectorShare = 0.15; ///< of the canvas that the longest vector of a sound point takes
+constexpr int reach = 8; ///< pixels around a point that count as it
+const QColor sound(0x21, 0x66, 0xac);
+const QColor beyond(0xb2, 0x18, 0x2b);
+const QColor leftOut(0x99, 0x99, 0x99);
+
+class PlainScaleDraw : public QwtScaleDraw {
+public:
+    QwtText label(double value) const override { return QString::number(value, 'g', 10); }
+};
+
+/// The largest of 1, 2 and 5 times a power of ten that is no more than `value`.
+double roundedDown(double value) {
+    const double power = std::pow(10.0, std::floor(std::log10(value)));
+    const double digits = value / power;
+    return power * (digits >= 5.0 ? 5.0 : digits >= 2.0 ? 2.0 : 1.0);
+}
+
+double length(const GridPoint& vector) {
+    return std::hypot(vector.easting, vector.northing);
+}
+
+QString barText(double metres) {
+    if (LengthUnit::chosen() != LengthUnit::Metre)
+        return QString::number(metres / LengthUnit::metres(), 'g', 3) + ' ' + LengthUnit::symbol();
+    return metres < 1.0 ? QString::number(metres * 1000.0, 'g', 3) + " mm" : QString::number(metres, 'g', 6) + " m";
+}
+
+} // namespace
+
+/// The points and vectors; coordinates of the plot are in the chosen unit.
+class ResidualItem : public QwtPlotItem {
+public:
+    void draw(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap, const QRectF& canvas) const override;
+
+    QPointF pixel(const GridPoint& place, const QwtScaleMap& xMap, const QwtScaleMap& yMap) const {
+        const double unit = LengthUnit::metres();
+        return {xMap.transform(place.easting / unit), yMap.transform(place.northing / unit)};
+    }
+
+    QVector<PointsPlot::Mark> marks;
+    double factor = 0.0; ///< of the vectors over the map's scale; 0 without vectors
+    int selected = -1;
+    std::optional<GridPoint> selectedPlace;
+
+private:
+    void drawBar(QPainter* painter, double pixelsPerMetre, const QRectF& canvas) const;
+};
+
+void ResidualItem::draw(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
+                        const QRectF& canvas) const {
+    painter->setRenderHint(QPainter::Antialiasing, marks.size() < 3000);
+    const double pixelsPerMetre = xMap.pDist() / xMap.sDist() / LengthUnit::metres();
+    for (const PointsPlot::Mark& mark : marks) {
+        const QPointF at = pixel(mark.place, xMap, yMap);
+        const QColor colour = !mark.isUsed ? leftOut : mark.isBeyond ? beyond : sound;
+        if (factor > 0.0 && !std::isnan(mark.difference.easting)) {
+            painter->setPen(QPen(colour, 1.5));
+            const double scale = pixelsPerMetre * factor;
+            // Far beyond the canvas a line has no end that a painter knows.
+            const double shrink = std::min(1.0, 5000.0 / (length(mark.difference) * scale + 1e-300));
+            painter->drawLine(at, at + scale * shrink * QPointF(mark.difference.easting, -mark.difference.northing));
+        }
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(colour);
+        painter->drawEllipse(at, 2.5, 2.5);
+    }
+    if (selectedPlace) {
+        painter->setBrush(Qt::NoBrush);
+        painter->setPen(QPen(Qt::black, 2.0));
+        painter->drawEllipse(pixel(*selectedPlace, xMap, yMap), 7.0, 7.0);
+    }
+    if (factor > 0.0)
+        drawBar(painter, pixelsPerMetre, canvas);
+}
+
+/// How long a round residual is drawn.
+void ResidualItem::drawBar(QPainter* painter, double pixelsPerMetre, const QRectF& canvas) const {
+    const double unit = LengthUnit::metres();
+    const double residual = roundedDown(vectorShare * canvas.width() / (pixelsPerMetre * factor) / unit) * unit;
+    const double pixels = residual * pixelsPerMetre * factor;
+    const QString text = barText(residual);
+    const QRectF words = QFontMetricsF(painter->font()).boundingRect(text);
+    const QPointF start(canvas.left() + 8.0, canvas.bottom() - 8.0);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(QColor(255, 255, 255, 200));
+    painter->drawRect(QRectF(start + QPointF(-4.0, -words.height() - 6.0),
+                             QSizeF(std::max(pixels, words.width()) + 10.0, words.height() + 12.0)));
+    painter->setPen(QPen(Qt::black, 2.0));
+    painter->drawLine(start, start + QPointF(pixels, 0.0));
+    painter->drawText(start + QPointF(0.0, -4.0), text);
+}
+
+PointsPlot::PointsPlot(QWidget* parent) : QwtPlot(parent), item(new ResidualItem) {
+    setAccessibleName(PanelText::tr("Picture of the points"));
+    const QFont small = font();
+    for (const int axis : {xBottom, yLeft}) {
+        setAxisFont(axis, small);
+        setAxisScaleDraw(axis, new PlainScaleDraw);
+        setAxisMaxMajor(axis, 4);
+        axisWidget(axis)->setMargin(0);
+    }
+    plotLayout()->setAlignCanvasToScales(true);
+    setCanvasBackground(Qt::white);
+    item->attach(this);
+    auto* frame = qobject_cast<QwtPlotCanvas*>(canvas());
+    frame->setFrameShape(QFrame::Box);
+    frame->setFrameShadow(QFrame::Plain);
+    frame->setMouseTracking(true);
+    frame->installEventFilter(this);
+}
+
+std::optional<double> PointsPlot::exaggeration() const {
+    return item->factor > 0.0 ? std::optional<double>(item->factor) : std::nullopt;
+}
+
+const QVector<PointsPlot::Mark>& PointsPlot::marks() const {
+    return item->marks;
+}
+
+void PointsPlot::showPoints(const PointTable& table, double tolerance) {
+    GridPoint low{std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity()};
+    GridPoint high{-low.easting, -low.northing};
+    for (std::size_t row = 0; row < table.size(); ++row) {
+        const GridPoint place = table.grid(row);
+        if (std::isnan(place.easting) || std::isnan(place.northing))
+            continue;
+        low = {std::min(low.easting, place.easting), std::min(low.northing, place.northing)};
+        high = {std::max(high.easting, place.easting), std::max(high.northing, place.northing)};
+    }
+    item->marks.clear();
+    item->factor = 0.0;
+    const bool isAnything = low.easting <= high.easting;
+    for (const int axis : {xBottom, yLeft})
+        enableAxis(axis, isAnything);
+    if (!isAnything) {
+        setSelected(-1);
+        replot();
+        return;
+    }
+    const QSize size = canvas()->contentsRect().size().expandedTo(QSize(pixelsPerCell, pixelsPerCell));
+    const double metresPerPixel = std::max({(high.easting - low.easting) / size.width(),
+                                            (high.northing - low.northing) / size.height(), 10.0 / size.width()}) *
+                                  1.15;
+    const GridPoint middle{(low.easting + high.easting) / 2.0, (low.northing + high.northing) / 2.0};
+    const GridPoint corner{middle.easting - metresPerPixel * size.width() / 2.0,
+                           middle.northing - metresPerPixel * size.height() / 2.0};
+    const int columns = size.width() / pixelsPerCell + 1, rows = size.height() / pixelsPerCell + 1;
+    std::vector<Mark> cells(std::size_t(columns) * std::size_t(rows), Mark{0, {}, {-1.0, 0.0}, false, false});
+    std::vector<double> largest(cells.size(), -2.0);
+    double longest = 0.0, longestSound = 0.0;
+    for (std::size_t row = 0; row < table.size(); ++row) {
+        const GridPoint place = table.grid(row);
+        if (std::isnan(place.easting) || std::isnan(place.northing))
+            continue;
+        const auto column = std::size_t((place.easting - corner.easting) / metresPerPixel / pixelsPerCell);
+        const auto line = std::size_t((place.northing - corner.northing) / metresPerPixel / pixelsPerCell);
+        const std::size_t cell = line * std::size_t(columns) + column;
+        const GridPoint difference = table.difference(row);
+        const double distance = length(difference);
+        const double weight = std::isnan(distance) ? -1.0 : table.isUsed(row) ? distance : 0.0;
+        if (table.isUsed(row) && !std::isnan(distance)) {
+            longest = std::max(longest, distance);
+            if (distance <= tolerance)
+                longestSound = std::max(longestSound, distance);
+        }
+        if (cell < cells.size() && weight > largest[cell]) {
+            largest[cell] = weight;
+            cells[cell] = {row, place, difference, table.isUsed(row), distance > tolerance};
+        }
+    }
+    for (std::size_t cell = 0; cell < cells.size(); ++cell) {
+        if (largest[cell] > -2.0)
+            item->marks.append(cells[cell]);
+    }
+    const double reference = longestSound > 0.0 ? longestSound : longest;
+    // Below a micrometre lies the noise of the computation.
+    if (reference > 1e-6)
+        item->factor = roundedDown(vectorShare * metresPerPixel * std::min(size.width(), size.height()) / reference);
+    const double unit = LengthUnit::metres();
+    setAxisTitle(xBottom, PanelText::tr("Easting, %1").arg(LengthUnit::symbol()));
+    setAxisTitle(yLeft, PanelText::tr("Northing, %1").arg(LengthUnit::symbol()));
+    setAxisScale(xBottom, corner.easting / unit, (corner.easting + metresPerPixel * size.width()) / unit);
+    setAxisScale(yLeft, corner.northing / unit, (corner.northing + metresPerPixel * size.height()) / unit);
+    setSelected(item->selected);
+}
+
+void PointsPlot::setSelected(int row) {
+    item->selected = row;
+    item->selectedPlace.reset();
+    for (const Mark& mark : qAsConst(item->marks)) {
+        if (int(mark.row) == row)
+            item->selectedPlace = mark.place;
+    }
+    replot();
+}
+
+/// The row of the point nearest to a pixel of the canvas, -1 where there is none.
+int PointsPlot::rowAt(const QPoint& pixel) const {
+    const QwtScaleMap xMap = canvasMap(xBottom), yMap = canvasMap(yLeft);
+    int row = -1;
+    double nearest = double(reach);
+    for (const Mark& mark : qAsConst(item->marks)) {
+        const QPointF away = item->pixel(mark.place, xMap, yMap) - pixel;
+        const double distance = std::hypot(away.x(), away.y());
+        if (distance <= nearest) {
+            nearest = distance;
+            row = int(mark.row);
+        }
+    }
+    return row;
+}
+
+bool PointsPlot::eventFilter(QObject* object, QEvent* event) {
+    if (object == canvas()) {
+        if (event->type() == QEvent::MouseMove)
+            Q_EMIT pointed(rowAt(static_cast<QMouseEvent*>(event)->pos()));
+        else if (event->type() == QEvent::Leave)
+            Q_EMIT pointed(-1);
+        else if (event->type() == QEvent::MouseButtonPress) {
+            const int row = rowAt(static_cast<QMouseEvent*>(event)->pos());
+            if (row >= 0)
+                Q_EMIT clicked(row);
+        }
+    }
+    return QwtPlot::eventFilter(object, event);
+}
+
+void PointsPlot::resizeEvent(QResizeEvent* event) {
+    QwtPlot::resizeEvent(event);
+    Q_EMIT resized();
+}
