@@ -11,6 +11,7 @@
 #include "panel/record/PanelText.h"
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -38,17 +39,19 @@ void CheckTab::build() {
     notationBox->setAccessibleName(PanelText::tr("Show angles in"));
     notationBox->setToolTip(notationBox->accessibleName());
     unitBox = new LengthUnitBox;
-    auto* corner = new QWidget;
-    auto* boxes = new QHBoxLayout(corner);
-    boxes->setContentsMargins(0, 0, 0, 0);
-    boxes->addWidget(unitBox);
-    boxes->addWidget(notationBox);
-    pages->setCornerWidget(corner);
     connect(notationBox, SIGNAL(notationChosen()), this, SLOT(_onNotationChosen()));
     connect(unitBox, SIGNAL(unitChosen()), this, SLOT(_onUnitChosen()));
 
     auto* layout = new QVBoxLayout(this);
+    auto* shownIn = new QHBoxLayout;
+    auto* shownInLabel = new QLabel(PanelText::tr("Shown in"));
+    shownInLabel->setBuddy(unitBox);
+    shownIn->addStretch();
+    shownIn->addWidget(shownInLabel);
+    shownIn->addWidget(unitBox);
+    shownIn->addWidget(notationBox);
     layout->addWidget(problemLine);
+    layout->addLayout(shownIn);
     layout->addWidget(pages, 1);
 }
 

@@ -127,8 +127,9 @@ void PointColumnsDialog::showLines() {
         connect(box, SIGNAL(currentIndexChanged(int)), this, SLOT(_onColumnsChanged()));
     }
     for (int column = 0; column < table->columnCount(); ++column)
-        table->setColumnWidth(column, std::min(220, std::max(columnBoxes[column]->sizeHint().width(),
-                                                             table->fontMetrics().horizontalAdvance("-1234567.1234") + 16)));
+        table->setColumnWidth(column,
+                              std::min(220, std::max(columnBoxes[column]->sizeHint().width(),
+                                                     table->fontMetrics().horizontalAdvance("-1234567.1234") + 16)));
     table->resizeRowToContents(0);
     check();
 }

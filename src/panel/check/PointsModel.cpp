@@ -33,7 +33,10 @@ std::optional<PointColumn> numberOf(PointsModel::Column column) {
 }
 
 QString lengthText(double metres) {
-    return std::isnan(metres) ? QString() : QString::number(metres / LengthUnit::metres(), 'f', decimals);
+    if (std::isnan(metres))
+        return QString();
+    const QString text = QString::number(metres / LengthUnit::metres(), 'f', decimals);
+    return text == "-0.0000" ? "0.0000" : text;
 }
 
 QString angleText(double degrees) {

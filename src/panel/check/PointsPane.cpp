@@ -66,17 +66,13 @@ PointsPane::PointsPane(QWidget* parent)
     openButton = newButton(PanelText::tr("Open..."), SLOT(_onOpen()));
     pasteButton = newButton(PanelText::tr("Paste"), SLOT(_onPaste()));
     copyButton = newButton(PanelText::tr("Copy"), SLOT(_onCopy()));
-    saveButton = newButton(PanelText::tr("Save as CSV..."), SLOT(_onSave()));
+    saveButton = newButton(PanelText::tr("Save..."), SLOT(_onSave()));
     deleteButton = newButton(PanelText::tr("Delete"), SLOT(_onDelete()));
     clearButton = newButton(PanelText::tr("Clear"), SLOT(_onClear()));
     for (QToolButton* button : {openButton, pasteButton, copyButton, saveButton, deleteButton, clearButton})
         buttons->addWidget(button);
     buttons->addStretch();
-    datumBox->addItem(PanelText::tr("Own datum"));
-    datumBox->addItem(PanelText::tr("WGS 84"));
-    datumBox->setAccessibleName(PanelText::tr("Datum of latitude, longitude and height"));
-    datumBox->setToolTip(datumBox->accessibleName());
-    buttons->addWidget(datumBox);
+    layout->addLayout(buttons, 0, 0);
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
     plot->setMinimumSize(150, 120);
@@ -89,14 +85,13 @@ PointsPane::PointsPane(QWidget* parent)
     working->addWidget(progress, 1);
     working->addWidget(cancelButton);
     readout->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    layout->addLayout(buttons, 0, 0);
     layout->addWidget(splitter, 1, 0);
     layout->setRowStretch(1, 1);
     layout->addWidget(readout, 2, 0);
+    buildSettings();
     buildFigures();
-    layout->addWidget(message, 4, 0);
-    layout->addLayout(working, 5, 0);
-    connect(datumBox, SIGNAL(currentIndexChanged(int)), this, SLOT(_onDatumChanged()));
+    layout->addWidget(message, 5, 0);
+    layout->addLayout(working, 6, 0);
     connect(plot, SIGNAL(pointed(int)), this, SLOT(_onPointed(int)));
     connect(plot, SIGNAL(clicked(int)), this, SLOT(_onClicked(int)));
     connect(plot, SIGNAL(resized()), this, SLOT(_onPlotResized()));
@@ -163,20 +158,32 @@ void PointsPane::buildFigures() {
             figures[std::size_t(line)][std::size_t(column)] = label;
         }
     }
+    counts->setWordWrap(true);
+    counts->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    counts->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    grid->addWidget(counts, 0, 4, 4, 1);
+    grid->setColumnStretch(4, 1);
+    qobject_cast<QGridLayout*>(layout())->addLayout(grid, 4, 0);
+}
+
+void PointsPane::buildSettings() {
     auto* toleranceLabel = new QLabel(PanelText::tr("Tolerance"));
     toleranceLabel->setBuddy(toleranceBox);
     toleranceBox->setToolTip(PanelText::tr("Points that are farther off are marked."));
-    toleranceBox->setRange(0.0, 1e6);
+    toleranceBox->setRange(0.0, 999.0);
+    auto* datumLabel = new QLabel(PanelText::tr("Datum"));
+    datumLabel->setBuddy(datumBox);
+    datumBox->addItem(PanelText::tr("The system's own"));
+    datumBox->addItem(PanelText::tr("WGS 84"));
+    datumBox->setAccessibleName(PanelText::tr("Datum"));
+    datumBox->setToolTip(PanelText::tr("Datum of latitude, longitude and height"));
     auto* row = new QHBoxLayout;
-    row->addWidget(toleranceLabel);
-    row->addWidget(toleranceBox);
+    for (QWidget* widget : {static_cast<QWidget*>(datumLabel), static_cast<QWidget*>(datumBox),
+                            static_cast<QWidget*>(toleranceLabel), static_cast<QWidget*>(toleranceBox)})
+        row->addWidget(widget);
     row->addStretch();
-    grid->addLayout(row, 0, 4, 1, 1);
-    counts->setWordWrap(true);
-    counts->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    grid->addWidget(counts, 1, 4, 3, 1);
-    grid->setColumnStretch(4, 1);
-    qobject_cast<QGridLayout*>(layout())->addLayout(grid, 3, 0);
+    qobject_cast<QGridLayout*>(layout())->addLayout(row, 3, 0);
+    connect(datumBox, SIGNAL(currentIndexChanged(int)), this, SLOT(_onDatumChanged()));
     connect(toleranceBox, SIGNAL(valueChanged(double)), this, SLOT(_onToleranceChanged()));
 }
 
@@ -233,9 +240,9 @@ void PointsPane::begin(const QString& what, const std::function<double()>& piece
     for (QWidget* widget : {static_cast<QWidget*>(progress), static_cast<QWidget*>(cancelButton)})
         widget->show();
     // What is shown can be looked at meanwhile, but must not change.
-    for (QWidget* widget : {static_cast<QWidget*>(openButton), static_cast<QWidget*>(pasteButton),
-                            static_cast<QWidget*>(saveButton), static_cast<QWidget*>(deleteButton),
-                            static_cast<QWidget*>(clearButton), static_cast<QWidget*>(datumBox)})
+    for (QWidget* widget :
+         {static_cast<QWidget*>(openButton), static_cast<QWidget*>(pasteButton), static_cast<QWidget*>(saveButton),
+          static_cast<QWidget*>(deleteButton), static_cast<QWidget*>(clearButton), static_cast<QWidget*>(datumBox)})
         widget->setEnabled(false);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     work->start(piece, done);
@@ -384,9 +391,8 @@ void PointsPane::showFigures(const PointStatistics& statistics) {
         for (std::size_t column = 0; column < FigureColumnCount; ++column)
             figures[line][column]->setText(statistics.count > 0 ? lengthText(values[column]) : QStringLiteral("–"));
     }
-    QStringList texts{PanelText::tr("%1 points, %2 with both pairs")
-                          .arg(points().size())
-                          .arg(statistics.count + statistics.leftOut)};
+    QStringList texts{
+        PanelText::tr("%1 points, %2 with both pairs").arg(points().size()).arg(statistics.count + statistics.leftOut)};
     if (statistics.leftOut > 0)
         texts << PanelText::tr("%1 left out").arg(statistics.leftOut);
     if (statistics.beyond > 0)
@@ -475,7 +481,7 @@ void PointsPane::_onCopy() {
     QGuiApplication::clipboard()->setText(QString::fromStdString(text));
     const std::size_t wanted = rows.isEmpty() ? points().size() : std::size_t(rows.size());
     if (count == mostCopied && wanted > count)
-        say(PanelText::tr("Only the first %1 rows are copied. Save as CSV for all.").arg(count), true);
+        say(PanelText::tr("Only the first %1 rows are copied. Save all as CSV.").arg(count), true);
     else
         say(PanelText::tr("%1 rows copied.").arg(count));
 }
@@ -496,10 +502,9 @@ void PointsPane::save(const QString& path, bool isFull) {
         PointWriter writer;
         std::size_t next = 0;
     };
-    const std::shared_ptr<Saving> saving(
-        new Saving{QSaveFile(path),
-                   {points(), ',', isFull ? PointWriter::Digits::Full : PointWriter::Digits::AsShown,
-                    LengthUnit::metres()}});
+    const std::shared_ptr<Saving> saving(new Saving{
+        QSaveFile(path),
+        {points(), ',', isFull ? PointWriter::Digits::Full : PointWriter::Digits::AsShown, LengthUnit::metres()}});
     const auto failed = [this, saving, path] {
         say(PanelText::tr("%1 can't be saved: %2").arg(QFileInfo(path).fileName(), saving->file.errorString()), true);
     };

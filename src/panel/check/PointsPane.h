@@ -70,6 +70,7 @@ private:
     enum FigureLine { East, North, Total, FigureLineCount };
 
     void buildTable();
+    void buildSettings();
     void buildFigures();
     QToolButton* newButton(const QString& text, const char* slot);
 

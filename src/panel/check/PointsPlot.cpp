@@ -19,9 +19,9 @@
 
 namespace {
 
-constexpr int pixelsPerCell = 4; ///< of points in one cell, one is drawn
+constexpr int pixelsPerCell = 4;     ///< of points in one cell, one is drawn
 constexpr double vectorShare = 0.15; ///< of the canvas that the longest vector of a sound point takes
-constexpr int reach = 8; ///< pixels around a point that count as it
+constexpr int reach = 8;             ///< pixels around a point that count as it
 const QColor sound(0x21, 0x66, 0xac);
 const QColor beyond(0xb2, 0x18, 0x2b);
 const QColor leftOut(0x99, 0x99, 0x99);

@@ -359,8 +359,9 @@ PointLayout PointLayout::withGuessedColumns(const QByteArray& head) const {
         below.push_back(contentOf(lines, i, 1, decimalComma));
         areNumbersBelow = areNumbersBelow || below.back().isNumber() || below.back().isAngle();
     }
-    layout.hasHeading = !isNumeric && (known >= 2 || (areNumbersBelow && lines.size() > 1 && headings >= 2 &&
-                                                      below[headings - 1].numbers > 0));
+    layout.hasHeading =
+        !isNumeric &&
+        (known >= 2 || (areNumbersBelow && lines.size() > 1 && headings >= 2 && below[headings - 1].numbers > 0));
     layout.columns = named;
     if (layout.hasHeading && layout.isComplete())
         return layout;

@@ -12,6 +12,17 @@
 
 namespace {
 
+/// Takes zeros behind the decimal point off the number that begins at `start`.
+void dropZeros(std::string& text, std::size_t start) {
+    if (text.find('.', start) == std::string::npos)
+        return;
+    text.resize(text.find_last_not_of('0') + 1);
+    if (text.back() == '.')
+        text.pop_back();
+    if (text.compare(start, std::string::npos, "-0") == 0)
+        text.erase(start, 1);
+}
+
 /// Decimals of a length as shown: a tenth of a millimetre.
 constexpr int lengthDecimals = 4;
 
@@ -72,6 +83,8 @@ void PointWriter::writeLength(double metres, std::string& text) const {
     const double value = metres / metresPerUnit;
     if (digits == Digits::Full)
         writeNumber(text, value, std::chars_format::fixed);
+    else if (std::abs(value) < 0.00005)
+        text += "0.0000"; // without a minus sign
     else
         writeNumber(text, value, std::chars_format::fixed, lengthDecimals);
 }
@@ -81,9 +94,11 @@ void PointWriter::writeAngle(double degrees, std::string& text) const {
         return;
     if (digits == Digits::Full)
         writeNumber(text, degrees, std::chars_format::fixed);
-    else if (AngleText::notation() == AngleNotation::DecimalDegrees)
+    else if (AngleText::notation() == AngleNotation::DecimalDegrees) {
+        const std::size_t start = text.size();
         writeNumber(text, degrees, std::chars_format::fixed, AngleText::pointDecimals);
-    else
+        dropZeros(text, start);
+    } else
         writeText(AngleText::rounded(degrees, AngleText::pointDecimals).toStdString(), text);
 }
 

@@ -14,10 +14,12 @@
 namespace {
 
 /// The page "Points" of the tab "Check".
-///   done: "paste=text" (lines parted by "/") accepts the dialog of its columns, which "columns" tells; "refused paste" shows none;
-///         "save=as shown", "save=full" and "open=text" a file; "cell 2 Name=text" types into the second row, "used 2" turns its check
-///         mark, "select 2", "click 2" the point in the picture, "mouse 2"
-///   seen: "cell:2 Name", "rows", "picture" (points, of them red and grey), "ring" the row in the picture, "selected" in the table
+///   done: "paste=text" (lines parted by "/") accepts the dialog of its columns, which "columns" tells; "refused paste"
+///   shows none;
+///         "save=as shown", "save=full" and "open=text" a file; "cell=2 Name=text" types into the second row, "used=2"
+///         turns its check mark, "select=2", "click=2" the point in the picture, "mouse=2"
+///   seen: "cell:2 Name", "rows", "picture" (points, of them red and grey), "ring" the row in the picture, "selected"
+///   in the table
 class PointsOnScreen : public PanelOnScreen {
 public:
     explicit PointsOnScreen(const QString& start) : PanelOnScreen(start) {
@@ -35,18 +37,20 @@ public:
         acts["save"] = [this](const QString& digits) { save(digits == "full"); };
         acts["remove all"] = [this](const QString&) {
             MessageBoxDouble::reset();
-            MessageBoxDouble::answer = 1;
+            MessageBoxDouble::answers = {1};
             find<QToolButton>("Clear")->click();
         };
         acts["cell"] = [this](const QString& text) {
-            // "2 Name=text"
             const QModelIndex index = cell(text.section('=', 0, 0));
             table->setCurrentIndex(index);
             table->edit(index);
-            auto* edit = table->findChild<QLineEdit*>();
-            QVERIFY(edit);
+            auto* edit = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+            QVERIFY(edit && table->isAncestorOf(edit));
             edit->setText(text.section('=', 1));
             QTest::keyClick(edit, Qt::Key_Return);
+        };
+        acts["Tolerance"] = [this](const QString& text) {
+            find<QDoubleSpinBox>("Tolerance")->setValue(text.toDouble());
         };
         acts["used"] = [this](const QString& row) {
             table->setCurrentIndex(model->index(row.toInt() - 1, 0));
@@ -125,6 +129,7 @@ private:
     }
 
     void save(bool isFull) {
+        QFile::remove(folder.filePath("saved.csv")); // else the dialog asks
         ModalDriver::onNextDialog([=](QDialog* dialog) {
             auto* files = qobject_cast<QFileDialog*>(dialog);
             files->selectNameFilter(files->nameFilters().at(isFull ? 1 : 0));
@@ -132,7 +137,7 @@ private:
             name->setText(folder.filePath("saved.csv"));
             QTest::keyClick(name, Qt::Key_Return);
         });
-        find<QToolButton>("Save as CSV...")->click();
+        find<QToolButton>("Save...")->click();
         finish();
     }
 
