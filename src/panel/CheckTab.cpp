@@ -11,7 +11,6 @@
 #include "panel/record/PanelText.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -44,10 +43,7 @@ void CheckTab::build() {
 
     auto* layout = new QVBoxLayout(this);
     auto* shownIn = new QHBoxLayout;
-    auto* shownInLabel = new QLabel(PanelText::tr("Shown in"));
-    shownInLabel->setBuddy(unitBox);
     shownIn->addStretch();
-    shownIn->addWidget(shownInLabel);
     shownIn->addWidget(unitBox);
     shownIn->addWidget(notationBox);
     layout->addWidget(problemLine);

@@ -8,6 +8,7 @@
 #include "panel/field/ChoiceBox.h"
 #include "panel/field/CopyButton.h"
 #include "panel/field/MessageLine.h"
+#include "panel/record/LengthUnit.h"
 #include "panel/record/PanelText.h"
 #include "platform/projection/IProjectionModule.h"
 
@@ -60,7 +61,7 @@ CheckPointPane::CheckPointPane(QWidget* parent) : QWidget(parent) {
     addGridFields(grid);
     addResults(grid);
     copyButton = new CopyButton(PanelText::tr("Copy as text"));
-    grid->addWidget(copyButton, grid->rowCount(), 1, Qt::AlignLeft);
+    grid->addWidget(copyButton, 0, 2, 1, 2, Qt::AlignRight);
     grid->setRowStretch(grid->rowCount(), 1);
     connect(copyButton, SIGNAL(clicked()), this, SLOT(_onCopy()));
 }
@@ -123,8 +124,8 @@ const IProjectedSystem* CheckPointPane::projection() const {
 }
 
 void CheckPointPane::showNotation() {
-    latitude->showNotation();
-    longitude->showNotation();
+    for (CheckField* field : {latitude, longitude, height, easting, northing})
+        field->showNotation();
     showResults();
 }
 
@@ -193,7 +194,7 @@ QString CheckPointPane::placeText(const GeographicPoint& place) const {
     const bool decimal = AngleText::notation() == AngleNotation::DecimalDegrees;
     const QString unit = decimal ? QStringLiteral("°") : QString();
     return CheckField::angleText(place.latitude) + unit + ", " + CheckField::angleText(place.longitude) + unit + ", " +
-           QString::number(place.height, 'f', 4) + " m";
+           QString::number(place.height / LengthUnit::metres(), 'f', 4) + ' ' + LengthUnit::symbol();
 }
 
 bool CheckPointPane::isComplete() const {

@@ -52,7 +52,7 @@ std::optional<double> typedNumber(const QString& text, PointColumn column, QStri
         *reason = input.reason;
         value = input.degrees;
     } else if (!LengthUnit::parse(text, &value)) {
-        *reason = PanelText::tr("Not a length in %1 with a decimal point.").arg(LengthUnit::symbol());
+        *reason = LengthUnit::refusal();
     }
     if (reason->isEmpty() && !PointTable::accepts(column, value))
         *reason = PanelText::tr("Out of range.");

@@ -171,15 +171,13 @@ void PointsPane::buildSettings() {
     toleranceLabel->setBuddy(toleranceBox);
     toleranceBox->setToolTip(PanelText::tr("Points that are farther off are marked."));
     toleranceBox->setRange(0.0, 999.0);
-    auto* datumLabel = new QLabel(PanelText::tr("Datum"));
-    datumLabel->setBuddy(datumBox);
     datumBox->addItem(PanelText::tr("The system's own"));
     datumBox->addItem(PanelText::tr("WGS 84"));
     datumBox->setAccessibleName(PanelText::tr("Datum"));
     datumBox->setToolTip(PanelText::tr("Datum of latitude, longitude and height"));
     auto* row = new QHBoxLayout;
-    for (QWidget* widget : {static_cast<QWidget*>(datumLabel), static_cast<QWidget*>(datumBox),
-                            static_cast<QWidget*>(toleranceLabel), static_cast<QWidget*>(toleranceBox)})
+    for (QWidget* widget :
+         {static_cast<QWidget*>(datumBox), static_cast<QWidget*>(toleranceLabel), static_cast<QWidget*>(toleranceBox)})
         row->addWidget(widget);
     row->addStretch();
     qobject_cast<QGridLayout*>(layout())->addLayout(row, 3, 0);

@@ -22,3 +22,7 @@ bool LengthUnit::parse(const QString& text, double* metres) {
     *metres = value * LengthUnit::metres();
     return true;
 }
+
+QString LengthUnit::refusal() {
+    return tr("Not a length in %1 with a decimal point.").arg(symbol());
+}

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 /// The units of length in which the tab "Check" takes and shows its figures; the record stays in metres.
 class LengthUnit {
+    Q_DECLARE_TR_FUNCTIONS(DlgCoordParam)
+
 public:
     /// EPSG 9001, 9002 and 9003.
     enum Kind { Metre, InternationalFoot, UsSurveyFoot };
@@ -25,6 +28,9 @@ public:
     /// Reads a number as NumberText::parse() does, in the chosen unit, whose symbol may follow; gives metres. False
     /// for any other text, also one with another unit; `metres` is untouched then.
     static bool parse(const QString& text, double* metres);
+
+    /// Why parse() refused a text, translated.
+    static QString refusal();
 
 private:
     static Kind chosenUnit;

@@ -84,8 +84,6 @@ public:
         };
     }
 
-    ~PointsOnScreen() override { LengthUnit::choose(LengthUnit::Metre); }
-
     PointsPane* pane;
     PointsModel* model;
     PointsPlot* plot;
