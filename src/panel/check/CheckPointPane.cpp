@@ -55,13 +55,14 @@ QString factorText(double factor) {
 
 CheckPointPane::CheckPointPane(QWidget* parent) : QWidget(parent) {
     auto* grid = new QGridLayout(this);
-    grid->setVerticalSpacing(3);
+    grid->setContentsMargins(0, 3, 0, 0);
+    grid->setVerticalSpacing(1);
     grid->setColumnStretch(3, 1);
     addPlaceFields(grid);
     addGridFields(grid);
     addResults(grid);
     copyButton = new CopyButton(PanelText::tr("Copy as text"));
-    grid->addWidget(copyButton, 0, 2, 1, 2, Qt::AlignRight);
+    grid->addWidget(copyButton, grid->rowCount(), 1, Qt::AlignLeft);
     grid->setRowStretch(grid->rowCount(), 1);
     connect(copyButton, SIGNAL(clicked()), this, SLOT(_onCopy()));
 }
