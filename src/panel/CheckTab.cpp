@@ -46,6 +46,7 @@ void CheckTab::build() {
     shownIn->addStretch();
     shownIn->addWidget(unitBox);
     shownIn->addWidget(notationBox);
+    layout->setSpacing(2);
     layout->addWidget(problemLine);
     layout->addLayout(shownIn);
     layout->addWidget(pages, 1);

@@ -75,7 +75,7 @@ PointsPane::PointsPane(QWidget* parent)
     layout->addLayout(buttons, 0, 0);
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
-    plot->setMinimumSize(150, 120);
+    plot->setMinimumSize(150, 90);
     splitter->addWidget(table);
     splitter->addWidget(plot);
     splitter->setStretchFactor(0, 3);
@@ -171,14 +171,19 @@ void PointsPane::buildSettings() {
     toleranceLabel->setBuddy(toleranceBox);
     toleranceBox->setToolTip(PanelText::tr("Points that are farther off are marked."));
     toleranceBox->setRange(0.0, 999.0);
+    auto* datumLabel = new QLabel(PanelText::tr("Datum"));
+    datumLabel->setBuddy(datumBox);
     datumBox->addItem(PanelText::tr("The system's own"));
     datumBox->addItem(PanelText::tr("WGS 84"));
     datumBox->setAccessibleName(PanelText::tr("Datum"));
     datumBox->setToolTip(PanelText::tr("Datum of latitude, longitude and height"));
     auto* row = new QHBoxLayout;
-    for (QWidget* widget :
-         {static_cast<QWidget*>(datumBox), static_cast<QWidget*>(toleranceLabel), static_cast<QWidget*>(toleranceBox)})
-        row->addWidget(widget);
+    row->setSpacing(6);
+    row->addWidget(datumLabel);
+    row->addWidget(datumBox);
+    row->addSpacing(6);
+    row->addWidget(toleranceLabel);
+    row->addWidget(toleranceBox);
     row->addStretch();
     qobject_cast<QGridLayout*>(layout())->addLayout(row, 3, 0);
     connect(datumBox, SIGNAL(currentIndexChanged(int)), this, SLOT(_onDatumChanged()));

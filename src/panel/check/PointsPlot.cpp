@@ -101,7 +101,7 @@ void ResidualItem::drawBar(QPainter* painter, double pixelsPerMetre, const QRect
     const double unit = LengthUnit::metres();
     const double residual = roundedDown(vectorShare * canvas.width() / (pixelsPerMetre * factor) / unit) * unit;
     const double pixels = residual * pixelsPerMetre * factor;
-    const QString text = barText(residual);
+    const QString text = barText(residual) + QString(" (×%1)").arg(factor, 0, 'g', 6);
     const QRectF words = QFontMetricsF(painter->font()).boundingRect(text);
     const QPointF start(canvas.left() + 8.0, canvas.bottom() - 8.0);
     painter->setPen(Qt::NoPen);
@@ -200,8 +200,12 @@ void PointsPlot::showPoints(const PointTable& table, double tolerance) {
     if (reference > 1e-6)
         item->factor = roundedDown(vectorShare * metresPerPixel * std::min(size.width(), size.height()) / reference);
     const double unit = LengthUnit::metres();
-    setAxisTitle(xBottom, PanelText::tr("Easting, %1").arg(LengthUnit::symbol()));
-    setAxisTitle(yLeft, PanelText::tr("Northing, %1").arg(LengthUnit::symbol()));
+    for (const int axis : {xBottom, yLeft}) {
+        const QString title = axis == xBottom ? PanelText::tr("Easting, %1") : PanelText::tr("Northing, %1");
+        QwtText small(title.arg(LengthUnit::symbol()));
+        small.setFont(font());
+        setAxisTitle(axis, small);
+    }
     setAxisScale(xBottom, corner.easting / unit, (corner.easting + metresPerPixel * size.width()) / unit);
     setAxisScale(yLeft, corner.northing / unit, (corner.northing + metresPerPixel * size.height()) / unit);
     setSelected(item->selected);
