@@ -3,21 +3,31 @@
 // takes of memory beside the 2.5 times of its numbers.
 //   bench_points [COUNT]
 
+#include "catalogue/DictionaryGuard.h"
+#include "panel/check/PointsPane.h"
+#include "panel/check/SlicedWork.h"
 #include "panel/computing/DuplicateNames.h"
 #include "panel/computing/PointReader.h"
 #include "panel/computing/PointStatistics.h"
 #include "panel/computing/PointWriter.h"
+#include "panel/computing/ShownSystem.h"
 #include "platform/projection/IProjectionModule.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QDialog>
+#include <QDoubleSpinBox>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
+#include <QTableView>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
+#include <functional>
 #include <limits>
 
 namespace {
@@ -55,11 +65,13 @@ double ours(const QString& source, const QString& target) {
         QFile in(source), out(target);
         if (!in.open(QIODevice::ReadOnly) || !out.open(QIODevice::WriteOnly))
             qFatal("Can't open the points.");
-        PointTable table;
-        PointReader reader(PointLayout::guess(PointReader::decodedHead(in.peek(65536))), 1.0, table);
+        PointTable given, table;
+        PointReader reader(PointLayout::guess(PointReader::decodedHead(in.peek(65536))), 1.0, given);
         while (!in.atEnd())
             reader.add(in.read(32768));
         reader.finish();
+        for (std::size_t part = 0; table.join({}, given, part); ++part) {
+        }
         const double read = seconds(timer);
         table.compute(0, table.size(), system.get(), CheckPoint::Datum::Own);
         DuplicateNames names(table);
@@ -123,6 +135,83 @@ double largestDifference(const QString& own, const QString& other) {
     return largest;
 }
 
+/// Runs the window's events until `isDone`, and gives the longest time in milliseconds that it did not answer.
+double longestBlock(const std::function<bool()>& isDone) {
+    double longest = 0.0;
+    QElapsedTimer timer, all;
+    all.start();
+    while (!isDone() && all.elapsed() < 120000) {
+        timer.start();
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 0);
+        longest = std::max(longest, double(timer.nsecsElapsed()) / 1e6);
+    }
+    return longest;
+}
+
+/// The page "Points" with that file: how long it hangs while it reads and computes, is scrolled, and changes.
+void measureWindow(const QString& path) {
+    const DictionaryGuard record;
+    const char* const values[][2] = {{"ellipsoid_a", "6377563.396"},
+                                     {"ellipsoid_f", "299.3249646"},
+                                     {"project_type", "1"},
+                                     {"org_lat", "49"},
+                                     {"org_lon", "-2"},
+                                     {"factor", "0.9996012717"},
+                                     {"false_east", "400000"},
+                                     {"false_north", "-100000"}};
+    for (const auto& value : values)
+        record->setText(value[0], value[1]);
+    PointsPane pane;
+    pane.setSystem(ShownSystem::of(*record, nullptr));
+    pane.resize(800, 600);
+    pane.show();
+    auto* work = pane.findChild<SlicedWork*>();
+    auto* table = pane.findChild<QTableView*>();
+    QTimer::singleShot(300, [] {
+        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+            dialog->accept();
+    });
+    QElapsedTimer timer;
+    timer.start();
+    pane.read(path);
+    double block = longestBlock([&] { return !work->isRunning(); });
+    std::printf("in the window: %zu points after %.2f s, hangs for %.0f ms at most\n", pane.points().size(),
+                seconds(timer), block);
+    double longest = 0.0;
+    for (int i = 0; i < 200; ++i) {
+        QElapsedTimer frame;
+        frame.start();
+        table->scrollTo(table->model()->index((i * 7919) % table->model()->rowCount(), 0));
+        table->grab();
+        longest = std::max(longest, double(frame.nsecsElapsed()) / 1e6);
+    }
+    std::printf("scrolled: %.1f ms a frame at most\n", longest);
+    const auto change = [&](const char* what, const std::function<void()>& act) {
+        QElapsedTimer acting;
+        acting.start();
+        act();
+        const double first = double(acting.nsecsElapsed()) / 1e6;
+        block = longestBlock([&] { return !work->isRunning() && acting.elapsed() > 50; });
+        std::printf("%s: hangs for %.0f ms at most\n", what, std::max(first, block));
+    };
+    change("left out",
+           [&] { table->model()->setData(table->model()->index(5, 0), Qt::Unchecked, Qt::CheckStateRole); });
+    change("tolerance", [&] { pane.findChild<QDoubleSpinBox*>()->setValue(0.1); });
+    change("typed", [&] { table->model()->setData(table->model()->index(5, 1), "51", Qt::EditRole); });
+    change("resized", [&] { pane.resize(900, 700); });
+    change("all selected", [&] { table->selectAll(); });
+    change("copied", [&] { QMetaObject::invokeMethod(&pane, "_onCopy"); });
+    change("saved", [&] { pane.save(path + ".saved", true); });
+    change("a row deleted", [&] {
+        table->selectRow(7);
+        QMetaObject::invokeMethod(&pane, "_onDelete");
+    });
+    change("pasted again", [&] {
+        QTimer::singleShot(300, [] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->accept(); });
+        pane.read(path);
+    });
+}
+
 void compare(const char* name, double own, double other, double difference) {
     if (other > 0.0)
         std::printf("%s %.2f s: %.2f times as long (limit %.1f), figures differ by %.4f m at most\n", name, other,
@@ -134,7 +223,9 @@ void compare(const char* name, double own, double other, double difference) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const QCoreApplication application(argc, argv);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
     const int count = argc > 1 ? atoi(argv[1]) : 1000000;
     const QTemporaryDir folder;
     const QString table = folder.filePath("points.csv"), plain = folder.filePath("points.txt");
@@ -147,5 +238,6 @@ int main(int argc, char** argv) {
     const QStringList geographic{"+proj=longlat", "+a=6377563.396", "+rf=299.3249646", "+to"};
     const double cs2cs = theirs("cs2cs", QStringList{"-f", "%.4f"} + geographic + items, plain, result);
     compare("cs2cs", own, cs2cs, largestDifference(ownResult, result));
+    measureWindow(table);
     return 0;
 }

@@ -64,21 +64,13 @@ std::optional<double> typedNumber(const QString& text, PointColumn column, QStri
 PointsModel::PointsModel(QObject* parent) : QAbstractTableModel(parent) {
 }
 
-void PointsModel::append(PointTable&& added) {
+void PointsModel::replace(PointTable&& points) {
     beginResetModel();
-    if (table.isEmpty())
-        table = std::move(added);
-    else
-        table.append(added);
+    table = std::move(points);
     endResetModel();
 }
 
-void PointsModel::remove(const QModelIndexList& rows) {
-    std::vector<bool> marked(table.size());
-    for (const QModelIndex& index : rows) {
-        if (std::size_t(index.row()) < table.size())
-            marked[std::size_t(index.row())] = true;
-    }
+void PointsModel::remove(const std::vector<bool>& marked) {
     beginResetModel();
     table.remove(marked);
     endResetModel();
@@ -213,6 +205,8 @@ QVariant PointsModel::headerData(int section, Qt::Orientation orientation, int r
 
 Qt::ItemFlags PointsModel::flags(const QModelIndex& index) const {
     Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    if (isLocked)
+        return flags;
     if (index.column() <= Northing)
         flags |= Qt::ItemIsEditable;
     if (index.column() == Name && index.row() < int(table.size()))

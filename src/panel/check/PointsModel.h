@@ -33,10 +33,12 @@ public:
     /// For computing only: rows, names and what was given stay. refresh() shows what came of it.
     PointTable& computed() { return table; }
 
-    /// The rows before what the change was are as they were.
-    void append(PointTable&& added);
-    void remove(const QModelIndexList& rows);
+    void replace(PointTable&& points);
+    void remove(const std::vector<bool>& marked);
     void clear();
+
+    /// Whether nothing can be typed for now.
+    void setLocked(bool lock) { isLocked = lock; }
 
     /// Metres.
     void setTolerance(double metres);
@@ -70,5 +72,6 @@ private:
     std::size_t writableRow(int row);
 
     PointTable table;
+    bool isLocked = false;
     double toleranceMetres = 0.05;
 };

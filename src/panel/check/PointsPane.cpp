@@ -32,7 +32,9 @@
 #include <QTableView>
 #include <QToolButton>
 
+#include <chrono>
 #include <cmath>
+#include <future>
 
 namespace {
 
@@ -208,14 +210,22 @@ void PointsPane::setSystem(const std::shared_ptr<const ShownSystem>& shown) {
     if (isSame)
         return;
     isStale = true;
-    if (isVisible())
-        recompute();
+    catchUp();
 }
 
 void PointsPane::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    if (isStale && !work->isRunning())
+    catchUp();
+}
+
+/// Does what had to wait, if it can be done now.
+void PointsPane::catchUp() {
+    if (!isVisible() || isKept())
+        return;
+    if (isStale)
         recompute();
+    else if (isUncounted)
+        showResults();
 }
 
 void PointsPane::showNotation() {
@@ -236,42 +246,52 @@ void PointsPane::say(const QString& text, bool isError) {
     message->setMessage(text, isError ? MessageLine::Tone::Error : MessageLine::Tone::Hint);
 }
 
-void PointsPane::begin(const QString& what, const std::function<double()>& piece, const std::function<void()>& done) {
-    workName = what;
+void PointsPane::begin(Task newTask, const QString& what, const std::function<double()>& piece,
+                       const std::function<void()>& done) {
+    task = newTask;
+    taskName = what;
+    taskTime.start();
     progress->setFormat(what + " %p %");
     progress->setValue(0);
-    for (QWidget* widget : {static_cast<QWidget*>(progress), static_cast<QWidget*>(cancelButton)})
-        widget->show();
-    // What is shown can be looked at meanwhile, but must not change.
-    for (QWidget* widget :
-         {static_cast<QWidget*>(openButton), static_cast<QWidget*>(pasteButton), static_cast<QWidget*>(saveButton),
-          static_cast<QWidget*>(deleteButton), static_cast<QWidget*>(clearButton), static_cast<QWidget*>(datumBox)})
-        widget->setEnabled(false);
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // While it is counted, anything can be changed: it is counted anew then.
+    lock(task != Task::Counting);
     work->start(piece, done);
+}
+
+void PointsPane::lock(bool isLocked) {
+    const bool isAnything = !points().isEmpty();
+    model->setLocked(isLocked);
+    for (QToolButton* button : {openButton, pasteButton})
+        button->setEnabled(!isLocked);
+    for (QToolButton* button : {copyButton, saveButton, deleteButton, clearButton})
+        button->setEnabled(!isLocked && isAnything);
+    datumBox->setEnabled(!isLocked);
 }
 
 void PointsPane::_onProgressed(double part) {
     progress->setValue(int(part * 1000.0));
+    // What is done in a moment is not worth a bar that comes and goes.
+    constexpr int patience = 250;
+    if (taskTime.elapsed() > patience && task != Task::None) {
+        progress->show();
+        cancelButton->show();
+    }
 }
 
 void PointsPane::_onWorkEnded() {
+    task = Task::None;
     progress->hide();
     cancelButton->hide();
-    const bool isAnything = !points().isEmpty();
-    for (QToolButton* button : {openButton, pasteButton})
-        button->setEnabled(true);
-    for (QToolButton* button : {copyButton, saveButton, deleteButton, clearButton})
-        button->setEnabled(isAnything);
-    datumBox->setEnabled(true);
-    table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
-                           QAbstractItemView::AnyKeyPressed);
+    lock(false);
+    catchUp();
 }
 
 void PointsPane::_onCancel() {
+    say(PanelText::tr("Cancelled: %1").arg(taskName));
+    const bool isComputing = task == Task::Computing;
     work->cancel();
-    say(PanelText::tr("Cancelled: %1").arg(workName));
-    showResults();
+    if (isComputing)
+        showResults();
 }
 
 void PointsPane::_onOpen() {
@@ -281,7 +301,10 @@ void PointsPane::_onOpen() {
     dialog.setFileMode(QFileDialog::ExistingFile);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return;
-    const QString path = dialog.selectedFiles().first();
+    read(dialog.selectedFiles().first());
+}
+
+void PointsPane::read(const QString& path) {
     auto file = std::make_unique<QFile>(path);
     const QString name = QFileInfo(path).fileName();
     if (!file->open(QIODevice::ReadOnly))
@@ -306,85 +329,133 @@ void PointsPane::read(std::unique_ptr<QIODevice> source, const QString& name) {
         return;
     struct Reading {
         std::unique_ptr<QIODevice> source;
-        PointTable table;
+        std::shared_ptr<PointTable> table = std::make_shared<PointTable>();
         std::unique_ptr<PointReader> reader;
     };
     const auto reading = std::make_shared<Reading>();
     reading->source = std::move(source);
     reading->reader =
-        std::make_unique<PointReader>(dialog.pointLayout(), LengthUnit::metres(dialog.unit()), reading->table);
+        std::make_unique<PointReader>(dialog.pointLayout(), LengthUnit::metres(dialog.unit()), *reading->table);
     const auto piece = [this, reading, name] {
         QIODevice& from = *reading->source;
         const QByteArray bytes = from.read(bytesPerPiece);
         reading->reader->add(bytes);
-        if (reading->table.isFull()) {
-            work->cancel();
+        if (reading->table->isFull()) {
             say(PanelText::tr("%1 has too many points; nothing of it is taken.").arg(name), true);
+            work->cancel();
             return 1.0;
         }
         if (bytes.isEmpty() || from.atEnd())
             return 1.0;
         return from.size() > 0 ? 0.999 * double(from.pos()) / double(from.size()) : 0.0;
     };
-    begin(PanelText::tr("Reading"), piece, [this, reading, name] {
+    begin(Task::Reading, PanelText::tr("Reading"), piece, [this, reading, name] {
         const auto* file = qobject_cast<const QFile*>(reading->source.get());
         const QString error = file && file->error() != QFile::NoError ? file->errorString() : QString();
         reading->reader->finish();
-        const std::size_t count = reading->table.size();
-        model->append(std::move(reading->table));
         if (error.isEmpty())
-            say(PanelText::tr("%1: %2 rows read.").arg(name).arg(count));
+            say(PanelText::tr("%1: %2 rows read.").arg(name).arg(reading->table->size()));
         else
             say(PanelText::tr("%1 can't be read to its end: %2").arg(name, error), true);
-        recompute();
+        join(reading->table);
     });
 }
 
-/// Computes all points, few at once, many in slices; then their names are compared, and all is shown.
-void PointsPane::recompute() {
-    const IProjectedSystem* const projection = system ? system->projection() : nullptr;
-    isStale = false;
+/// Adds points behind those that are there.
+void PointsPane::join(const std::shared_ptr<PointTable>& added) {
+    const auto both = std::make_shared<PointTable>();
+    const auto part = std::make_shared<std::size_t>(0);
+    const auto piece = [this, added, both, part] { return both->join(points(), *added, (*part)++) ? 0.5 : 1.0; };
+    const auto done = [this, both] {
+        model->replace(std::move(*both));
+        task = Task::None;
+        recompute();
+    };
+    if (points().size() + added->size() > rowsAtOnce)
+        return begin(Task::Reading, PanelText::tr("Reading"), piece, done);
+    while (piece() < 1.0) {
+    }
+    done();
+}
+
+void PointsPane::forAllRows(Task forTask, const QString& what,
+                            const std::function<void(std::size_t, std::size_t)>& rows,
+                            const std::function<void()>& done) {
     if (points().size() <= rowsAtOnce) {
-        model->computed().compute(0, points().size(), projection, datum());
-        findDuplicates();
+        work->cancel();
+        rows(0, points().size());
+        return done();
+    }
+    const auto next = std::make_shared<std::size_t>(0);
+    begin(
+        forTask, what,
+        [this, rows, next] {
+            const std::size_t last = std::min(*next + rowsPerPiece, points().size());
+            rows(*next, last);
+            *next = last;
+            return double(last) / double(points().size());
+        },
+        done);
+}
+
+void PointsPane::recompute() {
+    if (isKept()) {
+        isStale = true;
         return;
     }
+    isStale = false;
+    isUncounted = true;
+    // No figure of another system stays until its row is reached.
+    model->computed().compute(0, points().size(), nullptr, datum());
     const auto shown = system; // as long as it is computed with
-    const auto next = std::make_shared<std::size_t>(0);
-    // Cut short, the rest would show what another system made of it.
-    isStale = true;
-    begin(
-        PanelText::tr("Computing"),
-        [this, shown, next] {
-            const std::size_t last = std::min(*next + rowsPerPiece, points().size());
-            model->computed().compute(*next, last, shown ? shown->projection() : nullptr, datum());
-            *next = last;
-            return points().isEmpty() ? 1.0 : double(last) / double(points().size());
+    forAllRows(
+        Task::Computing, PanelText::tr("Computing"),
+        [this, shown](std::size_t first, std::size_t last) {
+            model->computed().compute(first, last, shown ? shown->projection() : nullptr, datum());
         },
-        [this] {
-            isStale = false;
-            findDuplicates();
-        });
+        [this] { findDuplicates(); });
 }
 
 void PointsPane::findDuplicates() {
     const auto names = std::make_shared<DuplicateNames>(model->computed());
-    if (points().size() <= rowsAtOnce) {
-        names->mark(points().size());
-        showResults();
-        _onWorkEnded();
-        return;
-    }
-    begin(
-        PanelText::tr("Comparing names"), [names] { return names->mark(rowsPerPiece) ? 0.5 : 1.0; },
-        [this] { showResults(); });
+    forAllRows(
+        Task::Computing, PanelText::tr("Comparing names"),
+        [names](std::size_t first, std::size_t last) { names->mark(last - first); },
+        [this] {
+            task = Task::None;
+            showResults();
+        });
 }
 
+/// Counts and draws all; now, or when what is going on has ended.
 void PointsPane::showResults() {
-    const PointStatistics statistics = PointStatistics::of(points(), model->tolerance());
-    showFigures(statistics);
-    model->refresh();
-    plot->showPoints(points(), model->tolerance());
+    isUncounted = true;
+    if (!isVisible() || (task != Task::None && task != Task::Counting))
+        return;
+    const auto statistics = std::make_shared<PointStatistics>();
+    const auto draw = [this, statistics] {
+        plot->begin(statistics->lowest, statistics->highest, model->tolerance());
+        forAllRows(
+            Task::Counting, PanelText::tr("Drawing"),
+            [this](std::size_t first, std::size_t last) { plot->add(points(), first, last); },
+            [this] {
+                plot->finish();
+                isUncounted = false;
+                task = Task::None;
+                lock(false);
+            });
+    };
+    forAllRows(
+        Task::Counting, PanelText::tr("Counting"),
+        [this, statistics](std::size_t first, std::size_t last) {
+            statistics->add(points(), first, last, model->tolerance());
+        },
+        [this, statistics, draw] {
+            statistics->finish();
+            showFigures(*statistics);
+            model->refresh();
+            draw();
+        });
 }
 
 void PointsPane::showFigures(const PointStatistics& statistics) {
@@ -460,33 +531,51 @@ void PointsPane::_onPointed(int row) {
 }
 
 void PointsPane::_onPlotResized() {
-    plot->showPoints(points(), model->tolerance());
+    showResults();
+}
+
+/// For each row, whether it is selected; all are where none is.
+std::vector<bool> PointsPane::selectedRows() const {
+    const bool isAny = table->selectionModel()->hasSelection();
+    std::vector<bool> marked(points().size(), !isAny);
+    for (const QItemSelectionRange& range : table->selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom() && std::size_t(row) < marked.size(); ++row)
+            marked[std::size_t(row)] = true;
+    }
+    return marked;
 }
 
 void PointsPane::_onCopy() {
-    const QModelIndexList rows = table->selectionModel()->selectedRows();
-    const PointWriter writer(points(), '\t', PointWriter::Digits::AsShown, LengthUnit::metres());
-    std::string text = writer.heading().toStdString();
-    std::size_t count = 0;
-    const auto add = [&](std::size_t row) {
-        if (row >= points().size() || count == mostCopied)
-            return;
-        writer.write(row, text);
-        ++count;
+    struct Copying {
+        std::vector<bool> rows;
+        PointWriter writer;
+        std::string text;
+        std::size_t count = 0;
+        bool isCut = false;
     };
-    if (rows.isEmpty()) {
-        for (std::size_t row = 0; row < std::min(points().size(), mostCopied); ++row)
-            add(row);
-    } else {
-        for (const QModelIndex& index : rows)
-            add(std::size_t(index.row()));
-    }
-    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
-    const std::size_t wanted = rows.isEmpty() ? points().size() : std::size_t(rows.size());
-    if (count == mostCopied && wanted > count)
-        say(PanelText::tr("Only the first %1 rows are copied. Save all as CSV.").arg(count), true);
-    else
-        say(PanelText::tr("%1 rows copied.").arg(count));
+    const std::shared_ptr<Copying> copying(
+        new Copying{selectedRows(), {points(), '\t', PointWriter::Digits::AsShown, LengthUnit::metres()}, {}});
+    copying->text = copying->writer.heading().toStdString();
+    forAllRows(
+        Task::Copying, PanelText::tr("Copying"),
+        [copying](std::size_t first, std::size_t last) {
+            for (std::size_t row = first; row < last; ++row) {
+                if (!copying->rows[row])
+                    continue;
+                copying->isCut = copying->count == mostCopied;
+                if (copying->isCut)
+                    return;
+                copying->writer.write(row, copying->text);
+                ++copying->count;
+            }
+        },
+        [this, copying] {
+            QGuiApplication::clipboard()->setText(QString::fromStdString(copying->text));
+            if (copying->isCut)
+                say(PanelText::tr("Only the first %1 rows are copied. Save all as CSV.").arg(copying->count), true);
+            else
+                say(PanelText::tr("%1 rows copied.").arg(copying->count));
+        });
 }
 
 void PointsPane::_onSave() {
@@ -504,10 +593,13 @@ void PointsPane::save(const QString& path, bool isFull) {
         QSaveFile file;
         PointWriter writer;
         std::size_t next = 0;
+        std::future<bool> committed; ///< to the disk, which may take its time
     };
     const std::shared_ptr<Saving> saving(new Saving{
         QSaveFile(path),
-        {points(), ',', isFull ? PointWriter::Digits::Full : PointWriter::Digits::AsShown, LengthUnit::metres()}});
+        {points(), ',', isFull ? PointWriter::Digits::Full : PointWriter::Digits::AsShown, LengthUnit::metres()},
+        0,
+        {}});
     const auto failed = [this, saving, path] {
         say(PanelText::tr("%1 can't be saved: %2").arg(QFileInfo(path).fileName(), saving->file.errorString()), true);
     };
@@ -515,21 +607,26 @@ void PointsPane::save(const QString& path, bool isFull) {
     if (!saving->file.open(QIODevice::WriteOnly) || saving->file.write("\xef\xbb\xbf" + saving->writer.heading()) < 0)
         return failed();
     begin(
-        PanelText::tr("Saving"),
+        Task::Saving, PanelText::tr("Saving"),
         [this, saving, failed] {
+            if (saving->committed.valid())
+                return saving->committed.wait_for(std::chrono::milliseconds(5)) == std::future_status::ready ? 1.0
+                                                                                                             : 0.99;
             std::string text;
             const std::size_t last = std::min(saving->next + rowsPerPiece, points().size());
             for (; saving->next < last; ++saving->next)
                 saving->writer.write(saving->next, text);
             if (saving->file.write(text.data(), qint64(text.size())) < 0) {
-                work->cancel();
                 failed();
+                work->cancel();
                 return 1.0;
             }
-            return double(last) / double(points().size());
+            if (last == points().size())
+                saving->committed = std::async(std::launch::async, [saving] { return saving->file.commit(); });
+            return 0.99 * double(last) / double(points().size());
         },
         [this, saving, failed, path] {
-            if (saving->file.commit())
+            if (saving->committed.get())
                 say(PanelText::tr("%1: %2 rows saved.").arg(QFileInfo(path).fileName()).arg(points().size()));
             else
                 failed();
@@ -537,11 +634,11 @@ void PointsPane::save(const QString& path, bool isFull) {
 }
 
 void PointsPane::_onDelete() {
-    const QModelIndexList rows = table->selectionModel()->selectedRows();
-    if (rows.isEmpty())
+    if (!table->selectionModel()->hasSelection())
         return say(PanelText::tr("No row is selected."));
     const std::size_t before = points().size();
-    model->remove(rows);
+    work->cancel();
+    model->remove(selectedRows());
     say(PanelText::tr("%1 rows deleted.").arg(before - points().size()));
     findDuplicates();
 }
@@ -550,6 +647,7 @@ void PointsPane::_onClear() {
     if (!VornMessageBox::information(this, PanelText::tr("Clear"),
                                      PanelText::tr("Remove all %1 points from the table?").arg(points().size())))
         return;
+    work->cancel();
     model->clear();
     say(QString());
     recompute();

@@ -2,11 +2,13 @@
 
 #include "panel/computing/CheckPoint.h"
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 #include <array>
 #include <functional>
 #include <memory>
+#include <vector>
 
 class ChoiceBox;
 class MessageLine;
@@ -41,6 +43,12 @@ public:
 
     const PointTable& points() const;
 
+    /// Asks for the columns of a file and reads it; with a message where it can't.
+    void read(const QString& path);
+
+    /// Writes all points to a file, with all digits or as shown.
+    void save(const QString& path, bool isFull);
+
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -74,13 +82,26 @@ private:
     void buildFigures();
     QToolButton* newButton(const QString& text, const char* slot);
 
+    /// What is going on in slices. While there is reading, saving or copying, the table stays as it is.
+    enum class Task { None, Reading, Computing, Counting, Saving, Copying };
+
     /// Reads points from what was opened or pasted, whose name is for messages.
     void read(std::unique_ptr<QIODevice> source, const QString& name);
-    void begin(const QString& what, const std::function<double()>& piece, const std::function<void()>& done);
-    void save(const QString& path, bool isFull);
+    void join(const std::shared_ptr<PointTable>& added);
+    void begin(Task task, const QString& what, const std::function<double()>& piece, const std::function<void()>& done);
+    void lock(bool isLocked);
+    bool isKept() const { return task == Task::Reading || task == Task::Saving || task == Task::Copying; }
+
+    /// Does work on all rows, few at once, many in slices.
+    void forAllRows(Task forTask, const QString& what, const std::function<void(std::size_t, std::size_t)>& rows,
+                    const std::function<void()>& done);
+
+    /// Computes all points; then their names are compared, and all is shown.
     void recompute();
+    void catchUp();
     void findDuplicates();
     void showResults();
+    std::vector<bool> selectedRows() const;
     void showFigures(const PointStatistics& statistics);
     void showTolerance();
     void say(const QString& text, bool isError = false);
@@ -88,10 +109,13 @@ private:
     QString lengthText(double metres) const;
 
     std::shared_ptr<const ShownSystem> system;
-    bool isStale = true; ///< the system, or the datum, is another since the points were computed
+    bool isStale = true;      ///< the system, or the datum, is another since the points were computed
+    bool isUncounted = false; ///< the statistics and the picture are to be made anew
 
     SlicedWork* work;
-    QString workName;
+    Task task = Task::None;
+    QString taskName;
+    QElapsedTimer taskTime;
     PointsModel* model;
     QTableView* table;
     PointsPlot* plot;

@@ -15,7 +15,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace {
 
@@ -140,74 +139,80 @@ const QVector<PointsPlot::Mark>& PointsPlot::marks() const {
     return item->marks;
 }
 
-void PointsPlot::showPoints(const PointTable& table, double tolerance) {
-    GridPoint low{std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity()};
-    GridPoint high{-low.easting, -low.northing};
-    for (std::size_t row = 0; row < table.size(); ++row) {
-        const GridPoint place = table.grid(row);
-        if (std::isnan(place.easting) || std::isnan(place.northing))
-            continue;
-        low = {std::min(low.easting, place.easting), std::min(low.northing, place.northing)};
-        high = {std::max(high.easting, place.easting), std::max(high.northing, place.northing)};
-    }
-    item->marks.clear();
-    item->factor = 0.0;
-    const bool isAnything = low.easting <= high.easting;
-    for (const int axis : {xBottom, yLeft})
-        enableAxis(axis, isAnything);
-    if (!isAnything) {
-        setSelected(-1);
-        replot();
+void PointsPlot::begin(const GridPoint& lowest, const GridPoint& highest, double newTolerance) {
+    constexpr double least = 10.0, margin = 1.15; // metres across, and room around the outermost points
+    tolerance = newTolerance;
+    longest = longestSound = 0.0;
+    cells.clear();
+    weights.clear();
+    if (lowest.easting > highest.easting)
         return;
-    }
-    const QSize size = canvas()->contentsRect().size().expandedTo(QSize(pixelsPerCell, pixelsPerCell));
-    const double metresPerPixel = std::max({(high.easting - low.easting) / size.width(),
-                                            (high.northing - low.northing) / size.height(), 10.0 / size.width()}) *
-                                  1.15;
-    const GridPoint middle{(low.easting + high.easting) / 2.0, (low.northing + high.northing) / 2.0};
-    const GridPoint corner{middle.easting - metresPerPixel * size.width() / 2.0,
-                           middle.northing - metresPerPixel * size.height() / 2.0};
-    const int columns = size.width() / pixelsPerCell + 1, rows = size.height() / pixelsPerCell + 1;
-    std::vector<Mark> cells(std::size_t(columns) * std::size_t(rows), Mark{0, {}, {-1.0, 0.0}, false, false});
-    std::vector<double> largest(cells.size(), -2.0);
-    double longest = 0.0, longestSound = 0.0;
-    for (std::size_t row = 0; row < table.size(); ++row) {
+    sizeBefore = size;
+    size = canvas()->contentsRect().size().expandedTo(QSize(pixelsPerCell, pixelsPerCell));
+    metresPerPixel = margin * std::max({(highest.easting - lowest.easting) / size.width(),
+                                        (highest.northing - lowest.northing) / size.height(), least / size.width()});
+    lower = {(lowest.easting + highest.easting - metresPerPixel * size.width()) / 2.0,
+             (lowest.northing + highest.northing - metresPerPixel * size.height()) / 2.0};
+    const QSize count = size / pixelsPerCell + QSize(1, 1);
+    cells.resize(std::size_t(count.width()) * std::size_t(count.height()));
+    weights.assign(cells.size(), -1.0);
+}
+
+void PointsPlot::add(const PointTable& table, std::size_t first, std::size_t last) {
+    const int columns = size.width() / pixelsPerCell + 1;
+    for (std::size_t row = first; row < last && !cells.empty(); ++row) {
         const GridPoint place = table.grid(row);
         if (std::isnan(place.easting) || std::isnan(place.northing))
             continue;
-        const auto column = std::size_t((place.easting - corner.easting) / metresPerPixel / pixelsPerCell);
-        const auto line = std::size_t((place.northing - corner.northing) / metresPerPixel / pixelsPerCell);
-        const std::size_t cell = line * std::size_t(columns) + column;
+        const double cellSize = metresPerPixel * pixelsPerCell;
+        const double column = std::floor((place.easting - lower.easting) / cellSize);
+        const double line = std::floor((place.northing - lower.northing) / cellSize);
+        const double cell = line * columns + column;
+        if (!(column >= 0.0 && column < columns && cell >= 0.0 && cell < double(cells.size())))
+            continue;
+        const bool isUsed = table.isUsed(row);
         const GridPoint difference = table.difference(row);
         const double distance = length(difference);
-        const double weight = std::isnan(distance) ? -1.0 : table.isUsed(row) ? distance : 0.0;
-        if (table.isUsed(row) && !std::isnan(distance)) {
+        if (isUsed && !std::isnan(distance)) {
             longest = std::max(longest, distance);
             if (distance <= tolerance)
                 longestSound = std::max(longestSound, distance);
         }
-        if (cell < cells.size() && weight > largest[cell]) {
-            largest[cell] = weight;
-            cells[cell] = {row, place, difference, table.isUsed(row), distance > tolerance};
+        const double weight = std::isnan(distance) || !isUsed ? 0.0 : distance;
+        if (weight > weights[std::size_t(cell)]) {
+            weights[std::size_t(cell)] = weight;
+            cells[std::size_t(cell)] = {row, place, difference, isUsed, distance > tolerance};
         }
     }
+}
+
+void PointsPlot::finish() {
+    item->marks.clear();
+    item->factor = 0.0;
     for (std::size_t cell = 0; cell < cells.size(); ++cell) {
-        if (largest[cell] > -2.0)
+        if (weights[cell] >= 0.0)
             item->marks.append(cells[cell]);
     }
-    const double reference = longestSound > 0.0 ? longestSound : longest;
-    // Below a micrometre lies the noise of the computation.
-    if (reference > 1e-6)
-        item->factor = roundedDown(vectorShare * metresPerPixel * std::min(size.width(), size.height()) / reference);
-    const double unit = LengthUnit::metres();
+    for (const int axis : {xBottom, yLeft})
+        enableAxis(axis, !cells.empty());
+    if (!cells.empty()) {
+        const double reference = longestSound > 0.0 ? longestSound : longest;
+        // Below a micrometre lies the noise of the computation.
+        if (reference > 1e-6)
+            item->factor =
+                roundedDown(vectorShare * metresPerPixel * std::min(size.width(), size.height()) / reference);
+        const double unit = LengthUnit::metres();
+        const GridPoint upper{lower.easting + metresPerPixel * size.width(),
+                              lower.northing + metresPerPixel * size.height()};
+        setAxisScale(xBottom, lower.easting / unit, upper.easting / unit);
+        setAxisScale(yLeft, lower.northing / unit, upper.northing / unit);
+    }
     for (const int axis : {xBottom, yLeft}) {
         const QString title = axis == xBottom ? PanelText::tr("Easting, %1") : PanelText::tr("Northing, %1");
         QwtText small(title.arg(LengthUnit::symbol()));
         small.setFont(font());
         setAxisTitle(axis, small);
     }
-    setAxisScale(xBottom, corner.easting / unit, (corner.easting + metresPerPixel * size.width()) / unit);
-    setAxisScale(yLeft, corner.northing / unit, (corner.northing + metresPerPixel * size.height()) / unit);
     setSelected(item->selected);
 }
 
@@ -239,6 +244,12 @@ int PointsPlot::rowAt(const QPoint& pixel) const {
 
 bool PointsPlot::eventFilter(QObject* object, QEvent* event) {
     if (object == canvas()) {
+        // The axes' numbers have another width than before. Where two shapes make each other needed, one will do.
+        if (event->type() == QEvent::Resize) {
+            const QSize now = canvas()->contentsRect().size();
+            if (now != size && now != sizeBefore)
+                Q_EMIT resized();
+        }
         if (event->type() == QEvent::MouseMove)
             Q_EMIT pointed(rowAt(static_cast<QMouseEvent*>(event)->pos()));
         else if (event->type() == QEvent::Leave)

@@ -28,8 +28,14 @@ public:
 
     explicit PointsPlot(QWidget* parent = nullptr);
 
-    /// Draws the points of `table`; `tolerance` in metres.
-    void showPoints(const PointTable& table, double tolerance);
+    /// Begins a new picture, of points that lie between two corners of the grid; `tolerance` in metres. The one shown
+    /// stays until finish().
+    void begin(const GridPoint& lowest, const GridPoint& highest, double tolerance);
+
+    /// Adds the rows from `first` to before `last`.
+    void add(const PointTable& table, std::size_t first, std::size_t last);
+
+    void finish();
 
     /// Rings one row's point, or none for -1.
     void setSelected(int row);
@@ -54,4 +60,15 @@ private:
     int rowAt(const QPoint& pixel) const;
 
     ResidualItem* item;
+
+    // Of the picture that is being made:
+    QSize size;       ///< of the canvas
+    QSize sizeBefore; ///< of the canvas in the picture before
+    GridPoint lower;  ///< the canvas's south-western corner
+    double metresPerPixel = 0.0;
+    double tolerance = 0.0;
+    double longest = 0.0;      ///< residual of a point in use
+    double longestSound = 0.0; ///< of one within the tolerance
+    std::vector<Mark> cells;
+    std::vector<double> weights; ///< of the cells' points; negative where there is none
 };

@@ -98,7 +98,6 @@ void PointReader::finish() {
     if (isStart)
         addStart();
     endLine();
-    table.squeeze();
 }
 
 bool PointReader::readNumber(PointColumn column, std::string_view text, double* value) const {

@@ -1,10 +1,11 @@
 #include "panel/computing/PointStatistics.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
 
-void add(PointStatistics::Figures& figures, double value) {
+void addTo(PointStatistics::Figures& figures, double value) {
     figures.mean += value;
     figures.rms += value * value;
     if (std::abs(value) > std::abs(figures.largest))
@@ -20,26 +21,39 @@ void divide(PointStatistics::Figures& figures, std::size_t count) {
 
 PointStatistics PointStatistics::of(const PointTable& table, double tolerance) {
     PointStatistics statistics;
-    for (std::size_t row = 0; row < table.size(); ++row) {
-        statistics.problems += table.hasProblem(row);
-        statistics.duplicates += table.isDuplicate(row);
+    statistics.add(table, 0, table.size(), tolerance);
+    statistics.finish();
+    return statistics;
+}
+
+void PointStatistics::add(const PointTable& table, std::size_t first, std::size_t last, double tolerance) {
+    for (std::size_t row = first; row < last; ++row) {
+        problems += table.hasProblem(row);
+        duplicates += table.isDuplicate(row);
+        const GridPoint place = table.grid(row);
+        if (!std::isnan(place.easting) && !std::isnan(place.northing)) {
+            lowest = {std::min(lowest.easting, place.easting), std::min(lowest.northing, place.northing)};
+            highest = {std::max(highest.easting, place.easting), std::max(highest.northing, place.northing)};
+        }
         const GridPoint difference = table.difference(row);
         if (std::isnan(difference.easting) || std::isnan(difference.northing))
             continue;
         if (!table.isUsed(row)) {
-            ++statistics.leftOut;
+            ++leftOut;
             continue;
         }
-        const double distance = std::hypot(difference.easting, difference.northing);
-        ++statistics.count;
-        statistics.beyond += distance > tolerance;
-        add(statistics.easting, difference.easting);
-        add(statistics.northing, difference.northing);
-        add(statistics.distance, distance);
+        const double length = std::hypot(difference.easting, difference.northing);
+        ++count;
+        beyond += length > tolerance;
+        addTo(easting, difference.easting);
+        addTo(northing, difference.northing);
+        addTo(distance, length);
     }
-    if (statistics.count > 0) {
-        for (Figures* figures : {&statistics.easting, &statistics.northing, &statistics.distance})
-            divide(*figures, statistics.count);
-    }
-    return statistics;
+}
+
+void PointStatistics::finish() {
+    if (count == 0)
+        return;
+    for (Figures* figures : {&easting, &northing, &distance})
+        divide(*figures, count);
 }

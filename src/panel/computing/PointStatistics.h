@@ -2,6 +2,8 @@
 
 #include "panel/computing/PointTable.h"
 
+#include <limits>
+
 /// How well the points with both pairs agree with the system: figures of computed minus given, in metres.
 struct PointStatistics {
     /// Of one component, or of the distances.
@@ -20,6 +22,15 @@ struct PointStatistics {
     Figures northing;
     Figures distance;
 
+    /// The corners of the area that the points lie in on the grid, in metres; the first is beyond the second where
+    /// there are none.
+    GridPoint lowest{std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity()};
+    GridPoint highest{-std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()};
+
     /// Of all rows; `tolerance` is a distance in metres.
     static PointStatistics of(const PointTable& table, double tolerance);
+
+    /// The same, piece by piece: the rows from `first` to before `last`. Until finish(), means and RMS are mere sums.
+    void add(const PointTable& table, std::size_t first, std::size_t last, double tolerance);
+    void finish();
 };

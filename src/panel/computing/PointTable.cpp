@@ -75,41 +75,37 @@ std::size_t PointTable::append(std::string_view name, std::string_view line) {
     return row;
 }
 
-void PointTable::append(const PointTable& other) {
-    const auto add = [](auto& to, const auto& from) { to.insert(to.end(), from.begin(), from.end()); };
-    for (std::size_t i = 0; i < numberCount; ++i)
-        add(numbers[i], other.numbers[i]);
-    for (std::size_t i = 0; i < computed.size(); ++i)
-        add(computed[i], other.computed[i]);
-    add(states, other.states);
-    add(unread, other.unread);
-    add(outOfRange, other.outOfRange);
-    const auto shift = std::uint32_t(texts.size());
-    for (const std::uint32_t start : other.textStarts)
-        textStarts.push_back(start + shift);
-    texts += other.texts;
-}
-
-void PointTable::reserve(std::size_t rows, std::size_t bytesOfText) {
-    for (auto& column : numbers)
-        column.reserve(rows);
-    for (auto& column : computed)
-        column.reserve(rows);
-    for (auto* bytes : {&states, &unread, &outOfRange})
-        bytes->reserve(rows);
-    textStarts.reserve(rows);
-    texts.reserve(bytesOfText);
-}
-
-void PointTable::squeeze() {
-    for (auto& column : numbers)
-        column.shrink_to_fit();
-    for (auto& column : computed)
-        column.shrink_to_fit();
-    for (auto* bytes : {&states, &unread, &outOfRange})
-        bytes->shrink_to_fit();
-    textStarts.shrink_to_fit();
-    texts.shrink_to_fit();
+bool PointTable::join(const PointTable& first, const PointTable& second, std::size_t part) {
+    const auto joined = [](auto& to, const auto& left, const auto& right) {
+        to.reserve(left.size() + right.size());
+        to.insert(to.end(), left.begin(), left.end());
+        to.insert(to.end(), right.begin(), right.end());
+    };
+    if (part < numberCount) {
+        joined(numbers[part], first.numbers[part], second.numbers[part]);
+        return true;
+    }
+    part -= numberCount;
+    if (part < computed.size()) {
+        joined(computed[part], first.computed[part], second.computed[part]);
+        return true;
+    }
+    part -= computed.size();
+    if (part == 0) {
+        joined(unread, first.unread, second.unread);
+        joined(outOfRange, first.outOfRange, second.outOfRange);
+        joined(states, first.states, second.states);
+        return true;
+    }
+    if (part == 1) {
+        joined(textStarts, first.textStarts, second.textStarts);
+        const auto shift = std::uint32_t(first.texts.size());
+        std::for_each(textStarts.begin() + std::ptrdiff_t(first.size()), textStarts.end(),
+                      [&](std::uint32_t& start) { start += shift; });
+        return true;
+    }
+    joined(texts, first.texts, second.texts);
+    return false;
 }
 
 void PointTable::remove(const std::vector<bool>& marked) {

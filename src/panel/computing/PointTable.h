@@ -31,11 +31,9 @@ public:
 
     /// Adds a row of no numbers, and gives its number; `line` as line() gives it.
     std::size_t append(std::string_view name = {}, std::string_view line = {});
-    void append(const PointTable& other);
-    void reserve(std::size_t rows, std::size_t bytesOfText);
-
-    /// Gives back what was reserved and is not used.
-    void squeeze();
+    /// Makes this empty table one of the rows of two others, with nothing in reserve. One part of the work for each
+    /// `part` from 0 until it returns false: all at once may take too long with a window open.
+    bool join(const PointTable& first, const PointTable& second, std::size_t part);
 
     /// Removes the rows that are marked; `marked` has one value for each row.
     void remove(const std::vector<bool>& marked);

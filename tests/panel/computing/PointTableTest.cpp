@@ -33,6 +33,13 @@ QByteArray written(const PointTable& table, PointWriter::Digits digits, double m
     return QByteArray::fromStdString(text);
 }
 
+PointTable joined(const PointTable& first, const PointTable& second) {
+    PointTable both;
+    for (std::size_t part = 0; both.join(first, second, part); ++part) {
+    }
+    return both;
+}
+
 bool isNear(double left, double right, double tolerance) {
     return std::abs(left - right) <= tolerance;
 }
@@ -102,7 +109,7 @@ private Q_SLOTS:
 
     void removesAndAppends() {
         PointTable table = read("A,1,2\nB,3,x4\nC,5,6\n");
-        table.append(read("name,lat,lon\nD,7,8\nE,9,x\n"));
+        table = joined(table, read("name,lat,lon\nD,7,8\nE,9,x\n"));
         table.setUsed(3, false);
         table.remove({true, false, true, false, false});
         QCOMPARE(table.size(), std::size_t(3));
@@ -150,8 +157,7 @@ private Q_SLOTS:
             QCOMPARE(back.given(0, PointColumn(i)), table.given(0, PointColumn(i)));
         QVERIFY(back.hasProblem(1));
         const QByteArray shown = written(table, PointWriter::Digits::AsShown, 0.3048);
-        QVERIFY2(shown.contains("\n\"A, \"\"1\"\"\",52.1234567890,-1.0000000000,83.6614,1312336.3630,984251.9685,"),
-                 shown);
+        QVERIFY2(shown.contains("\n\"A, \"\"1\"\"\",52.123456789,-1,83.6614,1312336.3630,984251.9685,"), shown);
         QVERIFY2(shown.contains(",yes,\"Can't be read: latitude. Line: bad,x,1,,,\"\n"), shown);
     }
 
@@ -161,7 +167,7 @@ private Q_SLOTS:
         constexpr int count = 100000;
         for (int i = 0; i < count; ++i)
             text += "P" + QByteArray::number(i) + ',' + QByteArray::number(50.0 + i * 1e-5, 'f', 9) + ",15.123456789\n";
-        PointTable table = read(text);
+        const PointTable table = joined(PointTable(), read(text));
         const double perNumber = double(table.bytes()) / (4.0 * count * sizeof(double));
         QVERIFY2(perNumber <= 2.5, qPrintable(QString::number(perNumber)));
     }
