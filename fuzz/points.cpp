@@ -4,6 +4,8 @@
 #include "panel/computing/PointWriter.h"
 #include "support/Support.h"
 
+#include <QByteArrayList>
+
 #include <algorithm>
 #include <cmath>
 

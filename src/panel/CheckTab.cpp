@@ -59,6 +59,7 @@ void CheckTab::showRecord() {
     pointPane->setSystem(system);
     pointPane->showNotation();
     distortionPane->setSystem(system, pointPane->place());
+    distortionPane->showUnits();
     pointsPane->setSystem(system);
     pointsPane->showNotation();
     problemLine->setMessage(system->problem(), MessageLine::Tone::Error);
@@ -89,6 +90,7 @@ void CheckTab::_onNotationChosen() {
 }
 
 void CheckTab::_onUnitChosen() {
+    distortionPane->showUnits();
     pointPane->showNotation();
     pointsPane->showNotation();
 }

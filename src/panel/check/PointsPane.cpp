@@ -25,10 +25,12 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSaveFile>
 #include <QSplitter>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QToolButton>
 
@@ -43,6 +45,18 @@ constexpr qint64 bytesPerPiece = 32768;
 constexpr std::size_t rowsPerPiece = 1000;
 constexpr std::size_t rowsAtOnce = 2000; ///< so many are computed before the window is seen again
 constexpr std::size_t mostCopied = 200000;
+
+/// Leaves what is being typed alone when the table behind it is computed anew.
+class TypingDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override {
+        const auto* edit = qobject_cast<const QLineEdit*>(editor);
+        if (!edit || !edit->isModified())
+            QStyledItemDelegate::setEditorData(editor, index);
+    }
+};
 
 } // namespace
 
@@ -117,6 +131,7 @@ QToolButton* PointsPane::newButton(const QString& text, const char* slot) {
 
 void PointsPane::buildTable() {
     table->setModel(model);
+    table->setItemDelegate(new TypingDelegate(table));
     table->setAccessibleName(PanelText::tr("Points"));
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setTabKeyNavigation(false);

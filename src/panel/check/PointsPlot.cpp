@@ -147,7 +147,6 @@ void PointsPlot::begin(const GridPoint& lowest, const GridPoint& highest, double
     weights.clear();
     if (lowest.easting > highest.easting)
         return;
-    sizeBefore = size;
     size = canvas()->contentsRect().size().expandedTo(QSize(pixelsPerCell, pixelsPerCell));
     metresPerPixel = margin * std::max({(highest.easting - lowest.easting) / size.width(),
                                         (highest.northing - lowest.northing) / size.height(), least / size.width()});
@@ -214,6 +213,12 @@ void PointsPlot::finish() {
         setAxisTitle(axis, small);
     }
     setSelected(item->selected);
+    // The axes' numbers may need another width than before. Once more is enough: two shapes could make each other
+    // needed.
+    updateLayout();
+    isSecond = !isSecond && !cells.empty() && canvas()->contentsRect().size() != size;
+    if (isSecond)
+        QMetaObject::invokeMethod(this, "resized", Qt::QueuedConnection);
 }
 
 void PointsPlot::setSelected(int row) {
@@ -244,12 +249,6 @@ int PointsPlot::rowAt(const QPoint& pixel) const {
 
 bool PointsPlot::eventFilter(QObject* object, QEvent* event) {
     if (object == canvas()) {
-        // The axes' numbers have another width than before. Where two shapes make each other needed, one will do.
-        if (event->type() == QEvent::Resize) {
-            const QSize now = canvas()->contentsRect().size();
-            if (now != size && now != sizeBefore)
-                Q_EMIT resized();
-        }
         if (event->type() == QEvent::MouseMove)
             Q_EMIT pointed(rowAt(static_cast<QMouseEvent*>(event)->pos()));
         else if (event->type() == QEvent::Leave)

@@ -49,7 +49,7 @@ Q_SIGNALS:
     void pointed(int row);
     void clicked(int row);
 
-    /// The plot has another size.
+    /// The plot, or its canvas, has another size.
     void resized();
 
 protected:
@@ -60,11 +60,11 @@ private:
     int rowAt(const QPoint& pixel) const;
 
     ResidualItem* item;
+    bool isSecond = false; ///< the next picture is drawn for a canvas that the one before has changed
 
     // Of the picture that is being made:
-    QSize size;       ///< of the canvas
-    QSize sizeBefore; ///< of the canvas in the picture before
-    GridPoint lower;  ///< the canvas's south-western corner
+    QSize size;      ///< of the canvas
+    GridPoint lower; ///< the canvas's south-western corner
     double metresPerPixel = 0.0;
     double tolerance = 0.0;
     double longest = 0.0;      ///< residual of a point in use

@@ -46,7 +46,10 @@ public:
             table->edit(index);
             auto* edit = qobject_cast<QLineEdit*>(QApplication::focusWidget());
             QVERIFY(edit && table->isAncestorOf(edit));
-            edit->setText(text.section('=', 1));
+            edit->selectAll();
+            QTest::keyClick(edit, Qt::Key_Delete);
+            QTest::keyClicks(edit, text.section('=', 1));
+            model->refresh(); // computed anew meanwhile
             QTest::keyClick(edit, Qt::Key_Return);
         };
         acts["Tolerance"] = [this](const QString& text) {
