@@ -3,6 +3,7 @@
 #include "panel/check/CheckPointPane.h"
 #include "panel/check/DistortionPane.h"
 #include "panel/check/PointsPane.h"
+#include "panel/computing/FitToPoints.h"
 #include "panel/computing/ShownSystem.h"
 #include "panel/field/AngleNotationBox.h"
 #include "panel/field/LengthUnitBox.h"
@@ -29,10 +30,11 @@ void CheckTab::build() {
     pages->addTab(pointPane, PanelText::tr("Point"));
     distortionPane = new DistortionPane(isReadOnly());
     pages->addTab(distortionPane, PanelText::tr("Distortion"));
-    pointsPane = new PointsPane;
+    pointsPane = new PointsPane(isReadOnly());
     pages->addTab(pointsPane, PanelText::tr("Points"));
     connect(pages, SIGNAL(currentChanged(int)), this, SLOT(_onPageChanged()));
     connect(distortionPane, SIGNAL(proposalAccepted()), this, SLOT(_onProposalAccepted()));
+    connect(pointsPane, SIGNAL(fitAccepted()), this, SLOT(_onFitAccepted()));
 
     notationBox = new AngleNotationBox;
     notationBox->setAccessibleName(PanelText::tr("Show angles in"));
@@ -79,6 +81,14 @@ void CheckTab::_onProposalAccepted() {
         return;
     pointPane->keepPlace();
     proposal->apply(editor());
+    showRecord();
+    recordChanged();
+}
+
+void CheckTab::_onFitAccepted() {
+    const FitToPoints fit = pointsPane->fit(); // the box will show another
+    pointPane->keepPlace();
+    fit.apply(editor());
     showRecord();
     recordChanged();
 }

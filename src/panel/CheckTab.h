@@ -32,6 +32,7 @@ private Q_SLOTS:
     void _onUnitChosen();
     void _onPageChanged();
     void _onProposalAccepted();
+    void _onFitAccepted();
 
 private:
     void build();

@@ -1,5 +1,6 @@
 #include "panel/check/PointsPane.h"
 
+#include "panel/check/FitBox.h"
 #include "panel/check/PointColumnsDialog.h"
 #include "panel/check/PointsModel.h"
 #include "panel/check/PointsPlot.h"
@@ -60,7 +61,7 @@ public:
 
 } // namespace
 
-PointsPane::PointsPane(QWidget* parent)
+PointsPane::PointsPane(bool readOnly, QWidget* parent)
     : QWidget(parent)
     , work(new SlicedWork(this))
     , model(new PointsModel(this))
@@ -72,7 +73,8 @@ PointsPane::PointsPane(QWidget* parent)
     , readout(new QLabel)
     , message(new MessageLine)
     , progress(new QProgressBar)
-    , cancelButton(new QPushButton(PanelText::tr("Cancel"))) {
+    , cancelButton(new QPushButton(PanelText::tr("Cancel")))
+    , fitBox(new FitBox(readOnly)) {
     buildTable();
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 6, 0, 0);
@@ -87,6 +89,10 @@ PointsPane::PointsPane(QWidget* parent)
     clearButton = newButton(PanelText::tr("Clear"), SLOT(_onClear()));
     for (QToolButton* button : {openButton, pasteButton, copyButton, saveButton, deleteButton, clearButton})
         buttons->addWidget(button);
+    fitButton = newButton(PanelText::tr("Fit"), SLOT(_onFitClicked()));
+    fitButton->setCheckable(true);
+    fitButton->setToolTip(PanelText::tr("Which false origin and scale factor would meet the points best."));
+    buttons->addWidget(fitButton);
     buttons->addStretch();
     layout->addLayout(buttons, 0, 0);
     auto* splitter = new QSplitter;
@@ -106,8 +112,11 @@ PointsPane::PointsPane(QWidget* parent)
     layout->addWidget(readout, 2, 0);
     buildSettings();
     buildFigures();
-    layout->addWidget(message, 5, 0);
-    layout->addLayout(working, 6, 0);
+    fitBox->hide();
+    connect(fitBox, SIGNAL(accepted()), this, SIGNAL(fitAccepted()));
+    layout->addWidget(fitBox, 5, 0);
+    layout->addWidget(message, 6, 0);
+    layout->addLayout(working, 7, 0);
     connect(plot, SIGNAL(pointed(int)), this, SLOT(_onPointed(int)));
     connect(plot, SIGNAL(clicked(int)), this, SLOT(_onClicked(int)));
     connect(plot, SIGNAL(resized()), this, SLOT(_onPlotResized()));
@@ -455,6 +464,7 @@ void PointsPane::showResults() {
             [this](std::size_t first, std::size_t last) { plot->add(points(), first, last); },
             [this] {
                 plot->finish();
+                showFit();
                 isUncounted = false;
                 task = Task::None;
                 lock(false);
@@ -471,6 +481,24 @@ void PointsPane::showResults() {
             model->refresh();
             draw();
         });
+}
+
+const FitToPoints& PointsPane::fit() const {
+    return fitBox->fit();
+}
+
+void PointsPane::_onFitClicked() {
+    fitBox->setVisible(fitButton->isChecked());
+    showFit();
+}
+
+/// While the box is not shown it costs nothing.
+void PointsPane::showFit() {
+    const bool isSystem = system && system->projection();
+    if (fitButton->isChecked())
+        fitBox->setPoints(
+            system, isSystem ? KnownPoint::of(points(), *system->projection(), datum(), FitToPoints::mostPoints + 1)
+                             : QVector<KnownPoint>());
 }
 
 void PointsPane::showFigures(const PointStatistics& statistics) {

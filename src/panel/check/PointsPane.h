@@ -11,6 +11,8 @@
 #include <vector>
 
 class ChoiceBox;
+class FitBox;
+class FitToPoints;
 class MessageLine;
 class PointsModel;
 class PointsPlot;
@@ -32,7 +34,7 @@ class PointsPane : public QWidget {
     Q_OBJECT
 
 public:
-    explicit PointsPane(QWidget* parent = nullptr);
+    explicit PointsPane(bool readOnly, QWidget* parent = nullptr);
     ~PointsPane() override;
 
     /// Computes the points through the system `shown`, now or when the page comes to the front.
@@ -43,11 +45,18 @@ public:
 
     const PointTable& points() const;
 
+    /// As shown in the box "Fit".
+    const FitToPoints& fit() const;
+
     /// Asks for the columns of a file and reads it; with a message where it can't.
     void read(const QString& path);
 
     /// Writes all points to a file, with all digits or as shown.
     void save(const QString& path, bool isFull);
+
+Q_SIGNALS:
+    /// The user takes fit() over.
+    void fitAccepted();
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -60,6 +69,7 @@ private Q_SLOTS:
     void _onSave();
     void _onDelete();
     void _onClear();
+    void _onFitClicked();
     void _onDatumChanged();
     void _onToleranceChanged();
     void _onEdited(int row);
@@ -101,6 +111,7 @@ private:
     void catchUp();
     void findDuplicates();
     void showResults();
+    void showFit();
     std::vector<bool> selectedRows() const;
     void showFigures(const PointStatistics& statistics);
     void showTolerance();
@@ -127,10 +138,12 @@ private:
     QToolButton* saveButton;
     QToolButton* deleteButton;
     QToolButton* clearButton;
+    QToolButton* fitButton;
     std::array<std::array<QLabel*, FigureColumnCount>, FigureLineCount> figures;
     QLabel* counts;
     QLabel* readout;
     MessageLine* message;
     QProgressBar* progress;
     QPushButton* cancelButton;
+    FitBox* fitBox;
 };
