@@ -12,6 +12,15 @@
 
 namespace Key = CoordParamKey;
 
+namespace {
+
+/// The quarters of a turn, counter-clockwise, nearest to a similarity's rotation: 0 to 3.
+int quartersOf(const PlaneSimilarity& similarity) {
+    return (int(std::lround(similarity.rotation() / 90.0)) + 4) % 4;
+}
+
+} // namespace
+
 GridDiagnosis::GridDiagnosis(const IDictionary& record, IProjectionModule& module, const QVector<GridPoint>& computed,
                              const QVector<KnownPoint>& points)
     : record(record), module(module), points(points) {
@@ -24,14 +33,17 @@ GridDiagnosis::GridDiagnosis(const IDictionary& record, IProjectionModule& modul
     const auto mirrored = PlaneSimilarity::between(computed, swapped);
     if (!straight || !mirrored)
         return;
-    // Points on a line fit both ways.
     constexpr double clearlyBetter = 0.1;
-    isMirrored = mirrored->misfit() < clearlyBetter * straight->misfit();
+    const bool isClear = mirrored->misfit() < clearlyBetter * straight->misfit() ||
+                         straight->misfit() < clearlyBetter * mirrored->misfit();
+    // Points on a line fit both ways: swapped axes are likelier than one of them swapped and turned.
+    isMirrored =
+        isClear ? mirrored->misfit() < straight->misfit() : quartersOf(*straight) != 0 && quartersOf(*mirrored) == 0;
     const PlaneSimilarity& fit = isMirrored ? *mirrored : *straight;
     constexpr double looseFit = 0.05; // the places are not of the same points then
     if (fit.misfit() > looseFit)
         return;
-    quarters = int(std::lround(fit.rotation() / 90.0)) & 3;
+    quarters = quartersOf(fit);
     sayAxes();
     sayUnit(fit.scale());
     sayMeridian(fit);

@@ -205,6 +205,35 @@ private Q_SLOTS:
                          1.0) < 1e-3);
     }
 
+    /// Far from the origin, where the ninth decimal of the factor is 3 mm.
+    void roundingCostsNothing() {
+        const SampleRecord own = SampleRecord::named("UTM"), other = own.with("factor", "0.99960000045");
+        QVector<KnownPoint> points;
+        for (const double latitude : {60.0, 60.1, 60.2}) {
+            const GeographicPoint place{latitude, 15.0 + latitude / 600, 0.0};
+            points << KnownPoint{place, *other.system()->toGrid(place)};
+        }
+        const FitToPoints found = fit(own, points, {});
+        QVERIFY(std::abs(found.changes()[0].after - 0.9996) < 2e-9);
+        QVERIFY(FitToPoints::rms(found.residualsBefore()) > 2e-3);
+        QVERIFY(FitToPoints::rms(found.residualsAfter()) < 1e-4);
+    }
+
+    /// Which could be turned as well as swapped.
+    void swappedOnALine() {
+        const SampleRecord own = SampleRecord::named("Mercator");
+        QVector<KnownPoint> points;
+        for (const double latitude : {1.0, 2.0, 3.0}) {
+            const GeographicPoint place{latitude, 110.0, 0.0};
+            const GridPoint grid = *own.system()->toGrid(place);
+            points << KnownPoint{place, {grid.northing, grid.easting}};
+        }
+        QCOMPARE(fit(own, points, {}).diagnosis(), QString("Easting and northing are swapped."));
+        for (KnownPoint& point : points)
+            point.grid = {point.grid.northing, point.grid.easting};
+        QCOMPARE(fit(own, points, {}).diagnosis(), QString());
+    }
+
     void holds() {
         std::mt19937 random(4);
         const SampleRecord own = SampleRecord::named("British grid");
