@@ -203,6 +203,7 @@ void PointsPlot::finish() {
         const double unit = LengthUnit::metres();
         const GridPoint upper{lower.easting + metresPerPixel * size.width(),
                               lower.northing + metresPerPixel * size.height()};
+        setAxisMaxMajor(xBottom, std::max(1, size.width() / fontMetrics().horizontalAdvance("-12345678900")));
         setAxisScale(xBottom, lower.easting / unit, upper.easting / unit);
         setAxisScale(yLeft, lower.northing / unit, upper.northing / unit);
     }
