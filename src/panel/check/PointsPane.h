@@ -60,6 +60,7 @@ private Q_SLOTS:
     void _onSave();
     void _onDelete();
     void _onClear();
+    void _onNext();
     void _onDatumChanged();
     void _onToleranceChanged();
     void _onEdited(int row);
@@ -127,6 +128,7 @@ private:
     QToolButton* saveButton;
     QToolButton* deleteButton;
     QToolButton* clearButton;
+    QToolButton* nextButton;
     std::array<std::array<QLabel*, FigureColumnCount>, FigureLineCount> figures;
     QLabel* counts;
     QLabel* readout;
