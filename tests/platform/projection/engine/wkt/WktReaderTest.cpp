@@ -32,6 +32,25 @@ private Q_SLOTS:
             QVERIFY2(std::abs(read[i] - expected[i]) < 1e-10, QByteArray::number(read[i], 'g', 17));
     }
 
+    void variants_data() { textRows("variants.txt", {"title", "of", "before", "after", "start"}); }
+
+    void variants() {
+        QFETCH(QByteArray, of);
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, after);
+        QFETCH(QByteArray, start);
+        QByteArray text;
+        for (const QByteArrayList& columns : textTable("projected.txt")) {
+            if (columns.first() == of)
+                text = columns.last();
+        }
+        QCOMPARE(text.count(before), 1);
+        const WktSystem system = projectionModule()->readWkt(text.replace(before, after));
+        QVERIFY(system.content == WktSystem::Content::Projected);
+        const QByteArray definition = define(system.definition);
+        QVERIFY2(definition.startsWith(start) && definition.contains("+proj=") != start.isEmpty(), definition);
+    }
+
     void others_data() {
         const Rows<QByteArray, bool> row({"text", "isReadable"});
         const QByteArray system = textTable("projected.txt").first().last();
