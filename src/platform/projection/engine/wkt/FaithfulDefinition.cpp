@@ -115,7 +115,7 @@ QByteArray faithfulDefinition(const QByteArray& exported, const ProjectedWkt& wk
         !hasAxes(statedItems, wkt))
         return withoutProjection(items);
     const QByteArray normalised = normalisedProjection(statedItems, ellipsoid);
-    if (!normalised.isEmpty() && stated.isOnlyOurs)
+    if (!normalised.isEmpty() && stated.isOnlyOurs && !wkt.hasExtension)
         return normalised + ' ' + datumOf(items);
     const bool isStated = !normalised.isEmpty() && areSame(normalised, normalisedProjection(items, ellipsoid));
     return isStated ? exported : withoutProjection(items);

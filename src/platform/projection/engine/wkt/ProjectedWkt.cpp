@@ -1,9 +1,11 @@
 #include "platform/projection/engine/wkt/ProjectedWkt.h"
 
+#include "catalogue/Angle.h"
 #include "platform/projection/engine/definition/ProjItems.h"
 #include "platform/projection/engine/wkt/PlainName.h"
 
 #include <algorithm>
+#include <cmath>
 #include <initializer_list>
 #include <string_view>
 
@@ -40,6 +42,27 @@ bool isBaseSystem(Text keyword) {
     return isOneOf(keyword, {"GEOGCS", "BASEGEOGCRS", "BASEGEODCRS"});
 }
 
+/// Whether a unit with a common name has the factor of it, up to rounding. The names of feet are no clear ones.
+bool isUnit(Text name, double factor) {
+    struct Unit {
+        Text name;
+        double factor;
+    };
+    constexpr Unit units[] = {{"degree", Angle::toRadians(1)},
+                              {"degrees", Angle::toRadians(1)},
+                              {"grad", Angle::toRadians(0.9)},
+                              {"gon", Angle::toRadians(0.9)},
+                              {"radian", 1},
+                              {"metre", 1},
+                              {"meter", 1},
+                              {"metres", 1},
+                              {"meters", 1}};
+    constexpr double rounding = 1e-5;
+    return std::all_of(std::begin(units), std::end(units), [=](const Unit& unit) {
+        return !equalsIgnoringCase(name, unit.name) || std::abs(factor / unit.factor - 1) < rounding;
+    });
+}
+
 /// Walks through the nodes of a text and notes what the projected system's say.
 class Scanner {
 public:
@@ -74,6 +97,7 @@ private:
     QVector<Node> path;
     std::size_t position = 0;
     std::size_t systemStart = 0; ///< of the projected system's node
+    Text unitName;               ///< of the unit that is being read
     Text authority;              ///< of the identifier that is being read
     int ellipsoids = 0;
     int meridians = 0;
@@ -159,6 +183,8 @@ void Scanner::note(Text keyword, Text parent, int index, Text text) {
         noteMeridian(index, text);
     else if (index == 0 && isProjectedSystem(keyword))
         statement.name = toBytes(text);
+    else if (index == 0 && isOneOf(keyword, {"EXTENSION"}))
+        statement.hasExtension = true;
     else if (index == 0 && isOneOf(keyword, {"MERIDIAN"}))
         statement.axisMeridians.append(toNumber(text));
     else if (index == 0 && isOneOf(keyword, {"DATUM"}))
@@ -201,10 +227,12 @@ void Scanner::noteMeridian(int index, Text text) {
 
 void Scanner::noteUnit(Text keyword, Text parent, int index, Text text) {
     require(index <= 1);
+    if (index == 0)
+        unitName = text;
     if (index != 1)
         return;
     const double factor = toNumber(text);
-    require(factor > 0);
+    require(factor > 0 && isUnit(unitName, factor));
     if (isOneOf(parent, {"PARAMETER"}) && !statement.parameters.isEmpty()) {
         using Quantity = ProjectedWkt::Parameter::Quantity;
         ProjectedWkt::Parameter& parameter = statement.parameters.last();

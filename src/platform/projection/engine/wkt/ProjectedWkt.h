@@ -41,9 +41,10 @@ public:
     double meridianUnit = none;   ///< its own
     double semiMajorAxis = 0;     ///< in metres
     double inverseFlattening = 0; ///< 0 for a sphere
+    bool hasExtension = false;    ///< GDAL's, which holds a definition beside the text's
     bool isWkt1 = false;
     bool isEsri = false; ///< in ESRI's dialect of WKT 1, which readers know by its names of datums
     /// No node that there may be once stands twice, none has a number too many ("500,000" are two), each unit is above
-    /// 0.
+    /// 0 and what its name says.
     bool isSound = true;
 };

@@ -88,13 +88,15 @@ double valueOf(const ProjectedWkt& wkt, const ProjectedWkt::Parameter& parameter
 /// None where a parameter leaves a doubt.
 std::optional<Values> valuesOf(const ProjectedWkt& wkt) {
     constexpr double farthest = 1e9; // metres: a false easting may begin with the number of a zone
+    constexpr double wholeTurn = 360;
     Values values;
     for (const ProjectedWkt::Parameter& parameter : wkt.parameters) {
         const std::optional<Meaning> meaning = WktMethods::meaningOf(parameter.name, parameter.code);
         if (!meaning)
             return std::nullopt;
         const double value = valueOf(wkt, parameter, *meaning);
-        if (!(std::abs(value) <= farthest) || (values.contains(*meaning) && values.value(*meaning) != value))
+        const double largest = quantityOf(*meaning) == Quantity::Angle ? wholeTurn : farthest;
+        if (!(std::abs(value) <= largest) || (values.contains(*meaning) && values.value(*meaning) != value))
             return std::nullopt;
         values.insert(*meaning, value);
     }
@@ -140,9 +142,17 @@ std::optional<WktItems> itemsOf(const WktMethod& method, Values values, bool isE
     return items;
 }
 
+constexpr double sameMeridian = 1e-8; // degrees, 1 mm
+
 /// The longitude of a meridian that EPSG's registry knows by this plain name; NaN for another. PROJ has all but one.
 double registeredMeridian(const QByteArray& name) {
     return name == "parisrgs" ? ProjItems::toAngle("2d20'13.95\"E") : namedMeridian(name);
+}
+
+/// The prime meridian in the unit that holds for it, in degrees.
+double meridianInUnit(const ProjectedWkt& wkt) {
+    const double unit = std::isnan(wkt.meridianUnit) ? wkt.angularUnit : wkt.meridianUnit;
+    return std::isnan(unit) ? wkt.primeMeridian : toDegrees(wkt.primeMeridian, unit);
 }
 
 /// The prime meridian in degrees; not a number where the text leaves a doubt. WKT 1 has one always, and states it in
@@ -150,16 +160,15 @@ double registeredMeridian(const QByteArray& name) {
 double meridianOf(const ProjectedWkt& wkt) {
     if (wkt.isWkt1 && wkt.meridianName.isEmpty())
         return ProjectedWkt::none;
-    const double unit = std::isnan(wkt.meridianUnit) ? wkt.angularUnit : wkt.meridianUnit;
-    const double degrees = std::isnan(unit) ? wkt.primeMeridian : toDegrees(wkt.primeMeridian, unit);
+    const double degrees = meridianInUnit(wkt);
     const double named = registeredMeridian(wkt.meridianName);
-    constexpr double same = 1e-8; // 1 mm
-    if (std::abs(degrees - named) < same || std::abs(wkt.primeMeridian - named) < same)
+    const bool isWkt2Unit = !std::isnan(wkt.meridianUnit);
+    if (std::abs(degrees - named) < sameMeridian || (!isWkt2Unit && std::abs(wkt.primeMeridian - named) < sameMeridian))
         return named;
     // Other figures for a meridian that has a name are some arc-seconds apart.
     constexpr double another = 0.05;
     const bool isAnother = std::abs(degrees - named) > another;
-    const bool isInDoubt = std::isnan(wkt.meridianUnit) && degrees != wkt.primeMeridian;
+    const bool isInDoubt = !isWkt2Unit && degrees != wkt.primeMeridian;
     return isAnother || isInDoubt ? ProjectedWkt::none : degrees;
 }
 
@@ -178,7 +187,8 @@ StatedProjection::StatedProjection(const ProjectedWkt& wkt) {
         for (auto item = items->begin(); item != items->end(); ++item)
             definition += " +" + item.key() + '=' + projNumber(item.value());
         definition += " +pm=" + projNumber(meridian);
-        isOnlyOurs = method->isOnlyOurs || hasRoundedUnit(wkt);
+        const bool isMeridianInDegrees = std::abs(meridianInUnit(wkt) - meridian) >= sameMeridian;
+        isOnlyOurs = method->isOnlyOurs || hasRoundedUnit(wkt) || isMeridianInDegrees;
         return;
     }
 }

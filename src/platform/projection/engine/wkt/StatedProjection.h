@@ -10,8 +10,8 @@ struct StatedProjection {
     /// "+proj=tmerc +lat_0=0 ... +pm=0": degrees and metres, longitudes from the prime meridian. Empty where the text
     /// leaves a doubt or states no method of the parameter record.
     QByteArray definition;
-    /// Readers get the projection wrong: see WktMethod, or they take the angles in a rounded factor of degrees or grads
-    /// for another unit's.
+    /// Readers get it wrong: see WktMethod, or they take a rounded factor of degrees or grads for another unit's, or a
+    /// prime meridian in degrees for one in the unit of the angles.
     bool isOnlyOurs = false;
 
     explicit StatedProjection(const ProjectedWkt& wkt);
