@@ -1,11 +1,10 @@
 #include "platform/projection/engine/wkt/ProjectedWkt.h"
 
-#include "catalogue/Angle.h"
 #include "platform/projection/engine/definition/ProjItems.h"
 #include "platform/projection/engine/wkt/PlainName.h"
+#include "platform/projection/engine/wkt/WktUnit.h"
 
 #include <algorithm>
-#include <cmath>
 #include <initializer_list>
 #include <string_view>
 
@@ -40,27 +39,6 @@ bool isProjectedSystem(Text keyword) {
 
 bool isBaseSystem(Text keyword) {
     return isOneOf(keyword, {"GEOGCS", "BASEGEOGCRS", "BASEGEODCRS"});
-}
-
-/// Whether a unit with a common name has the factor of it, up to rounding. The names of feet are no clear ones.
-bool isUnit(Text name, double factor) {
-    struct Unit {
-        Text name;
-        double factor;
-    };
-    constexpr Unit units[] = {{"degree", Angle::toRadians(1)},
-                              {"degrees", Angle::toRadians(1)},
-                              {"grad", Angle::toRadians(0.9)},
-                              {"gon", Angle::toRadians(0.9)},
-                              {"radian", 1},
-                              {"metre", 1},
-                              {"meter", 1},
-                              {"metres", 1},
-                              {"meters", 1}};
-    constexpr double rounding = 1e-5;
-    return std::all_of(std::begin(units), std::end(units), [=](const Unit& unit) {
-        return !equalsIgnoringCase(name, unit.name) || std::abs(factor / unit.factor - 1) < rounding;
-    });
 }
 
 /// Walks through the nodes of a text and notes what the projected system's say.
@@ -231,8 +209,10 @@ void Scanner::noteUnit(Text keyword, Text parent, int index, Text text) {
         unitName = text;
     if (index != 1)
         return;
-    const double factor = toNumber(text);
-    require(factor > 0 && isUnit(unitName, factor));
+    const WktUnit unit = WktUnit::read(unitName, text);
+    const double factor = unit.factor;
+    require(factor > 0);
+    statement.hasRoundedUnit = statement.hasRoundedUnit || unit.isRounded;
     if (isOneOf(parent, {"PARAMETER"}) && !statement.parameters.isEmpty()) {
         using Quantity = ProjectedWkt::Parameter::Quantity;
         ProjectedWkt::Parameter& parameter = statement.parameters.last();

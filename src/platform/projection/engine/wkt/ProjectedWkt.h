@@ -12,7 +12,7 @@ class ProjectedWkt {
 public:
     explicit ProjectedWkt(const QByteArray& wkt);
 
-    /// A unit in metres, radians or parts of 1; not a number where the text has none.
+    /// A number that the text has not. Units are in metres, radians or parts of 1.
     static constexpr double none = std::numeric_limits<double>::quiet_NaN();
 
     struct Parameter {
@@ -38,13 +38,14 @@ public:
     QVector<double> axisMeridians; ///< of axes that point away from or to a pole
     QByteArray meridianName;       ///< plain
     double primeMeridian = 0;
-    double meridianUnit = none;   ///< its own
-    double semiMajorAxis = 0;     ///< in metres
-    double inverseFlattening = 0; ///< 0 for a sphere
-    bool hasExtension = false;    ///< GDAL's, which holds a definition beside the text's
+    double meridianUnit = none;      ///< its own
+    double semiMajorAxis = 0;        ///< in metres
+    double inverseFlattening = none; ///< 0 for a sphere
+    bool hasExtension = false;       ///< GDAL's, which holds a definition beside the text's
     bool isWkt1 = false;
-    bool isEsri = false; ///< in ESRI's dialect of WKT 1, which readers know by its names of datums
-    /// No node that there may be once stands twice, none has a number too many ("500,000" are two), each unit is above
-    /// 0 and what its name says.
+    bool isEsri = false;         ///< in ESRI's dialect of WKT 1, which readers know by its names of datums
+    bool hasRoundedUnit = false; ///< see WktUnit
+    /// No node that there may be once stands twice, none has a number too many ("500,000" are two), no unit is in
+    /// doubt.
     bool isSound = true;
 };

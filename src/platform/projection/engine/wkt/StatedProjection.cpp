@@ -6,6 +6,7 @@
 #include "platform/projection/engine/definition/ProjItems.h"
 #include "platform/projection/engine/wkt/ProjectedWkt.h"
 #include "platform/projection/engine/wkt/WktMethods.h"
+#include "platform/projection/engine/wkt/WktUnit.h"
 
 #include <algorithm>
 #include <cmath>
@@ -37,32 +38,9 @@ double withFifteenDigits(double value) {
     return QByteArray::number(value, 'g', 15).toDouble();
 }
 
-/// How far a unit of angles is from one of so many degrees, as a part of it.
-double differenceFrom(double degrees, double unit) {
-    return std::abs(unit / Angle::toRadians(degrees) - 1);
-}
-
-constexpr double commonUnits[] = {1, 0.9}; // degrees and grads, in degrees
-constexpr double rounding = 1e-5;          // of their factors in some texts
-
-/// An angle in degrees. No other unit is near degrees and grads: what differs by more than rounding is in doubt.
 double toDegrees(double value, double unit) {
-    for (const double degrees : commonUnits) {
-        if (differenceFrom(degrees, unit) < rounding)
-            return degrees == 1 ? value : withFifteenDigits(value * degrees);
-        if (differenceFrom(degrees, unit) < 1e-2)
-            return ProjectedWkt::none;
-    }
-    return withFifteenDigits(Angle::toDegrees(value * unit));
-}
-
-/// Whether angles are in degrees or grads of fewer digits than those by which PROJ knows them.
-bool hasRoundedUnit(const ProjectedWkt& wkt) {
-    constexpr double known = 1e-10;
-    return std::any_of(std::begin(commonUnits), std::end(commonUnits), [&](double degrees) {
-        const double difference = differenceFrom(degrees, wkt.angularUnit);
-        return difference >= known && difference < rounding;
-    });
+    const double factor = WktUnit::ofAngles(unit).factor;
+    return factor == Angle::toRadians(1) ? value : withFifteenDigits(Angle::toDegrees(value * factor));
 }
 
 /// The unit of the grid: not a number where there is none or more than one.
@@ -85,18 +63,26 @@ double valueOf(const ProjectedWkt& wkt, const ProjectedWkt::Parameter& parameter
     return unit == 1 ? parameter.value : withFifteenDigits(parameter.value * unit);
 }
 
+/// Whether a parameter may have a value, in degrees, metres or parts of 1. A false easting may begin with the number of
+/// a zone.
+bool isInRange(Meaning meaning, double value) {
+    constexpr double farthest = 1e9;
+    constexpr double wholeTurn = 360;
+    constexpr double smallest = 0.1;
+    if (meaning == Meaning::Scale)
+        return value >= smallest && value <= 1 / smallest;
+    return std::abs(value) <= (quantityOf(meaning) == Quantity::Angle ? wholeTurn : farthest);
+}
+
 /// None where a parameter leaves a doubt.
 std::optional<Values> valuesOf(const ProjectedWkt& wkt) {
-    constexpr double farthest = 1e9; // metres: a false easting may begin with the number of a zone
-    constexpr double wholeTurn = 360;
     Values values;
     for (const ProjectedWkt::Parameter& parameter : wkt.parameters) {
         const std::optional<Meaning> meaning = WktMethods::meaningOf(parameter.name, parameter.code);
         if (!meaning)
             return std::nullopt;
         const double value = valueOf(wkt, parameter, *meaning);
-        const double largest = quantityOf(*meaning) == Quantity::Angle ? wholeTurn : farthest;
-        if (!(std::abs(value) <= largest) || (values.contains(*meaning) && values.value(*meaning) != value))
+        if (!isInRange(*meaning, value) || (values.contains(*meaning) && values.value(*meaning) != value))
             return std::nullopt;
         values.insert(*meaning, value);
     }
@@ -188,7 +174,8 @@ StatedProjection::StatedProjection(const ProjectedWkt& wkt) {
             definition += " +" + item.key() + '=' + projNumber(item.value());
         definition += " +pm=" + projNumber(meridian);
         const bool isMeridianInDegrees = std::abs(meridianInUnit(wkt) - meridian) >= sameMeridian;
-        isOnlyOurs = method->isOnlyOurs || hasRoundedUnit(wkt) || isMeridianInDegrees;
+        isOnlyOurs = method->isOnlyOurs || wkt.hasRoundedUnit || isMeridianInDegrees ||
+                     WktUnit::ofAngles(wkt.angularUnit).isRounded;
         return;
     }
 }

@@ -61,24 +61,47 @@ bool settleParallelAtOrigin(WktItems& items) {
     return true;
 }
 
-/// A latitude of origin that is no pole is the standard parallel.
 bool settlePole(WktItems& items) {
-    const double latitude = items.value("lat_0");
-    if (std::abs(latitude) == 90)
-        return items.contains("k_0");
-    items.insert("lat_ts", latitude);
-    items.insert("lat_0", std::copysign(90, latitude));
-    return latitude != 0 && items.value("k_0", 1) == 1;
+    return std::abs(items.value("lat_0")) == 90 && items.contains("k_0");
 }
 
+/// Without a latitude of origin: the pole on the side of the standard parallel.
 bool settlePolarParallel(WktItems& items) {
     items.insert("lat_0", std::copysign(90, items.value("lat_ts")));
-    return items.value("lat_ts") != 0;
+    return items.value("lat_ts") != 0 && items.value("k_0", 1) == 1;
+}
+
+bool settleNorthPole(WktItems& items) {
+    return settlePolarParallel(items) && items.value("lat_0") > 0;
+}
+
+bool settleSouthPole(WktItems& items) {
+    return settlePolarParallel(items) && items.value("lat_0") < 0;
+}
+
+/// A latitude of origin that is no pole is the standard parallel.
+bool settlePoleOrParallel(WktItems& items) {
+    if (settlePole(items))
+        return true;
+    const double latitude = items.value("lat_0");
+    items.insert("lat_ts", latitude);
+    return std::abs(latitude) < 90 && settlePolarParallel(items);
 }
 
 /// PROJ's omerc, and with it the record, turns the grid by the azimuth.
 bool settleGridAngle(WktItems& items) {
     return !items.contains("gamma") || items.take("gamma") == items.value("alpha");
+}
+
+/// GDAL wrote the Swiss grid, whose false origin is the centre, under the name of the variant with its false origin at
+/// the natural one.
+bool settleSwissGrid(WktItems& items) {
+    return settleGridAngle(items) && items.value("alpha") == 90;
+}
+
+/// With the azimuth 90 the natural origin is a quarter of the globe away: nobody means it.
+bool settleNaturalOrigin(WktItems& items) {
+    return settleGridAngle(items) && items.value("alpha") != 90;
 }
 
 const QVector<WktMethod>& methods() {
@@ -141,19 +164,21 @@ const QVector<WktMethod>& methods() {
         {{"stereographic"}, 0, "stere",
          {lat0, lon0, k0, x0, y0}, nullptr, false},
         {{"polarstereographic"}, 0, "stere",
-         {lat0, lon0, may(k0), x0, y0}, settlePole, false},
+         {lat0, lon0, may(k0), x0, y0}, settlePoleOrParallel, false},
         {{"polarstereographicvarianta"}, 9810, "stere",
-         {lat0, lon0, k0, x0, y0}, nullptr, false},
+         {lat0, lon0, k0, x0, y0}, settlePole, false},
         {{"polarstereographicvariantb"}, 9829, "stere",
          {polar, lon0, x0, y0}, settlePolarParallel, false},
-        {{"stereographicnorthpole"}, 0, "stere +lat_0=90",
-         {latTs, lon0, neutral(k0), x0, y0}, nullptr, false},
-        {{"stereographicsouthpole"}, 0, "stere +lat_0=-90",
-         {latTs, lon0, neutral(k0), x0, y0}, nullptr, false},
+        {{"stereographicnorthpole"}, 0, "stere",
+         {latTs, lon0, neutral(k0), x0, y0}, settleNorthPole, false},
+        {{"stereographicsouthpole"}, 0, "stere",
+         {latTs, lon0, neutral(k0), x0, y0}, settleSouthPole, false},
+        {{"hotineobliquemercator"}, 0, "omerc",
+         {lat0, lonc, alpha, gamma, k0, x0, y0}, settleSwissGrid, false},
         {{"hotineobliquemercator", "hotineobliquemercatorvarianta", "rectifiedskeworthomorphicnaturalorigin"}, 9812,
-         "omerc +no_uoff", {lat0, lonc, alpha, gamma, k0, x0, y0}, settleGridAngle, false},
+         "omerc +no_uoff", {lat0, lonc, alpha, gamma, k0, x0, y0}, settleNaturalOrigin, false},
         {{"hotineobliquemercatorazimuthnaturalorigin"}, 0, "omerc +no_uoff",
-         {lat0, lonc, alpha, esri(gamma), k0, x0, y0}, settleGridAngle, false},
+         {lat0, lonc, alpha, esri(gamma), k0, x0, y0}, settleNaturalOrigin, false},
         {{"hotineobliquemercatorvariantb", "rectifiedskeworthomorphiccenter"}, 9815, "omerc",
          {lat0, lonc, alpha, gamma, k0, x0, y0}, settleGridAngle, false},
         {{"hotineobliquemercatorazimuthcenter"}, 0, "omerc",
