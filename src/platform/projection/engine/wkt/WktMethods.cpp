@@ -144,8 +144,6 @@ const QVector<WktMethod>& methods() {
          {neutral(lat0), lon0, neutral(latTs), x0, y0, sphere}, nullptr, false},
         {{"lambertconformalconic1sp", "lambertconicconformal1sp"}, 9801, "lcc",
          {lat0, lon0, may(lat1), k0, x0, y0}, settleParallelAtOrigin, false},
-        {{"lambertconformalconic1sp"}, 0, "lcc",
-         {lat0, lon0, lat1, k0, x0, y0}, nullptr, true},
         {{"lambertconicconformal1spvariantb"}, 1102, "lcc",
          {{Meaning::LatitudeOfFalseOrigin, "lat_0", Presence::Required}, lon0,
           {Meaning::LatitudeOfOrigin, "lat_1", Presence::Required}, k0, x0, y0}, nullptr, true},
