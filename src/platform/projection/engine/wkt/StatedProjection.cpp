@@ -38,9 +38,11 @@ double withFifteenDigits(double value) {
     return QByteArray::number(value, 'g', 15).toDouble();
 }
 
+/// An angle in degrees. 15 digits of a right angle in radians are off in the thirteenth decimal of degrees, and beyond
+/// a pole there is nothing.
 double toDegrees(double value, double unit) {
     const double factor = WktUnit::ofAngles(unit).factor;
-    return factor == Angle::toRadians(1) ? value : withFifteenDigits(Angle::toDegrees(value * factor));
+    return factor == Angle::toRadians(1) ? value : std::round(Angle::toDegrees(value * factor) * 1e12) / 1e12;
 }
 
 /// The unit of the grid: not a number where there is none or more than one.
