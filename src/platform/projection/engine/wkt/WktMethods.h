@@ -35,7 +35,7 @@ using WktItems = QMap<QByteArray, double>;
 struct WktMethod {
     enum class Presence {
         Required,
-        May,     ///< left out by some who write the dialect, and then 0, or 1 for a scale; see docs/file-formats.md
+        May,     ///< left out by some who write the dialect (docs/file-formats.md), and then 1 for a scale
         Esri,    ///< left out in ESRI's dialect, which knows one choice only
         Neutral, ///< not the method's: written by some, and then 0, or 1 for a scale
     };
