@@ -32,16 +32,13 @@ private Q_SLOTS:
             QVERIFY2(std::abs(read[i] - expected[i]) < 1e-10, QByteArray::number(read[i], 'g', 17));
     }
 
-    void variants_data() { textRows("variants.txt", {"title", "of", "before", "after", "start"}); }
+    void variants_data() { textRows("variants.txt"); }
 
     void variants() {
-        QFETCH(QByteArray, of);
-        QFETCH(QByteArray, before);
-        QFETCH(QByteArray, after);
-        QFETCH(QByteArray, start);
+        const auto [title, base, before, after, start] = textRow<5>();
         QByteArray text;
         for (const QByteArrayList& columns : textTable("projected.txt")) {
-            if (columns.first() == of)
+            if (columns.first() == base)
                 text = columns.last();
         }
         QCOMPARE(text.count(before), 1);
