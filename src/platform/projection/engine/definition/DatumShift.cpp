@@ -34,8 +34,5 @@ bool readDatumShift(const ProjItems& items, ProjTowgs84* shift) {
             return false;
     }
     shift->ppm = withoutRoundingError(shift->ppm);
-    // No datum is a thousandth larger than another: such a difference is a factor or another unit taken for ppm.
-    if (std::abs(shift->ppm) > 1000)
-        *shift = {};
     return true;
 }
