@@ -89,9 +89,9 @@ WktUnit WktUnit::read(std::string_view name, std::string_view factor) {
 }
 
 WktUnit WktUnit::ofAngles(double factor) {
-    constexpr double near = 1e-2;
+    constexpr double another = 1e-2;
     for (const double exact : {degree, grad}) {
-        if (differenceOf(factor, exact) < near)
+        if (differenceOf(factor, exact) < another)
             return differenceOf(factor, exact) < rounding ? asExact(factor, exact) : WktUnit{none, false};
     }
     return {factor, false};
