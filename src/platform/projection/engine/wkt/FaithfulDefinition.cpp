@@ -118,5 +118,8 @@ QByteArray faithfulDefinition(const QByteArray& exported, const ProjectedWkt& wk
     if (!normalised.isEmpty() && stated.isOnlyOurs && !wkt.hasExtension)
         return normalised + ' ' + datumOf(items);
     const bool isStated = !normalised.isEmpty() && areSame(normalised, normalisedProjection(items, ellipsoid));
-    return isStated ? exported : withoutProjection(items);
+    if (!isStated)
+        return withoutProjection(items);
+    // Readers round the meridian of Paris.
+    return statedItems.text("pm") == "0" ? exported : normalised + ' ' + datumOf(items);
 }

@@ -1,10 +1,12 @@
 #include "platform/projection/engine/wkt/ProjectedWkt.h"
 
+#include "catalogue/Angle.h"
 #include "platform/projection/engine/definition/ProjItems.h"
 #include "platform/projection/engine/wkt/PlainName.h"
 #include "platform/projection/engine/wkt/WktUnit.h"
 
 #include <algorithm>
+#include <cmath>
 #include <initializer_list>
 #include <string_view>
 
@@ -66,6 +68,7 @@ private:
     void noteEllipsoid(int index, Text text);
     void noteMeridian(int index, Text text);
     void noteUnit(Text keyword, Text parent, int index, Text text);
+    void noteShiftUnit(Text keyword, int index, Text text);
     void noteAxis(Text parent, int index, Text text);
     void noteIdentifier(Text parent, int index, Text text);
     void require(bool condition) { statement.isSound = statement.isSound && condition; }
@@ -141,8 +144,10 @@ void Scanner::close() {
 }
 
 void Scanner::value(Text text) {
-    if (path.isEmpty() || !path.last().isProjected)
+    if (path.isEmpty())
         return;
+    if (!path.last().isProjected)
+        return noteShiftUnit(path.last().keyword, path.last().index, text);
     note(path.last().keyword, path.size() > 1 ? path[path.size() - 2].keyword : Text(), path.last().index, text);
 }
 
@@ -231,6 +236,17 @@ void Scanner::noteUnit(Text keyword, Text parent, int index, Text text) {
                (isOneOf(parent, {"AXIS"}) && !statement.axes.isEmpty() && statement.axes.last() != "up")) {
         statement.gridUnits.append(factor);
     }
+}
+
+/// Of a parameter of the shift around the projected system.
+void Scanner::noteShiftUnit(Text keyword, int index, Text text) {
+    const bool isParameter = path.size() > 1 && isOneOf(path[path.size() - 2].keyword, {"PARAMETER"});
+    const bool isAngle = isOneOf(keyword, {"ANGLEUNIT"});
+    if (index != 1 || !isParameter || !(isAngle || isOneOf(keyword, {"UNIT", "LENGTHUNIT", "SCALEUNIT"})))
+        return;
+    const double expected = isAngle ? Angle::toRadians(1.0 / 3600) : 1;
+    if (!(std::abs(toNumber(text) / expected - 1) < 1e-9))
+        statement.hasShiftInOtherUnits = true;
 }
 
 void Scanner::noteAxis(Text parent, int index, Text text) {

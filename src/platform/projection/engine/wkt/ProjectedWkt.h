@@ -41,7 +41,9 @@ public:
     double meridianUnit = none;      ///< its own
     double semiMajorAxis = 0;        ///< in metres
     double inverseFlattening = none; ///< 0 for a sphere
-    bool hasExtension = false;       ///< GDAL's, which holds a definition beside the text's
+    /// The shift around the system is stated in units of its own, which readers leave out of account.
+    bool hasShiftInOtherUnits = false;
+    bool hasExtension = false; ///< GDAL's, which holds a definition beside the text's
     bool isWkt1 = false;
     bool isEsri = false;         ///< in ESRI's dialect of WKT 1, which readers know by its names of datums
     bool hasRoundedUnit = false; ///< see WktUnit

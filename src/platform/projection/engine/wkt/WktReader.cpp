@@ -127,7 +127,7 @@ WktSystem WktReader::read(const QByteArray& wkt) {
     if (isGeocentric(statement.baseAuthority, statement.baseCode))
         noSearch.emplace();
     QByteArray definition = exportedDefinition(reference);
-    if (definition.isEmpty())
+    if (definition.isEmpty() || statement.hasShiftInOtherUnits)
         definition = definitionWithoutShift(statement);
     if (definition.isEmpty())
         definition = datumDefinition(reference);

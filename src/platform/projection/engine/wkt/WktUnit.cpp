@@ -31,6 +31,7 @@ struct NamedUnit {
 constexpr double degree = Angle::toRadians(1);
 constexpr double grad = Angle::toRadians(0.9);
 constexpr double surveyFoot = 1200.0 / 3937;
+constexpr double searsFoot = 12 / 39.370147;
 constexpr NamedUnit namedUnits[] = {
     {"degree", degree},
     {"degrees", degree},
@@ -51,6 +52,23 @@ constexpr NamedUnit namedUnits[] = {
     {"usfoot", surveyFoot},
     {"ussurveyfoot", surveyFoot},
     {"ussurveyfeet", surveyFoot},
+    {"arcsecond", degree / 3600},
+    {"second", degree / 3600},
+    {"arcminute", degree / 60},
+    {"minute", degree / 60},
+    {"clarkesfoot", 0.3047972654},
+    {"footclarke", 0.3047972654},
+    {"britishfootsears1922", searsFoot},
+    {"footsears", searsFoot},
+    {"britishchainsears1922", 66 * searsFoot},
+    {"chainsears", 66 * searsFoot},
+    {"indianfoot", 12 / 39.370142},
+    {"footindian", 12 / 39.370142},
+    {"goldcoastfoot", 6378300 / 20926201.0},
+    {"footgoldcoast", 6378300 / 20926201.0},
+    {"link", 0.201168},
+    {"germanlegalmetre", 1.0000135965},
+    {"metergerman", 1.0000135965},
 };
 
 /// The feet and yards of EPSG's registry whose factors have fewer than ten digits.
