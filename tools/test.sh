@@ -6,7 +6,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 preset=${1:-release}
 shift $(($# > 0 ? 1 : 0))
 
-install_packages build display test
+install_packages build display test bench
 build "$preset"
 
 export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=1:detect_stack_use_after_return=1}

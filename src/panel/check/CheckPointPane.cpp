@@ -51,6 +51,19 @@ QString factorText(double factor) {
     return QString::number(factor, 'f', 10) + "  (" + QString::number(ppm + 0.0, 'f', 2) + " ppm)";
 }
 
+/// What `factor` makes of the scale: one factor, or two where the projection is not conformal.
+template <typename Factor> QString factorsText(const LocalScale& scale, Factor factor) {
+    if (scale.isConformal())
+        return factorText(factor(scale.mean));
+    return PanelText::tr("along the meridian %1\nalong the parallel %2")
+        .arg(factorText(factor(scale.meridian)), factorText(factor(scale.parallel)));
+}
+
+/// A distance in metres, or in millimetres below one.
+QString errorText(double metres) {
+    return metres < 1.0 ? QString::number(metres * 1000.0, 'f', 3) + " mm" : QString::number(metres, 'f', 3) + " m";
+}
+
 } // namespace
 
 CheckPointPane::CheckPointPane(QWidget* parent) : QWidget(parent) {
@@ -109,10 +122,14 @@ void CheckPointPane::addResults(QGridLayout* grid) {
         grid->addWidget(labels[i], 8 + int(i), 0, Qt::AlignTop);
         grid->addWidget(results[i], 8 + int(i), 1, 1, 3);
     }
-    labels[Convergence]->setToolTip(PanelText::tr("A true azimuth is the grid bearing plus the convergence."));
+    labels[Convergence]->setToolTip(PanelText::tr(
+        "A true azimuth is the grid bearing plus the convergence. Where the projection is not conformal, this "
+        "holds along the meridian only."));
     labels[CombinedFactor]->setToolTip(
         PanelText::tr("Grid scale factor times R / (R + height): from a distance at that height to the grid."));
-    labels[ClosingError]->setToolTip(PanelText::tr("How far the point is off when it is computed there and back."));
+    labels[ClosingError]->setToolTip(
+        PanelText::tr("How far the point is off when it is computed there and back: through the projection, and "
+                      "through the datum shift."));
 }
 
 void CheckPointPane::setSystem(const std::shared_ptr<const ShownSystem>& shown) {
@@ -241,26 +258,35 @@ void CheckPointPane::showResults() {
         return;
     }
     const LocalScale& scale = point->scale;
-    results[ScaleFactor]->setText(scale.isConformal()
-                                      ? factorText(scale.mean)
-                                      : PanelText::tr("along the meridian %1\nalong the parallel %2")
-                                            .arg(factorText(scale.meridian), factorText(scale.parallel)));
-    results[Convergence]->setText(
-        CheckField::angleText(scale.convergence, 7) +
-        (AngleText::notation() == AngleNotation::DecimalDegrees ? QStringLiteral("°") : QString()));
-    results[CombinedFactor]->setText(factorText(point->combinedFactor()));
+    results[ScaleFactor]->setText(factorsText(scale, [](double factor) { return factor; }));
+    results[CombinedFactor]->setText(
+        factorsText(scale, [this](double factor) { return point->combinedFactor(factor); }));
+    showConvergence();
     showClosingError();
 }
 
+void CheckPointPane::showConvergence() {
+    QString text = CheckField::angleText(point->scale.convergence, 7) +
+                   (AngleText::notation() == AngleNotation::DecimalDegrees ? QStringLiteral("°") : QString());
+    if (!point->scale.isConformal())
+        text = PanelText::tr("along the meridian %1\nin other directions off by up to %2\"")
+                   .arg(text, QString::number(point->bearingError() * 3600.0, 'f', 1));
+    results[Convergence]->setText(text);
+}
+
 void CheckPointPane::showClosingError() {
-    const double error = point->closingError;
-    QString text =
-        error < 1.0 ? QString::number(error * 1000.0, 'f', 3) + " mm" : QString::number(error, 'f', 3) + " m";
-    if (error > unreliable)
+    const bool isProjectionOff = point->closingError > unreliable;
+    const bool isShiftOff = point->shiftClosingError.value_or(0.0) > unreliable;
+    QString text = errorText(point->closingError);
+    if (point->shiftClosingError)
+        text = PanelText::tr("%1, datum shift %2").arg(text, errorText(*point->shiftClosingError));
+    if (isProjectionOff)
         text += "  " + PanelText::tr("The projection is not reliable here.");
+    if (isShiftOff)
+        text += "  " + PanelText::tr("The datum shift is not reliable here.");
     results[ClosingError]->setText(text);
     QPalette colors;
-    if (error > unreliable)
+    if (isProjectionOff || isShiftOff)
         colors.setColor(QPalette::WindowText, MessageLine::textColor(*this, MessageLine::Tone::Error));
     results[ClosingError]->setPalette(colors);
 }

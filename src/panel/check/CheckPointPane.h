@@ -55,6 +55,7 @@ private:
     void recompute();
     bool isComplete() const;
     void showResults();
+    void showConvergence();
     void showClosingError();
     QString unknownShiftText() const;
     QString placeText(const GeographicPoint& place) const;

@@ -1,7 +1,9 @@
 #include "panel/computing/CheckPoint.h"
 
+#include "catalogue/Angle.h"
 #include "panel/computing/GroundDistance.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -11,16 +13,34 @@ bool knows(const IProjectedSystem& system, CheckPoint::Datum datum) {
     return datum == CheckPoint::Datum::Own || system.hasDatumShift();
 }
 
-/// All but the grid point and the closing error, from `own`.
+/// All but the grid point and the projection's closing error, from `own`.
 std::optional<CheckPoint> describe(const IProjectedSystem& system, const GeographicPoint& own) {
-    const auto wgs84 = system.hasDatumShift() ? system.toWgs84(own) : std::nullopt;
     const auto scale = system.localScale(own);
-    if ((system.hasDatumShift() && !wgs84) || !scale)
+    if (!scale)
         return std::nullopt;
-    return CheckPoint{own, wgs84, {}, *scale, system.elevationFactor(own.latitude, own.height), 0.0};
+    CheckPoint point{own, {}, {}, *scale, system.elevationFactor(own.latitude, own.height), 0.0, {}};
+    if (!system.hasDatumShift())
+        return point;
+    point.wgs84 = system.toWgs84(own);
+    const auto back = point.wgs84 ? system.fromWgs84(*point.wgs84) : std::nullopt;
+    if (!back)
+        return std::nullopt;
+    point.shiftClosingError = groundDistance(*back, own, system.meanRadius(own.latitude));
+    return point;
 }
 
 } // namespace
+
+double CheckPoint::bearingError() const {
+    if (scale.isConformal())
+        return 0.0;
+    const double a = scale.largest, b = scale.smallest;
+    // The meridian's direction from the axis of the largest scale, on the ground and on the grid.
+    const double square = (scale.meridian * scale.meridian - b * b) / (a * a - b * b);
+    const double ground = std::acos(std::sqrt(std::clamp(square, 0.0, 1.0)));
+    const double grid = std::atan2(b * std::sin(ground), a * std::cos(ground));
+    return Angle::toDegrees(std::asin((a - b) / (a + b)) + std::abs(ground - grid));
+}
 
 std::optional<CheckPoint> CheckPoint::fromGeographic(const IProjectedSystem& system, const GeographicPoint& point,
                                                      Datum datum) {
@@ -30,13 +50,12 @@ std::optional<CheckPoint> CheckPoint::fromGeographic(const IProjectedSystem& sys
     const auto grid = own ? system.toGrid(*own) : std::nullopt;
     const auto back = grid ? system.toGeographic(*grid, own->height) : std::nullopt;
     auto result = back ? describe(system, *own) : std::nullopt;
-    const auto closing = back && datum == Datum::Wgs84 ? system.toWgs84(*back) : back;
-    if (!result || !closing)
+    if (!result)
         return std::nullopt;
     if (datum == Datum::Wgs84)
         result->wgs84 = point;
     result->grid = *grid;
-    result->closingError = groundDistance(*closing, point, system.meanRadius(point.latitude));
+    result->closingError = groundDistance(*back, *own, system.meanRadius(own->latitude));
     return result;
 }
 
@@ -45,8 +64,8 @@ std::optional<CheckPoint> CheckPoint::fromGrid(const IProjectedSystem& system, c
     if (!knows(system, datum))
         return std::nullopt;
     auto own = system.toGeographic(point, height);
-    if (own && datum == Datum::Wgs84) {
-        // The shift changes heights by much the same everywhere near: once is enough.
+    // The shift changes heights by much the same everywhere near: each step leaves a thousandth and less.
+    for (int step = 0; own && datum == Datum::Wgs84 && step < 4; ++step) {
         const auto wgs84 = system.toWgs84(*own);
         if (!wgs84)
             return std::nullopt;

@@ -14,10 +14,20 @@ struct CheckPoint {
     GridPoint grid;
     LocalScale scale;
     double elevationFactor; ///< R / (R + height) with the ellipsoid's mean radius R at the point
-    double closingError;    ///< metres between the input and what comes back from the opposite computation
 
-    /// Scale factor from a distance at the point's height to the grid (NOAA Manual NOS NGS 5, section 4.2).
-    double combinedFactor() const { return scale.mean * elevationFactor; }
+    /// Metres between the point and what comes back from the opposite computation: through the projection, and through
+    /// the datum shift where there is one.
+    double closingError;
+    std::optional<double> shiftClosingError;
+
+    /// Scale factor from a distance at the point's height to the grid, of the scale factor `gridScale` there (NOAA
+    /// Manual NOS NGS 5, section 4.2).
+    double combinedFactor(double gridScale) const { return gridScale * elevationFactor; }
+
+    /// By how much a true azimuth may differ from the grid bearing plus the convergence, which is the meridian's:
+    /// degrees; 0 where the projection is conformal. Tissot's indicatrix turns the directions between its axes (Snyder
+    /// 1987, page 23): at most by the arc sine of (a - b) / (a + b), and the meridian itself by its own turn.
+    double bearingError() const;
 
     std::optional<GeographicPoint> on(Datum datum) const { return datum == Datum::Own ? own : wgs84; }
 

@@ -16,8 +16,12 @@ namespace {
 
 constexpr double roundingOfFactor = 0.05; ///< ppm: half of the seventh decimal
 
-void put(CoordParamEditor& editor, const ParamField& field, double value) {
-    editor.setField(field, field.parse(NumberText::shortest(value)));
+/// Puts a value into the editor's record, a longitude within -180 to 180; false when the field refuses it.
+[[nodiscard]] bool put(CoordParamEditor& editor, const ParamField& field, double value) {
+    const bool isLongitude = field.quantity == Quantity::Longitude;
+    const FieldInput input = field.parse(NumberText::shortest(isLongitude ? std::remainder(value, 360.0) : value));
+    editor.setField(field, input);
+    return input.valid;
 }
 
 double rounded(double value, int decimals) {
@@ -70,13 +74,13 @@ public:
                       : std::numeric_limits<double>::infinity();
     }
 
-    /// The bounds in degrees of the points' latitudes or, around the present line, longitudes.
-    Bounds degrees(const ParamField& line, double present) const {
+    /// The bounds in degrees of the points' latitudes or longitudes, which go on beyond 180 where the area does.
+    Bounds degrees(const ParamField& line) const {
+        const double start = points.first().longitude;
         Bounds degrees;
         for (const GeographicPoint& point : points)
-            degrees.add(line.quantity == Quantity::Longitude
-                            ? present + std::remainder(point.longitude - present, 360.0)
-                            : point.latitude);
+            degrees.add(line.quantity == Quantity::Longitude ? start + std::remainder(point.longitude - start, 360.0)
+                                                             : point.latitude);
         return degrees;
     }
 
@@ -86,15 +90,14 @@ private:
     double height;
 };
 
-/// Moves the line of `editor`'s record to where the area's factors differ least.
-void placeBestLine(CoordParamEditor& editor, const ParamField& line, const Trial& trial) {
+/// Moves the line of `editor`'s record to where the area's factors differ least; false when its field refuses that.
+bool placeBestLine(CoordParamEditor& editor, const ParamField& line, const Trial& trial) {
     const double present = dictionary_number(editor.record(), line.key, 0.0);
     const bool startsOnParallel =
         line.is(Key::parallel1Lat) && dictionary_number(editor.record(), Key::orgLat, 0.0) == present;
-    const Bounds degrees = trial.degrees(line, present);
+    const Bounds degrees = trial.degrees(line);
     const auto spreadAt = [&](double value) {
-        put(editor, line, value);
-        return trial.spread(editor.record());
+        return put(editor, line, value) ? trial.spread(editor.record()) : std::numeric_limits<double>::infinity();
     };
     const double ratio = (std::sqrt(5.0) - 1.0) / 2.0;
     double low = degrees.least, high = degrees.greatest;
@@ -115,23 +118,22 @@ void placeBestLine(CoordParamEditor& editor, const ParamField& line, const Trial
             outerSpread = spreadAt(outer);
         }
     }
-    double best = rounded((low + high) / 2.0, degrees.greatest - degrees.least < 1.0 ? 4 : 2);
-    if (line.quantity == Quantity::Longitude)
-        best = rounded(std::remainder(best, 360.0), 4);
-    put(editor, line, best);
+    const double best = rounded((low + high) / 2.0, degrees.greatest - degrees.least < 1.0 ? 4 : 2);
     // A cone that starts on its parallel goes on doing so.
-    if (startsOnParallel)
-        put(editor, *ProjectionFields::ofRecord(editor.record())->field(Key::orgLat), best);
+    return put(editor, line, best) &&
+           (!startsOnParallel || put(editor, *ProjectionFields::ofRecord(editor.record())->field(Key::orgLat), best));
 }
 
-/// Gives `editor`'s record the best factor; the distortion that is left, or nothing where there is no result.
+/// Gives `editor`'s record the best factor; the distortion that is left, or nothing where there is no result or the
+/// factor is none.
 std::optional<DesignProposal::Distortion> putBestFactor(CoordParamEditor& editor, const Trial& trial) {
     const auto bounds = trial.factors(editor.record());
     if (!bounds)
         return std::nullopt;
     const double present = dictionary_number(editor.record(), Key::factor, 1.0);
-    put(editor, *ProjectionFields::ofRecord(editor.record())->field(Key::factor),
-        rounded(2.0 * present / (bounds->least + bounds->greatest), 7));
+    const double best = rounded(2.0 * present / (bounds->least + bounds->greatest), 7);
+    if (!put(editor, *ProjectionFields::ofRecord(editor.record())->field(Key::factor), best))
+        return std::nullopt;
     return trial.distortion(editor.record());
 }
 
@@ -184,8 +186,8 @@ std::optional<DesignProposal> DesignProposal::make(const IDictionary& record, IP
     const auto consider = [&](const ParamField* line) {
         CoordParamEditor editor;
         editor.setRecord(record);
-        if (line)
-            placeBestLine(editor, *line, trial);
+        if (line && !placeBestLine(editor, *line, trial))
+            return;
         const bool isSameLine =
             line && dictionary_number(editor.record(), line->key, 0.0) == dictionary_number(record, line->key, 0.0);
         const auto after = putBestFactor(editor, trial);
@@ -206,6 +208,9 @@ std::optional<DesignProposal> DesignProposal::make(const IDictionary& record, IP
 }
 
 void DesignProposal::apply(CoordParamEditor& editor) const {
-    for (const Change& change : changedValues)
-        put(editor, *change.field, change.after);
+    for (const Change& change : changedValues) {
+        const bool taken = put(editor, *change.field, change.after);
+        Q_ASSERT(taken); // as it was when it was proposed
+        Q_UNUSED(taken)
+    }
 }

@@ -2,6 +2,7 @@
 
 #include "catalogue/CoordParamKey.h"
 #include "panel/record/DefinitionState.h"
+#include "panel/record/PanelText.h"
 #include "platform/projection/IProjectionModule.h"
 
 std::shared_ptr<const ShownSystem> ShownSystem::of(const IDictionary& record, const ShownSystem* earlier) {
@@ -16,6 +17,8 @@ std::shared_ptr<const ShownSystem> ShownSystem::of(const IDictionary& record, co
         system->projected = earlier->projected;
     else
         system->projected = projectionModule()->createSystem(system->definition);
+    if (!system->projected)
+        system->reason = PanelText::tr("No projection: these values make none.");
     return system;
 }
 

@@ -75,14 +75,15 @@ bool ProjectionAdvice::fitsNoMethod(const IDictionary& record) {
 bool ProjectionAdvice::isDegenerate(const ProjectionFields& projection, const IDictionary& record) {
     // The limits are PROJ's.
     constexpr double same = Angle::toDegrees(1e-10);
+    constexpr double sameForPoints = Angle::toDegrees(1e-7);
     switch (projection.method) {
     case ProjectionMethod::LambertOneParallel:
         return std::fabs(number(record, Key::parallel1Lat)) < same;
     case ProjectionMethod::LambertTwoParallels:
         return std::fabs(number(record, Key::parallel1Lat) + number(record, Key::parallel2Lat)) < same;
     case ProjectionMethod::ObliqueMercatorTwoPoints:
-        return std::fabs(number(record, Key::lat1) - number(record, Key::lat2)) < same ||
-               std::fabs(number(record, Key::lat1)) < same;
+        return std::fabs(number(record, Key::lat1) - number(record, Key::lat2)) <= sameForPoints ||
+               std::fabs(number(record, Key::lat1)) <= sameForPoints;
     default:
         return false;
     }
@@ -101,6 +102,8 @@ QString ProjectionAdvice::warning(const ProjectionFields& projection, const Para
         return coneWarning(projection, record);
     if (field.quantity == Quantity::Longitude && isTransverseMercator(projection))
         return meridianWarning(record, value);
+    if (field.quantity == Quantity::Azimuth)
+        return azimuthWarning(value);
     return QString();
 }
 
@@ -126,6 +129,16 @@ QString ProjectionAdvice::coneWarning(const ProjectionFields& projection, const 
     return std::fabs(number(record, Key::parallel1Lat) + number(record, Key::parallel2Lat)) < 1.0
                ? tr("The standard parallels nearly cancel out.")
                : QString();
+}
+
+/// The method's formulas know the azimuth's sine only.
+QString ProjectionAdvice::azimuthWarning(double azimuth) {
+    const double turn = std::remainder(azimuth, 360.0);
+    if (std::fabs(turn) <= 90.0)
+        return QString();
+    const double other = std::copysign(180.0, turn) - turn;
+    return tr("Gives the line of %1°. For the line of this azimuth, type %2°.")
+        .arg(NumberText::shortest(other), NumberText::shortest(-other + 0.0));
 }
 
 QString ProjectionAdvice::meridianWarning(const IDictionary& record, double meridian) {

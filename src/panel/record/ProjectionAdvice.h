@@ -30,5 +30,6 @@ private:
     static QString scaleWarning(const ProjectionFields& projection, const IDictionary& record, double factor);
     static QString parallelWarning(const ProjectionFields& projection, const IDictionary& record, double latitude);
     static QString coneWarning(const ProjectionFields& projection, const IDictionary& record);
+    static QString azimuthWarning(double azimuth);
     static QString meridianWarning(const IDictionary& record, double meridian);
 };

@@ -42,6 +42,8 @@ private Q_SLOTS:
         row("UTM", false, 0.0, {50.0, 16.0, 0.0}, 15.0);
         row("UTM", true, 0.0, {50.0, 16.0, 0.0}, 16.0);
         row("UTM", true, 2200.0, {-30.0, 13.5, 0.0}, 13.5);
+        row("UTM", true, 100.0, {-18.0, 180.0, 0.0}, 180.0);
+        row("UTM", true, 200.0, {52.0, -164.8, 0.0}, -164.8); // around the opposite of the present one
         row("Gauss-Kruger", true, 1500.0, {40.0, 116.2, 0.0}, 116.2);
         row("Lambert one parallel", false, 400.0, {18.1, -77.3, 0.0}, 18.0);
         row("Lambert one parallel", true, 400.0, {19.0, -77.3, 0.0}, 19.0);
@@ -102,6 +104,21 @@ private Q_SLOTS:
         QCOMPARE(editor.record().getValue(CoordParamKey::factor), "1.0001569");
         QCOMPARE(editor.record().getValue(CoordParamKey::projectType), "1"); // it has a scale now
         QVERIFY(proposal->after().extreme() < 0.06);
+    }
+
+    /// From 177 degrees east to 177 and to 175 west.
+    void acrossTheAntimeridian() {
+        const DictionaryGuard record = SampleRecord::named("UTM").with(CoordParamKey::orgLon, "178").record();
+        for (const double east : {183.0, 185.0}) {
+            QVector<GeographicPoint> points;
+            for (double longitude = 177.0; longitude <= east; longitude += 0.5)
+                points.append({-16.0, std::remainder(longitude, 360.0), 0.0});
+            const auto proposal = DesignProposal::make(*record, *projectionModule(), points, 0.0, true);
+            QVERIFY(proposal && proposal->changes().size() == 2);
+            QCOMPARE(proposal->changes().first().after, east == 183.0 ? 180.0 : -179.0);
+            QVERIFY2(proposal->after().extreme() < (east == 183.0 ? 640.0 : 1134.0),
+                     qPrintable(QString::number(proposal->after().extreme())));
+        }
     }
 
     /// What changes less than the rounding is not worth a change, nor is a line that makes nothing better.

@@ -18,6 +18,8 @@ private Q_SLOTS:
         row("no ellipsoid", SampleRecord::named("UTM").with("ellipsoid_a", "0"));
         row("parallels cancel",
             SampleRecord::named("Lambert two parallels").with("parallel_1_lat", "-30.2833333333333"));
+        row("centre at the pole", SampleRecord::named("Oblique Mercator").with("org_lat", "90"));
+        row("line far from the centre", SampleRecord::named("Oblique Mercator two points").with("org_lat", "80"));
         row("polar with both scale and parallel", SampleRecord::named("Polar with parallel").with("factor", "0.994"));
     }
 

@@ -1,6 +1,10 @@
 #include "platform/projection/engine/computing/Geodesy.h"
 
 #include "platform/projection/engine/computing/ProjectedSystem.h"
+#include "platform/projection/engine/definition/DatumShift.h"
+#include "platform/projection/engine/definition/DefinedProjection.h"
+#include "platform/projection/engine/definition/Ellipsoid.h"
+#include "platform/projection/engine/definition/ProjItems.h"
 #include "platform/projection/engine/proj/BoundSystem.h"
 #include "platform/projection/engine/proj/ProjContext.h"
 
@@ -9,61 +13,49 @@
 #include <proj_experimental.h>
 
 #include <algorithm>
-#include <array>
 #include <cctype>
 #include <iterator>
 #include <utility>
 
 namespace {
 
-/// The three parts of a definition, each as items that PROJ reads.
+/// The two parts of a definition.
 struct DefinitionParts {
     QByteArray projection; ///< everything but the shift
-    QByteArray ellipsoid;
-    QByteArray shift; ///< the values of +towgs84, or empty
+    QByteArray shift;      ///< the values of +towgs84, or empty
 };
 
 DefinitionParts splitDefinition(const QByteArray& definition) {
     const QByteArray shiftKey = "+towgs84=";
-    static constexpr std::array ellipsoidKeys = {"+ellps=", "+datum=", "+a=", "+b=", "+rf=", "+f=", "+R="};
     DefinitionParts parts;
     for (const QByteArray& item : definition.simplified().split(' ')) {
-        if (item.startsWith(shiftKey)) {
+        if (item.startsWith(shiftKey))
             parts.shift = item.mid(shiftKey.size());
-            continue;
-        }
-        if (item == "+type=crs")
-            continue;
-        parts.projection += item + ' ';
-        if (std::any_of(ellipsoidKeys.begin(), ellipsoidKeys.end(), [&](auto key) { return item.startsWith(key); }))
-            parts.ellipsoid += item + ' ';
+        else if (item != "+type=crs")
+            parts.projection += item + ' ';
     }
     return parts;
-}
-
-/// The steps from the own datum to WGS 84, or an empty text when the shift is not 3 or 7 values.
-QByteArray shiftPipeline(const DefinitionParts& parts) {
-    static constexpr std::array names = {" +x=", " +y=", " +z=", " +rx=", " +ry=", " +rz=", " +s="};
-    const QList<QByteArray> values = parts.shift.split(',');
-    if (values.size() != 3 && values.size() != 7)
-        return {};
-    QByteArray helmert = "+proj=helmert";
-    for (int i = 0; i < values.size(); ++i)
-        helmert += names[static_cast<std::size_t>(i)] + values[i];
-    if (values.size() == 7)
-        helmert += " +convention=position_vector";
-    return "+proj=pipeline +step +proj=cart " + parts.ellipsoid + "+step " + helmert +
-           " +step +inv +proj=cart +ellps=WGS84";
 }
 
 ProjObject parsedSystem(PJ_CONTEXT* context, const QByteArray& definition) {
     return ProjObject(proj_create(context, (definition + " +type=crs").constData()));
 }
 
+/// PROJ's reader of definitions takes a second standard parallel that is not there for 0 where the origin lies off the
+/// first; its projection takes it for the first.
+QByteArray withBothParallels(const QByteArray& definition) {
+    const QByteArray key = "+lat_1=";
+    const int at = definition.indexOf(key);
+    if (!definition.startsWith("+proj=lcc ") || at < 0 || definition.contains("+lat_2="))
+        return definition;
+    const QByteArray parallel = definition.mid(at + key.size()).split(' ').first();
+    return definition.contains("+lat_0=" + parallel + ' ') ? definition : definition + " +lat_2=" + parallel;
+}
+
 /// The projected system of a definition without a shift. PROJ itself would leave its name open, name its ellipsoid only
 /// where it knows the axes, and draw a polar system's axes along 0 and 90 degrees whatever its central meridian.
 ProjObject namedSystem(PJ_CONTEXT* context, const QByteArray& definition, const WktNames& names) {
-    const ProjObject parsed = parsedSystem(context, definition);
+    const ProjObject parsed = parsedSystem(context, withBothParallels(definition));
     const ProjObject ellipsoid(parsed ? proj_get_ellipsoid(context, parsed.get()) : nullptr);
     const ProjObject conversion(parsed ? proj_crs_get_coordoperation(context, parsed.get()) : nullptr);
     double a = 0.0;
@@ -110,23 +102,16 @@ void putEsriNames(QByteArray& wkt, const WktNames& names) {
 
 std::unique_ptr<IProjectedSystem> Geodesy::createSystem(const QByteArray& definition) {
     const DefinitionParts parts = splitDefinition(definition);
-    const ProjObject crs = parsedSystem(context.get(), parts.projection);
-    if (!crs || proj_get_type(crs.get()) != PJ_TYPE_PROJECTED_CRS)
+    auto projection = definedProjection(context, parts.projection);
+    const ProjItems items(definition);
+    Ellipsoid ellipsoid;
+    ProjTowgs84 shift;
+    if (!projection || !ellipsoid.read(items) || !readDatumShift(items, &shift))
         return nullptr;
-    const ProjObject ellipsoid(proj_get_ellipsoid(context.get(), crs.get()));
-    ProjObject projection(proj_create(context.get(), parts.projection.constData()));
-    double a = 0.0;
-    double b = 0.0;
-    if (!ellipsoid || !projection ||
-        proj_ellipsoid_get_parameters(context.get(), ellipsoid.get(), &a, &b, nullptr, nullptr) == 0)
-        return nullptr;
-    ProjObject shift;
-    if (!parts.shift.isEmpty()) {
-        shift.reset(proj_create(context.get(), shiftPipeline(parts).constData()));
-        if (!shift)
-            return nullptr;
-    }
-    return std::make_unique<ProjectedSystem>(std::move(projection), std::move(shift), a, b);
+    const auto toWgs84 = items.has("towgs84")
+                             ? std::optional<ShiftToWgs84>(ShiftToWgs84(shift, ellipsoid.a, ellipsoid.b))
+                             : std::nullopt;
+    return std::make_unique<ProjectedSystem>(std::move(projection), toWgs84, ellipsoid.a, ellipsoid.b);
 }
 
 QByteArray Geodesy::exportWkt(const QByteArray& definition, const WktNames& names, WktDialect dialect, bool indented) {

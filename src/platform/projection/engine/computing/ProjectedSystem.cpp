@@ -1,5 +1,7 @@
 #include "platform/projection/engine/computing/ProjectedSystem.h"
 
+#include "catalogue/Angle.h"
+
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -12,15 +14,8 @@ bool isPlace(const GeographicPoint& point) {
     return std::abs(point.latitude) <= 90.0 && std::abs(point.longitude) <= 360.0 && std::isfinite(point.height);
 }
 
-PJ_COORD toRadians(const GeographicPoint& point) {
-    return proj_coord(proj_torad(point.longitude), proj_torad(point.latitude), point.height, 0.0);
-}
-
-std::optional<GeographicPoint> toDegrees(const PJ_COORD& coord) {
-    const GeographicPoint point{proj_todeg(coord.lpz.phi), proj_todeg(coord.lpz.lam), coord.lpz.z};
-    if (!isPlace(point))
-        return std::nullopt;
-    return point;
+std::optional<GeographicPoint> withinBounds(const std::optional<GeographicPoint>& point) {
+    return point && isPlace(*point) ? point : std::nullopt;
 }
 
 double combined(double scale, double elevationFactor) {
@@ -29,63 +24,45 @@ double combined(double scale, double elevationFactor) {
 
 } // namespace
 
-ProjectedSystem::ProjectedSystem(ProjObject projection, ProjObject shift, double a, double b)
-    : projection(std::move(projection)), shift(std::move(shift)), a(a), b(b) {
+ProjectedSystem::ProjectedSystem(std::unique_ptr<PlaneProjection> projection, const std::optional<ShiftToWgs84>& shift,
+                                 double a, double b)
+    : projection(std::move(projection)), shift(shift), a(a), b(b) {
 }
 
 std::optional<GridPoint> ProjectedSystem::toGrid(const GeographicPoint& point) const {
-    if (!isPlace(point))
-        return std::nullopt;
-    const PJ_COORD grid = proj_trans(projection.get(), PJ_FWD, toRadians(point));
-    // PROJ marks what it can't compute with an infinite coordinate.
-    if (!std::isfinite(grid.xy.x) || !std::isfinite(grid.xy.y))
-        return std::nullopt;
-    return GridPoint{grid.xy.x, grid.xy.y};
+    return isPlace(point) ? projection->toGrid(point) : std::nullopt;
 }
 
 std::optional<GeographicPoint> ProjectedSystem::toGeographic(const GridPoint& point, double height) const {
     if (!std::isfinite(point.easting) || !std::isfinite(point.northing))
         return std::nullopt;
-    return toDegrees(proj_trans(projection.get(), PJ_INV, proj_coord(point.easting, point.northing, height, 0.0)));
+    return withinBounds(projection->toGeographic(point, height));
 }
 
 std::optional<LocalScale> ProjectedSystem::localScale(const GeographicPoint& point) const {
-    // The differentiation steps aside from a point at infinity; the point itself has no scale.
-    if (!toGrid(point))
-        return std::nullopt;
-    proj_errno_reset(projection.get());
-    const PJ_FACTORS factors = proj_factors(projection.get(), toRadians(point));
-    if (proj_errno(projection.get()) != 0 || !std::isfinite(factors.areal_scale) || !(factors.areal_scale > 0.0) ||
-        !std::isfinite(factors.tissot_semimajor) || !std::isfinite(factors.meridian_convergence))
-        return std::nullopt;
-    return LocalScale{factors.meridional_scale, factors.parallel_scale,   std::sqrt(factors.areal_scale),
-                      factors.tissot_semiminor, factors.tissot_semimajor, proj_todeg(factors.meridian_convergence)};
+    return isPlace(point) ? projection->localScale(point) : std::nullopt;
 }
 
 bool ProjectedSystem::hasDatumShift() const {
-    return shift != nullptr;
+    return shift.has_value();
 }
 
 std::optional<GeographicPoint> ProjectedSystem::toWgs84(const GeographicPoint& point) const {
     if (!isPlace(point))
         return std::nullopt;
-    if (!shift)
-        return point;
-    return toDegrees(proj_trans(shift.get(), PJ_FWD, toRadians(point)));
+    return shift ? withinBounds(shift->forward(point)) : point;
 }
 
 std::optional<GeographicPoint> ProjectedSystem::fromWgs84(const GeographicPoint& point) const {
     if (!isPlace(point))
         return std::nullopt;
-    if (!shift)
-        return point;
-    return toDegrees(proj_trans(shift.get(), PJ_INV, toRadians(point)));
+    return shift ? withinBounds(shift->inverse(point)) : point;
 }
 
 double ProjectedSystem::meanRadius(double latitude) const {
     // M N = a^2 b^2 / (a^2 cos^2 + b^2 sin^2)^2 (Snyder 1987, (4-18) and (4-20)).
-    const double cosine = std::cos(proj_torad(latitude));
-    const double sine = std::sin(proj_torad(latitude));
+    const double cosine = std::cos(Angle::toRadians(latitude));
+    const double sine = std::sin(Angle::toRadians(latitude));
     return a * a * b / (a * a * cosine * cosine + b * b * sine * sine);
 }
 

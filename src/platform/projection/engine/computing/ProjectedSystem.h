@@ -1,14 +1,17 @@
 #pragma once
 
 #include "platform/projection/IProjectedSystem.h"
-#include "platform/projection/engine/proj/ProjObject.h"
+#include "platform/projection/engine/computing/ShiftToWgs84.h"
+#include "platform/projection/engine/plane/PlaneProjection.h"
 
-/// A projected system over two PROJ operations: the projection, and the shift to WGS 84 where there is one.
+#include <memory>
+
+/// A projected system: a projection of its ellipsoid, and the shift to WGS 84 where there is one.
 class ProjectedSystem : public IProjectedSystem {
 public:
-    /// `projection` runs from radians to metres on the ellipsoid of the axes `a` and `b` (metres); `shift`, which may
-    /// be null, from the own datum to WGS 84 in radians and metres.
-    ProjectedSystem(ProjObject projection, ProjObject shift, double a, double b);
+    /// `projection` is one of the ellipsoid of the axes `a` and `b` (metres).
+    ProjectedSystem(std::unique_ptr<PlaneProjection> projection, const std::optional<ShiftToWgs84>& shift, double a,
+                    double b);
 
     std::optional<GridPoint> toGrid(const GeographicPoint& point) const override;
     std::optional<GeographicPoint> toGeographic(const GridPoint& point, double height) const override;
@@ -22,8 +25,8 @@ public:
 private:
     double linearDistortionAt(const GridPoint& point, double height) const;
 
-    ProjObject projection;
-    ProjObject shift;
+    std::unique_ptr<PlaneProjection> projection;
+    std::optional<ShiftToWgs84> shift;
     double a;
     double b;
 };

@@ -15,7 +15,7 @@ class ProjItems;
 /// - Hotine oblique Mercator variant A (+no_uoff) becomes variant B by moving the false origin along the central line,
 ///   from the natural origin to the projection centre (EPSG guidance note 7-2, methods 9812 and 9815);
 /// - the Swiss oblique Mercator (somerc) becomes Hotine's variant B with azimuth 90, as the EPSG registry defines the
-///   Swiss and Hungarian grids; PROJ's two agree to 1e-8 m over both countries.
+///   Swiss and Hungarian grids; ObliqueMercator and PROJ's somerc agree to 1e-8 m over both countries.
 ///
 /// Written by hand, since PROJ's own reader gets only 19 of the 28 definitions right that the tests list as normalised,
 /// and 21 of the 25 that no method holds.

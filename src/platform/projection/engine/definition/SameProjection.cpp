@@ -1,6 +1,7 @@
 #include "platform/projection/engine/definition/SameProjection.h"
 
 #include "platform/projection/engine/definition/Datum.h"
+#include "platform/projection/engine/definition/DefinedProjection.h"
 #include "platform/projection/engine/definition/Ellipsoid.h"
 #include "platform/projection/engine/definition/PrimeMeridian.h"
 #include "platform/projection/engine/definition/ProjItems.h"
@@ -62,12 +63,12 @@ bool hasUnit(const ProjContext& context, const ProjItems& given) {
     return !given.has("units") || ProjObject(proj_create(context.get(), test.constData()));
 }
 
-PJ_COORD centreOf(const ProjItems& normalised) {
+GeographicPoint centreOf(const ProjItems& normalised) {
     const char* const longitude = normalised.has("lonc") ? "lonc" : normalised.has("lon_1") ? "lon_1" : "lon_0";
     const char* const latitude = normalised.has("lat_1") ? "lat_1" : "lat_0";
     constexpr double farthestNorth = 80;
-    return proj_coord(normalised.angle(longitude, 0),
-                      std::clamp(normalised.angle(latitude, 0), -farthestNorth, farthestNorth), 0, 0);
+    return {std::clamp(normalised.angle(latitude, 0), -farthestNorth, farthestNorth), normalised.angle(longitude, 0),
+            0};
 }
 
 } // namespace
@@ -79,19 +80,17 @@ bool isSameProjection(const ProjContext& context, const ProjItems& given, const 
     if (!hasUnit(context, given))
         return false;
     const QByteArray other = normalised + ellipsoid.definition();
-    const ProjObject left(proj_create(context.get(), projectionOf(given).constData()));
-    const ProjObject right(proj_create(context.get(), other.constData()));
+    const auto left = definedProjection(context, projectionOf(given));
+    const auto right = definedProjection(context, other);
     if (!left || !right)
         return false;
     constexpr double offsets[][2] = {{-2.5, 1}, {1, -3}, {3, 2.5}};
     constexpr double tolerance = 1e-6;
-    const PJ_COORD centre = centreOf(ProjItems(normalised));
+    const GeographicPoint centre = centreOf(ProjItems(normalised));
     return std::all_of(std::begin(offsets), std::end(offsets), [&](const auto& offset) {
-        const PJ_COORD place =
-            proj_coord(proj_torad(centre.v[0] + offset[0]), proj_torad(centre.v[1] + offset[1]), 0, 0);
-        const PJ_COORD a = proj_trans(left.get(), PJ_FWD, place);
-        const PJ_COORD b = proj_trans(right.get(), PJ_FWD, place);
-        // Not a number is not within the tolerance.
-        return std::hypot(a.xy.x - b.xy.x, a.xy.y - b.xy.y) < tolerance;
+        const GeographicPoint place{centre.latitude + offset[1], centre.longitude + offset[0], 0};
+        const auto a = left->toGrid(place);
+        const auto b = right->toGrid(place);
+        return a && b && std::hypot(a->easting - b->easting, a->northing - b->northing) < tolerance;
     });
 }

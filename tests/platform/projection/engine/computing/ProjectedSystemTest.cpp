@@ -6,6 +6,7 @@
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 
+#include <QDir>
 #include <QHash>
 #include <QTest>
 
@@ -59,46 +60,31 @@ class ProjectedSystemTest : public QObject {
 private Q_SLOTS:
     void initTestCase() { QVERIFY2(projectionModule(), "the projection module was not found"); }
 
-    /// The rows of published_values.txt, whose head explains them, with the definition of their system.
+    /// The rows of published_values.txt, whose head explains them, and of limits.txt and the files in gigs/, with the
+    /// definition of their system.
     void publishedValue_data() {
-        const Rows<QByteArray, QByteArray, QVector<double>> row({"definition", "what", "n"});
-        const QHash<QByteArray, int> sizes{{"point", 5}, {"scale", 4}, {"turn", 4}, {"radius", 3}, {"shift", 7}};
-        const DictionaryGuard record;
-        QByteArray system;
-        int systems = 0, line = 0;
-        for (const QByteArray& text : contentOf(TEST_DATA_DIR "/published_values.txt").split('\n')) {
-            ++line;
-            QByteArrayList items = text.split('#').first().simplified().split(' ');
-            const QByteArray what = items.takeFirst();
-            if (what == "system") {
-                ++systems;
-                system = items.join(' ');
-                record->clear();
-            } else if (sizes.contains(what)) {
-                const QByteArray title = "line " + QByteArray::number(line) + ' ' + what + ": " + system;
-                QVERIFY2(items.size() == sizes[what], title);
-                QVector<double> numbers;
-                for (const QByteArray& item : items)
-                    numbers << number(item);
-                row(title, coordParamToProjDefine(*record), what, numbers);
-            } else if (!what.isEmpty() && what != "source") {
-                const double degreesPerUnit = what.startsWith("_7r") ? 1.0 / 3600.0 : 1.0;
-                record->setText(what, QByteArray::number(number(items.value(0)) * degreesPerUnit, 'g', 17));
-            }
-        }
-        QVERIFY(systems >= 20);
+        const Rows<QByteArray, QByteArray, QVector<double>, double, QVector<double>> row(
+            {"definition", "what", "n", "unit", "trips"});
+        QStringList files{RoomTest::dataPath("published_values.txt"), RoomTest::dataPath("limits.txt")};
+        for (const QFileInfo& file : QDir(RoomTest::dataPath("gigs")).entryInfoList({"*.txt"}))
+            files << file.filePath();
+        QCOMPARE(files.size(), 15);
+        for (const QString& file : files)
+            addRows(row, file);
     }
 
     void publishedValue() {
         QFETCH(QByteArray, definition);
         QFETCH(QByteArray, what);
         QFETCH(QVector<double>, n);
+        QFETCH(double, unit);
+        QFETCH(QVector<double>, trips);
         const auto system = projectionModule()->createSystem(definition);
         QVERIFY(system);
         const double tolerance = n.last();
         const GeographicPoint place{n[0], n[1], what == "shift" ? n[2] : 0.0};
         if (what == "point") {
-            const GridPoint expected{n[2], n[3]};
+            const GridPoint expected{n[2] * unit, n[3] * unit};
             const auto grid = system->toGrid(place);
             const auto back = system->toGeographic(expected, 0.0);
             QVERIFY(grid && back);
@@ -106,6 +92,7 @@ private Q_SLOTS:
             showDifference(grid->northing, expected.northing, tolerance);
             showDifference(distance(*back, place), 0.0, tolerance * std::sqrt(2.0));
             scaleIsTheDerivative(*system, GetProjEllipsoid(InitializeProj(definition)), place);
+            stays(*system, place, trips);
         } else if (what == "radius") {
             showDifference(system->meanRadius(n[0]), n[1], tolerance);
         } else if (what == "shift") {
@@ -162,6 +149,50 @@ private Q_SLOTS:
     }
 
 private:
+    template <typename Row> static void addRows(const Row& row, const QString& file) {
+        const QHash<QByteArray, int> sizes{{"point", 5}, {"scale", 4}, {"turn", 4}, {"radius", 3}, {"shift", 7}};
+        const DictionaryGuard record;
+        QByteArray system;
+        double unit = 1.0;
+        QVector<double> trips;
+        int line = 0;
+        for (const QByteArray& text : contentOf(file).split('\n')) {
+            ++line;
+            QByteArrayList items = text.split('#').first().simplified().split(' ');
+            const QByteArray what = items.takeFirst();
+            if (what == "system") {
+                system = items.join(' ');
+                record->clear();
+                unit = 1.0;
+                trips.clear();
+            } else if (what == "unit") {
+                unit = number(items.value(0));
+            } else if (what == "trips") {
+                trips = {number(items.value(0)), number(items.value(1))};
+            } else if (sizes.contains(what)) {
+                const QByteArray title = QFileInfo(file).fileName().toUtf8() + " line " + QByteArray::number(line) +
+                                         ' ' + what + ": " + system;
+                QVERIFY2(items.size() == sizes[what], title);
+                QVector<double> numbers;
+                for (const QByteArray& item : items)
+                    numbers << number(item);
+                row(title, coordParamToProjDefine(*record), what, numbers, unit, trips);
+            } else if (!what.isEmpty() && what != "source") {
+                const double degreesPerUnit = what.startsWith("_7r") ? 1.0 / 3600.0 : 1.0;
+                record->setText(what, QByteArray::number(number(items.value(0)) * degreesPerUnit, 'g', 17));
+            }
+        }
+    }
+
+    /// A point stays where it is, however often it is computed there and back.
+    static void stays(const IProjectedSystem& system, const GeographicPoint& place, const QVector<double>& trips) {
+        GridPoint point = *system.toGrid(place);
+        const GridPoint start = point;
+        for (double trip = 0; trip < trips.value(0); ++trip)
+            point = *system.toGrid(*system.toGeographic(point, 0.0));
+        showDifference(distance(point, start), 0.0, trips.value(1));
+    }
+
     /// Scale factors and convergence are those of 200 m along the meridian and the parallel through the point.
     static void scaleIsTheDerivative(const IProjectedSystem& system, const ProjEllipsoid& ellipsoid,
                                      const GeographicPoint& place) {

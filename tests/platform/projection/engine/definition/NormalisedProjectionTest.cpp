@@ -54,6 +54,20 @@ private Q_SLOTS:
         QVERIFY(distance(shiftless, held, longitudeOf(expected) + 2, latitude) < 1e-6);
     }
 
+    /// Held at the latitudes where PROJ's omerc is off by decimetres, too.
+    void azimuth90() {
+        for (const char* const latitude : {"45", "46.5", "33.3", "50.1", "47.1"}) {
+            const QByteArray place = QByteArray(" +lat_0=") + latitude + " +x_0=600000 +y_0=200000 +ellps=bessel";
+            for (const char* const projection :
+                 {"somerc +lon_0=7.5", "omerc +lonc=7.5 +alpha=90 +gamma=90", "omerc +lonc=7.5 +alpha=90 +no_uoff",
+                  "omerc +lonc=7.5 +alpha=-90 +no_uoff"}) {
+                const QByteArray held = define("+proj=" + (projection + place));
+                QVERIFY2(held.startsWith("+proj=omerc") && held.contains(" +lonc=7.5 "), held.constData());
+            }
+            QVERIFY(!define("+proj=omerc +lonc=7.5 +alpha=90 +gamma=89.999" + place).contains("+proj="));
+        }
+    }
+
     void undefined_data() { textRows("undefined.txt"); }
     void undefined() {
         const auto [title, given] = textRow<2>();
