@@ -21,6 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         if (QByteArray(key) != "ellipsoid_name")
             require(std::isfinite(dictionary_number(*record, key, NAN)), key);
     }
+    require(std::abs(dictionary_number(*record, "_7ppm", 0)) <= 1000, "a shift's scale difference");
     coordParamToProjDefine(*record);
     return 0;
 }

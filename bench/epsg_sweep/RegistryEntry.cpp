@@ -4,11 +4,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
-RegistryEntry::RegistryEntry(PJ_CONTEXT* context, const char* code)
-    : context(context)
-    , epsgCode(code)
-    , crs(proj_create_from_database(context, "EPSG", code, PJ_CATEGORY_CRS, 0, nullptr)) {
+RegistryEntry::RegistryEntry(PJ_CONTEXT* context, const char* registry, const char* code)
+    : context(context), crs(proj_create_from_database(context, registry, code, PJ_CATEGORY_CRS, 0, nullptr)) {
 }
 
 QByteArray RegistryEntry::method() const {
@@ -92,13 +91,15 @@ QVector<RegistryEntry::Sample> RegistryEntry::samples() const {
     return result;
 }
 
-QVector<QByteArray> registryCodes(PJ_CONTEXT* context, bool deprecatedToo) {
-    const auto list = proj_get_codes_from_database(context, "EPSG", PJ_TYPE_PROJECTED_CRS, deprecatedToo);
+QVector<QByteArray> registryCodes(PJ_CONTEXT* context, const char* registry, bool deprecatedToo) {
+    const auto list = proj_get_codes_from_database(context, registry, PJ_TYPE_PROJECTED_CRS, deprecatedToo);
     QVector<QByteArray> codes;
     for (auto code = list; code && *code; ++code)
         codes.append(*code);
     proj_string_list_destroy(list);
-    std::sort(codes.begin(), codes.end(),
-              [](const QByteArray& left, const QByteArray& right) { return left.toInt() < right.toInt(); });
+    // IGN's are names.
+    std::sort(codes.begin(), codes.end(), [](const QByteArray& left, const QByteArray& right) {
+        return std::make_pair(left.toInt(), left) < std::make_pair(right.toInt(), right);
+    });
     return codes;
 }

@@ -5,12 +5,11 @@
 #include <QByteArray>
 #include <QVector>
 
-/// One projected system of the EPSG registry in PROJ's database, and what PROJ computes for it.
+/// One projected system of a registry in PROJ's database, and what PROJ computes for it.
 class RegistryEntry {
 public:
-    RegistryEntry(PJ_CONTEXT* context, const char* code);
+    RegistryEntry(PJ_CONTEXT* context, const char* registry, const char* code);
 
-    const QByteArray& code() const { return epsgCode; }
     QByteArray method() const;
 
     /// Empty when PROJ can't write the system in this dialect.
@@ -42,9 +41,9 @@ private:
     double metresPerUnit() const;
 
     PJ_CONTEXT* context;
-    QByteArray epsgCode;
     ProjObject crs;
 };
 
-/// All codes of projected systems that are not deprecated, or all there are, in the registry's order of numbers.
-QVector<QByteArray> registryCodes(PJ_CONTEXT* context, bool deprecatedToo);
+/// All codes of a registry's projected systems that are not deprecated, or all there are, in the order of their
+/// numbers.
+QVector<QByteArray> registryCodes(PJ_CONTEXT* context, const char* registry, bool deprecatedToo);

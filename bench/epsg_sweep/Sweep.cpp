@@ -20,7 +20,7 @@
 
 namespace {
 
-constexpr const char* groupName = "EPSG";
+constexpr const char* groupName = "Registry";
 
 /// Processor time since `start`, in seconds: other programs on the machine don't count.
 double secondsSince(std::clock_t start) {
@@ -42,9 +42,9 @@ bool Sweep::run() {
 }
 
 void Sweep::collect() {
-    const QVector<QByteArray> codes = registryCodes(context, options.deprecatedToo);
+    const QVector<QByteArray> codes = registryCodes(context, options.registry, options.deprecatedToo);
     for (int i = 0; i < codes.size(); i += options.every) {
-        const RegistryEntry entry(context, codes[i].constData());
+        const RegistryEntry entry(context, options.registry, codes[i].constData());
         System system{codes[i], entry.method(), entry.wkt(dialect), folder.filePath(QString::fromLatin1(codes[i])),
                       entry.samples()};
         if (system.wkt.isEmpty()) {
@@ -125,12 +125,12 @@ void Sweep::classify(const System& system, const QByteArray& definition) {
     count(all);
     count(byMethod[system.method]);
     if (options.verbose && definition.isEmpty())
-        std::printf("  flagged  EPSG:%s %s\n", system.code.constData(), system.method.constData());
+        std::printf("  flagged  %s:%s %s\n", options.registry, system.code.constData(), system.method.constData());
     if (options.verbose && !definition.isEmpty() && !comparable)
-        std::printf("  no reference EPSG:%s %s\n", system.code.constData(), system.method.constData());
+        std::printf("  no reference %s:%s %s\n", options.registry, system.code.constData(), system.method.constData());
     if (!(deviation <= 1e-3))
-        std::printf("  WRONG    EPSG:%s %s: %.4f m, %s\n", system.code.constData(), system.method.constData(),
-                    deviation, definition.constData());
+        std::printf("  WRONG    %s:%s %s: %.4f m, %s\n", options.registry, system.code.constData(),
+                    system.method.constData(), deviation, definition.constData());
 }
 
 /// In metres, of the projection on the system's own datum; not a number when PROJ can't compute from the definition.
@@ -153,8 +153,8 @@ void Sweep::print() const {
         std::printf("  %-48s %6d %6d %5d %5d %8d %6d\n", title, count.total, count.right, count.centimetre,
                     count.decimetres, count.flagged, count.silentlyWrong());
     };
-    std::printf("%s\n  %-48s %6s %6s %5s %5s %8s %6s\n", name, "", "total", "1 mm", "1 cm", "20 cm", "flagged",
-                "wrong");
+    std::printf("%s in %s\n  %-48s %6s %6s %5s %5s %8s %6s\n", options.registry, name, "", "total", "1 mm", "1 cm",
+                "20 cm", "flagged", "wrong");
     line("all", all);
     for (auto method = byMethod.cbegin(); method != byMethod.cend(); ++method) {
         if (options.verbose || method->right < method->total)

@@ -12,6 +12,7 @@ class ICoordSystem;
 class Sweep {
 public:
     struct Options {
+        const char* registry = "EPSG";
         int every = 1;              ///< of the registry's entries, only each `every`-th
         bool deprecatedToo = false; ///< entries that the registry has withdrawn as well
         bool verbose = false;       ///< also name each system that is flagged or wrong

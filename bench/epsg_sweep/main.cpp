@@ -5,8 +5,8 @@
 
 #include <cpl_error.h>
 
-/// Imports every projected system of the EPSG registry as WKT and compares with PROJ. Ends with 1 when one comes out
-/// silently wrong: defined, and off by more than 1 mm.
+/// Imports every projected system of the registries in PROJ's database as WKT and compares with PROJ. Ends with 1 when
+/// one comes out silently wrong: defined, and off by more than 1 mm.
 int main(int argc, char* argv[]) {
     QCoreApplication application(argc, argv);
     QCommandLineParser parser;
@@ -15,7 +15,8 @@ int main(int argc, char* argv[]) {
     const QCommandLineOption verbose("verbose", "Name every method, and every system that is flagged.");
     const QCommandLineOption dialect("dialect", "Take only this dialect: gdal, esri or wkt2.", "name");
     parser.addHelpOption();
-    parser.addOptions({every, deprecated, verbose, dialect});
+    const QCommandLineOption registry("registry", "Take only this registry: EPSG, ESRI or IGNF.", "name");
+    parser.addOptions({every, deprecated, verbose, dialect, registry});
     parser.process(application);
 
     CPLSetErrorHandler(CPLQuietErrorHandler);
@@ -34,9 +35,15 @@ int main(int argc, char* argv[]) {
                                     {"esri", "WKT 1, ESRI's dialect", PJ_WKT1_ESRI},
                                     {"wkt2", "WKT 2:2019", PJ_WKT2_2019}};
     bool ok = true;
-    for (const Dialect& taken : dialects) {
-        if (!parser.isSet(dialect) || parser.value(dialect) == QLatin1String(taken.key))
-            ok = Sweep(context, taken.title, taken.type, options).run() && ok;
+    const auto isTaken = [&parser](const QCommandLineOption& option, const char* value) {
+        return !parser.isSet(option) || parser.value(option) == QLatin1String(value);
+    };
+    for (const char* const name : {"EPSG", "ESRI", "IGNF"}) {
+        options.registry = name;
+        for (const Dialect& taken : dialects) {
+            if (isTaken(registry, name) && isTaken(dialect, taken.key))
+                ok = Sweep(context, taken.title, taken.type, options).run() && ok;
+        }
     }
     proj_context_destroy(context);
     return ok ? 0 : 1;

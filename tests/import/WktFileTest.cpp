@@ -29,6 +29,10 @@ private Q_SLOTS:
         row("UTF-8", "PROJCS[\"\xC3\x96 \xE6\xB8\xAC\"]", "PROJCS[\"\xC3\x96 \xE6\xB8\xAC\"]");
         row("Windows-1252", "PROJCS[\"\xD6 \x96\"]", "PROJCS[\"\xC3\x96 \xE2\x80\x93\"]");
         row("UTF-8 cut in two", "PROJCS[\xC3", "PROJCS[\xC3\x83");
+        row("UTF-16", QByteArray("\xFF\xFEP\0[\0\xD6\0\r\0\n\0]\0\n\0", 16), "P[\xC3\x96\n]");
+        row("UTF-16, high byte first", QByteArray("\xFE\xFF\0P\0[\x0D\x0A\0]\0\r\0\n", 14), "P[\xE0\xB4\x8A]");
+        row("UTF-16 up to the first NUL", QByteArray("\xFF\xFEP\0\0\0[\0", 8), "P");
+        row("UTF-16 cut in two", QByteArray("\xFF\xFEP\0[", 5), "P");
     }
 
     void textOfAFile() {
@@ -39,11 +43,27 @@ private Q_SLOTS:
         QCOMPARE(library.readText, text);
     }
 
+    void localEncodingOfAFile_data() {
+        const Rows<QByteArray, QByteArray, QByteArray> row({"encoding", "content", "text"});
+        row("no UTF-8", "GBK", "P[\xB1\xB1\xBE\xA9]", "P[北京]");
+        row("UTF-8 as well", "GBK", "P[\xCD\xA8]", "P[通]");
+        row("UTF-8 of three bytes", "GBK", "P[\xE6\xB5\x8B\xC3\x96]", "P[测Ö]");
+        row("UTF-8 only", "Big5", "P[\xC3\x96]", "P[Ö]");
+        row("Korean", "EUC-KR", "P[\xC7\xB9]", "P[퓜]");
+        row("Taiwanese", "Big5", "P[\xC4\xA9]", "P[藺]");
+        row("Japanese", "Shift_JIS", "P[\xC4\xA9]", "P[ﾄｩ]");
+        row("of one byte", "ISO-8859-1", "P[\xC3\x96]", "P[Ö]");
+        row("ASCII", "GBK", "P[]", "P[]");
+    }
+
     void localEncodingOfAFile() {
-        QTextCodec::setCodecForLocale(QTextCodec::codecForName("GBK"));
-        QVERIFY(setContent(path, "PROJCS[\"\xB1\xB1\xBE\xA9\"]"));
+        QFETCH(QByteArray, encoding);
+        QFETCH(QByteArray, content);
+        QFETCH(QByteArray, text);
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName(encoding));
+        QVERIFY(setContent(path, content));
         WktFile::read(path);
-        QCOMPARE(QString::fromUtf8(library.readText), QString::fromUtf8("PROJCS[\"北京\"]"));
+        QCOMPARE(QString::fromUtf8(library.readText), QString::fromUtf8(text));
     }
 
     void answersOfAFile() {

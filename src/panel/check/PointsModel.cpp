@@ -87,6 +87,16 @@ void PointsModel::setTolerance(double metres) {
     refresh();
 }
 
+int PointsModel::nextMarked(int row) const {
+    const std::size_t count = table.size();
+    for (std::size_t i = 1; i <= count; ++i) {
+        const std::size_t next = (std::size_t(row) + i) % count;
+        if (table.hasProblem(next) || table.isDuplicate(next) || (table.isUsed(next) && isBeyond(next)))
+            return int(next);
+    }
+    return -1;
+}
+
 void PointsModel::refresh() {
     Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
     Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
@@ -162,6 +172,8 @@ QVariant PointsModel::data(const QModelIndex& index, int role) const {
             return slanted;
         }
         return {};
+    case Qt::BackgroundRole:
+        return table.hasProblem(row) ? QVariant(QColor(0xb2, 0x18, 0x2b, 45)) : QVariant();
     case Qt::ForegroundRole:
         if (column == Remark && table.hasProblem(row))
             return QColor(0xb2182b);

@@ -7,7 +7,7 @@
 #include <optional>
 
 /// The table of control points as it is shown and typed into, with an empty row at its end for the next point. What was
-/// computed is slanted, what is off by more than the tolerance red.
+/// computed is slanted, what is off by more than the tolerance red, and a row without a point of use tinted.
 class PointsModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -43,6 +43,10 @@ public:
     /// Metres.
     void setTolerance(double metres);
     double tolerance() const { return toleranceMetres; }
+
+    /// The first row behind `row` (-1 or more), and from the top again, that has a remark or, in use, is off by more
+    /// than the tolerance; -1 where there is none.
+    int nextMarked(int row) const;
 
     /// Shows all anew: computed figures, notation, unit.
     void refresh();

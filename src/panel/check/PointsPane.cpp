@@ -109,7 +109,12 @@ PointsPane::PointsPane(bool readOnly, QWidget* parent)
     readout->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     layout->addWidget(splitter, 1, 0);
     layout->setRowStretch(1, 1);
-    layout->addWidget(readout, 2, 0);
+    nextButton = newButton(PanelText::tr("Next marked"), SLOT(_onNext()));
+    nextButton->setToolTip(PanelText::tr("The next point beyond the tolerance, or row with a remark"));
+    auto* pointedAt = new QHBoxLayout;
+    pointedAt->addWidget(readout, 1);
+    pointedAt->addWidget(nextButton);
+    layout->addLayout(pointedAt, 2, 0);
     buildSettings();
     buildFigures();
     fitBox->hide();
@@ -287,7 +292,7 @@ void PointsPane::lock(bool isLocked) {
     model->setLocked(isLocked);
     for (QToolButton* button : {openButton, pasteButton})
         button->setEnabled(!isLocked);
-    for (QToolButton* button : {copyButton, saveButton, deleteButton, clearButton})
+    for (QToolButton* button : {copyButton, saveButton, deleteButton, clearButton, nextButton})
         button->setEnabled(!isLocked && isAnything);
     datumBox->setEnabled(!isLocked);
 }
@@ -465,6 +470,7 @@ void PointsPane::showResults() {
             [this] {
                 plot->finish();
                 showFit();
+                _onSelectionChanged();
                 isUncounted = false;
                 task = Task::None;
                 lock(false);
@@ -546,12 +552,12 @@ void PointsPane::_onRefused(const QString& reason) {
 
 void PointsPane::_onSelectionChanged() {
     const QModelIndex current = table->currentIndex();
-    const bool isPoint = current.isValid() && std::size_t(current.row()) < points().size();
-    plot->setSelected(isPoint && table->selectionModel()->hasSelection() ? current.row() : -1);
+    const bool isPoint = table->selectionModel()->hasSelection() && std::size_t(current.row()) < points().size();
+    plot->setSelected(isPoint ? points().grid(std::size_t(current.row())) : GridPoint{qQNaN(), qQNaN()});
 }
 
 void PointsPane::_onClicked(int row) {
-    table->setCurrentIndex(model->index(row, 0));
+    table->selectRow(row);
     table->scrollTo(model->index(row, 0));
     table->setFocus();
 }
@@ -694,6 +700,14 @@ void PointsPane::_onClear() {
     model->clear();
     say(QString());
     recompute();
+}
+
+void PointsPane::_onNext() {
+    const QModelIndex current = table->currentIndex();
+    const int row = model->nextMarked(current.isValid() ? current.row() : -1);
+    if (row < 0)
+        return say(PanelText::tr("All is within the tolerance and without a remark."));
+    _onClicked(row);
 }
 
 /// Copying, pasting and deleting by the keys that every table has.

@@ -70,6 +70,7 @@ private Q_SLOTS:
     void _onDelete();
     void _onClear();
     void _onFitClicked();
+    void _onNext();
     void _onDatumChanged();
     void _onToleranceChanged();
     void _onEdited(int row);
@@ -139,6 +140,7 @@ private:
     QToolButton* deleteButton;
     QToolButton* clearButton;
     QToolButton* fitButton;
+    QToolButton* nextButton;
     std::array<std::array<QLabel*, FigureColumnCount>, FigureLineCount> figures;
     QLabel* counts;
     QLabel* readout;

@@ -61,8 +61,7 @@ public:
 
     QVector<PointsPlot::Mark> marks;
     double factor = 0.0; ///< of the vectors over the map's scale; 0 without vectors
-    int selected = -1;
-    std::optional<GridPoint> selectedPlace;
+    std::optional<GridPoint> selected;
 
 private:
     void drawBar(QPainter* painter, double pixelsPerMetre, const QRectF& canvas) const;
@@ -86,10 +85,10 @@ void ResidualItem::draw(QPainter* painter, const QwtScaleMap& xMap, const QwtSca
         painter->setBrush(colour);
         painter->drawEllipse(at, 2.5, 2.5);
     }
-    if (selectedPlace) {
+    if (selected) {
         painter->setBrush(Qt::NoBrush);
         painter->setPen(QPen(Qt::black, 2.0));
-        painter->drawEllipse(pixel(*selectedPlace, xMap, yMap), 7.0, 7.0);
+        painter->drawEllipse(pixel(*selected, xMap, yMap), 7.0, 7.0);
     }
     if (factor > 0.0)
         drawBar(painter, pixelsPerMetre, canvas);
@@ -137,6 +136,10 @@ std::optional<double> PointsPlot::exaggeration() const {
 
 const QVector<PointsPlot::Mark>& PointsPlot::marks() const {
     return item->marks;
+}
+
+const std::optional<GridPoint>& PointsPlot::selected() const {
+    return item->selected;
 }
 
 void PointsPlot::begin(const GridPoint& lowest, const GridPoint& highest, double newTolerance) {
@@ -203,6 +206,7 @@ void PointsPlot::finish() {
         const double unit = LengthUnit::metres();
         const GridPoint upper{lower.easting + metresPerPixel * size.width(),
                               lower.northing + metresPerPixel * size.height()};
+        setAxisMaxMajor(xBottom, std::max(1, size.width() / fontMetrics().horizontalAdvance("-12345678900")));
         setAxisScale(xBottom, lower.easting / unit, upper.easting / unit);
         setAxisScale(yLeft, lower.northing / unit, upper.northing / unit);
     }
@@ -212,7 +216,7 @@ void PointsPlot::finish() {
         small.setFont(font());
         setAxisTitle(axis, small);
     }
-    setSelected(item->selected);
+    replot();
     // The axes' numbers may need another width than before. Once more is enough: two shapes could make each other
     // needed.
     updateLayout();
@@ -221,13 +225,10 @@ void PointsPlot::finish() {
         QMetaObject::invokeMethod(this, "resized", Qt::QueuedConnection);
 }
 
-void PointsPlot::setSelected(int row) {
-    item->selected = row;
-    item->selectedPlace.reset();
-    for (const Mark& mark : qAsConst(item->marks)) {
-        if (int(mark.row) == row)
-            item->selectedPlace = mark.place;
-    }
+void PointsPlot::setSelected(const GridPoint& place) {
+    item->selected.reset();
+    if (!std::isnan(place.easting) && !std::isnan(place.northing))
+        item->selected = place;
     replot();
 }
 

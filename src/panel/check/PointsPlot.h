@@ -37,12 +37,15 @@ public:
 
     void finish();
 
-    /// Rings one row's point, or none for -1.
-    void setSelected(int row);
+    /// Rings a place of the grid, in metres; none where it has none (NaN).
+    void setSelected(const GridPoint& place);
 
     /// How much longer vectors are than at the map's own scale; nothing where there are none.
     std::optional<double> exaggeration() const;
     const QVector<Mark>& marks() const;
+
+    /// The place with the ring.
+    const std::optional<GridPoint>& selected() const;
 
 Q_SIGNALS:
     /// The mouse is over this row's point, or over none: -1.

@@ -24,7 +24,7 @@ bool readPlain(std::string_view text, double* number) {
 }
 
 QString toText(std::string_view text) {
-    QTextCodec::ConverterState state;
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader); // a byte-order mark amid a text is one of its letters
     const QString utf8 = QTextCodec::codecForName("UTF-8")->toUnicode(text.data(), int(text.size()), &state);
     return state.invalidChars == 0 && state.remainingChars == 0 ? utf8
                                                                 : QString::fromLatin1(text.data(), int(text.size()));

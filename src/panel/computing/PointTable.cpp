@@ -40,12 +40,12 @@ template <typename Value> void removeMarked(std::vector<Value>& values, const st
     values.resize(kept);
 }
 
-/// A text without the two characters that end one in the table; no text file has them.
+/// A text with "?" for the two characters that end one in the table; hardly any text file has them.
 void appendClean(std::string& texts, std::string_view added) {
     const std::size_t start = texts.size();
     texts.append(added);
     const auto isEnd = [](char c) { return c == endOfName || c == endOfText; };
-    texts.erase(std::remove_if(texts.begin() + std::ptrdiff_t(start), texts.end(), isEnd), texts.end());
+    std::replace_if(texts.begin() + std::ptrdiff_t(start), texts.end(), isEnd, '?');
 }
 
 } // namespace

@@ -29,4 +29,5 @@ const char* GetProjDefine(ProjHandle handle);
 
 ProjEllipsoid GetProjEllipsoid(ProjHandle handle);
 
+/// Zero where the definition has no shift, one by grids, or one with a scale difference beyond 1,000 ppm.
 ProjTowgs84 GetTowgs84(ProjHandle handle);

@@ -14,6 +14,6 @@ struct WktSystem {
     Content content = Content::Unreadable;
     QByteArray name; ///< of the projected system, in the encoding of the text that was read
     /// PROJ.4 definition of the projected system, for InitializeProj(). It has no "+proj" when PROJ.4 can't say what
-    /// the WKT says; ellipsoid and datum shift are then still those of the WKT.
+    /// the WKT says, or the WKT leaves a doubt; the rest is then what could be read.
     QByteArray definition;
 };

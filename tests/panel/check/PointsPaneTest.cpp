@@ -18,8 +18,8 @@ namespace {
 ///   shows none;
 ///         "save=as shown", "save=full" and "open=text" a file; "cell=2 Name=text" types into the second row, "used=2"
 ///         turns its check mark, "select=2", "click=2" the point in the picture, "mouse=2"
-///   seen: "cell:2 Name", "rows", "picture" (points, of them red and grey), "ring" the row in the picture, "selected"
-///   in the table
+///   seen: "cell:2 Name", "rows", "picture" (points, of them red and grey), "ring" the easting in the picture,
+///   "selected" in the table
 class PointsOnScreen : public PanelOnScreen {
 public:
     explicit PointsOnScreen(const QString& start) : PanelOnScreen(start) {
@@ -76,6 +76,9 @@ public:
         sights["rows"] = [this](const QString&) { return QString::number(model->points().size()); };
         sights["picture"] = [this](const QString&) { return picture(); };
         sights["exaggeration"] = [this](const QString&) { return QString::number(plot->exaggeration().value_or(0.0)); };
+        sights["ring"] = [this](const QString&) {
+            return plot->selected() ? QString::number(plot->selected()->easting, 'f', 0) : "none";
+        };
         sights["selected"] = [this](const QString&) {
             const QModelIndexList rows = table->selectionModel()->selectedRows();
             return rows.isEmpty() ? "none" : QString::number(rows.first().row() + 1);

@@ -41,10 +41,21 @@ ProjObject parsedSystem(PJ_CONTEXT* context, const QByteArray& definition) {
     return ProjObject(proj_create(context, (definition + " +type=crs").constData()));
 }
 
+/// PROJ's reader of definitions takes a second standard parallel that is not there for 0 where the origin lies off the
+/// first; its projection takes it for the first.
+QByteArray withBothParallels(const QByteArray& definition) {
+    const QByteArray key = "+lat_1=";
+    const int at = definition.indexOf(key);
+    if (!definition.startsWith("+proj=lcc ") || at < 0 || definition.contains("+lat_2="))
+        return definition;
+    const QByteArray parallel = definition.mid(at + key.size()).split(' ').first();
+    return definition.contains("+lat_0=" + parallel + ' ') ? definition : definition + " +lat_2=" + parallel;
+}
+
 /// The projected system of a definition without a shift. PROJ itself would leave its name open, name its ellipsoid only
 /// where it knows the axes, and draw a polar system's axes along 0 and 90 degrees whatever its central meridian.
 ProjObject namedSystem(PJ_CONTEXT* context, const QByteArray& definition, const WktNames& names) {
-    const ProjObject parsed = parsedSystem(context, definition);
+    const ProjObject parsed = parsedSystem(context, withBothParallels(definition));
     const ProjObject ellipsoid(parsed ? proj_get_ellipsoid(context, parsed.get()) : nullptr);
     const ProjObject conversion(parsed ? proj_crs_get_coordoperation(context, parsed.get()) : nullptr);
     double a = 0.0;

@@ -7,15 +7,17 @@
 #include <cmath>
 #include <limits>
 
-double primeMeridianOf(const ProjItems& items) {
-    if (!items.has("pm"))
-        return 0;
-    const QByteArray name = items.text("pm");
+double namedMeridian(const QByteArray& name) {
     for (const PJ_PRIME_MERIDIANS* named = proj_list_prime_meridians(); named->id; ++named) {
         if (name == named->id)
             return ProjItems::toAngle(named->defn);
     }
-    return items.angle("pm", 0);
+    return std::numeric_limits<double>::quiet_NaN();
+}
+
+double primeMeridianOf(const ProjItems& items) {
+    const double named = namedMeridian(items.text("pm"));
+    return std::isnan(named) ? items.angle("pm", 0) : named;
 }
 
 double fromGreenwich(double longitude, double primeMeridian) {

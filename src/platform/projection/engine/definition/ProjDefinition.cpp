@@ -7,12 +7,19 @@
 #include "platform/projection/engine/definition/ProjItems.h"
 #include "platform/projection/engine/definition/SameProjection.h"
 
+#include <cmath>
+
 namespace {
 
 /// The order of the axes is no part of a projection, their directions are.
 bool isEastNorth(const ProjItems& items) {
     const QByteArray axes = items.text("axis");
     return axes.isEmpty() || axes == "enu" || axes == "neu";
+}
+
+/// No datum is a thousandth larger than another: such a scale difference is a factor or another unit taken for ppm.
+bool isShift(const ProjTowgs84& shift) {
+    return std::abs(shift.ppm) <= 1000;
 }
 
 QByteArray shiftText(const ProjTowgs84& shift) {
@@ -30,7 +37,8 @@ ProjDefinition::ProjDefinition(const QByteArray& definition, const ProjContext& 
     ProjTowgs84 givenShift;
     if (givenAxes.read(items) && readDatumShift(items, &givenShift)) {
         axes = givenAxes;
-        shift = givenShift;
+        if (isShift(givenShift))
+            shift = givenShift;
         QByteArray projection = normalisedProjection(items, axes);
         if (projection.isEmpty() || !isEastNorth(items) || !isSameProjection(context, items, projection, axes))
             projection = parametersWithoutProjection(items);

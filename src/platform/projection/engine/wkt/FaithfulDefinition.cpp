@@ -1,61 +1,47 @@
 #include "platform/projection/engine/wkt/FaithfulDefinition.h"
 
-#include "catalogue/Angle.h"
 #include "platform/projection/engine/definition/Ellipsoid.h"
-#include "platform/projection/engine/definition/PrimeMeridian.h"
+#include "platform/projection/engine/definition/NormalisedProjection.h"
 #include "platform/projection/engine/definition/ProjItems.h"
 #include "platform/projection/engine/wkt/ProjectedWkt.h"
+#include "platform/projection/engine/wkt/StatedProjection.h"
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 
 namespace {
 
-/// Every number that the definition says, and those that it says without writing them down.
-QVector<double> numbersOf(const ProjItems& definition, const Ellipsoid& ellipsoid) {
-    QVector<double> numbers;
-    for (const ProjItems::Item& item : definition.all()) {
-        const double number = ProjItems::toNumber(item.value);
-        if (!std::isnan(number))
-            numbers.append(number);
-    }
-    const QByteArray projection = definition.text("proj");
-    if (projection == "utm")
-        numbers += {definition.number("zone", 0) * 6 - 183, 0.9996, 500000, 10000000};
-    if (projection == "somerc")
-        numbers += 90;
-    if (projection == "merc") {
-        // The scale on the equator, by which ESRI's texts may state the standard parallel: the inverse of the scale k
-        // on it, k = sqrt(1 - e^2 sin^2(phi)) / cos(phi) (Snyder 1987, (7-8)).
-        const double phi = Angle::toRadians(definition.angle("lat_ts", 0));
-        numbers += std::cos(phi) / std::sqrt(1 - ellipsoid.e2() * std::pow(std::sin(phi), 2));
-    }
-    return numbers;
-}
-
-/// Definitions have 15 digits; 1e-9 degrees are 0.1 mm on the ground.
+/// Definitions have 15 digits; 1e-9 degrees are 0.1 mm on the ground. Units are known by their name and ten digits, and
+/// computed with all of them.
 bool agree(double left, double right) {
-    return std::abs(left - right) <= 1e-9 + 1e-11 * std::abs(right);
+    return std::abs(left - right) <= 1e-9 + 1e-10 * std::abs(right);
 }
 
-bool isIn(const QVector<double>& numbers, double value, double unit) {
-    return std::any_of(numbers.begin(), numbers.end(), [=](double number) {
-        return agree(value, number) || agree(value * unit, number) ||
-               agree(std::remainder(Angle::toDegrees(value * unit) - number, 360), 0);
-    });
+/// Whether two normalised projections are the same.
+bool areSame(const QByteArray& left, const QByteArray& right) {
+    const ProjItems leftItems(left);
+    const ProjItems rightItems(right);
+    return std::equal(leftItems.all().begin(), leftItems.all().end(), rightItems.all().begin(), rightItems.all().end(),
+                      [](const ProjItems::Item& item, const ProjItems::Item& other) {
+                          if (item.key != other.key || item.key == "proj")
+                              return item.key == other.key && item.value == other.value;
+                          const double number = ProjItems::toNumber(item.value);
+                          const double otherNumber = ProjItems::toNumber(other.value);
+                          return item.key.startsWith("lon") ? std::abs(std::remainder(number - otherNumber, 360)) < 1e-8
+                                                            : agree(number, otherNumber);
+                      });
 }
 
-bool hasUnits(const ProjectedWkt& wkt) {
-    return std::all_of(wkt.units.begin(), wkt.units.end(), [](double unit) { return unit > 0; });
-}
-
-bool hasParameters(const ProjItems& definition, const ProjectedWkt& wkt, const Ellipsoid& ellipsoid) {
-    const QVector<double> numbers = numbersOf(definition, ellipsoid);
-    return std::all_of(wkt.parameters.begin(), wkt.parameters.end(), [&](const ProjectedWkt::Parameter& parameter) {
-        const bool isNeutral = parameter.value == 0 || (parameter.value == 1 && parameter.name.contains("scale"));
-        return isNeutral || std::any_of(wkt.units.begin(), wkt.units.end(),
-                                        [&](double unit) { return isIn(numbers, parameter.value, unit); });
-    });
+/// Whether they can be an ellipsoid's in metres: not in kilometres, nor the Earth's in feet or yards, nor the minor
+/// axis in place of the inverse flattening.
+bool areAxes(double semiMajorAxis, double inverseFlattening) {
+    constexpr double smallest = 1e5; // the moons and planets that are mapped have larger ones
+    constexpr double earth = 6.37e6;
+    const auto isEarthIn = [=](double unit) { return std::abs(semiMajorAxis * unit / earth - 1) < 0.01; };
+    const bool isMinorAxis = inverseFlattening > 0.9 * semiMajorAxis && inverseFlattening <= semiMajorAxis;
+    return semiMajorAxis > smallest && !isEarthIn(0.3048) && !isEarthIn(0.9144) && !isMinorAxis &&
+           (inverseFlattening == 0 || inverseFlattening > 1);
 }
 
 bool hasEllipsoid(const ProjItems& definition, const ProjectedWkt& wkt, const Ellipsoid& ellipsoid) {
@@ -64,32 +50,30 @@ bool hasEllipsoid(const ProjItems& definition, const ProjectedWkt& wkt, const El
     // The web's Mercator takes latitudes on the ellipsoid for latitudes on a sphere.
     const bool isWebMercator = definition.text("nadgrids") == "@null" && ellipsoid.b == ellipsoid.a;
     const double b = wkt.inverseFlattening == 0 || isWebMercator ? a : a - a / wkt.inverseFlattening;
-    return std::abs(ellipsoid.a - a) < tolerance && std::abs(ellipsoid.b - b) < tolerance;
+    return areAxes(a, wkt.inverseFlattening) && std::abs(ellipsoid.a - a) < tolerance &&
+           std::abs(ellipsoid.b - b) < tolerance;
 }
 
-bool hasMeridian(const ProjItems& definition, const ProjectedWkt& wkt) {
-    const double meridian = primeMeridianOf(definition);
-    const auto isMeridian = [=](double longitude) { return std::abs(longitude - meridian) < 1e-8; };
-    return isMeridian(wkt.primeMeridian) || std::any_of(wkt.units.begin(), wkt.units.end(), [&](double unit) {
-               return isMeridian(Angle::toDegrees(wkt.primeMeridian * unit));
-           });
+bool areAlong(const QVector<double>& meridians, std::initializer_list<double> expected) {
+    return std::all_of(meridians.begin(), meridians.end(), [=](double meridian) {
+        return std::any_of(expected.begin(), expected.end(), [meridian](double longitude) {
+            return std::abs(std::remainder(meridian - longitude, 360)) < 1e-6;
+        });
+    });
 }
 
 /// Around a pole both axes point along meridians: the easting along the central one + 90 degrees, the northing along
-/// the opposite of the central one at the north pole and along itself at the south pole.
+/// the opposite of the central one at the north pole and along itself at the south pole. PROJ writes the meridians of a
+/// central one of 0 whichever it is.
 bool hasPolarAxes(const ProjItems& definition, const ProjectedWkt& wkt) {
     const double latitude = definition.angle("lat_0", 0);
     if (std::abs(latitude) != 90 || !definition.text("proj").startsWith("stere"))
         return false;
     const QByteArray direction = latitude > 0 ? "south" : "north";
     const double central = definition.angle("lon_0", 0);
-    const double meridians[] = {central + 90, latitude > 0 ? central + 180 : central};
-    return wkt.axes.count(direction) == 2 &&
-           std::all_of(wkt.axisMeridians.begin(), wkt.axisMeridians.end(), [&](double meridian) {
-               return std::any_of(std::begin(meridians), std::end(meridians), [meridian](double expected) {
-                   return std::abs(std::remainder(meridian - expected, 360)) < 1e-6;
-               });
-           });
+    const double opposite = latitude > 0 ? 180 : 0;
+    return wkt.axes.count(direction) == 2 && (areAlong(wkt.axisMeridians, {central + 90, central + opposite}) ||
+                                              areAlong(wkt.axisMeridians, {90, opposite}));
 }
 
 bool hasAxes(const ProjItems& definition, const ProjectedWkt& wkt) {
@@ -99,11 +83,43 @@ bool hasAxes(const ProjItems& definition, const ProjectedWkt& wkt) {
     return unsaid || eastNorth || hasPolarAxes(definition, wkt);
 }
 
+QByteArray without(const ProjItems& definition, bool (*isOut)(const QByteArray& key)) {
+    QByteArray text;
+    for (const ProjItems::Item& item : definition.all()) {
+        if (!isOut(item.key))
+            text += (text.isEmpty() ? "+" : " +") + item.key + (item.value.isEmpty() ? "" : '=' + item.value);
+    }
+    return text;
+}
+
+QByteArray withoutProjection(const ProjItems& definition) {
+    return without(definition, [](const QByteArray& key) { return key == "proj"; });
+}
+
+QByteArray datumOf(const ProjItems& definition) {
+    return without(definition, [](const QByteArray& key) {
+        constexpr const char* datumKeys[] = {"datum", "ellps", "R", "a", "b", "rf", "towgs84", "nadgrids"};
+        return std::none_of(std::begin(datumKeys), std::end(datumKeys),
+                            [&key](const char* datumKey) { return key == datumKey; });
+    });
+}
+
 } // namespace
 
-bool isFaithful(const ProjItems& definition, const ProjectedWkt& wkt) {
+QByteArray faithfulDefinition(const QByteArray& exported, const ProjectedWkt& wkt) {
+    const ProjItems items(exported);
+    const StatedProjection stated(wkt);
+    const ProjItems statedItems(stated.definition);
     Ellipsoid ellipsoid;
-    return !wkt.method.contains("belgium") && ellipsoid.read(definition) && hasEllipsoid(definition, wkt, ellipsoid) &&
-           hasUnits(wkt) && hasMeridian(definition, wkt) && hasAxes(definition, wkt) &&
-           hasParameters(definition, wkt, ellipsoid);
+    if (stated.definition.isEmpty() || !ellipsoid.read(items) || !hasEllipsoid(items, wkt, ellipsoid) ||
+        !hasAxes(statedItems, wkt))
+        return withoutProjection(items);
+    const QByteArray normalised = normalisedProjection(statedItems, ellipsoid);
+    if (!normalised.isEmpty() && stated.isOnlyOurs && !wkt.hasExtension)
+        return normalised + ' ' + datumOf(items);
+    const bool isStated = !normalised.isEmpty() && areSame(normalised, normalisedProjection(items, ellipsoid));
+    if (!isStated)
+        return withoutProjection(items);
+    // Readers round the meridian of Paris.
+    return statedItems.text("pm") == "0" ? exported : normalised + ' ' + datumOf(items);
 }

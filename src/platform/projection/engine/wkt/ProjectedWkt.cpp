@@ -1,8 +1,12 @@
 #include "platform/projection/engine/wkt/ProjectedWkt.h"
 
+#include "catalogue/Angle.h"
 #include "platform/projection/engine/definition/ProjItems.h"
+#include "platform/projection/engine/wkt/PlainName.h"
+#include "platform/projection/engine/wkt/WktUnit.h"
 
 #include <algorithm>
+#include <cmath>
 #include <initializer_list>
 #include <string_view>
 
@@ -27,8 +31,16 @@ double toNumber(Text text) {
     return ProjItems::toNumber(QByteArray::fromRawData(text.data(), int(text.size())));
 }
 
-QByteArray toLower(Text text) {
-    return QByteArray(text.data(), int(text.size())).toLower();
+QByteArray toBytes(Text text) {
+    return QByteArray(text.data(), int(text.size()));
+}
+
+bool isProjectedSystem(Text keyword) {
+    return isOneOf(keyword, {"PROJCS", "PROJCRS", "PROJECTEDCRS"});
+}
+
+bool isBaseSystem(Text keyword) {
+    return isOneOf(keyword, {"GEOGCS", "BASEGEOGCRS", "BASEGEODCRS"});
 }
 
 /// Walks through the nodes of a text and notes what the projected system's say.
@@ -41,8 +53,8 @@ public:
 private:
     struct Node {
         Text keyword;
-        int index;      ///< of the value that comes next
-        bool projected; ///< in the projected system's node or below
+        int index;        ///< of the value that comes next
+        bool isProjected; ///< the projected system's node or below
     };
 
     Text quoted();
@@ -52,13 +64,24 @@ private:
     void value(Text text);
 
     void note(Text keyword, Text parent, int index, Text text);
-    void noteUnit(Text parent, double factor);
     void noteParameter(int index, Text text);
+    void noteEllipsoid(int index, Text text);
+    void noteMeridian(int index, Text text);
+    void noteUnit(Text keyword, Text parent, int index, Text text);
+    void noteShiftUnit(Text keyword, int index, Text text);
+    void noteAxis(Text parent, int index, Text text);
+    void noteIdentifier(Text parent, int index, Text text);
+    void require(bool condition) { statement.isSound = statement.isSound && condition; }
 
     Text wkt;
     ProjectedWkt& statement;
     QVector<Node> path;
     std::size_t position = 0;
+    std::size_t systemStart = 0; ///< of the projected system's node
+    Text unitName;               ///< of the unit that is being read
+    Text authority;              ///< of the identifier that is being read
+    int ellipsoids = 0;
+    int meridians = 0;
 };
 
 void Scanner::scan() {
@@ -99,60 +122,149 @@ Text Scanner::bare() {
 }
 
 void Scanner::open(Text keyword) {
-    const bool below = !path.isEmpty() && path.last().projected;
-    path.append({keyword, 0, below || isOneOf(keyword, {"PROJCS", "PROJCRS", "PROJECTEDCRS"})});
+    const bool isBelow = !path.isEmpty() && path.last().isProjected;
+    const bool isSystem = isProjectedSystem(keyword);
+    if (isSystem) {
+        require(statement.node.isEmpty() && !isBelow);
+        systemStart = std::size_t(keyword.data() - wkt.data());
+        statement.isWkt1 = equalsIgnoringCase(keyword, "PROJCS");
+    }
+    path.append({keyword, 0, isBelow || isSystem});
     ++position;
 }
 
 void Scanner::close() {
-    if (!path.isEmpty())
+    if (!path.isEmpty()) {
+        if (isProjectedSystem(path.last().keyword))
+            statement.node = toBytes(wkt.substr(systemStart, position + 1 - systemStart));
         path.removeLast();
+    }
     // GDAL reads one system and leaves what follows.
     position = path.isEmpty() ? wkt.size() : position + 1;
 }
 
 void Scanner::value(Text text) {
-    if (path.isEmpty() || !path.last().projected)
+    if (path.isEmpty())
         return;
+    if (!path.last().isProjected)
+        return noteShiftUnit(path.last().keyword, path.last().index, text);
     note(path.last().keyword, path.size() > 1 ? path[path.size() - 2].keyword : Text(), path.last().index, text);
 }
 
 void Scanner::note(Text keyword, Text parent, int index, Text text) {
     if (isOneOf(keyword, {"PARAMETER"}))
         noteParameter(index, text);
-    else if (index == 0 && isOneOf(keyword, {"PROJCS", "PROJCRS", "PROJECTEDCRS"}))
-        statement.name += QByteArray(text.data(), int(text.size()));
-    else if (index == 1 && isOneOf(keyword, {"UNIT", "LENGTHUNIT", "ANGLEUNIT", "SCALEUNIT"}))
-        noteUnit(parent, toNumber(text));
-    else if (index == 0 && isOneOf(keyword, {"PROJECTION", "METHOD"}))
-        statement.method = toLower(text);
-    else if (index == 1 && isOneOf(keyword, {"SPHEROID", "ELLIPSOID"}))
-        statement.semiMajorAxis = toNumber(text);
-    else if (index == 2 && isOneOf(keyword, {"SPHEROID", "ELLIPSOID"}))
-        statement.inverseFlattening = toNumber(text);
-    else if (index == 1 && isOneOf(keyword, {"PRIMEM", "PRIMEMERIDIAN"}))
-        statement.primeMeridian = toNumber(text);
-    else if (index == 1 && isOneOf(keyword, {"AXIS"}) && isOneOf(parent, {"PROJCS", "PROJCRS", "PROJECTEDCRS"}))
-        statement.axes.append(toLower(text));
-    else if (index <= 1 && isOneOf(keyword, {"AUTHORITY", "ID"}) &&
-             isOneOf(parent, {"GEOGCS", "BASEGEOGCRS", "BASEGEODCRS"}))
-        (index == 0 ? statement.baseAuthority : statement.baseCode) = QByteArray(text.data(), int(text.size()));
+    else if (isOneOf(keyword, {"UNIT", "LENGTHUNIT", "ANGLEUNIT", "SCALEUNIT"}))
+        noteUnit(keyword, parent, index, text);
+    else if (isOneOf(keyword, {"AXIS"}))
+        noteAxis(parent, index, text);
+    else if (isOneOf(keyword, {"AUTHORITY", "ID"}))
+        noteIdentifier(parent, index, text);
+    else if (isOneOf(keyword, {"SPHEROID", "ELLIPSOID"}))
+        noteEllipsoid(index, text);
+    else if (isOneOf(keyword, {"PRIMEM", "PRIMEMERIDIAN"}))
+        noteMeridian(index, text);
+    else if (index == 0 && isProjectedSystem(keyword))
+        statement.name = toBytes(text);
+    else if (index == 0 && isOneOf(keyword, {"EXTENSION"}))
+        statement.hasExtension = true;
     else if (index == 0 && isOneOf(keyword, {"MERIDIAN"}))
         statement.axisMeridians.append(toNumber(text));
-}
-
-void Scanner::noteUnit(Text parent, double factor) {
-    if (isOneOf(parent, {"SPHEROID", "ELLIPSOID"}))
-        statement.semiMajorAxis *= factor;
-    if (!statement.units.contains(factor))
-        statement.units.append(factor);
+    else if (index == 0 && isOneOf(keyword, {"DATUM"}))
+        statement.isEsri = text.substr(0, 2) == "D_";
+    else if (index == 0 && isOneOf(keyword, {"PROJECTION", "METHOD"})) {
+        require(statement.method.isEmpty());
+        statement.method = plainName(toBytes(text));
+    }
 }
 
 void Scanner::noteParameter(int index, Text text) {
-    if (index == 0)
-        statement.parameters.append({toLower(text), 0});
-    else if (index == 1 && !statement.parameters.isEmpty())
+    require(index <= 1);
+    if (index == 0) {
+        statement.parameters.append(ProjectedWkt::Parameter());
+        statement.parameters.last().name = plainName(toBytes(text));
+    } else if (index == 1 && !statement.parameters.isEmpty()) {
         statement.parameters.last().value = toNumber(text);
+    }
+}
+
+void Scanner::noteEllipsoid(int index, Text text) {
+    require(index <= 2);
+    if (index == 0)
+        require(ellipsoids++ == 0);
+    else if (index == 1)
+        statement.semiMajorAxis = toNumber(text);
+    else if (index == 2)
+        statement.inverseFlattening = toNumber(text);
+}
+
+void Scanner::noteMeridian(int index, Text text) {
+    require(index <= 1);
+    if (index == 0) {
+        require(meridians++ == 0);
+        statement.meridianName = plainName(toBytes(text));
+    } else if (index == 1) {
+        statement.primeMeridian = toNumber(text);
+    }
+}
+
+void Scanner::noteUnit(Text keyword, Text parent, int index, Text text) {
+    require(index <= 1);
+    if (index == 0)
+        unitName = text;
+    if (index != 1)
+        return;
+    const WktUnit unit = WktUnit::read(unitName, text);
+    const double factor = unit.factor;
+    require(factor > 0);
+    statement.hasRoundedUnit = statement.hasRoundedUnit || unit.isRounded;
+    if (isOneOf(parent, {"PARAMETER"}) && !statement.parameters.isEmpty()) {
+        using Quantity = ProjectedWkt::Parameter::Quantity;
+        ProjectedWkt::Parameter& parameter = statement.parameters.last();
+        parameter.unit = factor;
+        parameter.unitOf = isOneOf(keyword, {"LENGTHUNIT"})  ? Quantity::Length
+                           : isOneOf(keyword, {"ANGLEUNIT"}) ? Quantity::Angle
+                           : isOneOf(keyword, {"SCALEUNIT"}) ? Quantity::Scale
+                                                             : Quantity::Any;
+    } else if (isOneOf(parent, {"SPHEROID", "ELLIPSOID"})) {
+        statement.semiMajorAxis *= factor;
+    } else if (isOneOf(parent, {"PRIMEM", "PRIMEMERIDIAN"})) {
+        statement.meridianUnit = factor;
+    } else if (isBaseSystem(parent)) {
+        statement.angularUnit = factor;
+    } else if (isProjectedSystem(parent) ||
+               (isOneOf(parent, {"AXIS"}) && !statement.axes.isEmpty() && statement.axes.last() != "up")) {
+        statement.gridUnits.append(factor);
+    }
+}
+
+/// Of a parameter of the shift around the projected system.
+void Scanner::noteShiftUnit(Text keyword, int index, Text text) {
+    const bool isParameter = path.size() > 1 && isOneOf(path[path.size() - 2].keyword, {"PARAMETER"});
+    const bool isAngle = isOneOf(keyword, {"ANGLEUNIT"});
+    if (index != 1 || !isParameter || !(isAngle || isOneOf(keyword, {"UNIT", "LENGTHUNIT", "SCALEUNIT"})))
+        return;
+    const double expected = isAngle ? Angle::toRadians(1.0 / 3600) : 1;
+    if (!(std::abs(toNumber(text) / expected - 1) < 1e-9))
+        statement.hasShiftInOtherUnits = true;
+}
+
+void Scanner::noteAxis(Text parent, int index, Text text) {
+    if (index == 1 && isProjectedSystem(parent))
+        statement.axes.append(toBytes(text).toLower());
+}
+
+void Scanner::noteIdentifier(Text parent, int index, Text text) {
+    if (index == 0)
+        authority = text;
+    if (index <= 1 && isBaseSystem(parent))
+        (index == 0 ? statement.baseAuthority : statement.baseCode) = toBytes(text);
+    if (index != 1 || !equalsIgnoringCase(authority, "EPSG"))
+        return;
+    if (isOneOf(parent, {"METHOD", "PROJECTION"}))
+        statement.methodCode = toBytes(text).toInt();
+    else if (isOneOf(parent, {"PARAMETER"}) && !statement.parameters.isEmpty())
+        statement.parameters.last().code = toBytes(text).toInt();
 }
 
 } // namespace

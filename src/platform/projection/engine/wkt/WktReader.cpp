@@ -5,6 +5,7 @@
 #include "platform/projection/engine/proj/ProjContext.h"
 #include "platform/projection/engine/proj/ProjObject.h"
 #include "platform/projection/engine/wkt/FaithfulDefinition.h"
+#include "platform/projection/engine/wkt/PlainName.h"
 #include "platform/projection/engine/wkt/ProjectedWkt.h"
 
 #include <cpl_conv.h>
@@ -12,7 +13,6 @@
 #include <ogr_spatialref.h>
 
 #include <algorithm>
-#include <cctype>
 #include <iterator>
 #include <optional>
 
@@ -49,6 +49,15 @@ QByteArray exportedDefinition(const OGRSpatialReference& reference) {
     return definition;
 }
 
+/// That of the projected system alone, where it is bound by a shift that PROJ.4 can't say (Molodensky-Badekas). No
+/// other shift takes its place.
+QByteArray definitionWithoutShift(const ProjectedWkt& statement) {
+    const NoSearchForShift noSearch;
+    OGRSpatialReference reference(nullptr);
+    const char* text = statement.node.constData();
+    return reference.importFromWkt(&text) == OGRERR_NONE ? exportedDefinition(reference) : QByteArray();
+}
+
 /// What GetAttrValue("PROJCS", 0) gives, without the tree of nodes that GDAL builds for the answer: it costs as much as
 /// all else that an import adds, and has no PROJCS where WKT 1 has no name for the method (Michigan's Lambert
 /// projection).
@@ -75,23 +84,6 @@ QByteArray datumDefinition(const OGRSpatialReference& reference) {
     return text;
 }
 
-QByteArray lettersOf(const QByteArray& name) {
-    QByteArray letters;
-    for (const char c : name) {
-        if (std::isalnum(static_cast<unsigned char>(c)))
-            letters += c;
-    }
-    return letters;
-}
-
-QByteArray withoutProjection(QByteArray definition) {
-    const int start = definition.indexOf("+proj=");
-    if (start < 0)
-        return definition;
-    const int end = definition.indexOf(' ', start);
-    return definition.remove(start, end < 0 ? definition.size() : end + 1 - start);
-}
-
 } // namespace
 
 bool WktReader::isGeocentric(const QByteArray& authority, const QByteArray& code) {
@@ -113,11 +105,11 @@ bool WktReader::isGeocentric(const QByteArray& authority, const QByteArray& code
 /// only ones of a method that a record holds). A text without axes that bears one's name, up to signs between the
 /// words, is it.
 bool WktReader::isTurnedCassini(const QByteArray& name) const {
-    const QByteArray letters = lettersOf(name);
+    const QByteArray plain = plainName(name);
     constexpr const char* codes[] = {"8044", "8045"};
     return std::any_of(std::begin(codes), std::end(codes), [&](const char* code) {
         const ProjObject system(proj_create_from_database(context.get(), "EPSG", code, PJ_CATEGORY_CRS, 0, nullptr));
-        return system && lettersOf(proj_get_name(system.get())) == letters;
+        return system && plainName(proj_get_name(system.get())) == plain;
     });
 }
 
@@ -129,18 +121,18 @@ WktSystem WktReader::read(const QByteArray& wkt) {
         return {};
     if (!reference.IsProjected())
         return {WktSystem::Content::NotProjected, {}, {}};
-    const ProjectedWkt statement(wkt);
+    ProjectedWkt statement(wkt);
     std::optional<NoSearchForShift> noSearch;
     // Where a geographic system bears a geocentric one's identifier, the search follows a null pointer (PROJ 9.1).
     if (isGeocentric(statement.baseAuthority, statement.baseCode))
         noSearch.emplace();
     QByteArray definition = exportedDefinition(reference);
+    if (definition.isEmpty() || statement.hasShiftInOtherUnits)
+        definition = definitionWithoutShift(statement);
     if (definition.isEmpty())
         definition = datumDefinition(reference);
     const QByteArray name = systemName(reference, statement);
-    const ProjItems items(definition);
-    const bool turned = statement.axes.isEmpty() && items.text("proj") == "cass" && isTurnedCassini(name);
-    if (turned || !isFaithful(items, statement))
-        definition = withoutProjection(definition);
-    return {WktSystem::Content::Projected, name, definition};
+    if (statement.axes.isEmpty() && ProjItems(definition).text("proj") == "cass" && isTurnedCassini(name))
+        statement.axes = {"south", "west"};
+    return {WktSystem::Content::Projected, name, faithfulDefinition(definition, statement)};
 }

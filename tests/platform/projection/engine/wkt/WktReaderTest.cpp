@@ -32,6 +32,42 @@ private Q_SLOTS:
             QVERIFY2(std::abs(read[i] - expected[i]) < 1e-10, QByteArray::number(read[i], 'g', 17));
     }
 
+    void variants_data() { textRows("variants.txt"); }
+
+    void variants() {
+        const auto [title, base, before, after, start] = textRow<5>();
+        QByteArray text;
+        for (const QByteArrayList& columns : textTable("projected.txt")) {
+            if (columns.first() == base)
+                text = columns.last();
+        }
+        QCOMPARE(text.count(before), 1);
+        const WktSystem system = projectionModule()->readWkt(text.replace(before, after));
+        QVERIFY(system.content == WktSystem::Content::Projected);
+        const QByteArray definition = define(system.definition);
+        QVERIFY2(definition.startsWith(start) && definition.contains("+proj=") != start.isEmpty(), definition);
+    }
+
+    /// One parallel with the origin elsewhere has no name in any dialect, two equal ones have.
+    void exportedIsRead_data() {
+        const Rows<QByteArray, QByteArray> row({"definition", "read"});
+        const QByteArray lambert = "+proj=lcc +lat_1=45 +lat_0=44 +lon_0=3 +k_0=1 +x_0=1 +y_0=2";
+        row("Lambert, the origin at its parallel", QByteArray(lambert).replace("44", "45"),
+            QByteArray(lambert).replace("44", "45"));
+        row("Lambert, the origin elsewhere", lambert, QByteArray(lambert).replace("+lat_0", "+lat_2=45 +lat_0"));
+    }
+
+    void exportedIsRead() {
+        QFETCH(QByteArray, definition);
+        QFETCH(QByteArray, read);
+        for (const auto dialect : {WktDialect::Wkt1Gdal, WktDialect::Wkt1Esri, WktDialect::Wkt2_2019}) {
+            const QByteArray text =
+                projectionModule()->exportWkt(definition + " +a=6378137 +rf=298", {"X", "E", "D"}, dialect, false);
+            const QByteArray back = define(projectionModule()->readWkt(text).definition);
+            QVERIFY2(back.startsWith(read + ' '), back + text);
+        }
+    }
+
     void others_data() {
         const Rows<QByteArray, bool> row({"text", "isReadable"});
         const QByteArray system = textTable("projected.txt").first().last();
