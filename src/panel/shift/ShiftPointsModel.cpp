@@ -1,5 +1,6 @@
 #include "panel/shift/ShiftPointsModel.h"
 
+#include "panel/computing/PointLayout.h"
 #include "panel/computing/ShownSystem.h"
 #include "panel/record/AngleText.h"
 #include "panel/record/DatumFields.h"
@@ -14,14 +15,18 @@
 
 namespace {
 
-/// The cells of one line.
-QStringList cells(const QString& line) {
-    static const QRegularExpression blanks("\\s+");
-    QStringList parts = line.contains('\t')  ? line.split('\t')
-                        : line.contains(';') ? line.split(';')
-                                             : line.trimmed().split(blanks);
-    for (QString& part : parts)
-        part = part.trimmed();
+/// The cells of one line, with decimal points.
+QStringList cells(const QString& line, const PointLayout& layout) {
+    const QByteArray utf8 = line.toUtf8();
+    std::vector<std::string_view> fields;
+    std::string unquoted;
+    layout.split({utf8.constData(), std::size_t(utf8.size())}, fields, unquoted);
+    QStringList parts;
+    for (const std::string_view field : fields) {
+        const QString part = QString::fromUtf8(field.data(), int(field.size()));
+        parts << (layout.decimalComma && parts.size() >= ShiftPointsModel::Own ? QString(part).replace(',', '.')
+                                                                               : part);
+    }
     return parts;
 }
 
@@ -97,13 +102,14 @@ void ShiftPointsModel::showResiduals(const ShiftFromPoints::Parameters* before,
 
 void ShiftPointsModel::paste(const QString& text, int row, int column) {
     static const QRegularExpression lineEnds("\r\n|\r|\n");
+    const PointLayout layout = PointLayout::guess(text.toUtf8());
     beginResetModel();
     for (const QString& line : text.split(lineEnds)) {
         if (line.trimmed().isEmpty())
             continue;
         if (row >= rows.size())
             rows.resize(row + 1);
-        const QStringList parts = cells(line);
+        const QStringList parts = cells(line, layout);
         for (int i = 0; i < parts.size() && column + i < typedColumns; ++i)
             rows[row].texts[std::size_t(column) + std::size_t(i)] = parts[i];
         ++row;

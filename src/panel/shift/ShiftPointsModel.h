@@ -38,7 +38,7 @@ public:
     /// The shifts whose residuals are shown; null for none.
     void showResiduals(const ShiftFromPoints::Parameters* before, const ShiftFromPoints::Parameters* after);
 
-    /// Puts lines of cells, parted by tabs, semicolons or blanks, from that cell on; rows are added as needed.
+    /// Puts lines of cells, parted as PointLayout sees it, from that cell on; rows are added as needed.
     void paste(const QString& text, int row, int column);
     void removeRowsOf(const QModelIndexList& indexes);
     void clear();
