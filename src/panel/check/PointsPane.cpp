@@ -464,6 +464,7 @@ void PointsPane::showResults() {
                 isUncounted = false;
                 task = Task::None;
                 lock(false);
+                Q_EMIT pointsChanged();
             });
     };
     forAllRows(

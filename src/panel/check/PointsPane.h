@@ -43,11 +43,18 @@ public:
 
     const PointTable& points() const;
 
+    /// What latitudes, longitudes and heights of points() are on.
+    CheckPoint::Datum datum() const;
+
     /// Asks for the columns of a file and reads it; with a message where it can't.
     void read(const QString& path);
 
     /// Writes all points to a file, with all digits or as shown.
     void save(const QString& path, bool isFull);
+
+Q_SIGNALS:
+    /// The points, which of them are in use, or what the system makes of them have changed, and all is computed.
+    void pointsChanged();
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -106,7 +113,6 @@ private:
     void showFigures(const PointStatistics& statistics);
     void showTolerance();
     void say(const QString& text, bool isError = false);
-    CheckPoint::Datum datum() const;
     QString lengthText(double metres) const;
 
     std::shared_ptr<const ShownSystem> system;

@@ -65,6 +65,11 @@ public:
             QMouseEvent move(QEvent::MouseMove, at(row), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
             QCoreApplication::sendEvent(plot->canvas(), &move);
         };
+        sights["told"] = [this](const QString&) {
+            const QString times = QString::number(changes.count());
+            changes.clear();
+            return times;
+        };
         sights["columns"] = [this](const QString&) { return columns; };
         sights["cell"] = [this](const QString& text) { return cell(text).data().toString(); };
         sights["slanted"] = [this](const QString& text) {
@@ -183,6 +188,7 @@ private:
     }
 
     QString columns;
+    QSignalSpy changes{panel.findChild<PointsPane*>(), SIGNAL(pointsChanged())};
 };
 
 } // namespace
