@@ -44,8 +44,9 @@ void writePoints(const QString& table, const QString& plain, int count) {
         qFatal("Can't write points.");
     tableFile.write("Name,Latitude,Longitude\n");
     for (int i = 0; i < count; ++i) {
-        const QByteArray latitude = QByteArray::number(50.0 + (i % 1000) * 0.0071234567, 'f', 9);
-        const QByteArray longitude = QByteArray::number(-6.0 + (i / 1000) * 0.0078765432, 'f', 9);
+        const int row = i % 1000, column = i / 1000;
+        const QByteArray latitude = QByteArray::number(50.0 + row * 0.0071234567, 'f', 9);
+        const QByteArray longitude = QByteArray::number(-6.0 + column * 0.0078765432, 'f', 9);
         tableFile.write('P' + QByteArray::number(i) + ',' + latitude + ',' + longitude + '\n');
         plainFile.write(longitude + ' ' + latitude + '\n');
     }

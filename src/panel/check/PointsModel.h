@@ -72,7 +72,7 @@ private:
     bool isComputed(std::size_t row, Column column) const;
     bool isBeyond(std::size_t row) const;
     QString text(std::size_t row, Column column) const;
-    bool setText(std::size_t row, Column column, const QString& text);
+    bool setText(std::size_t row, Column column, const QString& typed);
     std::size_t writableRow(int row);
 
     PointTable table;

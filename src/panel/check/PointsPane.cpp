@@ -474,6 +474,7 @@ void PointsPane::showResults() {
                 isUncounted = false;
                 task = Task::None;
                 lock(false);
+                Q_EMIT pointsChanged();
             });
     };
     forAllRows(

@@ -48,6 +48,9 @@ public:
     /// As shown in the box "Fit".
     const FitToPoints& fit() const;
 
+    /// What latitudes, longitudes and heights of points() are on.
+    CheckPoint::Datum datum() const;
+
     /// Asks for the columns of a file and reads it; with a message where it can't.
     void read(const QString& path);
 
@@ -57,6 +60,9 @@ public:
 Q_SIGNALS:
     /// The user takes fit() over.
     void fitAccepted();
+
+    /// The points, which of them are in use, or what the system makes of them have changed, and all is computed.
+    void pointsChanged();
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -117,7 +123,6 @@ private:
     void showFigures(const PointStatistics& statistics);
     void showTolerance();
     void say(const QString& text, bool isError = false);
-    CheckPoint::Datum datum() const;
     QString lengthText(double metres) const;
 
     std::shared_ptr<const ShownSystem> system;

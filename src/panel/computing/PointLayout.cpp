@@ -238,12 +238,10 @@ std::vector<PointColumn> guessFromNumbers(const std::vector<ColumnContent>& cont
         columns[angles[isSwapped ? 0 : 1]] = PointColumn::Longitude;
     }
     // Whole numbers in front are names where there are others enough.
-    if (!has(columns, PointColumn::Name) && numbers.size() % 2 == 1 && !numbers.empty() && numbers[0] == 0 &&
-        contents[0].isWhole && numbers.size() + angles.size() >= 3) {
-        columns[0] = PointColumn::Name;
-        numbers.erase(numbers.begin());
-    } else if (!has(columns, PointColumn::Name) && numbers.size() >= 4 && numbers[0] == 0 && contents[0].isWhole &&
-               !contents[1].isWhole) {
+    const bool isWholeInFront = !numbers.empty() && numbers[0] == 0 && contents[0].isWhole;
+    const bool isOneTooMany = numbers.size() % 2 == 1 && numbers.size() + angles.size() >= 3;
+    const bool isUnlikeNext = numbers.size() >= 4 && !contents[1].isWhole;
+    if (!has(columns, PointColumn::Name) && isWholeInFront && (isOneTooMany || isUnlikeNext)) {
         columns[0] = PointColumn::Name;
         numbers.erase(numbers.begin());
     }

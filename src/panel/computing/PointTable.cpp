@@ -213,25 +213,36 @@ void PointTable::compute(std::size_t first, std::size_t last, const IProjectedSy
     }
 }
 
+std::optional<GeographicPoint> PointTable::ownPlace(std::size_t row, const IProjectedSystem& system,
+                                                    CheckPoint::Datum datum) const {
+    if (!hasPlace(row))
+        return std::nullopt;
+    const GeographicPoint place{given(row, PointColumn::Latitude), given(row, PointColumn::Longitude), height(row)};
+    if (datum == CheckPoint::Datum::Own)
+        return place;
+    return system.hasDatumShift() ? system.fromWgs84(place) : std::nullopt;
+}
+
+double PointTable::height(std::size_t row) const {
+    const double value = given(row, PointColumn::Height);
+    return std::isnan(value) ? 0.0 : value;
+}
+
 void PointTable::computeRow(std::size_t row, const IProjectedSystem& system, CheckPoint::Datum datum) {
-    const double givenHeight = given(row, PointColumn::Height);
-    const double height = std::isnan(givenHeight) ? 0.0 : givenHeight;
     if (hasPlace(row)) {
-        std::optional<GeographicPoint> own =
-            GeographicPoint{given(row, PointColumn::Latitude), given(row, PointColumn::Longitude), height};
-        if (datum == CheckPoint::Datum::Wgs84)
-            own = system.fromWgs84(*own);
+        const auto own = ownPlace(row, system, datum);
         if (const auto point = own ? system.toGrid(*own) : std::nullopt) {
             computed[0][row] = point->easting;
             computed[1][row] = point->northing;
         }
     } else {
-        auto place = system.toGeographic({given(row, PointColumn::Easting), given(row, PointColumn::Northing)}, height);
+        auto place =
+            system.toGeographic({given(row, PointColumn::Easting), given(row, PointColumn::Northing)}, height(row));
         if (place && datum == CheckPoint::Datum::Wgs84) {
             // The height is one on WGS 84; the shift changes heights by much the same everywhere near.
             const auto first = system.toWgs84(*place);
             if (first)
-                place->height += height - first->height;
+                place->height += height(row) - first->height;
             place = first ? system.toWgs84(*place) : std::nullopt;
         }
         if (place) {

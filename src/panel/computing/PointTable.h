@@ -66,6 +66,11 @@ public:
     /// else those two, all on `datum` (a height that was not given counts as 0). `system` may be null.
     void compute(std::size_t first, std::size_t last, const IProjectedSystem* system, CheckPoint::Datum datum);
 
+    /// The given latitude, longitude and height (0 where there is none), which are on `datum`, on the system's own
+    /// datum. Nothing where there are none, or the system can't bring them there.
+    std::optional<GeographicPoint> ownPlace(std::size_t row, const IProjectedSystem& system,
+                                            CheckPoint::Datum datum) const;
+
     /// What was computed, on the datum of compute(); NaN where nothing was.
     GridPoint computedGrid(std::size_t row) const;
     GeographicPoint computedPlace(std::size_t row) const;
@@ -103,6 +108,7 @@ private:
     std::string_view text(std::size_t row) const;
     void setText(std::size_t row, std::string_view name, std::string_view line);
     void setState(std::size_t row, State state, bool on);
+    double height(std::size_t row) const;
     void computeRow(std::size_t row, const IProjectedSystem& system, CheckPoint::Datum datum);
 
     std::array<std::vector<double>, numberCount> numbers; ///< by PointColumn

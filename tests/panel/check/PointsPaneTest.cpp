@@ -65,6 +65,11 @@ public:
             QMouseEvent move(QEvent::MouseMove, at(row), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
             QCoreApplication::sendEvent(plot->canvas(), &move);
         };
+        sights["told"] = [this](const QString&) {
+            const QString times = QString::number(changes.count());
+            changes.clear();
+            return times;
+        };
         sights["columns"] = [this](const QString&) { return columns; };
         sights["cell"] = [this](const QString& text) { return cell(text).data().toString(); };
         sights["slanted"] = [this](const QString& text) {
@@ -183,6 +188,7 @@ private:
     }
 
     QString columns;
+    QSignalSpy changes{panel.findChild<PointsPane*>(), SIGNAL(pointsChanged())};
 };
 
 } // namespace
@@ -197,6 +203,41 @@ private Q_SLOTS:
     void script() {
         QFETCH(QString, start);
         PointsOnScreen(start).play();
+    }
+
+    /// More points than are done at once: whatever interrupts, none is lost and no figure is another system's.
+    void many() {
+        constexpr std::size_t count = 60000, last = count - 1;
+        PointsOnScreen screen("Check: UTM");
+        QString text = "name,lat,lon";
+        for (std::size_t i = 0; i < count; ++i)
+            text += QString("/P%1,%2,14.5").arg(i).arg(50.0 + double(i) * 1e-5, 0, 'f', 6);
+        screen.acts["paste"](text);
+        const PointTable& points = screen.pane->points();
+        QCOMPARE(points.size(), count);
+        const double easting = points.grid(last).easting;
+        QVERIFY(std::abs(easting - 464500.0) < 1000.0);
+        auto* work = screen.pane->findChild<SlicedWork*>();
+        const auto cancel = [&] { QMetaObject::invokeMethod(screen.pane, "_onCancel"); };
+
+        screen.show(*PanelRecords::of("British grid"));
+        QVERIFY(work->isRunning() && std::isnan(points.grid(last).easting));
+        cancel();
+        QVERIFY(!work->isRunning() || std::isnan(points.grid(last).easting));
+        screen.show(*PanelRecords::of("UTM"));
+        screen.show(*PanelRecords::of("UTM, false_east=400000")); // while the one before is computed
+        QTRY_VERIFY(!work->isRunning());
+        QCOMPARE(points.grid(last).easting, easting - 100000.0);
+
+        QApplication::clipboard()->setText(text.replace('/', '\n'));
+        ModalDriver::onNextDialog([](QDialog* dialog) { dialog->accept(); });
+        QMetaObject::invokeMethod(screen.pane, "_onPaste");
+        QVERIFY(work->isRunning());
+        screen.show(*PanelRecords::of("UTM")); // while it is read
+        cancel();
+        QTRY_VERIFY(!work->isRunning());
+        QCOMPARE(points.size(), count);
+        QCOMPARE(points.grid(last).easting, easting);
     }
 };
 
