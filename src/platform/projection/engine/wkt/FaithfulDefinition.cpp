@@ -115,11 +115,10 @@ QByteArray faithfulDefinition(const QByteArray& exported, const ProjectedWkt& wk
         !hasAxes(statedItems, wkt))
         return withoutProjection(items);
     const QByteArray normalised = normalisedProjection(statedItems, ellipsoid);
-    if (!normalised.isEmpty() && stated.isOnlyOurs && !wkt.hasExtension)
-        return normalised + ' ' + datumOf(items);
-    const bool isStated = !normalised.isEmpty() && areSame(normalised, normalisedProjection(items, ellipsoid));
-    if (!isStated)
+    const bool isOnlyOurs = stated.isOnlyOurs && !wkt.hasExtension;
+    if (normalised.isEmpty() || !(isOnlyOurs || areSame(normalised, normalisedProjection(items, ellipsoid))))
         return withoutProjection(items);
     // Readers round the meridian of Paris.
-    return statedItems.text("pm") == "0" ? exported : normalised + ' ' + datumOf(items);
+    const bool isRead = !isOnlyOurs && statedItems.text("pm") == "0";
+    return isRead ? exported : normalised + ' ' + datumOf(items);
 }
