@@ -4,6 +4,7 @@
 #include "panel/check/PointColumnsDialog.h"
 #include "panel/check/PointsModel.h"
 #include "panel/check/PointsPlot.h"
+#include "panel/check/ReportDialog.h"
 #include "panel/check/SlicedWork.h"
 #include "panel/computing/DuplicateNames.h"
 #include "panel/computing/PointReader.h"
@@ -93,6 +94,9 @@ PointsPane::PointsPane(bool readOnly, QWidget* parent)
     fitButton->setCheckable(true);
     fitButton->setToolTip(PanelText::tr("Which false origin and scale factor would meet the points best."));
     buttons->addWidget(fitButton);
+    reportButton = newButton(PanelText::tr("Report..."), SLOT(_onReport()));
+    reportButton->setToolTip(PanelText::tr("Writes the check as a document to file with the job."));
+    buttons->addWidget(reportButton);
     buttons->addStretch();
     layout->addLayout(buttons, 0, 0);
     auto* splitter = new QSplitter;
@@ -292,7 +296,7 @@ void PointsPane::lock(bool isLocked) {
     model->setLocked(isLocked);
     for (QToolButton* button : {openButton, pasteButton})
         button->setEnabled(!isLocked);
-    for (QToolButton* button : {copyButton, saveButton, deleteButton, clearButton, nextButton})
+    for (QToolButton* button : {copyButton, saveButton, deleteButton, clearButton, nextButton, reportButton})
         button->setEnabled(!isLocked && isAnything);
     datumBox->setEnabled(!isLocked);
 }
@@ -680,6 +684,23 @@ void PointsPane::save(const QString& path, bool isFull) {
                 say(PanelText::tr("%1: %2 rows saved.").arg(QFileInfo(path).fileName()).arg(points().size()));
             else
                 failed();
+        });
+}
+
+void PointsPane::_onReport() {
+    ReportDialog dialog(system->record(), this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const QString name = QFileInfo(dialog.path()).fileName();
+    const auto writing = std::make_shared<ReportWriting>(
+        CheckReport::Check{system, &points(), datum(), model->tolerance()}, dialog.path(), dialog.form());
+    begin(
+        Task::Saving, PanelText::tr("Report"), [writing] { return writing->step(); },
+        [this, writing, name] {
+            if (writing->error().isEmpty())
+                say(PanelText::tr("%1: report saved.").arg(name));
+            else
+                say(PanelText::tr("%1 can't be saved: %2").arg(name, writing->error()), true);
         });
 }
 

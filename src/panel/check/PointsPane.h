@@ -76,6 +76,7 @@ private Q_SLOTS:
     void _onDelete();
     void _onClear();
     void _onFitClicked();
+    void _onReport();
     void _onNext();
     void _onDatumChanged();
     void _onToleranceChanged();
@@ -145,6 +146,7 @@ private:
     QToolButton* deleteButton;
     QToolButton* clearButton;
     QToolButton* fitButton;
+    QToolButton* reportButton;
     QToolButton* nextButton;
     std::array<std::array<QLabel*, FigureColumnCount>, FigureLineCount> figures;
     QLabel* counts;
