@@ -17,20 +17,19 @@
 
 namespace {
 
-/// Tables' grids are drawn by the cells' own lines: QTextDocument knows no others of a hair's width.
 const char* const style = R"(
-body { font-family: sans-serif; font-size: 9pt; color: #000000; max-width: 190mm; margin: 8mm auto; }
-h1 { font-size: 16pt; margin: 0 0 4px 0; }
-h2 { font-size: 11pt; margin: 14px 0 4px 0; page-break-after: avoid; }
+body { font-family: Segoe UI, DejaVu Sans, Arial, sans-serif; font-size: 9pt; color: #000000; max-width: 190mm; }
+h1 { font-size: 16pt; margin: 0 0 2px 0; }
+h2 { font-size: 11pt; margin: 16px 0 4px 0; page-break-after: avoid; }
+h2.page { page-break-before: always; }
 p { margin: 3px 0; }
-table { border-collapse: collapse; }
-td, th { padding: 1px 5px; vertical-align: top; text-align: left; }
-th { font-weight: bold; background-color: #e6e6e6; }
+table { margin: 0 0 8px 0; border-collapse: collapse; }
+td, th { padding: 1px 6px 1px 0; vertical-align: top; text-align: left; }
+th { font-weight: bold; background-color: #e6e6e6; padding: 1px 6px; }
 table.points { font-size: 6.5pt; width: 100%; }
 table.points td, table.points th { padding: 1px 2px; }
-td.number, th.number { text-align: right; white-space: nowrap; }
+td.number, th.number { text-align: right; white-space: nowrap; padding: 1px 6px; }
 td.name { color: #505050; white-space: nowrap; }
-.computed { font-style: italic; }
 .unused { color: #808080; }
 .beyond { color: #b2182b; }
 .small { font-size: 8pt; color: #404040; }
@@ -130,6 +129,8 @@ void CheckReport::add(std::size_t first, std::size_t last) {
         }
         if (isProblem)
             continue;
+        uncomputed += std::isnan(check.points->hasPlace(row) ? check.points->computedGrid(row).easting
+                                                             : check.points->computedPlace(row).latitude);
         const double height = ownHeight(check, row);
         if (!std::isnan(height)) {
             heightSum += height;
@@ -199,7 +200,7 @@ QString CheckReport::resultPart() const {
                 figuresRow(PanelText::tr("Distance"), counted.distance) + "</table>\n";
     }
     const std::size_t size = check.points->size();
-    const std::size_t single = size - counted.count - counted.leftOut - counted.problems;
+    const std::size_t single = size - counted.count - counted.leftOut - counted.problems - uncomputed;
     text += "<table>\n";
     const auto add = [&](std::size_t count, const QString& name) {
         if (count > 0)
@@ -210,6 +211,7 @@ QString CheckReport::resultPart() const {
     add(counted.beyond, PanelText::tr("of these beyond the tolerance"));
     add(counted.leftOut, PanelText::tr("with both pairs left out of the figures by hand"));
     add(single, PanelText::tr("with one pair only, the other computed"));
+    add(uncomputed, PanelText::tr("not computed, as that was cancelled"));
     add(counted.problems, PanelText::tr("without a result; the list says why"));
     add(counted.duplicates, PanelText::tr("with a name that another has"));
     text += "</table>\n";
@@ -237,7 +239,7 @@ QString CheckReport::picturesPart(const Distortion& distortion) const {
             .arg(pictureWidth)
             .arg(pictureHeight);
     };
-    QString text = "<h2 style=\"page-break-before: always\">" + PanelText::tr("Points and residuals") + "</h2>\n";
+    QString text = "<h2 class=\"page\">" + PanelText::tr("Points and residuals") + "</h2>\n";
     text += picture(pointsPicture);
     text +=
         paragraph(PanelText::tr("Vectors lead from the given place to the computed one, longer than life by the factor "
@@ -261,9 +263,9 @@ QString CheckReport::picturesPart(const Distortion& distortion) const {
 
 QString CheckReport::pointsPart() const {
     const std::size_t size = check.points->size();
-    QString text = "<h2 style=\"page-break-before: always\">" + PanelText::tr("Points") + "</h2>\n";
-    text += paragraph(PanelText::tr("ΔE, ΔN: computed from latitude and longitude, minus given. Slanted: computed from "
-                                    "the other pair."),
+    QString text = "<h2 class=\"page\">" + PanelText::tr("Points") + "</h2>\n";
+    text += paragraph(PanelText::tr("ΔE, ΔN: computed from latitude and longitude, minus given. *: beyond the "
+                                    "tolerance. Slanted: computed from the other pair."),
                       "small");
     std::vector<std::size_t> rows(std::min(size, mostListed));
     std::iota(rows.begin(), rows.end(), 0);
@@ -294,7 +296,7 @@ QString CheckReport::pointTable(const std::vector<std::size_t>& rows) const {
                                 PanelText::tr("Easting") + unit, PanelText::tr("Northing") + unit, "ΔE" + unit,
                                 "ΔN" + unit, PanelText::tr("Distance") + unit})
         text += numberHeading(name);
-    text += "</tr></thead>\n";
+    text += "<th></th></tr></thead>\n";
     for (const std::size_t row : rows)
         text += pointRow(row);
     return text + "</table>\n";
@@ -321,16 +323,14 @@ QString CheckReport::pointRow(std::size_t row) const {
     for (const double metres :
          {difference.easting, difference.northing, std::hypot(difference.easting, difference.northing)})
         text += numberCell(lengthText(metres), look);
-    text += "</tr>\n";
+    text += QString("<td class=\"%1\">%2</td></tr>\n").arg(look, isBeyond(row) ? "*" : "");
     QStringList remarks;
     if (!points.isUsed(row))
         remarks << PanelText::tr("Left out of the figures.");
-    if (isBeyond(row))
-        remarks << PanelText::tr("Beyond the tolerance.");
     if (points.hasProblem(row) || points.isDuplicate(row))
         remarks << escaped(points.remark(row));
     if (!remarks.isEmpty())
-        text += QString("<tr><td></td><td colspan=\"9\" class=\"%1\" dir=\"auto\">↳ %2</td></tr>\n")
+        text += QString("<tr><td></td><td colspan=\"10\" class=\"%1\" dir=\"auto\">↳ %2</td></tr>\n")
                     .arg(points.hasProblem(row) ? "beyond" : look, remarks.join(' '));
     return text;
 }

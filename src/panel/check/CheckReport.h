@@ -77,6 +77,7 @@ private:
     PointStatistics counted;
     double heightSum = 0.0;
     std::size_t heightCount = 0;
+    std::size_t uncomputed = 0;
     std::size_t unusedCount = 0;     ///< left out, or of no use
     std::vector<std::size_t> unused; ///< the first of those
     std::vector<Distance> farthest;  ///< of those in use; a heap until finish(), then the farthest first

@@ -100,7 +100,7 @@ void ResidualItem::drawBar(QPainter* painter, double pixelsPerMetre, const QRect
     const double residual = roundedDown(vectorShare * canvas.width() / (pixelsPerMetre * factor) / unit) * unit;
     const double pixels = residual * pixelsPerMetre * factor;
     const QString text = barText(residual) + QString(" (×%1)").arg(factor, 0, 'g', 6);
-    const QRectF words = QFontMetricsF(painter->font()).boundingRect(text);
+    const QRectF words = QFontMetricsF(plot()->font()).boundingRect(text);
     const QPointF start(canvas.left() + 8.0, canvas.bottom() - 8.0);
     painter->setPen(Qt::NoPen);
     painter->setBrush(QColor(255, 255, 255, 200));
@@ -108,7 +108,7 @@ void ResidualItem::drawBar(QPainter* painter, double pixelsPerMetre, const QRect
                              QSizeF(std::max(pixels, words.width()) + 10.0, words.height() + 12.0)));
     painter->setPen(QPen(Qt::black, 2.0));
     painter->drawLine(start, start + QPointF(pixels, 0.0));
-    painter->drawText(start + QPointF(0.0, -4.0), text);
+    QwtPainter::drawText(painter, start + QPointF(0.0, -4.0), text); // of one size on the screen and in print
 }
 
 PointsPlot::PointsPlot(QWidget* parent) : QwtPlot(parent), item(new ResidualItem) {

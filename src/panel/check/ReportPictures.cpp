@@ -11,47 +11,40 @@
 
 namespace {
 
-constexpr int finer = 3; ///< pixels of the picture for one of the screen
-
-void setUp(QwtPlot& plot) {
-    plot.resize(CheckReport::pictureWidth, CheckReport::pictureHeight);
+template <typename Plot> std::unique_ptr<Plot> newPlot() {
+    constexpr double fontSize = 8.0;
+    auto plot = std::make_unique<Plot>();
+    QFont font = plot->font();
+    font.setPointSizeF(fontSize);
+    plot->setFont(font);
+    for (int axis = 0; axis < QwtPlot::axisCnt; ++axis)
+        plot->setAxisFont(axis, font);
     QPalette paper(Qt::white);
     paper.setColor(QPalette::WindowText, Qt::black);
     paper.setColor(QPalette::Text, Qt::black);
-    plot.setPalette(paper);
-    plot.updateLayout();
-}
-
-QImage picture(QwtPlot& plot) {
-    QImage image(plot.size() * finer, QImage::Format_RGB32);
-    image.setDotsPerMeterX(qRound(plot.logicalDpiX() * finer / 0.0254));
-    image.setDotsPerMeterY(qRound(plot.logicalDpiY() * finer / 0.0254));
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    QwtPlotRenderer().render(&plot, &painter, image.rect());
-    return image;
+    plot->setPalette(paper);
+    plot->resize(CheckReport::pictureWidth, CheckReport::pictureHeight);
+    plot->updateLayout();
+    return plot;
 }
 
 } // namespace
 
 std::unique_ptr<PointsPlot> ReportPictures::newPointsPlot() {
-    auto plot = std::make_unique<PointsPlot>();
-    setUp(*plot);
-    return plot;
+    return newPlot<PointsPlot>();
 }
 
-QImage ReportPictures::of(PointsPlot& plot) {
-    return picture(plot);
+std::unique_ptr<DistortionPlot> ReportPictures::newDistortionPlot() {
+    return newPlot<DistortionPlot>();
 }
 
-QImage ReportPictures::distortion(const ShownSystem& system, const CheckReport& report,
-                                  CheckReport::Distortion* shown) {
+CheckReport::Distortion ReportPictures::showDistortion(DistortionPlot& plot, const ShownSystem& system,
+                                                       const CheckReport& report) {
     constexpr double least = 200.0, around = 1.25; // metres; of the points' area
     const GridPoint& low = report.statistics().lowest;
     const GridPoint& high = report.statistics().highest;
     const GridPoint centre{(low.easting + high.easting) / 2.0, (low.northing + high.northing) / 2.0};
-    DistortionPlot plot;
-    setUp(plot);
+    CheckReport::Distortion shown;
     // Other numbers on the axes may change the canvas's shape, and so the area.
     for (int i = 0; i < 2; ++i) {
         const DistortionArea area = plot.fitted({centre, around * std::max(least, high.easting - low.easting),
@@ -60,11 +53,22 @@ QImage ReportPictures::distortion(const ShownSystem& system, const CheckReport& 
         const DistortionGrid grid(*system.projection(), area, nodes.width(), nodes.height(), report.meanHeight());
         if (grid.isEmpty())
             return {};
-        *shown = {grid.smallest(), grid.largest()};
+        shown = {grid.smallest(), grid.largest()};
         plot.showDistortion(grid, area);
         plot.showLines(DistortionLines(system.record(), *system.projection(), area));
     }
     plot.showPlaces(DistortionLines::origin(system.record()), std::nullopt,
                     {low, {high.easting, low.northing}, high, {low.easting, high.northing}, low});
-    return picture(plot);
+    return shown;
+}
+
+QImage ReportPictures::of(QwtPlot& plot, int finer) {
+    QImage image(plot.size() * finer, QImage::Format_RGB32);
+    image.setDotsPerMeterX(qRound(plot.logicalDpiX() * finer / 0.0254));
+    image.setDotsPerMeterY(qRound(plot.logicalDpiY() * finer / 0.0254));
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setFont(plot.font());
+    QwtPlotRenderer().render(&plot, &painter, image.rect());
+    return image;
 }

@@ -1,6 +1,7 @@
 #include "panel/check/ReportWriting.h"
 
 #include "catalogue/File.h"
+#include "panel/check/DistortionPlot.h"
 #include "panel/check/PointsPlot.h"
 #include "panel/check/ReportPdf.h"
 #include "panel/check/ReportPictures.h"
@@ -20,6 +21,8 @@
 namespace {
 
 constexpr std::size_t rowsPerPiece = 1000;
+constexpr int lineFineness = 3;
+constexpr int mapFineness = 2; ///< colours take time, and need less
 
 /// The unit and the notation that a report began in, while one lives: the user may choose others meanwhile.
 class Notation {
@@ -107,20 +110,22 @@ double ReportWriting::step() {
     case Stage::Counting:
     case Stage::Drawing:
         return stepOverRows();
-    case Stage::Picturing:
-        if (report.hasPictures()) {
-            QImage map = ReportPictures::distortion(*check.system, report, &distortion);
-            if (!map.isNull())
-                output->content.pictures[CheckReport::distortionPicture] = std::move(map);
-        }
-        stage = Stage::Composing;
+    case Stage::Mapping:
+        map = ReportPictures::newDistortionPlot();
+        distortion = ReportPictures::showDistortion(*map, *check.system, report);
+        stage = Stage::Picturing;
         return 0.45;
+    case Stage::Picturing:
+        output->content.pictures[CheckReport::distortionPicture] = ReportPictures::of(*map, mapFineness);
+        map.reset();
+        stage = Stage::Composing;
+        return 0.5;
     case Stage::Composing:
         compose();
         stage = Stage::Writing;
-        return 0.5;
+        return 0.55;
     default:
-        return output->ended.tryAcquire(1, patience) ? 1.0 : 0.5 + 0.49 * output->part;
+        return output->ended.tryAcquire(1, patience) ? 1.0 : 0.55 + 0.44 * output->part;
     }
 }
 
@@ -128,34 +133,35 @@ double ReportWriting::stepOverRows() {
     const std::size_t size = check.points->size();
     const std::size_t last = std::min(next + rowsPerPiece, size);
     const bool isCounting = stage == Stage::Counting;
+    const double part = double(last) / double(size);
+    const double done = isCounting ? 0.2 * part : (isSecond ? 0.3 : 0.2) + 0.1 * part;
     if (isCounting)
         report.add(next, last);
     else
         plot->add(*check.points, next, last);
     next = last;
-    const double part = double(last) / double(size);
-    if (last < size)
-        return isCounting ? 0.2 * part : 0.2 + (isSecond ? 0.1 : 0.0) + 0.1 * part;
-    if (isCounting)
-        report.finish();
-    else
-        plot->finish();
-    draw();
-    return isCounting ? 0.2 : isSecond ? 0.3 : 0.4;
+    if (last == size) {
+        if (isCounting)
+            report.finish();
+        else
+            plot->finish();
+        draw();
+    }
+    return done;
 }
 
 /// Begins the picture of the points, twice: the numbers on the axes of the first may change the canvas's shape.
 void ReportWriting::draw() {
     next = 0;
     if (stage == Stage::Drawing && isSecond) {
-        output->content.pictures[CheckReport::pointsPicture] = ReportPictures::of(*plot);
+        output->content.pictures[CheckReport::pointsPicture] = ReportPictures::of(*plot, lineFineness);
         plot.reset();
-        stage = Stage::Picturing;
+        stage = Stage::Mapping;
         return;
     }
     isSecond = stage == Stage::Drawing;
     if (stage == Stage::Counting && !report.hasPictures()) {
-        stage = Stage::Picturing;
+        stage = Stage::Composing;
         return;
     }
     if (!plot)

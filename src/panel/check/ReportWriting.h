@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class DistortionPlot;
 class PointsPlot;
 
 /// Writes the report of a check to a file, piece by piece: counts, draws and composes in the window's own thread, a few
@@ -31,7 +32,7 @@ public:
 
 private:
     struct Output;
-    enum class Stage { Counting, Drawing, Picturing, Composing, Writing };
+    enum class Stage { Counting, Drawing, Mapping, Picturing, Composing, Writing };
 
     double stepOverRows();
     void draw();
@@ -46,5 +47,6 @@ private:
     std::size_t next = 0;
     bool isSecond = false; ///< drawing for a canvas that the first has changed
     std::unique_ptr<PointsPlot> plot;
+    std::unique_ptr<DistortionPlot> map;
     std::shared_ptr<Output> output; ///< shared with the thread
 };
