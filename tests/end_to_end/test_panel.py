@@ -1,6 +1,7 @@
 """The parameter panel as a surveyor uses it: from the registry into a system, checked, and out to other programs."""
 
 import os
+import subprocess
 
 import tool
 from desktop import press, type_text, wait_for
@@ -9,6 +10,29 @@ GRID = {"Latitude of origin": 49, "Central meridian": -2, "Scale factor": 0.9996
         "False northing": -100000}  # EPSG 27700
 SHIFT = {"Translation X": 446.448, "Translation Y": -125.157, "Translation Z": 542.06, "Rotation X": 0.15,
          "Rotation Y": 0.247, "Rotation Z": 0.842, "Scale difference": -20.489}  # EPSG 1314
+
+
+def turn_to(widget):
+    """Brings the keyboard to a widget."""
+    for _ in range(20):
+        if widget.focused:
+            return
+        press("Tab")
+    wait_for(lambda: widget.focused, "the keyboard to come to " + widget.name)
+
+
+def list_of_points(count, outlier):
+    """A CSV of points on the British grid, as PROJ's own program has them, number `outlier` 2 m too far north."""
+    places = [(51 + i % 20 * 0.05, -3 + i // 20 * 0.1) for i in range(count)]
+    grid = subprocess.run(["proj", "-f", "%.4f", "+proj=tmerc", "+lat_0=49", "+lon_0=-2", "+k=0.9996012717",
+                           "+x_0=400000", "+y_0=-100000", "+ellps=airy"], check=True, capture_output=True, text=True,
+                          input="".join(f"{longitude} {latitude}\n" for latitude, longitude in places)).stdout
+    lines = ["Name,Latitude,Longitude,Easting,Northing"]
+    for number, ((latitude, longitude), line) in enumerate(zip(places, grid.splitlines()), 1):
+        easting, northing = line.split()
+        off = 2 if number == outlier else 0
+        lines.append(f"Pillar {number},{latitude:.2f},{longitude:.1f},{easting},{float(northing) + off:.4f}")
+    return "\n".join(lines) + "\n"
 
 
 class Panel(tool.ToolTest):
@@ -93,14 +117,6 @@ class Panel(tool.ToolTest):
         self.add_system("North Sea", "Platform")
         self.take_from_registry("23031")
         panel = self.tool.tab("Datum shift")
-
-        def turn_to(widget):
-            for _ in range(12):
-                if widget.focused:
-                    return
-                press("Tab")
-            wait_for(lambda: widget.focused, "the keyboard to come to " + widget.name)
-
         turn_to(panel.find("push button", "From points..."))
         press("space")
         dialog = self.tool.dialog("Shift from points")
@@ -117,6 +133,42 @@ class Panel(tool.ToolTest):
         self.assert_shown("Datum shift", {"Translation X": -84.87, "Translation Y": -96.49, "Translation Z": -116.95,
                                           "Rotation X": 0}, tolerance=0.1)
         self.assertTrue(self.tool.save_enabled)
+
+    def test_a_report_of_points_by_the_keyboard(self):
+        points = os.path.join(self.folder, "points.csv")
+        with open(points, "w", encoding="utf-8") as file:
+            file.write(list_of_points(200, outlier=77))
+        report = os.path.join(self.folder, "harbour.pdf")
+        self.tool.start()
+        self.add_group("Yard")
+        self.add_system("Yard", "Harbour <2>")
+        self.take_from_registry("27700")
+        panel = self.tool.tab("Check")
+        panel.find("page tab", "Points").click()
+        turn_to(panel.find("push button", "Open..."))
+        press("space")
+        self.tool.dialog("Open points").find("text", "File name:")
+        type_text(points + "\n")
+        self.tool.dialog("Columns")
+        press("Return")
+        wait_for(lambda: "points.csv: 200 rows read." in panel.names("label"), "the points")
+        turn_to(panel.find("push button", "Report..."))
+        press("space")
+        self.tool.dialog("Save report").find("text", "File name:")
+        press("ctrl+a")
+        type_text(report + "\n")
+        wait_for(lambda: "harbour.pdf: report saved." in panel.names("label"), "the report")
+        text = subprocess.run(["pdftotext", "-layout", report, "-"], check=True, capture_output=True, text=True).stdout
+        pages = text.split("\f")[:-1]
+        self.assertEqual(len(pages), 5)
+        for part in ("Harbour <2>", "EPSG:27700", "1 of 200 compared points are beyond the tolerance of 0.05 m.",
+                     "0.9996012717", "Airy 1830", "446.448 m", "OSGB36"):
+            self.assertIn(part, pages[0])
+        self.assertRegex(pages[0], r"PROJ \d+\.\d+\.\d+, EPSG v\d+")
+        self.assertRegex(text, r"77 +Pillar 77 .* 0\.0000 +-2\.0000 +2\.0000 +\*")
+        for number, page in enumerate(pages, 1):
+            self.assertIn(f"Page {number} of 5", page)
+            self.assertEqual(number > 2, "Latitude " in page)  # the list's heading on each of its pages
 
     def test_a_mistyped_value_costs_nothing(self):
         self.tool.start()
