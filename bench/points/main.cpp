@@ -162,7 +162,7 @@ void measureWindow(const QString& path) {
                                      {"false_north", "-100000"}};
     for (const auto& value : values)
         record->setText(value[0], value[1]);
-    PointsPane pane;
+    PointsPane pane(false);
     pane.setSystem(ShownSystem::of(*record, nullptr));
     pane.resize(800, 600);
     pane.show();
