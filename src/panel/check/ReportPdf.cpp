@@ -61,7 +61,9 @@ QByteArray ReportPdf::write(const std::function<bool(double)>& goesOn) const {
     const QSizeF paper(writer.width(), writer.height());
     const double foot = paper.height() * footShare;
     QTextDocument document;
-    document.setDefaultFont(font);
+    QFont plain(font);
+    plain.setLetterSpacing(QFont::PercentageSpacing, 100.01); // without ligatures, which a search would not find
+    document.setDefaultFont(plain);
     document.setDocumentMargin(0.0);
     for (auto picture = pictures.begin(); picture != pictures.end(); ++picture)
         document.addResource(QTextDocument::ImageResource, QUrl(picture.key()), picture.value());
