@@ -46,6 +46,17 @@ QString escaped(const QString& text) {
     return clean.toHtmlEscaped().replace('\n', "<br>");
 }
 
+/// What a file held, which may be thousands of characters that no one reads on paper.
+QString shortened(const QString& text) {
+    constexpr int most = 300;
+    return escaped(text.size() > most ? text.left(most) + " ..." : text);
+}
+
+QString nameOf(const PointTable& points, std::size_t row) {
+    const std::string_view name = points.name(row);
+    return shortened(QString::fromUtf8(name.data(), int(name.size())));
+}
+
 QString lengthText(double metres) {
     if (std::isnan(metres))
         return QString();
@@ -202,14 +213,24 @@ QString CheckReport::resultPart() const {
     const std::size_t size = check.points->size();
     const std::size_t single = size - counted.count - counted.leftOut - counted.problems - uncomputed;
     text += "<table>\n";
-    const auto add = [&](std::size_t count, const QString& name) {
+    const auto add = [&](std::size_t count, const QString& what, const QString& names = QString()) {
         if (count > 0)
-            text += "<tr>" + numberCell(QString::number(count)) + "<td>" + name + "</td></tr>\n";
+            text += "<tr>" + numberCell(QString::number(count)) + "<td dir=\"auto\">" + what +
+                    (names.isEmpty() ? QString() : ": " + names) + "</td></tr>\n";
     };
+    std::vector<std::size_t> beyond, leftOut;
+    for (const Distance& distance : farthest) {
+        if (distance.metres > check.tolerance)
+            beyond.push_back(distance.row);
+    }
+    std::copy_if(unused.begin(), unused.end(), std::back_inserter(leftOut),
+                 [this](std::size_t row) { return !std::isnan(check.points->difference(row).easting); });
     add(size, PanelText::tr("points in the list"));
     add(counted.count, PanelText::tr("compared: in use, with both pairs of coordinates"));
-    add(counted.beyond, PanelText::tr("of these beyond the tolerance"));
-    add(counted.leftOut, PanelText::tr("with both pairs left out of the figures by hand"));
+    add(counted.beyond, PanelText::tr("of these beyond the tolerance, the farthest first"),
+        names(beyond, counted.beyond));
+    add(counted.leftOut, PanelText::tr("with both pairs left out of the figures by hand"),
+        names(leftOut, counted.leftOut));
     add(single, PanelText::tr("with one pair only, the other computed"));
     add(uncomputed, PanelText::tr("not computed, as that was cancelled"));
     add(counted.problems, PanelText::tr("without a result; the list says why"));
@@ -223,6 +244,17 @@ QString CheckReport::resultPart() const {
                       ' ' + unitSentence(),
                   "small");
     return text;
+}
+
+/// The first of `count` points.
+QString CheckReport::names(const std::vector<std::size_t>& rows, std::size_t count) const {
+    constexpr std::size_t most = 10;
+    QStringList texts;
+    for (std::size_t i = 0; i < std::min(rows.size(), most); ++i) {
+        const QString name = nameOf(*check.points, rows[i]);
+        texts << (name.isEmpty() ? PanelText::tr("No. %1").arg(rows[i] + 1) : name);
+    }
+    return texts.join(", ") + (count > most ? ", ..." : "");
 }
 
 QString CheckReport::systemPart() const {
@@ -306,10 +338,8 @@ QString CheckReport::pointTable(const std::vector<std::size_t>& rows) const {
 QString CheckReport::pointRow(std::size_t row) const {
     const PointTable& points = *check.points;
     const char* const look = !points.isUsed(row) ? "unused" : isBeyond(row) ? "beyond" : "";
-    const std::string_view name = points.name(row);
     QString text = QString("<tr class=\"%1\">").arg(look) + numberCell(QString::number(row + 1), look) +
-                   QString("<td class=\"%1\" dir=\"auto\">").arg(look) +
-                   escaped(QString::fromUtf8(name.data(), int(name.size()))) + "</td>";
+                   QString("<td class=\"%1\" dir=\"auto\">").arg(look) + nameOf(points, row) + "</td>";
     for (const PointColumn column : {PointColumn::Latitude, PointColumn::Longitude, PointColumn::Height,
                                      PointColumn::Easting, PointColumn::Northing}) {
         const double value = points.shown(row, column);
@@ -328,7 +358,7 @@ QString CheckReport::pointRow(std::size_t row) const {
     if (!points.isUsed(row))
         remarks << PanelText::tr("Left out of the figures.");
     if (points.hasProblem(row) || points.isDuplicate(row))
-        remarks << escaped(points.remark(row));
+        remarks << shortened(points.remark(row));
     if (!remarks.isEmpty())
         text += QString("<tr><td></td><td colspan=\"10\" class=\"%1\" dir=\"auto\">↳ %2</td></tr>\n")
                     .arg(points.hasProblem(row) ? "beyond" : look, remarks.join(' '));

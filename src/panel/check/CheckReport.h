@@ -67,6 +67,7 @@ private:
     QString systemPart() const;
     QString resultPart() const;
     QString verdict() const;
+    QString names(const std::vector<std::size_t>& rows, std::size_t count) const;
     QString picturesPart(const Distortion& distortion) const;
     QString pointsPart() const;
     QString pointTable(const std::vector<std::size_t>& rows) const;
