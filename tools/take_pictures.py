@@ -156,7 +156,7 @@ class Photographer:
         self.tool.gone(title)
 
     def commands(self):
-        self.tool.scroll_to(COUNTRY)
+        self.tool.scroll_to("Uruguay")  # so that there is room for the menu
         self.tool.menu_at(self.tool.item(COUNTRY))
         self.take("menu")
         self.desktop.menu().find("menu item", "AddCoordSys").click()
