@@ -5,7 +5,6 @@
 #include <QElapsedTimer>
 #include <QWidget>
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -14,6 +13,8 @@ class ChoiceBox;
 class FitBox;
 class FitToPoints;
 class MessageLine;
+class PointFigures;
+class PointSaving;
 class PointsModel;
 class PointsPlot;
 class PointTable;
@@ -26,7 +27,6 @@ class QTableView;
 class QToolButton;
 class ShownSystem;
 class SlicedWork;
-struct PointStatistics;
 
 /// A table of control points computed through the system, with statistics of how far it is off and a picture. Reading,
 /// computing and saving many go on in slices, which the user can end.
@@ -74,8 +74,10 @@ private Q_SLOTS:
     void _onCopy();
     void _onSave();
     void _onDelete();
+    void _onUndo();
     void _onClear();
     void _onFitClicked();
+    void _onFitChanged();
     void _onNext();
     void _onDatumChanged();
     void _onToleranceChanged();
@@ -91,12 +93,8 @@ private Q_SLOTS:
     void _onCancel();
 
 private:
-    enum FigureColumn { Mean, Rms, Largest, FigureColumnCount };
-    enum FigureLine { East, North, Total, FigureLineCount };
-
     void buildTable();
     void buildSettings();
-    void buildFigures();
     QToolButton* newButton(const QString& text, const char* slot);
 
     /// What is going on in slices. While there is reading, saving or copying, the table stays as it is.
@@ -120,10 +118,10 @@ private:
     void showResults();
     void showFit();
     std::vector<bool> selectedRows() const;
-    void showFigures(const PointStatistics& statistics);
+    int selectedRow() const;
+    void showPoint(int row);
     void showTolerance();
     void say(const QString& text, bool isError = false);
-    QString lengthText(double metres) const;
 
     std::shared_ptr<const ShownSystem> system;
     bool isStale = true;      ///< the system, or the datum, is another since the points were computed
@@ -133,6 +131,7 @@ private:
     Task task = Task::None;
     QString taskName;
     QElapsedTimer taskTime;
+    std::shared_ptr<PointSaving> saving; ///< what is going on
     PointsModel* model;
     QTableView* table;
     PointsPlot* plot;
@@ -146,8 +145,7 @@ private:
     QToolButton* clearButton;
     QToolButton* fitButton;
     QToolButton* nextButton;
-    std::array<std::array<QLabel*, FigureColumnCount>, FigureLineCount> figures;
-    QLabel* counts;
+    PointFigures* figures;
     QLabel* readout;
     MessageLine* message;
     QProgressBar* progress;
