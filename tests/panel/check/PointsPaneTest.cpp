@@ -19,8 +19,8 @@ namespace {
 ///         "cell paste=2 Name=text" into the second row, "undo" by the keyboard,
 ///         "save=as shown", "save=full" and "open=text" a file; "cell=2 Name=text" types into the second row, "used=2"
 ///         turns its check mark, "select=2", "click=2" the point in the picture, "mouse=2"
-///   seen: "cell:2 Name", "rows", "picture" (points, of them red and grey), "ring" the easting in the picture,
-///   "selected" in the table
+///   seen: "cell:2 Name", "rows", "scrolls" (how many pixels are out of sight in a small window), "picture" (points, of
+///   them red and grey), "ring" the easting in the picture, "selected" in the table
 class PointsOnScreen : public PanelOnScreen {
 public:
     explicit PointsOnScreen(const QString& start) : PanelOnScreen(start) {
@@ -73,13 +73,17 @@ public:
             QCoreApplication::sendEvent(plot->canvas(), &move);
         };
         sights["scrolls"] = [this](const QString&) {
+            const QFont usual = QApplication::font();
+            QFont desktop = usual;
+            desktop.setPixelSize(13);
+            QApplication::setFont(desktop);
             panel.resize(516, 548); // as a window of 800 x 600 leaves it
             QApplication::processEvents();
-            for (const QScrollArea* area : findAll<QScrollArea>()) {
-                if (area->horizontalScrollBar()->maximum() > 0 || area->verticalScrollBar()->maximum() > 0)
-                    return "yes";
-            }
-            return "no";
+            QSize hidden(0, 0);
+            for (const QScrollArea* area : findAll<QScrollArea>())
+                hidden += QSize(area->horizontalScrollBar()->maximum(), area->verticalScrollBar()->maximum());
+            QApplication::setFont(usual);
+            return QString("%1 x %2").arg(hidden.width()).arg(hidden.height());
         };
         sights["told"] = [this](const QString&) {
             const QString times = QString::number(changes.count());
