@@ -44,14 +44,13 @@ QString deviationText(const ParamField& field, double deviation) {
     return " ± " + NumberText::rounded(deviation / unit, field.isAngle() ? 8 : isFactor ? 9 : 4);
 }
 
-/// "0.0093, 1.3057 m": the root mean square, and the largest.
+/// "0.0093, 1.3057": the root mean square, and the largest.
 QString misfitText(const QVector<GridPoint>& residuals) {
     double largest = 0.0;
     for (const GridPoint& residual : residuals)
         largest = std::max(largest, std::hypot(residual.easting, residual.northing));
     return residuals.isEmpty() ? QString()
-                               : LengthUnit::text(FitToPoints::rms(residuals)) + ", " + LengthUnit::text(largest) +
-                                     ' ' + LengthUnit::symbol();
+                               : LengthUnit::text(FitToPoints::rms(residuals)) + ", " + LengthUnit::text(largest);
 }
 
 } // namespace
@@ -71,7 +70,7 @@ FitBox::FitBox(bool readOnly, QWidget* parent)
     auto* grid = new QGridLayout;
     layout->addLayout(grid);
     grid->setVerticalSpacing(0);
-    grid->setHorizontalSpacing(12);
+    grid->setHorizontalSpacing(8);
     grid->setColumnStretch(2, 1);
     auto* title = new QLabel(PanelText::tr("Fit"));
     QFont bold = title->font();
@@ -154,7 +153,8 @@ void FitBox::showFit() {
         isOther = isOther || change.after != change.before;
     acceptButton->setEnabled(!readOnly && isOther);
     misfitBefore->setText(misfitText(result.residualsBefore()));
-    misfitAfter->setText(misfitText(result.residualsAfter()));
+    misfitAfter->setText(misfitText(result.residualsAfter()) +
+                         (result.residualsAfter().isEmpty() ? QString() : ' ' + LengthUnit::symbol()));
     const std::pair<QLabel*, QString> texts[] = {
         {problemLabel, result.problem()}, {remainderLabel, remainderText()}, {diagnosisLabel, result.diagnosis()}};
     for (const auto& [label, text] : texts) {
