@@ -58,10 +58,7 @@ QString nameOf(const PointTable& points, std::size_t row) {
 }
 
 QString lengthText(double metres) {
-    if (std::isnan(metres))
-        return QString();
-    const QString text = QString::number(metres / LengthUnit::metres(), 'f', 4);
-    return text == "-0.0000" ? "0.0000" : text;
+    return std::isnan(metres) ? QString() : LengthUnit::text(metres);
 }
 
 QString withUnit(const QString& number) {

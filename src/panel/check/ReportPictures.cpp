@@ -68,7 +68,10 @@ QImage ReportPictures::of(QwtPlot& plot, int finer) {
     image.setDotsPerMeterY(qRound(plot.logicalDpiY() * finer / 0.0254));
     image.fill(Qt::white);
     QPainter painter(&image);
-    painter.setFont(plot.font());
+    // In pixels of the screen, for what is drawn with the painter's own font: a picture of more of them has it larger.
+    QFont font = plot.font();
+    font.setPixelSize(QFontInfo(font).pixelSize());
+    painter.setFont(font);
     QwtPlotRenderer().render(&plot, &painter, image.rect());
     return image;
 }

@@ -65,11 +65,13 @@ QByteArray wholeHtml(const ReportPdf& content) {
 } // namespace
 
 struct ReportWriting::Output {
+    enum class State { Going, Cancelled, Committing };
+
     QString path;
     Form form;
     ReportPdf content;
     std::atomic<double> part{0.0};
-    std::atomic<bool> isCancelled{false};
+    std::atomic<State> state{State::Going};
     QSemaphore ended;
     QString error;
 
@@ -79,10 +81,11 @@ struct ReportWriting::Output {
 void ReportWriting::Output::write() {
     const auto goesOn = [this](double done) {
         part = done;
-        return !isCancelled;
+        return state == State::Going;
     };
     const QByteArray bytes = form == Form::Pdf ? content.write(goesOn) : wholeHtml(content);
-    if (isCancelled)
+    State expected = State::Going;
+    if (!state.compare_exchange_strong(expected, State::Committing))
         return;
     if (bytes.isEmpty() || !process_replace_file(path, bytes, &error))
         error = error.isEmpty() ? PanelText::tr("no document could be made") : error;
@@ -96,7 +99,12 @@ ReportWriting::ReportWriting(const CheckReport::Check& reported, const QString& 
 }
 
 ReportWriting::~ReportWriting() {
-    output->isCancelled = true;
+    Output::State expected = Output::State::Going;
+    output->state.compare_exchange_strong(expected, Output::State::Cancelled);
+}
+
+bool ReportWriting::isCommitting() const {
+    return output->state == Output::State::Committing;
 }
 
 const QString& ReportWriting::error() const {

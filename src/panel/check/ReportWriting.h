@@ -27,6 +27,9 @@ public:
     /// Does a piece, and says how much of all is done then: 1 at the end.
     double step();
 
+    /// Whether it is too late to end without a file.
+    bool isCommitting() const;
+
     /// Why there is no file, in the system's words; empty when there is one.
     const QString& error() const;
 

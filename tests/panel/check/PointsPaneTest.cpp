@@ -16,10 +16,11 @@ namespace {
 /// The page "Points" of the tab "Check".
 ///   done: "paste=text" (lines parted by "/") accepts the dialog of its columns, which "columns" tells; "refused paste"
 ///   shows none;
+///         "cell paste=2 Name=text" into the second row, "undo" by the keyboard,
 ///         "save=as shown", "save=full" and "open=text" a file; "cell=2 Name=text" types into the second row, "used=2"
 ///         turns its check mark, "select=2", "click=2" the point in the picture, "mouse=2"
-///   seen: "cell:2 Name", "rows", "picture" (points, of them red and grey), "ring" the easting in the picture,
-///   "selected" in the table
+///   seen: "cell:2 Name", "rows", "scrolls" (how many pixels are out of sight in a small window), "picture" (points, of
+///   them red and grey), "ring" the easting in the picture, "selected" in the table
 class PointsOnScreen : public PanelOnScreen {
 public:
     explicit PointsOnScreen(const QString& start) : PanelOnScreen(start) {
@@ -52,6 +53,12 @@ public:
             model->refresh(); // computed anew meanwhile
             QTest::keyClick(edit, Qt::Key_Return);
         };
+        acts["cell paste"] = [this](const QString& text) {
+            QApplication::clipboard()->setText(text.section('=', 1));
+            table->setCurrentIndex(cell(text.section('=', 0, 0)));
+            QTest::keySequence(table, QKeySequence::Paste);
+        };
+        acts["undo"] = [this](const QString&) { QTest::keySequence(table, QKeySequence::Undo); };
         acts["Tolerance"] = [this](const QString& text) {
             find<QDoubleSpinBox>("Tolerance")->setValue(text.toDouble());
         };
@@ -64,6 +71,19 @@ public:
         acts["mouse"] = [this](const QString& row) {
             QMouseEvent move(QEvent::MouseMove, at(row), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
             QCoreApplication::sendEvent(plot->canvas(), &move);
+        };
+        sights["scrolls"] = [this](const QString&) {
+            const QFont usual = QApplication::font();
+            QFont desktop = usual;
+            desktop.setPixelSize(13);
+            QApplication::setFont(desktop);
+            panel.resize(516, 548); // as a window of 800 x 600 leaves it
+            QApplication::processEvents();
+            QSize hidden(0, 0);
+            for (const QScrollArea* area : findAll<QScrollArea>())
+                hidden += QSize(area->horizontalScrollBar()->maximum(), area->verticalScrollBar()->maximum());
+            QApplication::setFont(usual);
+            return QString("%1 x %2").arg(hidden.width()).arg(hidden.height());
         };
         sights["told"] = [this](const QString&) {
             const QString times = QString::number(changes.count());
