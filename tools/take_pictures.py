@@ -125,7 +125,7 @@ class Photographer:
         self.take_window("Columns", "points-columns")
         columns.find("push button", "OK").click()
         self.tool.gone("Columns")
-        panel.find("combo box", "The system's own").choose("WGS 84")
+        panel.find("combo box", "Own").choose("WGS 84")
         panel.find("spin button", "Tolerance").click()
         press("ctrl+a")
         type_text("0.25\n")
