@@ -111,6 +111,7 @@ public:
         };
         sights["counts"] = [this](const QString&) { return textOf(" with both pairs"); };
         sights["named"] = [this](const QString&) { return textOf("   ΔE "); };
+        sights["begins"] = [this](const QString& name) { return contentOf(folder.filePath(name)).left(5); };
         sights["saved"] = [this](const QString&) {
             return QString::fromUtf8(contentOf(folder.filePath("saved.csv"))).remove(QChar(0xfeff)).replace('\n', '/');
         };
