@@ -112,6 +112,7 @@ public:
         sights["current"] = [this](const QString&) { return QString::number(table->currentIndex().row() + 1); };
         sights["counts"] = [this](const QString&) { return textOf(" with both pairs"); };
         sights["named"] = [this](const QString&) { return textOf("   ΔE "); };
+        sights["begins"] = [this](const QString& name) { return contentOf(folder.filePath(name)).left(5); };
         sights["saved"] = [this](const QString&) {
             return QString::fromUtf8(contentOf(folder.filePath("saved.csv"))).remove(QChar(0xfeff)).replace('\n', '/');
         };
