@@ -4,6 +4,8 @@
 #include "catalogue/DictionaryGuard.h"
 #include "import/CoordParamToProjDefine.h"
 #include "import/WktToCoordParam.h"
+#include "panel/record/RecordDifferences.h"
+#include "panel/record/RecordWkt.h"
 #include "platform/projection/IProjectionModule.h"
 #include "platform/projection/ProjNumber.h"
 
@@ -25,6 +27,11 @@ QByteArray definitionOf(const QByteArray& wkt) {
         return {};
     dic_set_value(record.get(), CoordParamKey::shiftType, "%d", 0);
     return coordParamToProjDefine(*record);
+}
+
+QStringList lossesOf(const IDictionary& record, const QByteArray& wkt) {
+    const DictionaryGuard again;
+    return WktToCoordParam::write(wkt, again.get()) ? recordDifferences(record, *again) : QStringList{"all"};
 }
 
 bool has(const std::vector<RegistryMatch>& matches, const RegistrySystem& system) {
@@ -120,6 +127,44 @@ bool IdentifySweep::findChanged(int count) {
     }
     std::printf("%d systems with a wrong figure: %d taken for others, %d told by what differs\n", tried, wrong, told);
     return wrong == 0;
+}
+
+bool IdentifySweep::exportWithIdentifiers() {
+    int written = 0;
+    int inexact = 0;
+    int lost = 0;
+    int bare = 0;
+    for (const System& system : qAsConst(systems)) {
+        const QByteArray& code = system.system->code;
+        const RegistryDefinition& definition = module.registry().definition(code);
+        if (definition.unit != 1)
+            continue;
+        const auto shifts = module.registry().datumShifts(code);
+        const DictionaryGuard record;
+        WktToCoordParam::write(module.registry().wkt(code, shifts.empty() ? nullptr : &shifts.front()), record.get());
+        if (farthestBetween(coordParamToProjDefine(*record), definition.definition, *system.system) >
+            RegistryMatch::exactly) {
+            ++inexact;
+            continue;
+        }
+        record->setText(CoordParamKey::name, "A name of its own");
+        for (const WktDialect dialect : {WktDialect::Wkt1Gdal, WktDialect::Wkt1Esri, WktDialect::Wkt2_2019}) {
+            const QByteArray text = recordWkt(*record, dialect, false, code);
+            const QStringList losses = lossesOf(*record, text);
+            const QStringList plainLosses = lossesOf(*record, recordWkt(*record, dialect, false));
+            ++written;
+            bare += !text.contains("EPSG\"," + code + "]]") && !text.contains("EPSG\",\"" + code + "\"]]");
+            if (losses.size() <= plainLosses.size())
+                continue;
+            ++lost;
+            std::printf("  WRONG    EPSG:%s in dialect %d: %s\n", code.constData(), int(dialect),
+                        qPrintable(losses.join(", ")));
+        }
+    }
+    std::printf("%d texts with identifiers: %d bring back less than without, %d had to go without; %d systems are "
+                "not exactly the registry's\n",
+                written, lost, bare, inexact);
+    return lost == 0;
 }
 
 /// Over 15 x 15 places of the area, in metres; infinite when one gives coordinates where the other has none.

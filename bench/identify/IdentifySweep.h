@@ -20,6 +20,10 @@ public:
     /// area: none of the registry may be taken for it but what computes the same. False when one is.
     bool findChanged(int count);
 
+    /// Writes those that count in metres as WKT with their identifiers, with a shift of the registry, and imports the
+    /// texts again. False when one does not come back.
+    bool exportWithIdentifiers();
+
 private:
     struct System {
         const RegistrySystem* system;

@@ -20,5 +20,6 @@ int main(int argc, char* argv[]) {
         return 1;
     IdentifySweep sweep(*module, std::max(1, parser.value(every).toInt()));
     const bool isUnchangedFound = sweep.findUnchanged();
-    return sweep.findChanged(parser.value(changed).toInt()) && isUnchangedFound ? 0 : 1;
+    const bool isNoneTakenForAnother = sweep.findChanged(parser.value(changed).toInt());
+    return sweep.exportWithIdentifiers() && isUnchangedFound && isNoneTakenForAnother ? 0 : 1;
 }

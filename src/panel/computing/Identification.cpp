@@ -21,10 +21,13 @@ struct Items {
     explicit Items(const QByteArray& definition) {
         for (const QByteArray& item : definition.split(' ')) {
             const int equals = item.indexOf('=');
-            if (item.startsWith("+proj="))
+            const QByteArray key = item.mid(1, equals - 1);
+            if (key == "proj")
                 method = item.mid(equals + 1);
-            else if (equals > 0 && item != "+units=m")
-                numbers.insert(item.mid(1, equals - 1), item.mid(equals + 1).toDouble());
+            else if (key == "b")
+                numbers.insert("rf", 0); // a sphere's
+            else if (equals > 0 && key != "units" && key != "towgs84")
+                numbers.insert(key, item.mid(equals + 1).toDouble());
         }
     }
 
@@ -95,10 +98,13 @@ double metresOf(const RegistryMatch::Difference& difference, double a) {
     const QByteArray& item = difference.item;
     if (std::isnan(amount))
         return a;
-    if (item == "x_0" || item == "y_0" || item == "a" || item == "b")
+    const auto minorAxis = [a](double inverseFlattening) {
+        return inverseFlattening == 0 ? a : a - a / inverseFlattening;
+    };
+    if (item == "x_0" || item == "y_0" || item == "a")
         return amount;
     if (item == "rf")
-        return std::abs(a / difference.here - a / difference.there);
+        return std::abs(minorAxis(difference.here) - minorAxis(difference.there));
     if (item == "k_0")
         return amount * 1e6;
     const double degree = a / 57.3;
@@ -112,9 +118,8 @@ void noteDifferences(const Items& here, const Items& there, RegistryMatch& match
     const auto note = [&](const QByteArray& item, double left, double right) {
         const RegistryMatch::Difference difference{item, left, right};
         const double metres = metresOf(difference, a);
-        const bool isShape = item == "rf" || item == "b";
         match.distance += metres;
-        if (metres > (isShape ? Identification::tolerance : RegistryMatch::exactly))
+        if (metres > (item == "rf" ? Identification::tolerance : RegistryMatch::exactly))
             match.differences.append(difference);
     };
     for (auto item = here.numbers.begin(); item != here.numbers.end(); ++item)

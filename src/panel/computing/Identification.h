@@ -14,11 +14,11 @@ class IProjectionModule;
 
 /// One system of the registry beside the one that is looked for.
 struct RegistryMatch {
-    /// An item of the definitions ("x_0", "rf") that differs; NaN where a definition lacks it.
+    /// An item of the definitions ("x_0", "rf") that differs; "rf" is 0 for a sphere.
     struct Difference {
         QByteArray item;
-        double here;  ///< degrees or metres
-        double there; ///< in the registry
+        double here;  ///< degrees, metres or a factor; NaN where the definition has no such item
+        double there; ///< in the registry, the same
     };
 
     const RegistrySystem* system = nullptr;
@@ -39,8 +39,8 @@ struct RegistryMatch {
 class Identification {
 public:
     struct Subject {
-        QByteArray definition; ///< as IProjectionModule::createSystem() takes it
-        QByteArray datum;      ///< these in UTF-8, empty when unknown
+        QByteArray definition; ///< as IProjectionModule::createSystem() takes it; empty for none
+        QByteArray datum;      ///< these in UTF-8; empty when unknown
         QByteArray name;
         QByteArray code; ///< EPSG's
 
