@@ -99,7 +99,7 @@ void IdentityLine::hideEvent(QHideEvent* event) {
 }
 
 void IdentityLine::_onTimeout() {
-    if (!identification || subject.definition.isEmpty())
+    if (!identification || subject.definition.isEmpty() || (isStarted && identification->isFinished()))
         return timer->stop();
     if (!isStarted)
         identification->start(subject);
