@@ -111,7 +111,7 @@ private Q_SLOTS:
         const auto isSearching = [&] { // in the registry
             return screen.panel.findChild<IdentityLine*>()->findChild<QTimer*>()->isActive();
         };
-        screen.acts["search"] = [&](const QString&) { QTRY_VERIFY(!isSearching()); };
+        screen.acts["search"] = [&](const QString&) { QTRY_VERIFY_WITH_TIMEOUT(!isSearching(), 60000); };
         screen.sights["searching"] = [&](const QString&) { return isSearching() ? "yes" : "no"; };
         screen.sights["saved"] = [&](const QString&) { return saveDefinition(screen); };
         MessageBoxDouble::reset();
