@@ -74,6 +74,7 @@ bool IdentifySweep::findUnchanged() {
     int alone = 0;
     int most = 0;
     double farthest = 0;
+    QByteArray farthestPair;
     double betweenWays = 0;
     for (const System& system : qAsConst(systems)) {
         const auto& matches = identify(system.definition);
@@ -88,14 +89,17 @@ bool IdentifySweep::findUnchanged() {
         betweenWays = std::max(betweenWays, farthestBetween(system.definition, direct, *system.system));
         for (const RegistryMatch& match : matches) {
             const double distance = farthestBetween(system.definition, match.definition->definition, *match.system);
+            if (distance > farthest)
+                farthestPair = system.system->code + " and " + match.system->code;
             farthest = std::max(farthest, distance);
             if (!(distance < matters))
                 std::printf("  WRONG    EPSG:%s is not EPSG:%s: %g m\n", system.system->code.constData(),
                             match.system->code.constData(), distance);
         }
     }
-    std::printf("%d systems: %d found, %d of them as the only one, others with up to %d more; off by at most %.2g mm\n",
-                systems.size(), found, alone, most - 1, farthest * 1000);
+    std::printf(
+        "%d systems: %d found, %d of them as the only one, others with up to %d more; off by at most %.2g mm (%s)\n",
+        systems.size(), found, alone, most - 1, farthest * 1000, farthestPair.constData());
     std::printf(
         "  later searches take up to %.0f ms; the registry's own definition and the import's differ by %.2g mm\n",
         longestSearch, betweenWays * 1000);
@@ -104,6 +108,7 @@ bool IdentifySweep::findUnchanged() {
 }
 
 bool IdentifySweep::findChanged(int count) {
+    longestSearch = 0;
     int wrong = 0;
     int tried = 0;
     int told = 0;
@@ -125,7 +130,9 @@ bool IdentifySweep::findChanged(int count) {
         const auto& nearest = identification.nearest();
         told += has(nearest, *system.system) && nearest.front().differences.size() == 1;
     }
-    std::printf("%d systems with a wrong figure: %d taken for others, %d told by what differs\n", tried, wrong, told);
+    std::printf(
+        "%d systems with a wrong figure: %d taken for others, %d told by what differs; searches take up to %.0f ms\n",
+        tried, wrong, told, longestSearch);
     return wrong == 0;
 }
 
