@@ -44,13 +44,24 @@ QString deviationText(const ParamField& field, double deviation) {
     return " ± " + NumberText::rounded(deviation / unit, field.isAngle() ? 8 : isFactor ? 9 : 4);
 }
 
+/// A text of any length in a column that keeps its width.
+void setText(QLabel* label, const QString& text) {
+    label->setText(text);
+    label->setToolTip(text);
+}
+
+/// Of a whole system's size, what is behind the point tells nothing.
+QString misfitText(double metres) {
+    constexpr double large = 10000.0;
+    return metres < large ? LengthUnit::text(metres) : QString::number(metres / LengthUnit::metres(), 'f', 0);
+}
+
 /// "0.0093, 1.3057": the root mean square, and the largest.
 QString misfitText(const QVector<GridPoint>& residuals) {
     double largest = 0.0;
     for (const GridPoint& residual : residuals)
         largest = std::max(largest, std::hypot(residual.easting, residual.northing));
-    return residuals.isEmpty() ? QString()
-                               : LengthUnit::text(FitToPoints::rms(residuals)) + ", " + LengthUnit::text(largest);
+    return residuals.isEmpty() ? QString() : misfitText(FitToPoints::rms(residuals)) + ", " + misfitText(largest);
 }
 
 } // namespace
@@ -89,6 +100,7 @@ FitBox::FitBox(bool readOnly, QWidget* parent)
     grid->addWidget(new QLabel(PanelText::tr("RMS, largest")), row, 0);
     grid->addWidget(misfitBefore, row, 1, Qt::AlignRight);
     grid->addWidget(misfitAfter, row, 2);
+    misfitAfter->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     misfitBefore->setAccessibleName(PanelText::tr("Misfit before"));
     misfitAfter->setAccessibleName(PanelText::tr("Misfit after"));
     problemLabel->setAccessibleName(PanelText::tr("Problem"));
@@ -114,6 +126,7 @@ void FitBox::buildRow(QGridLayout* grid, Value value, const QString& title) {
     Row& row = values[value];
     row = {new QCheckBox(title), new QLabel, new QLabel};
     row.box->setChecked(true);
+    row.after->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     grid->addWidget(row.box, value + 1, 0);
     grid->addWidget(row.before, value + 1, 1, Qt::AlignRight);
     grid->addWidget(row.after, value + 1, 2);
@@ -153,8 +166,8 @@ void FitBox::showFit() {
         isOther = isOther || change.after != change.before;
     acceptButton->setEnabled(!readOnly && isOther);
     misfitBefore->setText(misfitText(result.residualsBefore()));
-    misfitAfter->setText(misfitText(result.residualsAfter()) +
-                         (result.residualsAfter().isEmpty() ? QString() : ' ' + LengthUnit::symbol()));
+    setText(misfitAfter, misfitText(result.residualsAfter()) +
+                             (result.residualsAfter().isEmpty() ? QString() : ' ' + LengthUnit::symbol()));
     const std::pair<QLabel*, QString> texts[] = {
         {problemLabel, result.problem()}, {remainderLabel, remainderText()}, {diagnosisLabel, result.diagnosis()}};
     for (const auto& [label, text] : texts) {
@@ -187,10 +200,10 @@ void FitBox::showValues() {
             continue;
         row.after->setAccessibleName(PanelText::tr("%1 after").arg(row.box->text()));
         row.before->setText(valueText(*field, dictionary_number(record, field->key, 0.0)));
-        row.after->clear();
+        setText(row.after, QString());
         for (const FitToPoints::Change& change : result.changes()) {
             if (change.field == field)
-                row.after->setText(valueText(*field, change.after) + deviationText(*field, change.deviation));
+                setText(row.after, valueText(*field, change.after) + deviationText(*field, change.deviation));
         }
     }
 }

@@ -41,8 +41,9 @@ void PointFigures::setStatistics(const PointStatistics& statistics, std::size_t 
             figures[line][column]->setText(statistics.count > 0 ? LengthUnit::text(values[column])
                                                                 : QStringLiteral("–"));
     }
-    QStringList texts{
-        PanelText::tr("%1 points, %2 with both pairs").arg(rows).arg(statistics.count + statistics.leftOut)};
+    const std::size_t pairs = statistics.count + statistics.leftOut;
+    QStringList texts{rows == 1 ? PanelText::tr("1 point, %1 with both pairs").arg(pairs)
+                                : PanelText::tr("%1 points, %2 with both pairs").arg(rows).arg(pairs)};
     if (statistics.leftOut > 0)
         texts << PanelText::tr("%1 left out").arg(statistics.leftOut);
     if (statistics.beyond > 0)

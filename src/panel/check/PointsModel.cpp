@@ -10,6 +10,7 @@
 #include <QFont>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -97,9 +98,9 @@ void PointsModel::remember(Step&& step) {
         bytes -= steps.front().rows.bytes();
 }
 
-bool PointsModel::undo() {
+int PointsModel::undo() {
     if (steps.empty())
-        return false;
+        return -1;
     beginResetModel();
     fitted.clear();
     // Rows have only been added at the end since: the places are still the same.
@@ -107,9 +108,10 @@ bool PointsModel::undo() {
     if (step.isTyped)
         table = table.picked(step.places, false);
     table.putBack(step.rows, step.places);
+    const auto first = std::find(step.places.begin(), step.places.end(), true) - step.places.begin();
     steps.pop_back();
     endResetModel();
-    return true;
+    return int(first);
 }
 
 bool PointsModel::pasteInto(const QModelIndex& cell, const QString& text) {

@@ -44,9 +44,9 @@ public:
     /// Puts a text into a cell as if typed, where it is one figure or name; false where it may be a line of points.
     bool pasteInto(const QModelIndex& cell, const QString& text);
 
-    /// Brings back the rows that were removed last, or as they were before the last was typed into; false where there
-    /// are none.
-    bool undo();
+    /// Brings back the rows that were removed last, or as they were before the last was typed into, and gives the first
+    /// of them; -1 where there is nothing to undo.
+    int undo();
 
     /// What a fit leaves at each row, in metres, NaN where it knows none; empty without a fit.
     void showFit(std::vector<GridPoint>&& residuals);

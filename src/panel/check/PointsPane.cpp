@@ -46,6 +46,10 @@ constexpr std::size_t rowsPerPiece = 1000;
 constexpr std::size_t rowsAtOnce = 2000; ///< so many are computed before the window is seen again
 constexpr std::size_t mostCopied = 200000;
 
+QString rowsText(std::size_t count) {
+    return count == 1 ? PanelText::tr("1 row") : PanelText::tr("%1 rows").arg(count);
+}
+
 /// Leaves what is being typed alone when the table behind it is computed anew.
 class TypingDelegate : public QStyledItemDelegate {
 public:
@@ -350,7 +354,7 @@ void PointsPane::read(std::unique_ptr<QIODevice> source, const QString& name) {
             return say(PanelText::tr("%1 has too many points; nothing of it is taken.").arg(name), true);
         const QString error = reading->error();
         if (error.isEmpty())
-            say(PanelText::tr("%1: %2 rows read.").arg(name).arg(reading->table.size()));
+            say(PanelText::tr("%1: %2 read.").arg(name, rowsText(reading->table.size())));
         else
             say(PanelText::tr("%1 can't be read to its end: %2").arg(name, error), true);
         join(std::shared_ptr<PointTable>(reading, &reading->table));
@@ -593,7 +597,7 @@ void PointsPane::_onCopy() {
             if (copying->isCut)
                 say(PanelText::tr("Only the first %1 rows are copied. Save all as CSV.").arg(copying->count), true);
             else
-                say(PanelText::tr("%1 rows copied.").arg(copying->count));
+                say(PanelText::tr("%1 copied.").arg(rowsText(copying->count)));
         });
 }
 
@@ -617,7 +621,7 @@ void PointsPane::save(const QString& path, bool isFull) {
             const QString name = QFileInfo(path).fileName();
             saving.reset();
             if (current->error().isEmpty())
-                say(PanelText::tr("%1: %2 rows saved.").arg(name).arg(points().size()));
+                say(PanelText::tr("%1: %2 saved.").arg(name, rowsText(points().size())));
             else
                 say(PanelText::tr("%1 can't be saved: %2").arg(name, current->error()), true);
         });
@@ -646,9 +650,13 @@ void PointsPane::_onDelete() {
     if (!table->selectionModel()->hasSelection())
         return say(PanelText::tr("No row is selected."));
     const std::size_t before = points().size();
+    const QModelIndex current = table->currentIndex();
     work->cancel();
     model->remove(selectedRows());
-    say(PanelText::tr("%1 rows deleted; Ctrl+Z brings them back.").arg(before - points().size()));
+    // The keyboard stays where it was, for the next one.
+    const int row = std::min(current.row(), int(points().size()));
+    table->selectionModel()->setCurrentIndex(model->index(row, current.column()), QItemSelectionModel::NoUpdate);
+    say(PanelText::tr("%1 deleted; Ctrl+Z undoes that.").arg(rowsText(before - points().size())));
     findDuplicates();
 }
 
@@ -656,8 +664,11 @@ void PointsPane::_onUndo() {
     if (!pasteButton->isEnabled())
         return; // the table is locked
     work->cancel();
-    if (!model->undo())
+    const int column = table->currentIndex().column();
+    const int row = model->undo();
+    if (row < 0)
         return say(PanelText::tr("There is nothing to undo."));
+    table->setCurrentIndex(model->index(row, std::max(column, 0)));
     say(PanelText::tr("Undone: the points are as they were before."));
     recompute();
 }
@@ -668,7 +679,7 @@ void PointsPane::_onClear() {
         return;
     work->cancel();
     model->clear();
-    say(PanelText::tr("All points are removed; Ctrl+Z brings them back."));
+    say(PanelText::tr("All points are removed; Ctrl+Z undoes that."));
     recompute();
 }
 

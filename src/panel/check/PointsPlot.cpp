@@ -45,15 +45,16 @@ double length(const GridPoint& vector) {
 QString factorText(double factor) {
     constexpr double longest = 1e7;
     if (factor < longest)
-        return "×" + QString::number(factor, 'f', factor < 1.0 ? 2 : 0);
+        return "×" + (factor < 1.0 ? QString::number(factor, 'g', 3) : QString::number(factor, 'f', 0));
     const int power = int(std::floor(std::log10(factor) + 1e-9));
     return QString("×%1·10^%2").arg(std::round(factor / std::pow(10.0, power))).arg(power);
 }
 
 QString barText(double metres) {
     if (LengthUnit::chosen() != LengthUnit::Metre)
-        return QString::number(metres / LengthUnit::metres(), 'g', 3) + ' ' + LengthUnit::symbol();
-    return metres < 1.0 ? QString::number(metres * 1000.0, 'g', 3) + " mm" : QString::number(metres, 'g', 6) + " m";
+        return QString::number(metres / LengthUnit::metres(), 'g', 3) + QChar(QChar::Nbsp) + LengthUnit::symbol();
+    return metres < 1.0 ? QString::number(metres * 1000.0, 'g', 3) + QChar(QChar::Nbsp) + "mm"
+                        : QString::number(metres, 'f', 0) + QChar(QChar::Nbsp) + "m";
 }
 
 } // namespace

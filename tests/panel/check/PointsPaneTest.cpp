@@ -20,7 +20,7 @@ namespace {
 ///         "save=as shown", "save=full", "report=name" and "open=text" a file; "cell=2 Name=text" types into the second
 ///         row, "used=2" turns its check mark, "select=2", "click=2" the point in the picture, "mouse=2"
 ///   seen: "cell:2 Name", "rows", "scrolls" (how many pixels are out of sight in a small window), "picture" (points, of
-///   them red and grey), "ring" the easting in the picture, "selected" in the table
+///   them red and grey), "ring" the easting in the picture, "selected" and "current" in the table
 class PointsOnScreen : public PanelOnScreen {
 public:
     explicit PointsOnScreen(const QString& start) : PanelOnScreen(start) {
@@ -109,6 +109,7 @@ public:
             const QModelIndexList rows = table->selectionModel()->selectedRows();
             return rows.isEmpty() ? "none" : QString::number(rows.first().row() + 1);
         };
+        sights["current"] = [this](const QString&) { return QString::number(table->currentIndex().row() + 1); };
         sights["counts"] = [this](const QString&) { return textOf(" with both pairs"); };
         sights["named"] = [this](const QString&) { return textOf("   ΔE "); };
         sights["begins"] = [this](const QString& name) { return contentOf(folder.filePath(name)).left(5); };
