@@ -96,7 +96,7 @@ class Panel(tool.ToolTest):
             press("Tab")
         wait_for(lambda: widget.focused, "the keyboard to come to " + widget.name)
 
-    def test_an_outlier_and_a_fit_by_the_keyboard(self):
+    def test_an_outlier_a_fit_and_a_report_by_the_keyboard(self):
         random = Random(13)
         places = [(random.uniform(-3, 0), random.uniform(50.5, 55)) for _ in range(200)]
         # The false easting is 2 cm more than the system's.
@@ -108,7 +108,7 @@ class Panel(tool.ToolTest):
 
         self.tool.start()
         self.add_group("Yard")
-        self.add_system("Yard", "Harbour")
+        self.add_system("Yard", "Harbour <2>")
         self.take_from_registry("27700")
         panel = self.tool.tab("Check")
         panel.find("page tab", "Points").click()
@@ -131,6 +131,23 @@ class Panel(tool.ToolTest):
         self.turn_to(taker)
         press("space")
         wait_for(lambda: not taker.enabled, "the fit to be taken over")
+
+        report = os.path.join(self.folder, "harbour.pdf")
+        self.turn_to(panel.find("push button", "Report..."))
+        press("space")
+        self.name_file("Save report", report)
+        panel.find("filler", "harbour.pdf: report saved.")
+        text = subprocess.run(["pdftotext", "-layout", report, "-"], check=True, capture_output=True, text=True).stdout
+        pages = text.split("\f")[:-1]
+        for part in ("Harbour <2>", "EPSG:27700", "All 199 compared points are within the tolerance of 0.05 m.",
+                     "left out of the figures by hand: P137", "Airy 1830", "Inverse flattening 1/f", "446.448 m"):
+            self.assertIn(part, pages[0])
+        self.assertRegex(pages[0], r"PROJ \d+\.\d+\.\d+, EPSG v\d+")
+        self.assertRegex(text, r"137 +P137 .*\n.*Left out of the figures")
+        self.assertRegex(text, r"200 +P200 +5\d\.\d+ +-\d\.\d+ +\d{6}\.\d{4} +\d{6}\.\d{4} +-?0\.000")
+        for number, page in enumerate(pages, 1):
+            self.assertIn(f"Page {number} of {len(pages)}", page)
+            self.assertEqual(number > 2, "No. Name" in page)  # the list's heading on each of its pages
         self.assert_shown("Projection", {"False easting": 400000.02, "Scale factor": 0.9996012717}, tolerance=1e-4)
 
     def test_a_shift_from_points_by_the_keyboard(self):
@@ -155,6 +172,14 @@ class Panel(tool.ToolTest):
         self.assert_shown("Datum shift", {"Translation X": -84.87, "Translation Y": -96.49, "Translation Z": -116.95,
                                           "Rotation X": 0}, tolerance=0.1)
         self.assertTrue(self.tool.save_enabled)
+
+    def name_file(self, title, path):
+        """Types a path into the dialog for files, whose field the keyboard is in."""
+        field = self.tool.dialog(title).find("text", "File name:")
+        press("ctrl+a")
+        type_text(path)
+        wait_for(lambda: field.text == path, "the path to be typed")
+        press("Return")
 
     def test_a_mistyped_value_costs_nothing(self):
         self.tool.start()

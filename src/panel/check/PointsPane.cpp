@@ -7,6 +7,7 @@
 #include "panel/check/PointSaving.h"
 #include "panel/check/PointsModel.h"
 #include "panel/check/PointsPlot.h"
+#include "panel/check/ReportDialog.h"
 #include "panel/check/SlicedWork.h"
 #include "panel/computing/DuplicateNames.h"
 #include "panel/computing/PointStatistics.h"
@@ -122,7 +123,12 @@ PointsPane::PointsPane(bool readOnly, QWidget* parent)
     connect(fitBox, SIGNAL(accepted()), this, SIGNAL(fitAccepted()));
     connect(fitBox, SIGNAL(fitChanged()), this, SLOT(_onFitChanged()));
     layout->addWidget(fitBox, 5, 0);
-    layout->addWidget(message, 6, 0);
+    reportButton = newButton(PanelText::tr("Report..."), SLOT(_onReport()));
+    reportButton->setToolTip(PanelText::tr("Writes the check as a document to file with the job."));
+    auto* outcome = new QHBoxLayout;
+    outcome->addWidget(message, 1);
+    outcome->addWidget(reportButton);
+    layout->addLayout(outcome, 6, 0);
     layout->addLayout(working, 7, 0);
     connect(plot, SIGNAL(pointed(int)), this, SLOT(_onPointed(int)));
     connect(plot, SIGNAL(clicked(int)), this, SLOT(_onClicked(int)));
@@ -270,7 +276,7 @@ void PointsPane::lock(bool isLocked) {
     model->setLocked(isLocked);
     for (QToolButton* button : {openButton, pasteButton})
         button->setEnabled(!isLocked);
-    for (QToolButton* button : {copyButton, saveButton, deleteButton, clearButton, nextButton})
+    for (QToolButton* button : {copyButton, saveButton, deleteButton, clearButton, nextButton, reportButton})
         button->setEnabled(!isLocked && isAnything);
     datumBox->setEnabled(!isLocked);
 }
@@ -294,11 +300,12 @@ void PointsPane::_onWorkEnded() {
 }
 
 void PointsPane::_onCancel() {
-    if (saving && saving->isCommitting())
+    if ((saving && saving->isCommitting()) || (reporting && reporting->isCommitting()))
         return say(PanelText::tr("All is written: that can't be cancelled any more."));
     say(PanelText::tr("Cancelled: %1").arg(taskName));
     const bool isComputing = task == Task::Computing;
     saving.reset();
+    reporting.reset();
     work->cancel();
     if (isComputing)
         showResults();
@@ -615,6 +622,25 @@ void PointsPane::save(const QString& path, bool isFull) {
             saving.reset();
             if (current->error().isEmpty())
                 say(PanelText::tr("%1: %2 saved.").arg(name, rowsText(points().size())));
+            else
+                say(PanelText::tr("%1 can't be saved: %2").arg(name, current->error()), true);
+        });
+}
+
+void PointsPane::_onReport() {
+    ReportDialog dialog(system->record(), this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const QString name = QFileInfo(dialog.path()).fileName();
+    const auto current = std::make_shared<ReportWriting>(
+        CheckReport::Check{system, &points(), datum(), model->tolerance()}, dialog.path(), dialog.form());
+    reporting = current;
+    begin(
+        Task::Saving, PanelText::tr("Report"), [current] { return current->step(); },
+        [this, current, name] {
+            reporting.reset();
+            if (current->error().isEmpty())
+                say(PanelText::tr("%1: report saved.").arg(name));
             else
                 say(PanelText::tr("%1 can't be saved: %2").arg(name, current->error()), true);
         });

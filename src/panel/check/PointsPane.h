@@ -25,6 +25,7 @@ class QProgressBar;
 class QPushButton;
 class QTableView;
 class QToolButton;
+class ReportWriting;
 class ShownSystem;
 class SlicedWork;
 
@@ -78,6 +79,7 @@ private Q_SLOTS:
     void _onClear();
     void _onFitClicked();
     void _onFitChanged();
+    void _onReport();
     void _onNext();
     void _onDatumChanged();
     void _onToleranceChanged();
@@ -132,6 +134,7 @@ private:
     QString taskName;
     QElapsedTimer taskTime;
     std::shared_ptr<PointSaving> saving; ///< what is going on
+    std::shared_ptr<ReportWriting> reporting;
     PointsModel* model;
     QTableView* table;
     PointsPlot* plot;
@@ -144,6 +147,7 @@ private:
     QToolButton* deleteButton;
     QToolButton* clearButton;
     QToolButton* fitButton;
+    QToolButton* reportButton;
     QToolButton* nextButton;
     PointFigures* figures;
     QLabel* readout;
