@@ -1,0 +1,67 @@
+#pragma once
+
+#include "panel/computing/CoordinateFit.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QVector>
+
+#include <memory>
+
+class ICoordSystem;
+class IProjectionModule;
+struct RegistrySystem;
+
+/// A system that gives known coordinates: one of the registry, or one of the catalogue.
+struct FoundSystem {
+    const RegistrySystem* registered = nullptr; ///< null for one of the catalogue
+    QByteArray group;                           ///< of the catalogue; with `name` in the local encoding
+    QByteArray name;
+    CoordinateFit fit;
+    bool isSame = false; ///< gives the coordinates the same place as the one before it
+};
+
+/// Looks for the systems that give known coordinates, in the registry and in all groups of the catalogue. Works in
+/// slices, so that a window stays alive meanwhile; what was read for one search is kept for the next.
+class SystemSearch {
+public:
+    /// Both outlive the object; `catalogue` may be null. It must not change during a search.
+    SystemSearch(IProjectionModule& module, ICoordSystem* catalogue) : module(module), catalogue(catalogue) {}
+
+    /// Begins a search and forgets the one before. Of the registry those systems are tried whose area covers all the
+    /// places, give or take 50 km; deprecated ones only with `deprecatedToo`.
+    void start(const QVector<KnownCoordinates>& places, bool deprecatedToo);
+
+    /// Works on for about that time. False when all is done.
+    bool work(int milliseconds);
+
+    /// What was found so far, best first: within `nearby` metres, or, where nothing is, the nearest twenty. Systems
+    /// that come out the same follow each other: those in use before deprecated ones, the catalogue's own before the
+    /// registry's, smaller areas before larger ones, then by code.
+    QVector<FoundSystem> found() const;
+
+    static constexpr double nearby = 50000.0;
+
+private:
+    struct Candidate {
+        const RegistrySystem* registered; ///< null for one of the catalogue
+        QByteArray group;
+        QByteArray name;
+    };
+    struct Computed {
+        QByteArray definition;
+        double unit;
+        std::shared_ptr<const IProjectedSystem> system;
+    };
+
+    void addCatalogue();
+    Computed computed(const Candidate& candidate);
+
+    IProjectionModule& module;
+    ICoordSystem* catalogue;
+    QVector<KnownCoordinates> places;
+    QVector<Candidate> candidates;
+    int next = 0; ///< of `candidates`
+    QVector<FoundSystem> fits;
+    QHash<QByteArray, Computed> registrySystems; ///< by code
+};
