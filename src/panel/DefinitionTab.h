@@ -5,6 +5,7 @@
 enum class WktDialect;
 class ChoiceBox;
 class CopyButton;
+class ICoordSystem;
 class MessageLine;
 class QPlainTextEdit;
 class QGridLayout;
@@ -19,7 +20,8 @@ class DefinitionTab : public ParamTab {
     Q_OBJECT
 
 public:
-    DefinitionTab(CoordParamEditor& editor, bool readOnly, QWidget* parent);
+    /// `catalogue`, which systems are looked for in, outlives the tab.
+    DefinitionTab(ICoordSystem* catalogue, CoordParamEditor& editor, bool readOnly, QWidget* parent);
 
     QString title() const override;
 
@@ -41,6 +43,7 @@ private:
     void showWkt();
     QString remark(const QByteArray& text) const;
 
+    ICoordSystem* catalogue;
     QByteArray definition; ///< of the record; empty when it defines no projection
     MessageLine* problemLine = nullptr;
     QWidget* content = nullptr;

@@ -23,9 +23,9 @@ private Q_SLOTS:
     void onlyWhatIsHeldIsTaken() {
         QFETCH(QString, code);
         QFETCH(bool, isHeld);
-        RegistryDialog dialog(projectionModule()->registry(), nullptr);
+        RegistryDialog dialog(*projectionModule(), nullptr, nullptr);
         dialog.show();
-        QTest::keyClicks(dialog.findChild<QLineEdit*>(), code);
+        QTest::keyClicks(dialog.focusWidget(), code);
         QCOMPARE(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled(), isHeld);
         QString texts;
         for (const QLabel* label : dialog.findChildren<QLabel*>())
