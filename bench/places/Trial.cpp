@@ -41,8 +41,6 @@ int Trial::zoneDigits(const QByteArray& definition) const {
 
 void Trial::run(SystemSearch& search, const QByteArray& code, double ownUnit,
                 const QVector<RegistryEntry::Sample>& samples, const QVector<double>& bearings) {
-    if (module.registry().definition(code).definition.isEmpty())
-        return;
     const int digits = way.zoneMistaken ? zoneDigits(module.registry().definition(code).definition) : 0;
     const double unit = way.unit > 0.0 ? way.unit : ownUnit;
     if ((way.zoneMistaken && digits == 0) || (way.unit == 0.0 && ownUnit == 1.0))
@@ -82,8 +80,11 @@ void Trial::run(SystemSearch& search, const QByteArray& code, double ownUnit,
 /// Whether it is the system, or one that gives the true places the same coordinates. A place off by kilometres does not
 /// tell the kinds of feet apart.
 bool Trial::isSame(const FoundSystem& found, const QByteArray& code, const QVector<KnownCoordinates>& exact) const {
-    const auto system = module.createSystem(module.registry().definition(found.registered->code).definition);
-    const auto fit = CoordinateFit::of(*system, found.fit.reading, exact);
+    const RegistryDefinition& held = module.registry().definition(found.registered->code);
+    const QByteArray& definition =
+        held.definition.isEmpty() ? module.registry().withheldDefinition(found.registered->code) : held.definition;
+    const auto system = module.createSystem(definition);
+    const auto fit = system ? CoordinateFit::of(*system, found.fit.reading, exact) : std::nullopt;
     return fit && fit->distance < (found.registered->code == code ? 100.0 : 0.001);
 }
 

@@ -1,10 +1,13 @@
 #include "Trial.h"
 #include "platform/projection/IEpsgRegistry.h"
 #include "platform/projection/IProjectionModule.h"
+#include "platform/sdk/Catalogue.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
@@ -57,9 +60,17 @@ void printTimes(IProjectionModule& module, const QVector<TriedSystem>& systems) 
         next += searchSeconds(search, system.samples.first());
     }
     const double count = systems.size();
-    std::printf(
-        "first search of all %.3f s; first at a place %.4f s, at worst %.4f s; again there %.4f s: ratio %.2f\n\n",
-        firstOfAll, first / count, worst, next / count, next / first);
+    const QTemporaryDir folder;
+    Catalogue catalogue(QCoreApplication::applicationDirPath() + "/../etc/Vornhalde/data/", folder.path());
+    catalogue.load(QFile::encodeName(folder.path() + QLatin1Char('/')).constData());
+    SystemSearch withCatalogue(module, &catalogue);
+    double withOwn = 0.0;
+    constexpr int searches = 5;
+    for (int i = 0; i < searches; ++i)
+        withOwn += searchSeconds(withCatalogue, systems.first().samples.first()) / searches;
+    std::printf("first search of all %.3f s; first at a place %.4f s, at worst %.4f s; again there %.4f s: ratio %.2f\n"
+                "with the starter catalogue %.3f s: ratio %.1f\n\n",
+                firstOfAll, first / count, worst, next / count, next / first, withOwn, withOwn * count / next);
 }
 
 /// The first `count` of the registry's systems in random order that a record can hold, each with three places of its

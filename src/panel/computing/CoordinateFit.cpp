@@ -37,6 +37,10 @@ bool isWhole(double value) {
     return std::abs(value - std::round(value)) < 1e-6;
 }
 
+bool isSameUnit(double left, double right) {
+    return std::abs(left - right) < 1e-9 * right;
+}
+
 /// The digits that are written before the easting of a transverse Mercator's zone: those that its false easting has,
 /// negative where they are rather left out. Those of the usual zones by their central meridian: UTM and Gauss-Krueger
 /// of 6 degrees, Gauss-Krueger of 3 degrees, and the meridian itself.
@@ -93,6 +97,11 @@ GridPoint CoordinateReading::toGrid(const KnownCoordinates& known) const {
     return {easting + zoneDigits * million, northing};
 }
 
+int CoordinateReading::differences(const CoordinateReading& other) const {
+    return int(northingFirst != other.northingFirst) + int(!isSameUnit(unit, other.unit)) +
+           int(zoneDigits != other.zoneDigits);
+}
+
 std::optional<CoordinateFit> CoordinateFit::of(const IProjectedSystem& system, const CoordinateReading& reading,
                                                const QVector<KnownCoordinates>& known) {
     std::optional<GeographicPoint> first;
@@ -128,10 +137,13 @@ std::optional<CoordinateFit> CoordinateFit::of(const IProjectedSystem& system, c
     return fit;
 }
 
+double CoordinateFit::tolerance() const {
+    return std::max(0.001, misfit * 1e-5);
+}
+
 bool CoordinateFit::isSame(const CoordinateFit& other) const {
     constexpr double earthRadius = 6371000.0;
-    constexpr double centimetre = 0.01;
-    return std::abs(misfit - other.misfit) < centimetre && arc(place, other.place, earthRadius) < centimetre;
+    return std::abs(misfit - other.misfit) < tolerance() && arc(place, other.place, earthRadius) < tolerance();
 }
 
 std::optional<CoordinateFit> CoordinateFit::best(const IProjectedSystem& system, const QByteArray& definition,

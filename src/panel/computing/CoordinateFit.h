@@ -13,6 +13,11 @@ struct KnownCoordinates {
     double longitude; ///< decimal degrees from Greenwich, east positive
     double first;
     double second;
+
+    bool operator==(const KnownCoordinates& other) const {
+        return latitude == other.latitude && longitude == other.longitude && first == other.first &&
+               second == other.second;
+    }
 };
 
 /// How two coordinates are read as easting and northing.
@@ -23,6 +28,9 @@ struct CoordinateReading {
     /// easting and the coordinates have not, or, negative, where it is the other way round. 0 else.
     int zoneDigits = 0;
     bool shifted = false; ///< the place is on WGS 84, which the system's datum shift leads to
+
+    /// In how many of order, unit and zone's digits the two differ.
+    int differences(const CoordinateReading& other) const;
 
     GridPoint toGrid(const KnownCoordinates& known) const;
 };
@@ -45,8 +53,9 @@ struct CoordinateFit {
     /// Where the system has the first of the coordinates.
     GeographicPoint place;
 
-    /// Whether two systems come out the same, to a centimetre.
+    /// Whether two systems come out the same: to a millimetre, or a hundred-thousandth of the misfit.
     bool isSame(const CoordinateFit& other) const;
+    double tolerance() const;
 
     static constexpr double surveyFoot = 1200.0 / 3937.0; ///< the US survey foot in metres
     static constexpr double internationalFoot = 0.3048;

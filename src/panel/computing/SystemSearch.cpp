@@ -16,7 +16,6 @@
 namespace {
 
 constexpr int fewest = 20;
-constexpr double tie = 0.01; ///< metres: as CoordinateFit::isSame()
 
 /// Whether the system's area, wider by 50 km, covers the place. An unknown area covers everything.
 bool covers(const RegistrySystem& system, const KnownCoordinates& place) {
@@ -31,23 +30,20 @@ bool covers(const RegistrySystem& system, const KnownCoordinates& place) {
     return std::abs(fromMiddle) <= width / 2 + east;
 }
 
-/// In square degrees at the equator; of an unknown area and of the catalogue's systems, which have none, larger and
-/// smaller than any.
-double areaOf(const FoundSystem& found) {
-    if (!found.registered)
-        return 0.0;
-    const RegistrySystem& system = *found.registered;
+/// In square degrees at the equator; an unknown area is larger than any.
+double areaOf(const RegistrySystem& system) {
     if (!system.hasExtent)
         return 1e9;
     const double width = system.east - system.west + (system.west > system.east ? 360.0 : 0.0);
-    return Angle::toDegrees(width *
-                            (std::sin(Angle::toRadians(system.north)) - std::sin(Angle::toRadians(system.south))));
+    return width *
+           Angle::toDegrees(std::sin(Angle::toRadians(system.north)) - std::sin(Angle::toRadians(system.south)));
 }
 
 bool standsBefore(const FoundSystem& left, const FoundSystem& right) {
     const auto rank = [](const FoundSystem& found) {
-        return std::make_tuple(found.registered && found.registered->deprecated, areaOf(found),
-                               found.registered ? found.registered->code.toInt() : 0, found.group, found.name);
+        const RegistrySystem* const system = found.registered;
+        return std::make_tuple(found.differences, !system, system && system->deprecated, system ? areaOf(*system) : 0.0,
+                               system ? system->code.toInt() : 0, found.group, found.name);
     };
     return rank(left) < rank(right);
 }
@@ -92,11 +88,13 @@ SystemSearch::Computed SystemSearch::computed(const Candidate& candidate) {
         const auto known = registrySystems.constFind(code);
         if (known != registrySystems.constEnd())
             return *known;
-        const RegistryDefinition& registered = module.registry().definition(code);
-        const QByteArray& definition = registered.definition;
-        Computed result{definition, registered.unit, nullptr};
-        if (!definition.isEmpty())
-            result.system = module.createSystem(definition);
+        IEpsgRegistry& registry = module.registry();
+        const RegistryDefinition& registered = registry.definition(code);
+        Computed result{registered.definition, {registered.northingFirst, registered.unit, 0, false}, nullptr};
+        if (result.definition.isEmpty())
+            result.definition = registry.withheldDefinition(code);
+        if (!result.definition.isEmpty())
+            result.system = module.createSystem(result.definition);
         registrySystems.insert(code, result);
         return result;
     }
@@ -105,7 +103,7 @@ SystemSearch::Computed SystemSearch::computed(const Candidate& candidate) {
     const QByteArray definition = record ? coordParamToProjDefine(*record) : QByteArray();
     if (definition.isEmpty())
         return {};
-    return {definition, 1.0, module.createSystem(definition)};
+    return {definition, {}, module.createSystem(definition)};
 }
 
 bool SystemSearch::work(int milliseconds) {
@@ -116,8 +114,9 @@ bool SystemSearch::work(int milliseconds) {
         const Computed known = computed(candidate);
         if (!known.system)
             continue;
-        if (const auto fit = CoordinateFit::best(*known.system, known.definition, known.unit, places))
-            fits.append({candidate.registered, candidate.group, candidate.name, *fit});
+        if (const auto fit = CoordinateFit::best(*known.system, known.definition, known.own.unit, places))
+            fits.append(
+                {candidate.registered, candidate.group, candidate.name, *fit, fit->reading.differences(known.own)});
     }
     return next < candidates.size();
 }
@@ -136,7 +135,7 @@ QVector<FoundSystem> SystemSearch::found() const {
     for (auto first = result.begin(); first != result.end();) {
         // The same, though others of the same distance may lie between them.
         const CoordinateFit fit = first->fit;
-        const auto isClose = [&fit](const FoundSystem& each) { return each.fit.misfit - fit.misfit < tie; };
+        const auto isClose = [&fit](const FoundSystem& each) { return each.fit.misfit - fit.misfit < fit.tolerance(); };
         const auto close = std::find_if_not(first, result.end(), isClose);
         const auto last =
             std::stable_partition(first, close, [fit](const FoundSystem& each) { return each.fit.isSame(fit); });

@@ -18,6 +18,7 @@ struct FoundSystem {
     QByteArray group;                           ///< of the catalogue; with `name` in the local encoding
     QByteArray name;
     CoordinateFit fit;
+    int differences = 0; ///< between the reading and the way in which the system itself counts
     bool isSame = false; ///< gives the coordinates the same place as the one before it
 };
 
@@ -36,8 +37,8 @@ public:
     bool work(int milliseconds);
 
     /// What was found so far, best first: within `nearby` metres, or, where nothing is, the nearest twenty. Systems
-    /// that come out the same follow each other: those in use before deprecated ones, the catalogue's own before the
-    /// registry's, smaller areas before larger ones, then by code.
+    /// that come out the same follow each other: those first that count as the coordinates do, the registry's before
+    /// the catalogue's, those in use before deprecated ones, smaller areas before larger ones, then by code.
     QVector<FoundSystem> found() const;
 
     static constexpr double nearby = 50000.0;
@@ -50,7 +51,7 @@ private:
     };
     struct Computed {
         QByteArray definition;
-        double unit;
+        CoordinateReading own; ///< of coordinates as the system itself has them
         std::shared_ptr<const IProjectedSystem> system;
     };
 

@@ -27,7 +27,8 @@ int FoundSystemsModel::rowOf(const FoundSystem& system) const {
 
 QString FoundSystemsModel::nameOf(const FoundSystem& system) {
     if (!system.registered)
-        return QString::fromLocal8Bit(system.group + " / " + system.name);
+        return PanelText::tr("%1, in %2")
+            .arg(QString::fromLocal8Bit(system.name), QString::fromLocal8Bit(system.group));
     const QString name = QString::fromUtf8(system.registered->name);
     return system.registered->deprecated ? PanelText::tr("%1 (deprecated)").arg(name) : name;
 }
@@ -78,10 +79,8 @@ QString FoundSystemsModel::text(const FoundSystem& system, int column) const {
         return system.registered ? QString::fromUtf8(system.registered->code) : PanelText::tr("own");
     case Name:
         return nameOf(system);
-    case Reading:
-        return condition(system);
     default:
-        return system.registered ? QString::fromUtf8(system.registered->area) : QString();
+        return condition(system);
     }
 }
 
@@ -122,7 +121,7 @@ QVariant FoundSystemsModel::headerData(int section, Qt::Orientation orientation,
                              "the smaller, the better the system fits");
     if (role != Qt::DisplayRole)
         return {};
-    const QString texts[ColumnCount] = {PanelText::tr("Distance"), PanelText::tr("Spread"),    PanelText::tr("EPSG"),
-                                        PanelText::tr("Name"),     PanelText::tr("Condition"), PanelText::tr("Area")};
+    const QString texts[ColumnCount] = {PanelText::tr("Distance"), PanelText::tr("Spread"), PanelText::tr("EPSG"),
+                                        PanelText::tr("Name"), PanelText::tr("Condition")};
     return texts[section];
 }

@@ -8,12 +8,12 @@ class IEpsgRegistry;
 class RegistryModel;
 
 /// The systems that give known coordinates as a table, best first. One that comes out the same as the one above it says
-/// so in place of the distance; one that no method of the record holds is grey.
+/// so in place of the distance; one that no method of the record holds is grey, and says so in its tooltip.
 class FoundSystemsModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    enum Column { Distance, Spread, Code, Name, Reading, Area, ColumnCount };
+    enum Column { Distance, Spread, Code, Name, Condition, ColumnCount };
 
     /// `registry` and `reasons` outlive the model.
     FoundSystemsModel(IEpsgRegistry& registry, const RegistryModel& reasons, QObject* parent = nullptr)
@@ -26,7 +26,7 @@ public:
     /// The row of the same system, or -1 when it is not listed.
     int rowOf(const FoundSystem& system) const;
 
-    /// The registry's name, or group and name in the catalogue.
+    /// The registry's name, or name and group in the catalogue.
     static QString nameOf(const FoundSystem& system);
 
     /// Metres with as many digits as are of use: "0.03 m", "4.1 m", "1250 m".

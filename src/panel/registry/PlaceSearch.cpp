@@ -43,7 +43,6 @@ PlaceSearch::PlaceSearch(IProjectionModule& module, ICoordSystem* catalogue, con
     pause.setInterval(typingPause);
     connect(&pause, SIGNAL(timeout()), this, SLOT(_onSearch()));
     connect(&slice, SIGNAL(timeout()), this, SLOT(_onWork()));
-    _onPlacesChanged();
 }
 
 void PlaceSearch::buildPlaces(QVBoxLayout* layout) {
@@ -62,10 +61,11 @@ void PlaceSearch::buildPlaces(QVBoxLayout* layout) {
     auto* row = new QHBoxLayout;
     row->addWidget(pasteButton);
     row->addWidget(clearButton);
-    row->addWidget(problemLine, 1);
+    row->addStretch();
     row->addWidget(deprecatedBox);
     layout->addWidget(hint);
     layout->addWidget(placeTable);
+    layout->addWidget(problemLine);
     layout->addLayout(row);
     connect(placeTable, SIGNAL(changed()), this, SLOT(_onPlacesChanged()));
     connect(placeTable, SIGNAL(entered()), this, SLOT(_onEntered()));
@@ -81,8 +81,7 @@ void PlaceSearch::buildResults(QVBoxLayout* layout) {
     header->resizeSection(FoundSystemsModel::Distance, 10 * digit);
     header->resizeSection(FoundSystemsModel::Spread, 10 * digit);
     header->resizeSection(FoundSystemsModel::Code, 6 * digit + 16);
-    header->resizeSection(FoundSystemsModel::Name, 32 * digit);
-    header->resizeSection(FoundSystemsModel::Reading, 26 * digit);
+    header->resizeSection(FoundSystemsModel::Name, 42 * digit);
     summaryLabel = new QLabel;
     summaryLabel->setWordWrap(true);
     layout->addWidget(table, 1);
@@ -99,16 +98,25 @@ const FoundSystem* PlaceSearch::selected() const {
 
 void PlaceSearch::_onPlacesChanged() {
     problemLine->setMessage(placeTable->problem(), MessageLine::Tone::Error);
-    slice.stop();
-    pause.start();
+    // What is typed into a row that is not complete yet changes nothing.
+    const bool isSame = placeTable->places() == places && deprecatedBox->isChecked() == deprecatedToo;
+    if (isSame) {
+        pause.stop();
+        slice.start(0);
+    } else {
+        slice.stop();
+        pause.start();
+        summaryLabel->setText(PanelText::tr("Searching..."));
+    }
 }
 
 void PlaceSearch::_onSearch() {
     places = placeTable->places();
+    deprecatedToo = deprecatedBox->isChecked();
     const bool hadSelection = selected() != nullptr;
     model->setSystems({});
     table->setColumnHidden(FoundSystemsModel::Spread, places.size() < 2);
-    search.start(places, deprecatedBox->isChecked());
+    search.start(places, deprecatedToo);
     if (hadSelection)
         Q_EMIT selectionChanged();
     sinceShown.start();

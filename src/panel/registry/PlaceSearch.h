@@ -65,4 +65,5 @@ private:
     QTimer slice; ///< runs while a search does
     QElapsedTimer sinceShown;
     QVector<KnownCoordinates> places; ///< of the search
+    bool deprecatedToo = false;
 };

@@ -78,7 +78,8 @@ PlaceTable::PlaceTable(QWidget* parent) : QScrollArea(parent) {
     // A scroll area would paint a background of its own, which differs from the page's.
     viewport()->setAutoFillBackground(false);
     content->setAutoFillBackground(false);
-    addRow();
+    for (int row = 0; row < shownRows; ++row)
+        addRow();
     setFocusProxy(rows.first().first());
 }
 
@@ -128,9 +129,11 @@ QString PlaceTable::problem() const {
             const QString text = rows[index][column]->text();
             const FieldInput input = fieldOf(column).parse(text);
             if (!input.valid && !text.trimmed().isEmpty())
-                return fieldOf(column).labelText() + ": " + input.reason;
+                return PanelText::tr("Point %1, %2: %3").arg(index + 1).arg(fieldOf(column).labelText(), input.reason);
             if (!input.valid && incomplete.isEmpty())
-                incomplete = PanelText::tr("Point %1 lacks: %2.").arg(index + 1).arg(fieldOf(column).labelText());
+                incomplete = PanelText::tr("Point %1, %2: %3")
+                                 .arg(index + 1)
+                                 .arg(fieldOf(column).labelText(), PanelText::tr("A value is needed."));
         }
     }
     return incomplete;
@@ -174,7 +177,7 @@ void PlaceTable::clear() {
         for (FieldEdit* edit : row)
             edit->clear();
     }
-    while (rows.size() > 1) {
+    while (rows.size() > shownRows) {
         for (FieldEdit* edit : rows.takeLast())
             edit->deleteLater();
     }

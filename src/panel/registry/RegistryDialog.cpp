@@ -57,7 +57,7 @@ void RegistryDialog::buildDetails(QVBoxLayout* layout) {
     detailsLabel = new QLabel;
     detailsLabel->setWordWrap(true);
     detailsLabel->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    detailsLabel->setMinimumHeight(detailsLabel->fontMetrics().lineSpacing() * 5);
+    detailsLabel->setMinimumHeight(detailsLabel->fontMetrics().lineSpacing() * 4);
     shiftBox = new ChoiceBox;
     shiftBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     auto* shiftLabel = new QLabel(PanelText::tr("Datum shift to WGS 84"));

@@ -1,5 +1,7 @@
 #include "platform/projection/engine/EpsgRegistry.h"
 
+#include "platform/projection/ProjNumber.h"
+#include "platform/projection/engine/definition/ProjItems.h"
 #include "platform/projection/engine/proj/BoundSystem.h"
 #include "platform/projection/engine/proj/ProjContext.h"
 #include "platform/projection/engine/proj/RegistryEllipsoids.h"
@@ -247,7 +249,27 @@ RegistryDefinition EpsgRegistry::readDefinition(const QByteArray& code) const {
     const QByteArray definition = statedDefinition(statement);
     const ProjObject datum(proj_crs_get_datum_forced(context.get(), crs.get()));
     return {definition, datum ? nameOf(context.get(), datum.get()) : QByteArray(), isNorthingFirst(statement),
-            definition.isEmpty() ? 0 : statement.gridUnits.first()};
+            statement.gridUnits.isEmpty() ? 0 : statement.gridUnits.first()};
+}
+
+QByteArray EpsgRegistry::withheldDefinition(const QByteArray& code) {
+    const ProjObject crs = system(code);
+    const ProjObject ellipsoid(crs ? proj_get_ellipsoid(context.get(), crs.get()) : nullptr);
+    double a = 0.0, b = 0.0;
+    if (!ellipsoid || proj_ellipsoid_get_parameters(context.get(), ellipsoid.get(), &a, &b, nullptr, nullptr) == 0)
+        return {};
+    // Without its datum, which would bring a shift along, and its unit; lengths are in metres in any case.
+    const QByteArrayList dropped{"datum", "ellps",    "a",       "b",        "rf",      "R",
+                                 "units", "to_meter", "towgs84", "nadgrids", "no_defs", "type"};
+    const ProjItems items(proj_as_proj_string(context.get(), crs.get(), PJ_PROJ_4, nullptr));
+    QByteArray definition;
+    for (const ProjItems::Item& item : items.all()) {
+        if (!dropped.contains(item.key))
+            definition += '+' + item.key + (item.value.isEmpty() ? QByteArray() : '=' + item.value) + ' ';
+    }
+    return definition.startsWith("+proj=")
+               ? definition + "+a=" + projNumber(a) + " +b=" + projNumber(b) + " +units=m +no_defs"
+               : QByteArray();
 }
 
 QByteArray EpsgRegistry::unitName(const QByteArray& code) {
