@@ -98,16 +98,17 @@ const FoundSystem* PlaceSearch::selected() const {
 
 void PlaceSearch::_onPlacesChanged() {
     problemLine->setMessage(placeTable->problem(), MessageLine::Tone::Error);
-    // What is typed into a row that is not complete yet changes nothing.
-    const bool isSame = placeTable->places() == places && deprecatedBox->isChecked() == deprecatedToo;
-    if (isSame) {
-        pause.stop();
-        slice.start(0);
-    } else {
-        slice.stop();
+    const QVector<KnownCoordinates> wanted = placeTable->places();
+    pause.stop();
+    slice.stop();
+    if (wanted == places && deprecatedBox->isChecked() == deprecatedToo)
+        slice.start(0); // what is typed into a row that is not complete yet changes nothing
+    else if (wanted.isEmpty())
+        _onSearch();
+    else
         pause.start();
+    if (pause.isActive())
         summaryLabel->setText(PanelText::tr("Searching..."));
-    }
 }
 
 void PlaceSearch::_onSearch() {

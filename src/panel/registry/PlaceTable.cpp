@@ -177,10 +177,8 @@ void PlaceTable::clear() {
         for (FieldEdit* edit : row)
             edit->clear();
     }
-    while (rows.size() > shownRows) {
-        for (FieldEdit* edit : rows.takeLast())
-            edit->deleteLater();
-    }
+    while (rows.size() > shownRows)
+        qDeleteAll(rows.takeLast());
     blocker.unblock();
     Q_EMIT changed();
 }
