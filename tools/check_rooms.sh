@@ -28,8 +28,9 @@ declare -A allowed=(
     [panel/computing]='catalogue import panel/record platform/projection'
     [panel/field]='catalogue panel/record'
     [panel/registry]="catalogue import panel/record panel/computing panel/field $interfaces"
+    [panel/shift]="catalogue panel/record panel/computing panel/field $interfaces"
     [panel/check]="catalogue panel/record panel/computing panel/field $interfaces"
-    [panel]="catalogue import panel/record panel/computing panel/field panel/registry panel/check $interfaces"
+    [panel]="catalogue import panel/record panel/computing panel/field panel/registry panel/shift panel/check $interfaces"
     [tree]="catalogue import geodesy $interfaces"
     [app]="catalogue tree panel $interfaces"
 )
@@ -77,6 +78,9 @@ for room in $(find . -name '*.h' -printf '%P\n' -o -name '*.cpp' -printf '%P\n' 
             ;;
         \<qwt* | \<Qwt*)
             [ "$room" = panel/check ] || complain "$place" "only panel/check uses $header"
+            ;;
+        \<Eigen*)
+            [ "$room" = panel/computing ] || complain "$place" "only panel/computing uses $header"
             ;;
         *)
             case " $without_widgets " in

@@ -19,6 +19,12 @@ from screen import window_picture  # noqa: E402
 IMAGES = os.path.join(ROOT, "docs", "images")
 COUNTRY = "United Kingdom"
 GRID = "OSGB36 / British National Grid"
+# The Kadaster's points for the validation of RDNAPTRANS 2008.
+RD_POINTS = ("Texel 117380.1200 575040.3400 1.0 53.160753042 4.824761912 42.8614",
+             "Noord-Groningen 247380.5600 604580.7800 2.0 53.419482050 6.776726674 42.3586",
+             "Amersfoort 155000.0000 463000.0000 0.0 52.155172897 5.387203657 43.2551",
+             "Zeeuws-Vlaanderen 16460.9100 377380.2300 3.0 51.368607152 3.397588595 47.4024",
+             "Zuid-Limburg 182260.4500 311480.6700 200.0 50.792584916 5.773795548 245.9478")
 
 
 class Photographer:
@@ -27,9 +33,12 @@ class Photographer:
         self.tool = installed
 
     def take(self, name):
-        """Saves what the main window's place on the screen shows, its frame included, once it holds still."""
+        self.take_window(tool.TITLE, name)
+
+    def take_window(self, title, name):
+        """Saves what the window's place on the screen shows, its frame included, once it holds still."""
         hands("mousemove", 1, 1)
-        window = ask("xdotool", "search", "--onlyvisible", "--name", f"^{tool.TITLE}$").split()[0]
+        window = ask("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()[0]
         target = os.path.join(IMAGES, name + ".png")
         window_picture(window, target, "-strip", "+dither", "-colors", "255")
         print(target)
@@ -70,6 +79,23 @@ class Photographer:
         self.tool.gone("From registry")
         self.tool.tab("Datum shift")
         self.take("datum-shift")
+
+    def shift(self):
+        self.tool.scroll_to("Netherlands")
+        self.tool.unfold("Netherlands")
+        self.tool.scroll_to("Amersfoort / RD New")
+        self.tool.item("Amersfoort / RD New").click()
+        self.tool.tab("Datum shift").find("push button", "From points...").click()
+        dialog = self.tool.dialog("Shift from points")
+        dialog.find("combo box").choose("Easting, northing, height")
+        dialog.find("table", "Points").click()
+        for point in RD_POINTS:
+            press("Home")
+            type_text(point.replace(" ", "\t") + "\n")
+            press("Down")
+        self.take_window("Shift from points", "shift-from-points")
+        press("Escape")
+        self.tool.gone("Shift from points")
 
     def commands(self):
         self.tool.menu_at(self.tool.item(COUNTRY))
@@ -121,8 +147,8 @@ def main():
             installed = tool.Tool(desktop, home, build)
             installed.start()
             photographer = Photographer(desktop, installed)
-            for step in (photographer.window, photographer.tabs, photographer.registry, photographer.commands,
-                         photographer.dialogs):
+            for step in (photographer.window, photographer.tabs, photographer.registry, photographer.shift,
+                         photographer.commands, photographer.dialogs):
                 step()
             installed.close()
         finally:

@@ -2,12 +2,16 @@
 
 #include "panel/check/CheckPointPane.h"
 #include "panel/check/DistortionPane.h"
+#include "panel/check/PointsPane.h"
+#include "panel/computing/FitToPoints.h"
 #include "panel/computing/ShownSystem.h"
 #include "panel/field/AngleNotationBox.h"
+#include "panel/field/LengthUnitBox.h"
 #include "panel/field/MessageLine.h"
 #include "panel/record/CoordParamEditor.h"
 #include "panel/record/PanelText.h"
 
+#include <QHBoxLayout>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -26,17 +30,27 @@ void CheckTab::build() {
     pages->addTab(pointPane, PanelText::tr("Point"));
     distortionPane = new DistortionPane(isReadOnly());
     pages->addTab(distortionPane, PanelText::tr("Distortion"));
+    pointsPane = new PointsPane(isReadOnly());
+    pages->addTab(pointsPane, PanelText::tr("Points"));
     connect(pages, SIGNAL(currentChanged(int)), this, SLOT(_onPageChanged()));
     connect(distortionPane, SIGNAL(proposalAccepted()), this, SLOT(_onProposalAccepted()));
+    connect(pointsPane, SIGNAL(fitAccepted()), this, SLOT(_onFitAccepted()));
 
     notationBox = new AngleNotationBox;
     notationBox->setAccessibleName(PanelText::tr("Show angles in"));
     notationBox->setToolTip(notationBox->accessibleName());
-    pages->setCornerWidget(notationBox);
+    unitBox = new LengthUnitBox;
     connect(notationBox, SIGNAL(notationChosen()), this, SLOT(_onNotationChosen()));
+    connect(unitBox, SIGNAL(unitChosen()), this, SLOT(_onUnitChosen()));
 
     auto* layout = new QVBoxLayout(this);
+    auto* shownIn = new QHBoxLayout;
+    shownIn->addStretch();
+    shownIn->addWidget(unitBox);
+    shownIn->addWidget(notationBox);
+    layout->setSpacing(2);
     layout->addWidget(problemLine);
+    layout->addLayout(shownIn);
     layout->addWidget(pages, 1);
 }
 
@@ -47,10 +61,14 @@ void CheckTab::showRecord() {
     pointPane->setSystem(system);
     pointPane->showNotation();
     distortionPane->setSystem(system, pointPane->place());
+    distortionPane->showUnits();
+    pointsPane->setSystem(system);
+    pointsPane->showNotation();
     problemLine->setMessage(system->problem(), MessageLine::Tone::Error);
     problemLine->setVisible(!system->problem().isEmpty());
     pages->setEnabled(system->projection() != nullptr);
     notationBox->showNotation();
+    unitBox->showUnit();
 }
 
 void CheckTab::_onPageChanged() {
@@ -67,7 +85,22 @@ void CheckTab::_onProposalAccepted() {
     recordChanged();
 }
 
+void CheckTab::_onFitAccepted() {
+    const FitToPoints fit = pointsPane->fit(); // the box will show another
+    pointPane->keepPlace();
+    fit.apply(editor());
+    showRecord();
+    recordChanged();
+}
+
 void CheckTab::_onNotationChosen() {
     pointPane->showNotation();
+    pointsPane->showNotation();
     Q_EMIT angleNotationChanged();
+}
+
+void CheckTab::_onUnitChosen() {
+    distortionPane->showUnits();
+    pointPane->showNotation();
+    pointsPane->showNotation();
 }

@@ -7,7 +7,9 @@
 class AngleNotationBox;
 class CheckPointPane;
 class DistortionPane;
+class LengthUnitBox;
 class MessageLine;
+class PointsPane;
 class QTabWidget;
 class ShownSystem;
 
@@ -27,8 +29,10 @@ protected:
 
 private Q_SLOTS:
     void _onNotationChosen();
+    void _onUnitChosen();
     void _onPageChanged();
     void _onProposalAccepted();
+    void _onFitAccepted();
 
 private:
     void build();
@@ -36,7 +40,9 @@ private:
     std::shared_ptr<const ShownSystem> system;
     MessageLine* problemLine = nullptr;
     AngleNotationBox* notationBox = nullptr;
+    LengthUnitBox* unitBox = nullptr;
     QTabWidget* pages = nullptr;
     CheckPointPane* pointPane = nullptr;
     DistortionPane* distortionPane = nullptr;
+    PointsPane* pointsPane = nullptr;
 };

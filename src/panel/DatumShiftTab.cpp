@@ -2,6 +2,7 @@
 
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/Dictionary.h"
+#include "panel/computing/ShownSystem.h"
 #include "panel/field/ChoiceBox.h"
 #include "panel/field/FieldRow.h"
 #include "panel/field/MessageLine.h"
@@ -10,6 +11,8 @@
 #include "panel/record/CoordParamEditor.h"
 #include "panel/record/DatumFields.h"
 #include "panel/record/PanelText.h"
+#include "panel/shift/ShiftDialog.h"
+#include "panel/shift/ShiftPointsModel.h"
 #include "platform/projection/IEpsgRegistry.h"
 #include "platform/projection/IProjectionModule.h"
 
@@ -36,7 +39,8 @@ DatumShiftTab::DatumShiftTab(CoordParamEditor& editor, bool readOnly, QWidget* p
           "Rotations in the position-vector convention (EPSG 9606, PROJ towgs84). Figures published in the "
           "coordinate-frame convention (EPSG 9607): type them as they are, then reverse their signs.")))
     , reverseButton(new QPushButton(PanelText::tr("Reverse rotation signs")))
-    , reverseMessage(new MessageLine) {
+    , reverseMessage(new MessageLine)
+    , fromPointsButton(new QPushButton(PanelText::tr("From points..."))) {
     auto* grid = new QGridLayout(this);
     grid->setVerticalSpacing(0);
     auto* datumLabel = new QLabel(PanelText::tr("Datum"));
@@ -54,7 +58,14 @@ DatumShiftTab::DatumShiftTab(CoordParamEditor& editor, bool readOnly, QWidget* p
     kindBox->addItem(PanelText::tr("Seven parameters (three: the rest 0)"), sevenParameters);
     kindBox->setEnabled(!readOnly);
     grid->addWidget(kindLabel, 1, 0);
-    grid->addWidget(kindBox, 1, 1, 1, 3, Qt::AlignLeft);
+    auto* kindRow = new QHBoxLayout;
+    kindRow->addWidget(kindBox);
+    kindRow->addSpacing(6);
+    kindRow->addWidget(fromPointsButton);
+    kindRow->addStretch(1);
+    fromPointsButton->setEnabled(!readOnly);
+    fromPointsButton->setToolTip(PanelText::tr("Estimates the shift from points known on both datums."));
+    grid->addLayout(kindRow, 1, 1, 1, 3);
     grid->setRowMinimumHeight(2, 4);
     kindRemark->setWordWrap(true);
     grid->addWidget(kindRemark, 3, 0, 1, 4);
@@ -81,6 +92,7 @@ DatumShiftTab::DatumShiftTab(CoordParamEditor& editor, bool readOnly, QWidget* p
     connect(datumBox, SIGNAL(listNeeded()), this, SLOT(_onListNeeded()));
     connect(datumField, SIGNAL(edited()), this, SLOT(_onDatumEdited()));
     connect(kindBox, SIGNAL(activated(int)), this, SLOT(_onKindActivated(int)));
+    connect(fromPointsButton, SIGNAL(clicked()), this, SLOT(_onFromPointsClicked()));
     connect(reverseButton, SIGNAL(clicked()), this, SLOT(_onReverseClicked()));
 }
 
@@ -157,6 +169,21 @@ void DatumShiftTab::_onReverseClicked() {
     showRecord();
     reverseMessage->setMessage(PanelText::tr("The signs of all three rotations are reversed."),
                                MessageLine::Tone::Hint);
+    recordChanged();
+}
+
+void DatumShiftTab::_onFromPointsClicked() {
+    if (!points)
+        points = new ShiftPointsModel(this);
+    points->setSystem(ShownSystem::of(record(), nullptr));
+    ShiftDialog dialog(*points, record(), this);
+    const bool isAccepted = dialog.exec() == QDialog::Accepted;
+    const ShiftFromPoints shift = dialog.shift();
+    points->setSystem(nullptr); // which the dialog would follow
+    if (!isAccepted)
+        return;
+    shift.apply(editor());
+    showRecord();
     recordChanged();
 }
 

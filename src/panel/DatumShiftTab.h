@@ -10,6 +10,7 @@ class MessageLine;
 class QLabel;
 class QPushButton;
 class SearchBox;
+class ShiftPointsModel;
 class TextField;
 
 /// The tab "Datum shift": the name of the system's datum, and its shift to WGS 84: none, or the seven parameters.
@@ -29,6 +30,7 @@ private Q_SLOTS:
     void _onDatumEdited();
     void _onKindActivated(int index);
     void _onReverseClicked();
+    void _onFromPointsClicked();
     void _onEdited();
 
 private:
@@ -43,4 +45,6 @@ private:
     QLabel* convention;
     QPushButton* reverseButton;
     MessageLine* reverseMessage;
+    QPushButton* fromPointsButton;
+    ShiftPointsModel* points = nullptr; ///< as last typed or pasted, for all systems
 };

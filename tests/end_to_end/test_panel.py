@@ -22,14 +22,14 @@ class Panel(tool.ToolTest):
         self.tool.input_name("AddCoordSys", name)
         wait_for(lambda: self.tool.item(name).selected, f"the new system {name!r}")
 
-    def assert_shown(self, tab, figures):
+    def assert_shown(self, tab, figures, tolerance=1e-9):
         panel = self.tool.tab(tab)
 
         def shown():
             fields = {field.name: field.text for field in panel.all("text")}
             return {label: float(fields.get(label) or "nan") for label in figures}
 
-        wait_for(lambda: all(abs(shown()[label] - figures[label]) < 1e-9 for label in figures),
+        wait_for(lambda: all(abs(shown()[label] - figures[label]) < tolerance for label in figures),
                  lambda: f"{figures}, not {shown()}")
 
     def take_from_registry(self, code):
@@ -86,6 +86,37 @@ class Panel(tool.ToolTest):
         systems = ({value.get("key"): value.get("text") for value in system}
                    for system in self.tool.file("CoordinateSystem_custom.vcs").iter("system"))
         return next(system for system in systems if system["name"] == name)
+
+    def test_a_shift_from_points_by_the_keyboard(self):
+        self.tool.start()
+        self.add_group("North Sea")
+        self.add_system("North Sea", "Platform")
+        self.take_from_registry("23031")
+        panel = self.tool.tab("Datum shift")
+
+        def turn_to(widget):
+            for _ in range(12):
+                if widget.focused:
+                    return
+                press("Tab")
+            wait_for(lambda: widget.focused, "the keyboard to come to " + widget.name)
+
+        turn_to(panel.find("push button", "From points..."))
+        press("space")
+        dialog = self.tool.dialog("Shift from points")
+        # The example of IOGP 373-7-2, method 9603; Tab goes from cell to cell.
+        type_text("one\t53:48:36.565N\t2:07:51.477E\t28.02\t53:48:33.82N\t2:07:46.38E\t73.0\n")
+        wait_for(lambda: dialog.all("table cell", "53:48:33.82N"), "the point to be typed")
+        turn_to(dialog.find("combo box", "Seven"))
+        press("Down")
+        taker = dialog.find("push button", "Take over")
+        wait_for(lambda: taker.enabled, "three parameters")
+        turn_to(taker)
+        press("space")
+        self.tool.gone("Shift from points")
+        self.assert_shown("Datum shift", {"Translation X": -84.87, "Translation Y": -96.49, "Translation Z": -116.95,
+                                          "Rotation X": 0}, tolerance=0.1)
+        self.assertTrue(self.tool.save_enabled)
 
     def test_a_mistyped_value_costs_nothing(self):
         self.tool.start()

@@ -23,6 +23,20 @@ void takeFromRegistry(const PanelOnScreen& screen, const QString& code, QDialogB
     QCOMPARE(ModalDriver::pending(), 0);
 }
 
+/// Pastes lines in the dialog "From points..." and takes the shift over; `parameters` is "Seven" or "Three".
+void shiftFromPoints(const PanelOnScreen& screen, const QString& lines, const QString& parameters,
+                     QDialogButtonBox::StandardButton answer) {
+    ModalDriver::onNextDialog([=](QDialog* dialog) {
+        QApplication::clipboard()->setText(lines);
+        QTest::keyClick(dialog->findChild<QTableView*>(), Qt::Key_V, Qt::ControlModifier);
+        for (auto* box : dialog->findChildren<QComboBox*>())
+            box->setCurrentIndex(std::max(0, box->findText(parameters)));
+        dialog->findChild<QDialogButtonBox*>()->button(answer)->click();
+    });
+    screen.button("From points...")->click();
+    QCOMPARE(ModalDriver::pending(), 0);
+}
+
 /// Saves the definition; the file name that was offered and what an import of the file lacks.
 QString saveDefinition(const PanelOnScreen& screen) {
     QTemporaryDir folder;
@@ -87,6 +101,12 @@ private Q_SLOTS:
         };
         screen.acts["registry of deprecated ones"] = [&](const QString& code) {
             takeFromRegistry(screen, code, QDialogButtonBox::Ok, true);
+        };
+        screen.acts["three from points"] = [&](const QString& lines) {
+            shiftFromPoints(screen, lines, "Three", QDialogButtonBox::Ok);
+        };
+        screen.acts["from points cancelled"] = [&](const QString& lines) {
+            shiftFromPoints(screen, lines, "Three", QDialogButtonBox::Cancel);
         };
         screen.sights["saved"] = [&](const QString&) { return saveDefinition(screen); };
         MessageBoxDouble::reset();

@@ -2,6 +2,7 @@
 
 #include "panel/DlgCoordParam.h"
 #include "panel/record/AngleText.h"
+#include "panel/record/LengthUnit.h"
 #include "support/OnScreen.h"
 #include "support/PanelRecords.h"
 #include "support/RecordingCatalogue.h"
@@ -54,7 +55,10 @@ public:
         QApplication::processEvents();
     }
 
-    ~PanelOnScreen() override { AngleText::setNotation(AngleNotation::DecimalDegrees); }
+    ~PanelOnScreen() override {
+        AngleText::setNotation(AngleNotation::DecimalDegrees);
+        LengthUnit::choose(LengthUnit::Metre);
+    }
 
     void show(const IDictionary& record) {
         panel.setCoordParam(record);

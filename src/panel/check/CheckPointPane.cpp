@@ -8,6 +8,7 @@
 #include "panel/field/ChoiceBox.h"
 #include "panel/field/CopyButton.h"
 #include "panel/field/MessageLine.h"
+#include "panel/record/LengthUnit.h"
 #include "panel/record/PanelText.h"
 #include "platform/projection/IProjectionModule.h"
 
@@ -67,7 +68,8 @@ QString errorText(double metres) {
 
 CheckPointPane::CheckPointPane(QWidget* parent) : QWidget(parent) {
     auto* grid = new QGridLayout(this);
-    grid->setVerticalSpacing(3);
+    grid->setContentsMargins(0, 3, 0, 0);
+    grid->setVerticalSpacing(1);
     grid->setColumnStretch(3, 1);
     addPlaceFields(grid);
     addGridFields(grid);
@@ -140,8 +142,8 @@ const IProjectedSystem* CheckPointPane::projection() const {
 }
 
 void CheckPointPane::showNotation() {
-    latitude->showNotation();
-    longitude->showNotation();
+    for (CheckField* field : {latitude, longitude, height, easting, northing})
+        field->showNotation();
     showResults();
 }
 
@@ -210,7 +212,7 @@ QString CheckPointPane::placeText(const GeographicPoint& place) const {
     const bool decimal = AngleText::notation() == AngleNotation::DecimalDegrees;
     const QString unit = decimal ? QStringLiteral("°") : QString();
     return CheckField::angleText(place.latitude) + unit + ", " + CheckField::angleText(place.longitude) + unit + ", " +
-           QString::number(place.height, 'f', 4) + " m";
+           QString::number(place.height / LengthUnit::metres(), 'f', 4) + ' ' + LengthUnit::symbol();
 }
 
 bool CheckPointPane::isComplete() const {

@@ -27,7 +27,7 @@ public:
     /// origin.
     void setSystem(const std::shared_ptr<const ShownSystem>& shown);
 
-    /// Shows angles anew in the notation chosen now.
+    /// Shows angles and lengths anew in the notation and the unit chosen now.
     void showNotation();
 
     /// Keeps a point that was typed on the grid where it is on the ground, whatever becomes of the grid.

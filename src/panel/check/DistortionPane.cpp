@@ -5,6 +5,7 @@
 #include "panel/computing/ShownSystem.h"
 #include "panel/field/CheckField.h"
 #include "panel/field/ChoiceBox.h"
+#include "panel/record/LengthUnit.h"
 #include "panel/record/PanelText.h"
 #include "platform/projection/IProjectionModule.h"
 
@@ -164,11 +165,26 @@ void DistortionPane::drawOnce() {
     const DistortionLines::Line outline = designOutline();
     const DistortionArea area = mapArea(outline);
     const QSize nodes = plot->nodeCount();
-    plot->showDistortion(DistortionGrid(*projection(), area, nodes.width(), nodes.height(), heightBox->value()), area);
+    plot->showDistortion(DistortionGrid(*projection(), area, nodes.width(), nodes.height(), meanHeight()), area);
     plot->showLines(DistortionLines(system->record(), *projection(), area));
     const bool isCheckedShown = checkedPlace && centreBox->currentIndex() == CheckedPoint;
     plot->showPlaces(DistortionLines::origin(system->record()),
                      isCheckedShown ? projection()->toGrid(*checkedPlace) : std::nullopt, outline);
+}
+
+/// Metres.
+double DistortionPane::meanHeight() const {
+    return heightBox->value() * shownUnit;
+}
+
+void DistortionPane::showUnits() {
+    const QSignalBlocker blocker(heightBox);
+    const double height = meanHeight();
+    shownUnit = LengthUnit::metres();
+    heightBox->setRange(int(std::round(-1000.0 / shownUnit)), int(std::round(9000.0 / shownUnit)));
+    heightBox->setSuffix(' ' + LengthUnit::symbol());
+    heightBox->setValue(int(std::round(height / shownUnit)));
+    _onSettingsChanged();
 }
 
 double DistortionPane::side() const {
@@ -223,7 +239,7 @@ void DistortionPane::propose() {
     designProposal.reset();
     if (projection() && module)
         designProposal =
-            DesignProposal::make(system->record(), *module, designPoints(), heightBox->value(), design->placesLine());
+            DesignProposal::make(system->record(), *module, designPoints(), meanHeight(), design->placesLine());
     if (projection())
         design->showProposal(DesignProposal::isPossible(system->record()), DesignProposal::lineField(system->record()),
                              designProposal);
@@ -236,17 +252,19 @@ void DistortionPane::_onPointed(double easting, double northing) {
         return;
     const GridPoint point{easting, northing};
     double ppm = 0.0;
-    projection()->linearDistortion(&point, 1, heightBox->value(), &ppm);
+    projection()->linearDistortion(&point, 1, meanHeight(), &ppm);
     const auto place = projection()->toGeographic(point, 0.0);
     if (!place || std::isnan(ppm))
         return _onLeft();
+    const bool isMetric = LengthUnit::chosen() == LengthUnit::Metre;
     const int decimals = 5; // a metre on the ground: more than a pixel tells
     readout->setText(
-        PanelText::tr("%1 ppm   %2, %3\nE %4 km  N %5 km")
+        PanelText::tr("%1 ppm   %2, %3\nE %4 %6  N %5 %6")
             .arg(ppm, 0, 'f', 1)
             .arg(CheckField::angleText(place->latitude, decimals), CheckField::angleText(place->longitude, decimals))
-            .arg(easting / 1000.0, 0, 'f', 3)
-            .arg(northing / 1000.0, 0, 'f', 3));
+            .arg(isMetric ? easting / 1000.0 : easting / LengthUnit::metres(), 0, 'f', isMetric ? 3 : 0)
+            .arg(isMetric ? northing / 1000.0 : northing / LengthUnit::metres(), 0, 'f', isMetric ? 3 : 0)
+            .arg(isMetric ? QStringLiteral("km") : LengthUnit::symbol()));
 }
 
 void DistortionPane::_onLeft() {

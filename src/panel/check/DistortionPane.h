@@ -29,6 +29,9 @@ public:
 
     void setCheckedPlace(const std::optional<GeographicPoint>& place);
 
+    /// Shows lengths anew in the unit chosen now, and angles.
+    void showUnits();
+
     /// The proposal that the user takes over.
     const std::optional<DesignProposal>& proposal() const { return designProposal; }
 
@@ -59,6 +62,7 @@ private:
     DistortionLines::Line designOutline() const;
     DistortionArea mapArea(const DistortionLines::Line& outline) const;
     double side() const;
+    double meanHeight() const;
     QVector<GeographicPoint> designPoints() const;
 
     std::shared_ptr<const ShownSystem> system;
@@ -69,6 +73,7 @@ private:
     ChoiceBox* centreBox;
     ChoiceBox* widthBox;
     QSpinBox* heightBox;
+    double shownUnit = 1.0; ///< metres in one of the height's
     DistortionPlot* plot;
     QLabel* readout;
     DesignBox* design;

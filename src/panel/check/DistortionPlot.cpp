@@ -1,5 +1,6 @@
 #include "panel/check/DistortionPlot.h"
 
+#include "panel/record/LengthUnit.h"
 #include "panel/record/PanelText.h"
 
 #include <QMouseEvent>
@@ -19,7 +20,6 @@
 
 namespace {
 
-constexpr double metresPerKilometre = 1000.0;
 constexpr int pixelsPerNode = 4;
 constexpr int contourCount = 8;
 constexpr int parallelCount = 2;
@@ -55,12 +55,21 @@ public:
     }
 };
 
-QwtInterval interval(double centre, double width) {
-    return QwtInterval((centre - width / 2.0) / metresPerKilometre, (centre + width / 2.0) / metresPerKilometre);
+/// Metres in one unit of the axes: a thousand of the unit of length chosen now.
+double axisUnit() {
+    return 1000.0 * LengthUnit::metres();
 }
 
-QPointF inKilometres(const GridPoint& point) {
-    return QPointF(point.easting, point.northing) / metresPerKilometre;
+QString axisUnitText() {
+    return LengthUnit::chosen() == LengthUnit::Metre ? QStringLiteral("km") : "1000 " + LengthUnit::symbol();
+}
+
+QwtInterval interval(double centre, double width) {
+    return QwtInterval((centre - width / 2.0) / axisUnit(), (centre + width / 2.0) / axisUnit());
+}
+
+QPointF onAxes(const GridPoint& point) {
+    return QPointF(point.easting, point.northing) / axisUnit();
 }
 
 double squaredDistance(const QPointF& left, const QPointF& right) {
@@ -104,11 +113,6 @@ DistortionPlot::DistortionPlot(QWidget* parent)
 void DistortionPlot::setUpAxes() {
     const QFont small = font();
     for (const int axis : axes) {
-        QwtText title(axis == xBottom ? PanelText::tr("Easting, km")
-                      : axis == yLeft ? PanelText::tr("Northing, km")
-                                      : PanelText::tr("ppm"));
-        title.setFont(small);
-        setAxisTitle(axis, title);
         setAxisFont(axis, small);
         setAxisScaleDraw(axis, new PlainScaleDraw);
         setAxisMaxMajor(axis, 5);
@@ -117,6 +121,16 @@ void DistortionPlot::setUpAxes() {
     axisWidget(yRight)->setColorBarEnabled(true);
     axisWidget(yRight)->setColorBarWidth(12);
     plotLayout()->setAlignCanvasToScales(true);
+}
+
+void DistortionPlot::showUnits() {
+    for (const int axis : axes) {
+        QwtText title(axis == xBottom ? PanelText::tr("Easting, %1").arg(axisUnitText())
+                      : axis == yLeft ? PanelText::tr("Northing, %1").arg(axisUnitText())
+                                      : PanelText::tr("ppm"));
+        title.setFont(font());
+        setAxisTitle(axis, title);
+    }
 }
 
 QwtPlotCurve* DistortionPlot::newLine(const QString& title, Qt::PenStyle style) {
@@ -149,6 +163,7 @@ void DistortionPlot::showDistortion(const DistortionGrid& grid, const Distortion
         return;
     }
     enableAxes(true);
+    showUnits();
     const QwtInterval easting = interval(area.centre.easting, area.width);
     const QwtInterval northing = interval(area.centre.northing, area.height);
     setAxisScale(xBottom, easting.minValue(), easting.maxValue());
@@ -241,7 +256,7 @@ void DistortionPlot::addLabel(double level, const QPointF& place) {
 void DistortionPlot::drawLine(QwtPlotCurve* curve, const DistortionLines::Line& line) {
     QVector<QPointF> points;
     for (const GridPoint& point : line)
-        points.append(inKilometres(point));
+        points.append(onAxes(point));
     curve->setSamples(points);
     curve->setVisible(!points.isEmpty());
 }
@@ -257,9 +272,9 @@ void DistortionPlot::showLines(const DistortionLines& lines) {
 
 void DistortionPlot::showPlaces(const GridPoint& origin, const std::optional<GridPoint>& checked,
                                 const DistortionLines::Line& designed) {
-    originMarker->setValue(inKilometres(origin));
+    originMarker->setValue(onAxes(origin));
     originMarker->setVisible(true);
-    checkedMarker->setValue(inKilometres(checked.value_or(GridPoint())));
+    checkedMarker->setValue(onAxes(checked.value_or(GridPoint())));
     checkedMarker->setVisible(checked.has_value());
     drawLine(designOutline, designed);
     replot();
@@ -277,8 +292,7 @@ void DistortionPlot::clear() {
 /// Tells what is under the mouse, if it is over a map.
 void DistortionPlot::pointAgain() {
     if (mouse && spectrogram->isVisible())
-        Q_EMIT pointed(invTransform(xBottom, mouse->x()) * metresPerKilometre,
-                       invTransform(yLeft, mouse->y()) * metresPerKilometre);
+        Q_EMIT pointed(invTransform(xBottom, mouse->x()) * axisUnit(), invTransform(yLeft, mouse->y()) * axisUnit());
     else
         Q_EMIT left();
 }

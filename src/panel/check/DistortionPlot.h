@@ -11,9 +11,9 @@ class QwtPlotCurve;
 class QwtPlotMarker;
 class QwtPlotSpectrogram;
 
-/// The picture of a system's linear distortion: a map coloured by ppm with labelled contours, axes in grid kilometres,
-/// the central meridian, standard parallels, origin, checked point and the area to design for. White is no distortion,
-/// blue is grid shorter than ground, red longer.
+/// The picture of a system's linear distortion: a map coloured by ppm with labelled contours, axes in kilometres or
+/// thousands of feet, the central meridian, standard parallels, origin, checked point and the area to design for. White
+/// is no distortion, blue is grid shorter than ground, red longer.
 class DistortionPlot : public QwtPlot {
     Q_OBJECT
 
@@ -52,6 +52,7 @@ protected:
 
 private:
     void setUpAxes();
+    void showUnits();
     void enableAxes(bool enable);
     void pointAgain();
     void showLabels(const QList<double>& levels);

@@ -2,6 +2,7 @@
 
 #include "panel/field/FieldEdit.h"
 #include "panel/field/MessageLine.h"
+#include "panel/record/LengthUnit.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -9,12 +10,8 @@
 #include <cmath>
 
 CheckField::CheckField(const ParamField& field, MessageLine* message, QGridLayout* grid, int line)
-    : QObject(message)
-    , field(field)
-    , name(field.labelText())
-    , edit(new FieldEdit)
-    , unit(new QLabel(field.unitText(AngleText::notation())))
-    , message(message) {
+    : QObject(message), field(field), name(field.labelText()), edit(new FieldEdit), unit(new QLabel), message(message) {
+    showUnit();
     auto* label = new QLabel(name);
     label->setBuddy(edit);
     edit->setAccessibleName(name);
@@ -29,15 +26,13 @@ CheckField::CheckField(const ParamField& field, MessageLine* message, QGridLayou
 }
 
 QString CheckField::angleText(double degrees, int decimals) {
-    const double steps = AngleText::notation() == AngleNotation::DecimalDegrees ? std::pow(10.0, decimals)
-                                                                                : 3600.0 * std::pow(10.0, decimals - 4);
-    return AngleText::format(std::round(degrees * steps) / steps + 0.0, AngleText::notation());
+    return AngleText::rounded(degrees, decimals);
 }
 
 void CheckField::setValue(double value) {
     isTyping = false;
     number = value;
-    edit->setText(field.isAngle() ? angleText(value) : QString::number(value, 'f', 4));
+    edit->setText(field.isAngle() ? angleText(value) : QString::number(value / LengthUnit::metres(), 'f', 4));
     edit->setCursorPosition(0);
     setError(QString());
 }
@@ -49,9 +44,14 @@ void CheckField::clear() {
     setError(QString());
 }
 
+void CheckField::showUnit() {
+    unit->setText(field.isAngle() ? field.unitText(AngleText::notation()) : LengthUnit::symbol());
+}
+
 void CheckField::showNotation() {
-    unit->setText(field.unitText(AngleText::notation()));
-    if (field.isAngle() && number)
+    const QString before = unit->text();
+    showUnit();
+    if (number && (field.isAngle() || unit->text() != before))
         setValue(*number);
 }
 
@@ -67,10 +67,21 @@ void CheckField::_onTextEdited(const QString& text) {
     if (!isTyping)
         numberBefore = number;
     isTyping = true;
-    const FieldInput input = field.parse(text);
-    number = input.valid ? std::optional<double>(input.value) : std::nullopt;
-    setError(input.reason);
+    number = read(text);
     Q_EMIT edited();
+}
+
+/// The number of a typed text; says what is wrong with it.
+std::optional<double> CheckField::read(const QString& text) {
+    if (field.isAngle() || LengthUnit::chosen() == LengthUnit::Metre || text.trimmed().isEmpty()) {
+        const FieldInput input = field.parse(text);
+        setError(input.reason);
+        return input.valid ? std::optional<double>(input.value) : std::nullopt;
+    }
+    double metres = 0.0;
+    const bool isSound = LengthUnit::parse(text, &metres) && field.accepts(metres);
+    setError(isSound ? QString() : field.rangeText() + ' ' + LengthUnit::refusal());
+    return isSound ? std::optional<double>(metres) : std::nullopt;
 }
 
 void CheckField::_onEntered() {

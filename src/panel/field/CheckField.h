@@ -11,9 +11,9 @@ class MessageLine;
 class QGridLayout;
 class QLabel;
 
-/// One number to compute with, on a form: label, edit, unit. It belongs to no record. What is wrong with a text stands
-/// in a line that several fields share. As in a FieldRow, Escape brings back the number from before the typing, and so
-/// does leaving a field whose text is refused.
+/// One angle or length to compute with, on a form: label, edit, unit. It belongs to no record. What is wrong with a
+/// text stands in a line that several fields share. As in a FieldRow, Escape brings back the number from before the
+/// typing, and so does leaving a field whose text is refused.
 class CheckField : public QObject {
     Q_OBJECT
 
@@ -21,16 +21,17 @@ public:
     /// Adds the field's widgets to line `line` of `grid` (three columns). `message` outlives the field.
     CheckField(const ParamField& field, MessageLine* message, QGridLayout* grid, int line);
 
-    /// The typed or shown number in the unit of the field; 0 for an empty optional one; nothing for a refused text.
+    /// The typed or shown number, lengths in metres; 0 for an empty optional one; nothing for a refused text.
     std::optional<double> value() const { return number; }
 
-    /// Shows `number`, angles to 1e-10 degrees or 1e-6 arc-seconds, lengths to 0.1 mm.
+    /// Shows `number` (a length in metres): angles to 1e-10 degrees or 1e-6 arc-seconds, lengths to four decimals of
+    /// the unit chosen for them.
     void setValue(double value);
 
     /// Shows nothing: there is no result.
     void clear();
 
-    /// Shows an angle anew in the notation chosen now, and its unit.
+    /// Shows an angle anew in the notation chosen now, and a length in the unit.
     void showNotation();
 
     const QString& labelText() const { return name; }
@@ -53,6 +54,8 @@ private Q_SLOTS:
 
 private:
     void restore();
+    void showUnit();
+    std::optional<double> read(const QString& text);
     void setError(const QString& reason);
 
     ParamField field;

@@ -116,6 +116,12 @@ QString AngleText::format(double degrees, AngleNotation notation) {
     return (std::signbit(degrees) && units != 0 ? "-" : "") + text + '"';
 }
 
+QString AngleText::rounded(double degrees, int decimals) {
+    const double steps =
+        notation() == AngleNotation::DecimalDegrees ? std::pow(10.0, decimals) : 3600.0 * std::pow(10.0, decimals - 4);
+    return format(std::round(degrees * steps) / steps + 0.0, notation());
+}
+
 QString AngleText::withoutNoise(const QString& decimal) {
     const int point = decimal.indexOf('.');
     return point >= 0 && decimal.size() - point - 1 > shownDecimals

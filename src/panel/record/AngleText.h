@@ -32,6 +32,12 @@ public:
     /// 117°30'00.5".
     static QString format(double degrees, AngleNotation notation);
 
+    /// Decimals of a degree that tell a tenth of a millimetre and more on the ground.
+    static constexpr int pointDecimals = 10;
+
+    /// The angle in the chosen notation, with at most that many decimals of a degree, or seconds with four fewer.
+    static QString rounded(double degrees, int decimals = pointDecimals);
+
     /// A decimal angle as it was typed or stored, but with no more decimals than format() gives.
     static QString withoutNoise(const QString& decimal);
 

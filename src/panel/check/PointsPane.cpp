@@ -1,0 +1,729 @@
+#include "panel/check/PointsPane.h"
+
+#include "panel/check/FitBox.h"
+#include "panel/check/PointColumnsDialog.h"
+#include "panel/check/PointsModel.h"
+#include "panel/check/PointsPlot.h"
+#include "panel/check/SlicedWork.h"
+#include "panel/computing/DuplicateNames.h"
+#include "panel/computing/PointReader.h"
+#include "panel/computing/PointStatistics.h"
+#include "panel/computing/PointWriter.h"
+#include "panel/computing/ShownSystem.h"
+#include "panel/field/ChoiceBox.h"
+#include "panel/field/MessageLine.h"
+#include "panel/record/LengthUnit.h"
+#include "panel/record/PanelText.h"
+#include "platform/desktop/VornMessageBox.h"
+
+#include <QBuffer>
+#include <QClipboard>
+#include <QDoubleSpinBox>
+#include <QFile>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSaveFile>
+#include <QSplitter>
+#include <QStyledItemDelegate>
+#include <QTableView>
+#include <QToolButton>
+
+#include <chrono>
+#include <cmath>
+#include <future>
+
+namespace {
+
+constexpr int headSize = 65536;
+constexpr qint64 bytesPerPiece = 32768;
+constexpr std::size_t rowsPerPiece = 1000;
+constexpr std::size_t rowsAtOnce = 2000; ///< so many are computed before the window is seen again
+constexpr std::size_t mostCopied = 200000;
+
+/// Leaves what is being typed alone when the table behind it is computed anew.
+class TypingDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override {
+        const auto* edit = qobject_cast<const QLineEdit*>(editor);
+        if (!edit || !edit->isModified())
+            QStyledItemDelegate::setEditorData(editor, index);
+    }
+};
+
+} // namespace
+
+PointsPane::PointsPane(bool readOnly, QWidget* parent)
+    : QWidget(parent)
+    , work(new SlicedWork(this))
+    , model(new PointsModel(this))
+    , table(new QTableView)
+    , plot(new PointsPlot)
+    , datumBox(new ChoiceBox)
+    , toleranceBox(new QDoubleSpinBox)
+    , counts(new QLabel)
+    , readout(new QLabel)
+    , message(new MessageLine)
+    , progress(new QProgressBar)
+    , cancelButton(new QPushButton(PanelText::tr("Cancel")))
+    , fitBox(new FitBox(readOnly)) {
+    buildTable();
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 6, 0, 0);
+    layout->setVerticalSpacing(3);
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(4);
+    openButton = newButton(PanelText::tr("Open..."), SLOT(_onOpen()));
+    pasteButton = newButton(PanelText::tr("Paste"), SLOT(_onPaste()));
+    copyButton = newButton(PanelText::tr("Copy"), SLOT(_onCopy()));
+    saveButton = newButton(PanelText::tr("Save..."), SLOT(_onSave()));
+    deleteButton = newButton(PanelText::tr("Delete"), SLOT(_onDelete()));
+    clearButton = newButton(PanelText::tr("Clear"), SLOT(_onClear()));
+    for (QToolButton* button : {openButton, pasteButton, copyButton, saveButton, deleteButton, clearButton})
+        buttons->addWidget(button);
+    fitButton = newButton(PanelText::tr("Fit"), SLOT(_onFitClicked()));
+    fitButton->setCheckable(true);
+    fitButton->setToolTip(PanelText::tr("Which false origin and scale factor would meet the points best."));
+    buttons->addWidget(fitButton);
+    buttons->addStretch();
+    layout->addLayout(buttons, 0, 0);
+    auto* splitter = new QSplitter;
+    splitter->setChildrenCollapsible(false);
+    plot->setMinimumSize(150, 90);
+    splitter->addWidget(table);
+    splitter->addWidget(plot);
+    splitter->setStretchFactor(0, 3);
+    splitter->setStretchFactor(1, 2);
+    auto* working = new QHBoxLayout;
+    progress->setRange(0, 1000);
+    working->addWidget(progress, 1);
+    working->addWidget(cancelButton);
+    readout->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    layout->addWidget(splitter, 1, 0);
+    layout->setRowStretch(1, 1);
+    nextButton = newButton(PanelText::tr("Next marked"), SLOT(_onNext()));
+    nextButton->setToolTip(PanelText::tr("The next point beyond the tolerance, or row with a remark"));
+    auto* pointedAt = new QHBoxLayout;
+    pointedAt->addWidget(readout, 1);
+    pointedAt->addWidget(nextButton);
+    layout->addLayout(pointedAt, 2, 0);
+    buildSettings();
+    buildFigures();
+    fitBox->hide();
+    connect(fitBox, SIGNAL(accepted()), this, SIGNAL(fitAccepted()));
+    layout->addWidget(fitBox, 5, 0);
+    layout->addWidget(message, 6, 0);
+    layout->addLayout(working, 7, 0);
+    connect(plot, SIGNAL(pointed(int)), this, SLOT(_onPointed(int)));
+    connect(plot, SIGNAL(clicked(int)), this, SLOT(_onClicked(int)));
+    connect(plot, SIGNAL(resized()), this, SLOT(_onPlotResized()));
+    connect(work, SIGNAL(progressed(double)), this, SLOT(_onProgressed(double)));
+    connect(work, SIGNAL(ended()), this, SLOT(_onWorkEnded()));
+    connect(cancelButton, SIGNAL(clicked()), this, SLOT(_onCancel()));
+    showTolerance();
+    _onWorkEnded();
+    _onPointed(-1);
+}
+
+PointsPane::~PointsPane() = default;
+
+QToolButton* PointsPane::newButton(const QString& text, const char* slot) {
+    auto* button = new QToolButton;
+    button->setText(text);
+    button->setFocusPolicy(Qt::StrongFocus);
+    connect(button, SIGNAL(clicked()), this, slot);
+    return button;
+}
+
+void PointsPane::buildTable() {
+    table->setModel(model);
+    table->setItemDelegate(new TypingDelegate(table));
+    table->setAccessibleName(PanelText::tr("Points"));
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setTabKeyNavigation(false);
+    table->setWordWrap(false);
+    table->setMinimumWidth(180);
+    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
+    QHeaderView* const header = table->horizontalHeader();
+    header->setHighlightSections(false);
+    header->setStretchLastSection(true);
+    const auto width = [&](const char* text) { return table->fontMetrics().horizontalAdvance(text) + 14; };
+    for (int column = 0; column < PointsModel::Remark; ++column)
+        header->resizeSection(column, width(column == PointsModel::Name        ? "[x] Point 12345"
+                                            : column <= PointsModel::Longitude ? "-179.1234567891"
+                                            : column == PointsModel::Height    ? "1234.1234"
+                                            : column <= PointsModel::Northing  ? "-1234567.1234"
+                                                                               : "-123.1234"));
+    table->installEventFilter(this);
+    connect(model, SIGNAL(edited(int)), this, SLOT(_onEdited(int)));
+    connect(model, SIGNAL(usedChanged()), this, SLOT(_onUsedChanged()));
+    connect(model, SIGNAL(refused(QString)), this, SLOT(_onRefused(QString)));
+    connect(table->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)), this,
+            SLOT(_onSelectionChanged()));
+}
+
+void PointsPane::buildFigures() {
+    auto* grid = new QGridLayout;
+    grid->setVerticalSpacing(0);
+    grid->setHorizontalSpacing(12);
+    const QString columns[] = {PanelText::tr("mean"), PanelText::tr("RMS"), PanelText::tr("largest")};
+    const QString lines[] = {"ΔE", "ΔN", PanelText::tr("Distance")};
+    for (int column = 0; column < FigureColumnCount; ++column)
+        grid->addWidget(new QLabel(columns[column]), 0, column + 1, Qt::AlignRight);
+    for (int line = 0; line < FigureLineCount; ++line) {
+        grid->addWidget(new QLabel(lines[line]), line + 1, 0);
+        for (int column = 0; column < FigureColumnCount; ++column) {
+            auto* label = new QLabel;
+            label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+            label->setAccessibleName(lines[line] + ' ' + columns[column]);
+            grid->addWidget(label, line + 1, column + 1, Qt::AlignRight);
+            figures[std::size_t(line)][std::size_t(column)] = label;
+        }
+    }
+    counts->setWordWrap(true);
+    counts->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    counts->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    grid->addWidget(counts, 0, 4, 4, 1);
+    grid->setColumnStretch(4, 1);
+    qobject_cast<QGridLayout*>(layout())->addLayout(grid, 4, 0);
+}
+
+void PointsPane::buildSettings() {
+    auto* toleranceLabel = new QLabel(PanelText::tr("Tolerance"));
+    toleranceLabel->setBuddy(toleranceBox);
+    toleranceBox->setToolTip(PanelText::tr("Points that are farther off are marked."));
+    toleranceBox->setRange(0.0, 999.0);
+    auto* datumLabel = new QLabel(PanelText::tr("Datum"));
+    datumLabel->setBuddy(datumBox);
+    datumBox->addItem(PanelText::tr("The system's own"));
+    datumBox->addItem(PanelText::tr("WGS 84"));
+    datumBox->setAccessibleName(PanelText::tr("Datum"));
+    datumBox->setToolTip(PanelText::tr("Datum of latitude, longitude and height"));
+    auto* row = new QHBoxLayout;
+    row->setSpacing(6);
+    row->addWidget(datumLabel);
+    row->addWidget(datumBox);
+    row->addSpacing(6);
+    row->addWidget(toleranceLabel);
+    row->addWidget(toleranceBox);
+    row->addStretch();
+    qobject_cast<QGridLayout*>(layout())->addLayout(row, 3, 0);
+    connect(datumBox, SIGNAL(currentIndexChanged(int)), this, SLOT(_onDatumChanged()));
+    connect(toleranceBox, SIGNAL(valueChanged(double)), this, SLOT(_onToleranceChanged()));
+}
+
+const PointTable& PointsPane::points() const {
+    return model->points();
+}
+
+CheckPoint::Datum PointsPane::datum() const {
+    return datumBox->currentIndex() == 0 ? CheckPoint::Datum::Own : CheckPoint::Datum::Wgs84;
+}
+
+QString PointsPane::lengthText(double metres) const {
+    return QString::number(metres / LengthUnit::metres(), 'f', 4);
+}
+
+void PointsPane::setSystem(const std::shared_ptr<const ShownSystem>& shown) {
+    const bool isSame = system && shown && system->projection() == shown->projection();
+    system = shown;
+    if (isSame)
+        return;
+    isStale = true;
+    catchUp();
+}
+
+void PointsPane::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    catchUp();
+}
+
+/// Does what had to wait, if it can be done now.
+void PointsPane::catchUp() {
+    if (!isVisible() || isKept())
+        return;
+    if (isStale)
+        recompute();
+    else if (isUncounted)
+        showResults();
+}
+
+void PointsPane::showNotation() {
+    showTolerance();
+    model->refresh();
+    showResults();
+}
+
+void PointsPane::showTolerance() {
+    const QSignalBlocker blocker(toleranceBox);
+    toleranceBox->setDecimals(LengthUnit::chosen() == LengthUnit::Metre ? 3 : 4);
+    toleranceBox->setSingleStep(0.01);
+    toleranceBox->setSuffix(' ' + LengthUnit::symbol());
+    toleranceBox->setValue(model->tolerance() / LengthUnit::metres());
+}
+
+void PointsPane::say(const QString& text, bool isError) {
+    message->setMessage(text, isError ? MessageLine::Tone::Error : MessageLine::Tone::Hint);
+}
+
+void PointsPane::begin(Task newTask, const QString& what, const std::function<double()>& piece,
+                       const std::function<void()>& done) {
+    task = newTask;
+    taskName = what;
+    taskTime.start();
+    progress->setFormat(what + " %p %");
+    progress->setValue(0);
+    // While it is counted, anything can be changed: it is counted anew then.
+    lock(task != Task::Counting);
+    work->start(piece, done);
+}
+
+void PointsPane::lock(bool isLocked) {
+    const bool isAnything = !points().isEmpty();
+    model->setLocked(isLocked);
+    for (QToolButton* button : {openButton, pasteButton})
+        button->setEnabled(!isLocked);
+    for (QToolButton* button : {copyButton, saveButton, deleteButton, clearButton, nextButton})
+        button->setEnabled(!isLocked && isAnything);
+    datumBox->setEnabled(!isLocked);
+}
+
+void PointsPane::_onProgressed(double part) {
+    progress->setValue(int(part * 1000.0));
+    // What is done in a moment is not worth a bar that comes and goes.
+    constexpr int patience = 250;
+    if (taskTime.elapsed() > patience && task != Task::None) {
+        progress->show();
+        cancelButton->show();
+    }
+}
+
+void PointsPane::_onWorkEnded() {
+    task = Task::None;
+    progress->hide();
+    cancelButton->hide();
+    lock(false);
+    catchUp();
+}
+
+void PointsPane::_onCancel() {
+    say(PanelText::tr("Cancelled: %1").arg(taskName));
+    const bool isComputing = task == Task::Computing;
+    work->cancel();
+    if (isComputing)
+        showResults();
+}
+
+void PointsPane::_onOpen() {
+    QFileDialog dialog(this, PanelText::tr("Open points"), QString(),
+                       PanelText::tr("Points") + " (*.csv *.txt *.asc *.xyz);;" + PanelText::tr("All files") + " (*)");
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return;
+    read(dialog.selectedFiles().first());
+}
+
+void PointsPane::read(const QString& path) {
+    auto file = std::make_unique<QFile>(path);
+    const QString name = QFileInfo(path).fileName();
+    if (!file->open(QIODevice::ReadOnly))
+        return say(PanelText::tr("%1 can't be read: %2").arg(name, file->errorString()), true);
+    read(std::move(file), name);
+}
+
+void PointsPane::_onPaste() {
+    auto buffer = std::make_unique<QBuffer>();
+    buffer->setData(QGuiApplication::clipboard()->text().toUtf8());
+    buffer->open(QIODevice::ReadOnly);
+    read(std::move(buffer), PanelText::tr("The clipboard"));
+}
+
+void PointsPane::read(std::unique_ptr<QIODevice> source, const QString& name) {
+    const QByteArray start = source->peek(headSize);
+    const QString refusal = PointReader::refusal(start);
+    if (!refusal.isEmpty())
+        return say(name + ": " + refusal, true);
+    PointColumnsDialog dialog(PointReader::decodedHead(start), this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    struct Reading {
+        std::unique_ptr<QIODevice> source;
+        std::shared_ptr<PointTable> table = std::make_shared<PointTable>();
+        std::unique_ptr<PointReader> reader;
+    };
+    const auto reading = std::make_shared<Reading>();
+    reading->source = std::move(source);
+    reading->reader =
+        std::make_unique<PointReader>(dialog.pointLayout(), LengthUnit::metres(dialog.unit()), *reading->table);
+    const auto piece = [this, reading, name] {
+        QIODevice& from = *reading->source;
+        const QByteArray bytes = from.read(bytesPerPiece);
+        reading->reader->add(bytes);
+        if (reading->table->isFull()) {
+            say(PanelText::tr("%1 has too many points; nothing of it is taken.").arg(name), true);
+            work->cancel();
+            return 1.0;
+        }
+        if (bytes.isEmpty() || from.atEnd())
+            return 1.0;
+        return from.size() > 0 ? 0.999 * double(from.pos()) / double(from.size()) : 0.0;
+    };
+    begin(Task::Reading, PanelText::tr("Reading"), piece, [this, reading, name] {
+        const auto* file = qobject_cast<const QFile*>(reading->source.get());
+        const QString error = file && file->error() != QFile::NoError ? file->errorString() : QString();
+        reading->reader->finish();
+        if (error.isEmpty())
+            say(PanelText::tr("%1: %2 rows read.").arg(name).arg(reading->table->size()));
+        else
+            say(PanelText::tr("%1 can't be read to its end: %2").arg(name, error), true);
+        join(reading->table);
+    });
+}
+
+/// Adds points behind those that are there.
+void PointsPane::join(const std::shared_ptr<PointTable>& added) {
+    const auto both = std::make_shared<PointTable>();
+    const auto part = std::make_shared<std::size_t>(0);
+    const auto piece = [this, added, both, part] { return both->join(points(), *added, (*part)++) ? 0.5 : 1.0; };
+    const auto done = [this, both] {
+        model->replace(std::move(*both));
+        task = Task::None;
+        recompute();
+    };
+    if (points().size() + added->size() > rowsAtOnce)
+        return begin(Task::Reading, PanelText::tr("Reading"), piece, done);
+    while (piece() < 1.0) {
+    }
+    done();
+}
+
+void PointsPane::forAllRows(Task forTask, const QString& what,
+                            const std::function<void(std::size_t, std::size_t)>& rows,
+                            const std::function<void()>& done) {
+    if (points().size() <= rowsAtOnce) {
+        work->cancel();
+        rows(0, points().size());
+        return done();
+    }
+    const auto next = std::make_shared<std::size_t>(0);
+    begin(
+        forTask, what,
+        [this, rows, next] {
+            const std::size_t last = std::min(*next + rowsPerPiece, points().size());
+            rows(*next, last);
+            *next = last;
+            return double(last) / double(points().size());
+        },
+        done);
+}
+
+void PointsPane::recompute() {
+    if (isKept()) {
+        isStale = true;
+        return;
+    }
+    isStale = false;
+    isUncounted = true;
+    // No figure of another system stays until its row is reached.
+    model->computed().compute(0, points().size(), nullptr, datum());
+    const auto shown = system; // as long as it is computed with
+    forAllRows(
+        Task::Computing, PanelText::tr("Computing"),
+        [this, shown](std::size_t first, std::size_t last) {
+            model->computed().compute(first, last, shown ? shown->projection() : nullptr, datum());
+        },
+        [this] { findDuplicates(); });
+}
+
+void PointsPane::findDuplicates() {
+    const auto names = std::make_shared<DuplicateNames>(model->computed());
+    forAllRows(
+        Task::Computing, PanelText::tr("Comparing names"),
+        [names](std::size_t first, std::size_t last) { names->mark(last - first); },
+        [this] {
+            task = Task::None;
+            showResults();
+        });
+}
+
+/// Counts and draws all; now, or when what is going on has ended.
+void PointsPane::showResults() {
+    isUncounted = true;
+    if (!isVisible() || (task != Task::None && task != Task::Counting))
+        return;
+    const auto statistics = std::make_shared<PointStatistics>();
+    const auto draw = [this, statistics] {
+        plot->begin(statistics->lowest, statistics->highest, model->tolerance());
+        forAllRows(
+            Task::Counting, PanelText::tr("Drawing"),
+            [this](std::size_t first, std::size_t last) { plot->add(points(), first, last); },
+            [this] {
+                plot->finish();
+                showFit();
+                _onSelectionChanged();
+                isUncounted = false;
+                task = Task::None;
+                lock(false);
+                Q_EMIT pointsChanged();
+            });
+    };
+    forAllRows(
+        Task::Counting, PanelText::tr("Counting"),
+        [this, statistics](std::size_t first, std::size_t last) {
+            statistics->add(points(), first, last, model->tolerance());
+        },
+        [this, statistics, draw] {
+            statistics->finish();
+            showFigures(*statistics);
+            model->refresh();
+            draw();
+        });
+}
+
+const FitToPoints& PointsPane::fit() const {
+    return fitBox->fit();
+}
+
+void PointsPane::_onFitClicked() {
+    fitBox->setVisible(fitButton->isChecked());
+    showFit();
+}
+
+/// While the box is not shown it costs nothing.
+void PointsPane::showFit() {
+    const bool isSystem = system && system->projection();
+    if (fitButton->isChecked())
+        fitBox->setPoints(
+            system, isSystem ? KnownPoint::of(points(), *system->projection(), datum(), FitToPoints::mostPoints + 1)
+                             : QVector<KnownPoint>());
+}
+
+void PointsPane::showFigures(const PointStatistics& statistics) {
+    const PointStatistics::Figures* const lines[] = {&statistics.easting, &statistics.northing, &statistics.distance};
+    for (std::size_t line = 0; line < FigureLineCount; ++line) {
+        const double values[] = {lines[line]->mean, lines[line]->rms, lines[line]->largest};
+        for (std::size_t column = 0; column < FigureColumnCount; ++column)
+            figures[line][column]->setText(statistics.count > 0 ? lengthText(values[column]) : QStringLiteral("–"));
+    }
+    QStringList texts{
+        PanelText::tr("%1 points, %2 with both pairs").arg(points().size()).arg(statistics.count + statistics.leftOut)};
+    if (statistics.leftOut > 0)
+        texts << PanelText::tr("%1 left out").arg(statistics.leftOut);
+    if (statistics.beyond > 0)
+        texts << PanelText::tr("%1 beyond the tolerance").arg(statistics.beyond);
+    if (statistics.problems > 0)
+        texts << PanelText::tr("%1 without a result").arg(statistics.problems);
+    if (statistics.duplicates > 0)
+        texts << PanelText::tr("%1 with a name that another has").arg(statistics.duplicates);
+    counts->setText(points().isEmpty() ? PanelText::tr("Paste, open or type points.") : texts.join(", "));
+}
+
+void PointsPane::_onDatumChanged() {
+    recompute();
+}
+
+void PointsPane::_onToleranceChanged() {
+    model->setTolerance(toleranceBox->value() * LengthUnit::metres());
+    showResults();
+}
+
+void PointsPane::_onEdited(int row) {
+    model->computed().compute(std::size_t(row), std::size_t(row) + 1, system ? system->projection() : nullptr, datum());
+    say(QString());
+    findDuplicates();
+}
+
+void PointsPane::_onUsedChanged() {
+    showResults();
+}
+
+void PointsPane::_onRefused(const QString& reason) {
+    say(reason, true);
+}
+
+void PointsPane::_onSelectionChanged() {
+    const QModelIndex current = table->currentIndex();
+    const bool isPoint = table->selectionModel()->hasSelection() && std::size_t(current.row()) < points().size();
+    plot->setSelected(isPoint ? points().grid(std::size_t(current.row())) : GridPoint{qQNaN(), qQNaN()});
+}
+
+void PointsPane::_onClicked(int row) {
+    table->selectRow(row);
+    table->scrollTo(model->index(row, 0));
+    table->setFocus();
+}
+
+void PointsPane::_onPointed(int row) {
+    if (row < 0 || std::size_t(row) >= points().size()) {
+        readout->setText(PanelText::tr("Point at the picture for a point's name."));
+        return;
+    }
+    const std::string_view name = points().name(std::size_t(row));
+    QString text = QString::fromUtf8(name.data(), int(name.size()));
+    if (text.isEmpty())
+        text = PanelText::tr("Row %1").arg(row + 1);
+    const GridPoint difference = points().difference(std::size_t(row));
+    if (!std::isnan(difference.easting))
+        text += QString("   ΔE %1   ΔN %2   %3 %4")
+                    .arg(lengthText(difference.easting), lengthText(difference.northing),
+                         lengthText(std::hypot(difference.easting, difference.northing)), LengthUnit::symbol());
+    readout->setText(text);
+}
+
+void PointsPane::_onPlotResized() {
+    showResults();
+}
+
+/// For each row, whether it is selected; all are where none is.
+std::vector<bool> PointsPane::selectedRows() const {
+    const bool isAny = table->selectionModel()->hasSelection();
+    std::vector<bool> marked(points().size(), !isAny);
+    for (const QItemSelectionRange& range : table->selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom() && std::size_t(row) < marked.size(); ++row)
+            marked[std::size_t(row)] = true;
+    }
+    return marked;
+}
+
+void PointsPane::_onCopy() {
+    struct Copying {
+        std::vector<bool> rows;
+        PointWriter writer;
+        std::string text;
+        std::size_t count = 0;
+        bool isCut = false;
+    };
+    const std::shared_ptr<Copying> copying(
+        new Copying{selectedRows(), {points(), '\t', PointWriter::Digits::AsShown, LengthUnit::metres()}, {}});
+    copying->text = copying->writer.heading().toStdString();
+    forAllRows(
+        Task::Copying, PanelText::tr("Copying"),
+        [copying](std::size_t first, std::size_t last) {
+            for (std::size_t row = first; row < last; ++row) {
+                if (!copying->rows[row])
+                    continue;
+                copying->isCut = copying->count == mostCopied;
+                if (copying->isCut)
+                    return;
+                copying->writer.write(row, copying->text);
+                ++copying->count;
+            }
+        },
+        [this, copying] {
+            QGuiApplication::clipboard()->setText(QString::fromStdString(copying->text));
+            if (copying->isCut)
+                say(PanelText::tr("Only the first %1 rows are copied. Save all as CSV.").arg(copying->count), true);
+            else
+                say(PanelText::tr("%1 rows copied.").arg(copying->count));
+        });
+}
+
+void PointsPane::_onSave() {
+    const QString asShown = PanelText::tr("CSV as shown") + " (*.csv)";
+    const QString full = PanelText::tr("CSV with all digits") + " (*.csv)";
+    QFileDialog dialog(this, PanelText::tr("Save points"), QString(), asShown + ";;" + full);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix("csv");
+    if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty())
+        save(dialog.selectedFiles().first(), dialog.selectedNameFilter() == full);
+}
+
+void PointsPane::save(const QString& path, bool isFull) {
+    struct Saving {
+        QSaveFile file;
+        PointWriter writer;
+        std::size_t next = 0;
+        std::future<bool> committed; ///< to the disk, which may take its time
+    };
+    const std::shared_ptr<Saving> saving(new Saving{
+        QSaveFile(path),
+        {points(), ',', isFull ? PointWriter::Digits::Full : PointWriter::Digits::AsShown, LengthUnit::metres()},
+        0,
+        {}});
+    const auto failed = [this, saving, path] {
+        say(PanelText::tr("%1 can't be saved: %2").arg(QFileInfo(path).fileName(), saving->file.errorString()), true);
+    };
+    // The mark tells a spreadsheet that it is UTF-8.
+    if (!saving->file.open(QIODevice::WriteOnly) || saving->file.write("\xef\xbb\xbf" + saving->writer.heading()) < 0)
+        return failed();
+    begin(
+        Task::Saving, PanelText::tr("Saving"),
+        [this, saving, failed] {
+            if (saving->committed.valid())
+                return saving->committed.wait_for(std::chrono::milliseconds(5)) == std::future_status::ready ? 1.0
+                                                                                                             : 0.99;
+            std::string text;
+            const std::size_t last = std::min(saving->next + rowsPerPiece, points().size());
+            for (; saving->next < last; ++saving->next)
+                saving->writer.write(saving->next, text);
+            if (saving->file.write(text.data(), qint64(text.size())) < 0) {
+                failed();
+                work->cancel();
+                return 1.0;
+            }
+            if (last == points().size())
+                saving->committed = std::async(std::launch::async, [saving] { return saving->file.commit(); });
+            return 0.99 * double(last) / double(points().size());
+        },
+        [this, saving, failed, path] {
+            if (saving->committed.get())
+                say(PanelText::tr("%1: %2 rows saved.").arg(QFileInfo(path).fileName()).arg(points().size()));
+            else
+                failed();
+        });
+}
+
+void PointsPane::_onDelete() {
+    if (!table->selectionModel()->hasSelection())
+        return say(PanelText::tr("No row is selected."));
+    const std::size_t before = points().size();
+    work->cancel();
+    model->remove(selectedRows());
+    say(PanelText::tr("%1 rows deleted.").arg(before - points().size()));
+    findDuplicates();
+}
+
+void PointsPane::_onClear() {
+    if (!VornMessageBox::information(this, PanelText::tr("Clear"),
+                                     PanelText::tr("Remove all %1 points from the table?").arg(points().size())))
+        return;
+    work->cancel();
+    model->clear();
+    say(QString());
+    recompute();
+}
+
+void PointsPane::_onNext() {
+    const QModelIndex current = table->currentIndex();
+    const int row = model->nextMarked(current.isValid() ? current.row() : -1);
+    if (row < 0)
+        return say(PanelText::tr("All is within the tolerance and without a remark."));
+    _onClicked(row);
+}
+
+/// Copying, pasting and deleting by the keys that every table has.
+bool PointsPane::eventFilter(QObject* object, QEvent* event) {
+    if (object == table && event->type() == QEvent::KeyPress) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        const std::pair<bool, QToolButton*> keys[] = {{key->matches(QKeySequence::Copy), copyButton},
+                                                      {key->matches(QKeySequence::Paste), pasteButton},
+                                                      {key->matches(QKeySequence::Delete), deleteButton}};
+        for (const auto& [isPressed, button] : keys) {
+            if (isPressed) {
+                button->click();
+                return true;
+            }
+        }
+    }
+    return QWidget::eventFilter(object, event);
+}
