@@ -1,6 +1,7 @@
 #include "panel/computing/CoordinateFit.h"
 
 #include "catalogue/Angle.h"
+#include "panel/record/LengthUnit.h"
 
 #include <algorithm>
 #include <cmath>
@@ -72,7 +73,8 @@ QVector<int> zoneDigits(const QByteArray& definition) {
 /// The readings of coordinates, those first that are the likelier.
 QVector<CoordinateReading> readings(const QByteArray& definition, double ownUnit) {
     QVector<double> units{1.0};
-    for (const double unit : {ownUnit, CoordinateFit::surveyFoot, CoordinateFit::internationalFoot}) {
+    for (const double unit :
+         {ownUnit, LengthUnit::metres(LengthUnit::UsSurveyFoot), LengthUnit::metres(LengthUnit::InternationalFoot)}) {
         if (unit > 0.0 && std::none_of(units.begin(), units.end(),
                                        [unit](double known) { return std::abs(known / unit - 1.0) < 1e-9; }))
             units.append(unit);

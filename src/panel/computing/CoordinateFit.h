@@ -39,8 +39,8 @@ struct CoordinateReading {
 struct CoordinateFit {
     CoordinateReading reading;
 
-    /// Between the places and those that the system gives the coordinates: metres on the ground, of several places the
-    /// root of the mean square.
+    /// Between the places and those that the system gives the coordinates: metres on the ground (to half a per cent),
+    /// of several places the root of the mean square.
     double distance;
 
     /// The same without what all the places have in common, as the datum's shift; 0 for a single place.
@@ -56,9 +56,6 @@ struct CoordinateFit {
     /// Whether two systems come out the same: to a millimetre, or a hundred-thousandth of the misfit.
     bool isSame(const CoordinateFit& other) const;
     double tolerance() const;
-
-    static constexpr double surveyFoot = 1200.0 / 3937.0; ///< the US survey foot in metres
-    static constexpr double internationalFoot = 0.3048;
 
     /// The fit of one system, `definition` as createSystem() took it, in the reading that suits the places best: as
     /// easting and northing in metres, the other way round, in feet of both kinds or in `unit` (metres in one unit of

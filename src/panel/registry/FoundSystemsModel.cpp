@@ -1,5 +1,6 @@
 #include "panel/registry/FoundSystemsModel.h"
 
+#include "panel/record/LengthUnit.h"
 #include "panel/record/PanelText.h"
 #include "panel/registry/RegistryModel.h"
 #include "platform/projection/IEpsgRegistry.h"
@@ -44,9 +45,9 @@ QString FoundSystemsModel::condition(const FoundSystem& system) const {
     QStringList parts;
     if (reading.northingFirst)
         parts.append(PanelText::tr("northing comes first"));
-    if (isUnit(CoordinateFit::surveyFoot))
+    if (isUnit(LengthUnit::metres(LengthUnit::UsSurveyFoot)))
         parts.append(PanelText::tr("in US survey feet"));
-    else if (isUnit(CoordinateFit::internationalFoot))
+    else if (isUnit(LengthUnit::metres(LengthUnit::InternationalFoot)))
         parts.append(PanelText::tr("in international feet"));
     else if (!isUnit(1.0) && system.registered)
         parts.append(PanelText::tr("in %1").arg(QString::fromUtf8(registry.unitName(system.registered->code))));

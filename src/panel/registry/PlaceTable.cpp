@@ -1,5 +1,6 @@
 #include "panel/registry/PlaceTable.h"
 
+#include "panel/computing/PointLayout.h"
 #include "panel/field/FieldEdit.h"
 #include "panel/record/PanelText.h"
 #include "panel/record/ParamField.h"
@@ -29,31 +30,32 @@ const ParamField& fieldOf(int column) {
     return fields[column];
 }
 
-/// The cells of a pasted line.
-QStringList cellsOf(const QString& line) {
-    for (const char separator : {'\t', ';'}) {
-        if (line.contains(separator))
-            return line.split(separator);
-    }
-    static const QRegularExpression commaAndBlank(", +");
-    const QStringList parted = line.split(commaAndBlank);
-    if (parted.size() > 1)
-        return parted;
-    const QStringList byComma = line.split(',');
-    if (byComma.size() >= PlaceTable::ColumnCount)
-        return byComma;
-    const QStringList byBlank = line.split(' ', Qt::SkipEmptyParts);
-    return byBlank.size() == PlaceTable::ColumnCount ? byBlank : QStringList{line};
+bool isRow(const QStringList& cells) {
+    bool isValid = cells.size() == PlaceTable::ColumnCount;
+    for (int column = 0; isValid && column < cells.size(); ++column)
+        isValid = fieldOf(column).parse(cells[column]).valid;
+    return isValid;
 }
 
+/// The cells of a pasted text, with decimal points; a name before four of them left out.
 QVector<QStringList> rowsOf(const QString& text) {
+    const PointLayout layout = PointLayout::guess(text.toUtf8());
     QVector<QStringList> rows;
     static const QRegularExpression lineEnd("[\r\n]+");
     for (const QString& line : text.split(lineEnd, Qt::SkipEmptyParts)) {
-        QStringList cells = cellsOf(line.trimmed());
+        const QByteArray utf8 = line.toUtf8();
+        std::vector<std::string_view> fields;
+        std::string unquoted;
+        layout.split({utf8.constData(), std::size_t(utf8.size())}, fields, unquoted);
+        QStringList cells;
+        for (const std::string_view field : fields) {
+            const QString cell = QString::fromUtf8(field.data(), int(field.size()));
+            cells << (layout.decimalComma ? QString(cell).replace(',', '.') : cell);
+        }
         if (cells.size() == PlaceTable::ColumnCount + 1)
             cells.removeFirst();
-        rows.append(cells);
+        // Blanks may also part degrees, minutes and seconds.
+        rows.append(layout.separator == ' ' && !isRow(cells) ? QStringList{line} : cells);
     }
     return rows;
 }
@@ -167,6 +169,9 @@ bool PlaceTable::paste(const QString& text, int row, int column) {
 }
 
 bool PlaceTable::pasteRows(const QString& text) {
+    const QVector<QStringList> pasted = rowsOf(text);
+    if (std::none_of(pasted.begin(), pasted.end(), isRow))
+        return false;
     const auto firstEmpty = std::find_if(rows.begin(), rows.end(), [this](const Row& row) { return isEmpty(row); });
     return paste(text, int(firstEmpty - rows.begin()), 0);
 }

@@ -23,12 +23,12 @@ public:
     /// Why a text is refused, or which row lacks something; translated, empty when all is right.
     QString problem() const;
 
-    /// Puts the cells of `text`, one row a line, into the fields from the one at `row` and `column` on; whole rows of
-    /// four start at the first column, and a name before them is left out. Tabs, ";" and commas part the cells, or
-    /// blanks where that gives four numbers. False, with nothing changed, when the text holds no more than one cell.
+    /// Puts the cells of `text`, read as a list of points is (PointLayout), into the fields from the one at `row` and
+    /// `column` on; whole rows of four start at the first column, and a name before them is left out. False, with
+    /// nothing changed, when the text holds no more than one cell.
     bool paste(const QString& text, int row, int column);
 
-    /// As paste(), from the first empty row on.
+    /// As paste(), from the first empty row on. False, with nothing changed, when the text holds no whole row.
     bool pasteRows(const QString& text);
 
     QSize sizeHint() const override;

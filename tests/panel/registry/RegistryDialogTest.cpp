@@ -11,7 +11,7 @@
 namespace {
 
 /// The dialog, and a catalogue with two systems in the group "Sites".
-///   done: "clipboard=text", "choose=row"
+///   done: "clipboard=text", "paste" by its keys, "choose=row"
 ///   seen: "rows" listed; "row:1" or "row:" with a code or "own", once the search is done; "chosen" row's code;
 ///         "details"; "value:key" of what is taken over
 class DialogOnScreen : public OnScreen {
@@ -22,6 +22,7 @@ public:
         add("Old mill", "_7type", "0");
         open(dialog);
         acts["clipboard"] = [](const QString& text) { QApplication::clipboard()->setText(text); };
+        acts["paste"] = [](const QString&) { QTest::keySequence(QApplication::focusWidget(), QKeySequence::Paste); };
         acts["choose"] = [this](const QString& row) { table()->selectRow(row.toInt() - 1); };
         sights["rows"] = [this](const QString&) { return QString::number(table()->model()->rowCount()); };
         sights["row"] = [this](const QString& name) {
