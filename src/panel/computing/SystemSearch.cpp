@@ -85,25 +85,29 @@ void SystemSearch::addCatalogue() {
 SystemSearch::Computed SystemSearch::computed(const Candidate& candidate) {
     if (candidate.registered) {
         const QByteArray& code = candidate.registered->code;
-        const auto known = registrySystems.constFind(code);
-        if (known != registrySystems.constEnd())
-            return *known;
         IEpsgRegistry& registry = module.registry();
         const RegistryDefinition& registered = registry.definition(code);
-        Computed result{registered.definition, {registered.northingFirst, registered.unit, 0, false}, nullptr};
-        if (result.definition.isEmpty())
-            result.definition = registry.withheldDefinition(code);
-        if (!result.definition.isEmpty())
-            result.system = module.createSystem(result.definition);
-        registrySystems.insert(code, result);
-        return result;
+        const QByteArray definition =
+            registered.definition.isEmpty() ? registry.withheldDefinition(code) : registered.definition;
+        return {definition, {registered.northingFirst, registered.unit, 0, false}, systemOf(definition)};
     }
     ICoordSysGroup* const group = catalogue->getGroup(candidate.group.constData());
     const IDictionary* const record = group ? group->getCoordSystem(candidate.name.constData()) : nullptr;
     const QByteArray definition = record ? coordParamToProjDefine(*record) : QByteArray();
+    return {definition, {}, systemOf(definition)};
+}
+
+std::shared_ptr<const IProjectedSystem> SystemSearch::systemOf(const QByteArray& definition) {
     if (definition.isEmpty())
-        return {};
-    return {definition, {}, module.createSystem(definition)};
+        return nullptr;
+    const auto known = systems.constFind(definition);
+    if (known != systems.constEnd())
+        return *known;
+    constexpr int most = 20000; // of some kilobytes each
+    const std::shared_ptr<const IProjectedSystem> system = module.createSystem(definition);
+    if (systems.size() < most)
+        systems.insert(definition, system);
+    return system;
 }
 
 bool SystemSearch::work(int milliseconds) {

@@ -57,6 +57,7 @@ private:
 
     void addCatalogue();
     Computed computed(const Candidate& candidate);
+    std::shared_ptr<const IProjectedSystem> systemOf(const QByteArray& definition);
 
     IProjectionModule& module;
     ICoordSystem* catalogue;
@@ -64,5 +65,5 @@ private:
     QVector<Candidate> candidates;
     int next = 0; ///< of `candidates`
     QVector<FoundSystem> fits;
-    QHash<QByteArray, Computed> registrySystems; ///< by code
+    QHash<QByteArray, std::shared_ptr<const IProjectedSystem>> systems; ///< by definition
 };

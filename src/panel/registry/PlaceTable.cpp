@@ -95,8 +95,6 @@ void PlaceTable::addRow() {
         edit->installEventFilter(this);
         connect(edit, SIGNAL(textChanged(QString)), this, SLOT(_onEdited()));
         connect(edit, SIGNAL(cancelled()), edit, SLOT(clear()));
-        // Queued: what the answer chooses is not yet taken over by this Return.
-        connect(edit, SIGNAL(returnPressed()), this, SIGNAL(entered()), Qt::QueuedConnection);
         if (!rows.isEmpty() || column > 0)
             setTabOrder(column > 0 ? row.last() : rows.last().last(), edit);
         row.append(edit);
@@ -189,12 +187,17 @@ void PlaceTable::clear() {
 }
 
 bool PlaceTable::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Paste)) {
-        for (int row = 0; row < rows.size(); ++row) {
-            const int column = rows[row].indexOf(static_cast<FieldEdit*>(watched));
-            if (column >= 0)
-                return paste(QApplication::clipboard()->text(), row, column);
-        }
+    if (event->type() != QEvent::KeyPress)
+        return QScrollArea::eventFilter(watched, event);
+    const auto* const key = static_cast<QKeyEvent*>(event);
+    if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+        Q_EMIT entered(); // and no button of the dialog is pressed
+        return true;
+    }
+    for (int row = 0; key->matches(QKeySequence::Paste) && row < rows.size(); ++row) {
+        const int column = rows[row].indexOf(static_cast<FieldEdit*>(watched));
+        if (column >= 0)
+            return paste(QApplication::clipboard()->text(), row, column);
     }
     return QScrollArea::eventFilter(watched, event);
 }
