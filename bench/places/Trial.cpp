@@ -72,7 +72,7 @@ void Trial::run(SystemSearch& search, const QByteArray& code, double ownUnit,
     first += at == 0 ? 1 : 0;
     amongThree += at < shown ? 1 : 0;
     itself += own < shown ? 1 : 0;
-    if (!isAmongThree)
+    if (!isAmongThree || (at >= shown && way.placeOff == 0.0))
         missed.append(code + " (" + (at < found.size() ? QByteArray::number(different + 1) : QByteArray("missing")) +
                       ')');
 }
@@ -89,12 +89,12 @@ bool Trial::isSame(const FoundSystem& found, const QByteArray& code, const QVect
 }
 
 void Trial::printHead() {
-    std::printf("%-50s %7s | %9s %11s | %11s\n", "", "", "first row", "three rows", "three rows");
-    std::printf("%-50s %7s | %9s %11s | %11s %15s\n", "", "systems", "", "", "itself", "three places");
+    std::printf("%-49s %7s %9s %10s %13s %18s\n", "the system, or one with the same coordinates, in", "systems",
+                "row 1", "rows 1-3", "(it itself)", "first 3 distances");
 }
 
 void Trial::print(bool verbose) const {
-    std::printf("%-50s %7d | %9d %11d | %11d %15d\n", way.title, count, first, amongThree, itself, distinct);
+    std::printf("%-49s %7d %9d %10d %13d %18d\n", way.title, count, first, amongThree, itself, distinct);
     if (verbose && !missed.isEmpty())
         std::printf("    %s\n", missed.join(' ').constData());
 }

@@ -29,9 +29,9 @@ public:
 
     void print(bool verbose) const;
 
-    /// Whether the system, or one that gives the same coordinates to the millimetre, was always among the first three,
-    /// those that come out the same counted once.
-    bool isComplete() const { return missed.isEmpty(); }
+    /// Whether the system, or one that gives the same coordinates to the millimetre, was always in the first three
+    /// rows.
+    bool isComplete() const { return amongThree == count; }
 
     static void printHead();
 

@@ -82,9 +82,9 @@ public:
     /// all 5,500 0.6 s), and kept as long as the registry. Empty for an unknown code.
     virtual const RegistryDefinition& definition(const QByteArray& code) = 0;
 
-    /// The system `code` as createSystem() takes it to compute with, where no method holds it and definition() has none:
-    /// as PROJ says it, in metres, the coordinates in the order and directions of PROJ's +axis. Empty where PROJ can't
-    /// say it.
+    /// The system `code` as createSystem() takes it to compute with, where no method holds it and definition() has
+    /// none: as PROJ says it, in metres, an axis that points west or south included (+axis). Empty where PROJ can't say
+    /// it.
     virtual QByteArray withheldDefinition(const QByteArray& code) = 0;
 
     /// The unit of the system's axes as EPSG names it ("metre", "US survey foot"); empty for an unknown code.

@@ -92,6 +92,23 @@ bool isNorthingFirst(const ProjectedWkt& statement) {
     return isEastOfSecond != isAtSouthPole;
 }
 
+/// "+axis=wsu " where an axis points west or south, which PROJ's own text does not always say; the one that points east
+/// or west comes first. Empty for any others.
+QByteArray turnedAxes(PJ_CONTEXT* context, const PJ* crs) {
+    const ProjObject axes(proj_crs_get_coordinate_system(context, crs));
+    QByteArray letters;
+    for (int i = 0; axes && i < 2; ++i) {
+        const char* direction = nullptr;
+        proj_cs_get_axis_info(context, axes.get(), i, nullptr, nullptr, &direction, nullptr, nullptr, nullptr, nullptr);
+        letters += QByteArray(direction).left(1);
+    }
+    for (const char* const turned : {"ws", "wn", "es"}) {
+        if (letters.contains(turned[0]) && letters.contains(turned[1]))
+            return QByteArray("+axis=") + turned + "u ";
+    }
+    return {};
+}
+
 /// The seven numbers of `shift` joined by ",", each with all its digits.
 QByteArray towgs84(const RegistryShift& shift) {
     QByteArrayList texts;
@@ -259,17 +276,17 @@ QByteArray EpsgRegistry::withheldDefinition(const QByteArray& code) {
     if (!ellipsoid || proj_ellipsoid_get_parameters(context.get(), ellipsoid.get(), &a, &b, nullptr, nullptr) == 0)
         return {};
     // Without its datum, which would bring a shift along, and its unit; lengths are in metres in any case.
-    const QByteArrayList dropped{"datum", "ellps",    "a",       "b",        "rf",      "R",
-                                 "units", "to_meter", "towgs84", "nadgrids", "no_defs", "type"};
+    const QByteArrayList dropped{"datum",    "ellps",   "a",        "b",       "rf",   "R",   "units",
+                                 "to_meter", "towgs84", "nadgrids", "no_defs", "type", "axis"};
     const ProjItems items(proj_as_proj_string(context.get(), crs.get(), PJ_PROJ_4, nullptr));
     QByteArray definition;
     for (const ProjItems::Item& item : items.all()) {
         if (!dropped.contains(item.key))
             definition += '+' + item.key + (item.value.isEmpty() ? QByteArray() : '=' + item.value) + ' ';
     }
-    return definition.startsWith("+proj=")
-               ? definition + "+a=" + projNumber(a) + " +b=" + projNumber(b) + " +units=m +no_defs"
-               : QByteArray();
+    return definition.startsWith("+proj=") ? definition + turnedAxes(context.get(), crs.get()) + "+a=" + projNumber(a) +
+                                                 " +b=" + projNumber(b) + " +units=m +no_defs"
+                                           : QByteArray();
 }
 
 QByteArray EpsgRegistry::unitName(const QByteArray& code) {

@@ -117,10 +117,11 @@ private Q_SLOTS:
     void withheld_data() {
         const Rows<QByteArray, QByteArray> row({"code", "definition"});
         row("another method", "3035",
-            "+proj=laea +lat_0=52 +lon_0=10 +x_0=4321000 +y_0=3210000 +a=6378137 +b=6356752.314140356 +units=m +no_defs");
+            "+proj=laea +lat_0=52 +lon_0=10 +x_0=4321000 +y_0=3210000 +a=6378137 +b=6356752.314140356 +units=m "
+            "+no_defs");
         row("to the south and west, from Ferro", "2065",
-            "+proj=krovak +axis=swu +lat_0=49.5 +lon_0=42.5 +alpha=30.2881397527778 +k=0.9999 +x_0=0 +y_0=0 "
-            "+pm=ferro +a=6377397.155 +b=6356078.962818189 +units=m +no_defs");
+            "+proj=krovak +lat_0=49.5 +lon_0=42.5 +alpha=30.2881397527778 +k=0.9999 +x_0=0 +y_0=0 "
+            "+pm=ferro +axis=wsu +a=6377397.155 +b=6356078.962818189 +units=m +no_defs");
         row("unknown code", "1", "");
     }
     void withheld() {
