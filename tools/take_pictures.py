@@ -74,7 +74,15 @@ class Photographer:
         dialog = self.tool.dialog("From registry")
         type_text("british national grid")
         dialog.find("table cell", "27700").click()
-        self.take("from-registry")
+        self.take_window("From registry", "from-registry")
+        dialog.find("page tab", "From coordinates").click()
+        for field, text in (("Latitude", "40.0"), ("Longitude", "-83"), ("First coordinate", "728350"),
+                            ("Second coordinate", "1827200")):
+            dialog.find("text", field + " of point 1").fill(text)
+        wait_for(lambda: dialog.find("table cell", "3735"), "the systems")
+        press("Return")
+        self.take_window("From registry", "from-coordinates")
+        dialog.find("page tab", "By name or code").click()
         dialog.find("push button", "Take over").click()
         self.tool.gone("From registry")
         self.tool.tab("Datum shift")
@@ -98,6 +106,7 @@ class Photographer:
         self.tool.gone("Shift from points")
 
     def commands(self):
+        self.tool.scroll_to(COUNTRY)
         self.tool.menu_at(self.tool.item(COUNTRY))
         self.take("menu")
         self.desktop.menu().find("menu item", "AddCoordSys").click()

@@ -30,8 +30,8 @@ public:
     SystemSearch(IProjectionModule& module, ICoordSystem* catalogue) : module(module), catalogue(catalogue) {}
 
     /// Begins a search and forgets the one before. Of the registry those systems are tried whose area covers all the
-    /// places, give or take 50 km; deprecated ones only with `deprecatedToo`.
-    void start(const QVector<KnownCoordinates>& places, bool deprecatedToo);
+    /// known places, give or take 50 km; deprecated ones only with `deprecatedToo`.
+    void start(const QVector<KnownCoordinates>& known, bool deprecatedToo);
 
     /// Works on for about that time. False when all is done.
     bool work(int milliseconds);

@@ -19,7 +19,7 @@ public:
     FoundSystemsModel(IEpsgRegistry& registry, const RegistryModel& reasons, QObject* parent = nullptr)
         : QAbstractTableModel(parent), registry(registry), reasons(reasons) {}
 
-    void setSystems(const QVector<FoundSystem>& systems);
+    void setSystems(const QVector<FoundSystem>& found);
 
     const FoundSystem& system(int row) const { return systems[row]; }
 
