@@ -14,6 +14,7 @@
 #include "panel/record/PanelText.h"
 #include "panel/record/RecordDifferences.h"
 #include "panel/record/RecordWkt.h"
+#include "panel/record/SystemFileName.h"
 #include "panel/registry/RegistryDialog.h"
 #include "platform/desktop/VornMessageBox.h"
 #include "platform/projection/IProjectionModule.h"
@@ -25,7 +26,6 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QVBoxLayout>
 
 namespace {
@@ -38,13 +38,6 @@ QPlainTextEdit* newText(const QString& name) {
     text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     text->setAccessibleName(name);
     return text;
-}
-
-/// The system's name as a file name that every desktop takes.
-QString fileName(const IDictionary& record) {
-    QString name = QString::fromLocal8Bit(record.getValue(CoordParamKey::name)).simplified();
-    name.replace(QRegularExpression("[\\x00-\\x1f<>:\"/\\\\|?*]"), "_");
-    return name + ".prj";
 }
 
 } // namespace
@@ -188,7 +181,7 @@ void DefinitionTab::_onSave() {
     QFileDialog dialog(this, PanelText::tr("Save as .prj"), QString(), "*.prj");
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix("prj");
-    dialog.selectFile(fileName(record()));
+    dialog.selectFile(SystemFileName::of(record(), "prj"));
     if (dialog.exec() != QDialog::Accepted)
         return;
     QString error;

@@ -81,7 +81,7 @@ void PlaceSearch::buildResults(QVBoxLayout* layout) {
     header->resizeSection(FoundSystemsModel::Distance, 10 * digit);
     header->resizeSection(FoundSystemsModel::Spread, 10 * digit);
     header->resizeSection(FoundSystemsModel::Code, 6 * digit + 16);
-    header->resizeSection(FoundSystemsModel::Name, 42 * digit);
+    header->resizeSection(FoundSystemsModel::Name, 36 * digit);
     summaryLabel = new QLabel;
     summaryLabel->setWordWrap(true);
     layout->addWidget(table, 1);

@@ -42,7 +42,7 @@ RegistryDialog::RegistryDialog(IProjectionModule& module, ICoordSystem* catalogu
     pages->addTab(placeSearch, PanelText::tr("From coordinates"));
     layout->addWidget(pages, 1);
     buildDetails(layout);
-    resize(780, 590);
+    resize(800, 640);
     for (QWidget* page : {static_cast<QWidget*>(nameSearch), static_cast<QWidget*>(placeSearch)}) {
         connect(page, SIGNAL(selectionChanged()), this, SLOT(_onSelectionChanged()));
         connect(page, SIGNAL(activated()), this, SLOT(_onActivated()));
