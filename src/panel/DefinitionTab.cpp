@@ -12,9 +12,10 @@
 #include "panel/record/CoordParamEditor.h"
 #include "panel/record/DefinitionState.h"
 #include "panel/record/PanelText.h"
-#include "panel/record/RecordDifferences.h"
 #include "panel/record/RecordWkt.h"
 #include "panel/registry/RegistryDialog.h"
+#include "panel/save/FileNames.h"
+#include "panel/save/SaveGroupDialog.h"
 #include "platform/desktop/VornMessageBox.h"
 #include "platform/projection/IProjectionModule.h"
 
@@ -25,7 +26,6 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QVBoxLayout>
 
 namespace {
@@ -40,17 +40,10 @@ QPlainTextEdit* newText(const QString& name) {
     return text;
 }
 
-/// The system's name as a file name that every desktop takes.
-QString fileName(const IDictionary& record) {
-    QString name = QString::fromLocal8Bit(record.getValue(CoordParamKey::name)).simplified();
-    name.replace(QRegularExpression("[\\x00-\\x1f<>:\"/\\\\|?*]"), "_");
-    return name + ".prj";
-}
-
 } // namespace
 
-DefinitionTab::DefinitionTab(CoordParamEditor& editor, bool readOnly, QWidget* parent)
-    : ParamTab(editor, readOnly, parent) {
+DefinitionTab::DefinitionTab(ICoordSystem* catalogue, CoordParamEditor& editor, bool readOnly, QWidget* parent)
+    : ParamTab(editor, readOnly, parent), catalogue(catalogue) {
 }
 
 QString DefinitionTab::title() const {
@@ -71,6 +64,7 @@ void DefinitionTab::build() {
     dialectBox->setCurrentIndex(dialectBox->findData(int(WktDialect::Wkt1Esri)));
     copyWktButton = new CopyButton(PanelText::tr("Copy"));
     saveButton = new QPushButton(PanelText::tr("Save as .prj"));
+    saveGroupButton = new QPushButton(PanelText::tr("Save group as .prj..."));
     wktText = newText(PanelText::tr("WKT"));
     wktText->setLineWrapMode(QPlainTextEdit::NoWrap);
     remarkLine = new MessageLine;
@@ -84,6 +78,7 @@ void DefinitionTab::build() {
     wktRow->addStretch();
     wktRow->addWidget(copyWktButton);
     wktRow->addWidget(saveButton);
+    wktRow->addWidget(saveGroupButton);
     content = new QWidget;
     auto* texts = new QVBoxLayout(content);
     texts->setContentsMargins(0, 0, 0, 0);
@@ -102,6 +97,7 @@ void DefinitionTab::build() {
     connect(copyDefinitionButton, SIGNAL(clicked()), this, SLOT(_onCopyDefinition()));
     connect(copyWktButton, SIGNAL(clicked()), this, SLOT(_onCopyWkt()));
     connect(saveButton, SIGNAL(clicked()), this, SLOT(_onSave()));
+    connect(saveGroupButton, SIGNAL(clicked()), this, SLOT(_onSaveGroup()));
     connect(registryButton, SIGNAL(clicked()), this, SLOT(_onFromRegistry()));
 }
 
@@ -137,7 +133,9 @@ void DefinitionTab::showRecord() {
     definition = state.definition;
     problemLine->setMessage(state.problem, MessageLine::Tone::Error);
     problemLine->setVisible(!state.problem.isEmpty());
-    content->setEnabled(!definition.isEmpty());
+    // Other systems of the group can be saved whatever this one lacks.
+    for (QWidget* each : content->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        each->setEnabled(each == saveGroupButton ? catalogue != nullptr : !definition.isEmpty());
     definitionText->setPlainText(QString::fromUtf8(definition));
     showWkt();
 }
@@ -159,17 +157,7 @@ void DefinitionTab::showWkt() {
 QString DefinitionTab::remark(const QByteArray& text) const {
     if (text.isEmpty())
         return PanelText::tr("This form can't express the system.");
-    const DictionaryGuard imported;
-    if (!WktToCoordParam::write(text, imported.get()))
-        return PanelText::tr("This form can't be imported again.");
-    const QStringList lost = recordDifferences(record(), *imported);
-    if (!lost.isEmpty())
-        return PanelText::tr("Does not come back with an import of this form: %1.").arg(lost.join(", "));
-    // GDAL and PROJ read the method with false easting and northing at the projection centre.
-    if (dictionary_number(record(), CoordParamKey::projectType, 0.0) ==
-        double(ProjectionMethod::ObliqueMercatorTwoPoints))
-        return PanelText::tr("Other software may count easting and northing from the natural origin.");
-    return QString();
+    return wktRemark(record(), text);
 }
 
 void DefinitionTab::_onDialectChosen() {
@@ -188,13 +176,17 @@ void DefinitionTab::_onSave() {
     QFileDialog dialog(this, PanelText::tr("Save as .prj"), QString(), "*.prj");
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix("prj");
-    dialog.selectFile(fileName(record()));
+    dialog.selectFile(FileNames(".prj").add(QString::fromLocal8Bit(record().getValue(CoordParamKey::name))));
     if (dialog.exec() != QDialog::Accepted)
         return;
     QString error;
     if (!process_replace_file(dialog.selectedFiles().first(), wkt(false), &error))
         VornMessageBox::information_ok(this, PanelText::tr("Warning"),
                                        PanelText::tr("The file can't be written: %1").arg(error));
+}
+
+void DefinitionTab::_onSaveGroup() {
+    SaveGroupDialog(*catalogue, record(), *dialectBox, this).exec();
 }
 
 void DefinitionTab::_onFromRegistry() {

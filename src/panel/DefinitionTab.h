@@ -5,6 +5,7 @@
 enum class WktDialect;
 class ChoiceBox;
 class CopyButton;
+class ICoordSystem;
 class MessageLine;
 class QPlainTextEdit;
 class QGridLayout;
@@ -19,7 +20,8 @@ class DefinitionTab : public ParamTab {
     Q_OBJECT
 
 public:
-    DefinitionTab(CoordParamEditor& editor, bool readOnly, QWidget* parent);
+    /// `catalogue`, which groups are saved from, outlives the tab.
+    DefinitionTab(ICoordSystem* catalogue, CoordParamEditor& editor, bool readOnly, QWidget* parent);
 
     QString title() const override;
 
@@ -31,6 +33,7 @@ private Q_SLOTS:
     void _onCopyDefinition();
     void _onCopyWkt();
     void _onSave();
+    void _onSaveGroup();
     void _onFromRegistry();
     void _onNoteEdited();
 
@@ -41,6 +44,7 @@ private:
     void showWkt();
     QString remark(const QByteArray& text) const;
 
+    ICoordSystem* catalogue;
     QByteArray definition; ///< of the record; empty when it defines no projection
     MessageLine* problemLine = nullptr;
     QWidget* content = nullptr;
@@ -50,6 +54,7 @@ private:
     QPlainTextEdit* wktText = nullptr;
     MessageLine* remarkLine = nullptr;
     QPushButton* saveButton = nullptr;
+    QPushButton* saveGroupButton = nullptr;
     CopyButton* copyWktButton = nullptr;
     TextField* source = nullptr;
     TextField* note = nullptr;
