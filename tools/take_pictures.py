@@ -68,6 +68,17 @@ class Photographer:
         panel.find("page tab", "Distortion").click()
         self.take("check-distortion")
 
+    def group(self):
+        self.tool.tab("Definition").find("push button", "Save group...").click()
+        self.tool.dialog("Save group as .prj")
+        folder = os.path.join(self.tool.home, "For the GIS")
+        os.makedirs(folder)
+        type_text(folder + "\n")
+        wait_for(lambda: self.tool.dialog("Save group as .prj").all("push button", "Close"), "the summary", 300)
+        self.take_window("Save group..."save-group")
+        press("Escape")
+        self.tool.gone("Save group as .prj")
+
     def registry(self):
         self.tool.tab("Definition")
         self.tool.main.find("push button", "From registry...").click()
@@ -147,7 +158,7 @@ def main():
             installed = tool.Tool(desktop, home, build)
             installed.start()
             photographer = Photographer(desktop, installed)
-            for step in (photographer.window, photographer.tabs, photographer.registry, photographer.shift,
+            for step in (photographer.window, photographer.tabs, photographer.group, photographer.registry, photographer.shift,
                          photographer.commands, photographer.dialogs):
                 step()
             installed.close()

@@ -64,7 +64,7 @@ void DefinitionTab::build() {
     dialectBox->setCurrentIndex(dialectBox->findData(int(WktDialect::Wkt1Esri)));
     copyWktButton = new CopyButton(PanelText::tr("Copy"));
     saveButton = new QPushButton(PanelText::tr("Save as .prj"));
-    saveGroupButton = new QPushButton(PanelText::tr("Save group as .prj..."));
+    saveGroupButton = new QPushButton(PanelText::tr("Save group..."));
     wktText = newText(PanelText::tr("WKT"));
     wktText->setLineWrapMode(QPlainTextEdit::NoWrap);
     remarkLine = new MessageLine;

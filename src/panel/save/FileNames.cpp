@@ -59,13 +59,16 @@ QString FileNames::add(const QString& name) {
     if (stem.isEmpty()) // one letter under a heap of accents
         stem = '_';
     const QString key = compared(stem);
-    QString unique = stem;
-    int number = numbers.value(key, 2);
-    while (taken.contains(compared(unique))) {
-        const QString tail = QStringLiteral(" (%1)").arg(number++);
-        unique = shortened(stem, room - tail.size()) + tail;
+    if (!taken.contains(key)) {
+        taken.insert(key);
+        return stem + suffix;
     }
-    numbers.insert(key, number);
+    QString unique;
+    int& number = numbers.insert(key, numbers.value(key, 1)).value();
+    do {
+        const QString tail = QStringLiteral(" (%1)").arg(++number);
+        unique = shortened(stem, room - tail.size()) + tail;
+    } while (taken.contains(compared(unique)));
     taken.insert(compared(unique));
     return unique + suffix;
 }

@@ -19,5 +19,5 @@ public:
 private:
     QString suffix;
     QSet<QString> taken;
-    QHash<QString, int> numbers; ///< by what a name is compared by: the next one to try
+    QHash<QString, int> numbers; ///< the last one tried, by what names are compared by
 };

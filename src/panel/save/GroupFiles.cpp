@@ -8,7 +8,6 @@
 #include "panel/record/DefinitionState.h"
 #include "panel/record/PanelText.h"
 #include "panel/record/RecordWkt.h"
-#include "panel/save/FileNames.h"
 #include "platform/projection/WktDialect.h"
 
 #include <QDir>
@@ -18,6 +17,8 @@
 #include <algorithm>
 
 namespace {
+
+const QString suffix = QStringLiteral(".prj");
 
 QStringList listed(const char* names) {
     return QString::fromLocal8Bit(names).split(',', Qt::SkipEmptyParts);
@@ -53,7 +54,8 @@ GroupFiles::GroupFiles(ICoordSystem& catalogue, const IDictionary& shown, QObjec
     , shown(shown)
     , shownName(QString::fromLocal8Bit(shown.getValue(CoordParamKey::name)))
     , groupNames(listed(catalogue.getGroupNames()))
-    , dialect(WktDialect::Wkt1Esri) {
+    , dialect(WktDialect::Wkt1Esri)
+    , names(suffix) {
     // Several groups may have a system of that name; the shown one is the most like the record.
     int fewest = -1;
     for (const QString& name : qAsConst(groupNames)) {
@@ -71,16 +73,25 @@ GroupFiles::GroupFiles(ICoordSystem& catalogue, const IDictionary& shown, QObjec
 void GroupFiles::setGroup(const QString& name) {
     beginResetModel();
     group = name;
+    names = FileNames(suffix);
     rows.clear();
-    FileNames files(".prj");
+    next = 0;
     ICoordSysGroup* const systems = catalogue.getGroup(name.toLocal8Bit().constData());
-    for (const QString& system : systems ? listed(systems->getCoordSystemNames()) : QStringList()) {
-        Row row;
-        row.system = system;
-        row.file = files.add(system);
-        rows.append(row);
-    }
+    const QStringList systemNames = systems ? listed(systems->getCoordSystemNames()) : QStringList();
+    rows.resize(systemNames.size());
+    for (int i = 0; i < rows.size(); ++i)
+        rows[i].system = systemNames.at(i);
     endResetModel();
+}
+
+double GroupFiles::nameFiles() {
+    constexpr int atOnce = 100; // telling a view of each would take longer than the naming
+    const int first = next;
+    for (; next < rows.size() && next < first + atOnce; ++next)
+        rows[next].file = names.add(rows[next].system);
+    if (next > first)
+        Q_EMIT dataChanged(index(first, File), index(next - 1, File));
+    return done(next);
 }
 
 void GroupFiles::start(const QString& into, WktDialect as) {
@@ -212,12 +223,12 @@ QString GroupFiles::summary() const {
 }
 
 QString GroupFiles::report() const {
-    QStringList lines{summary()};
+    QString text = summary() + '\n';
     for (const Row& row : rows) {
         if (row.state != State::Saved)
-            lines += row.system + '\t' + row.file + '\t' + resultText(row);
+            text += row.system + '\t' + row.file + '\t' + resultText(row) + '\n';
     }
-    return lines.join('\n') + '\n';
+    return text;
 }
 
 int GroupFiles::rowCount(const QModelIndex& parent) const {

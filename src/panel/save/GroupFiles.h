@@ -1,5 +1,7 @@
 #pragma once
 
+#include "panel/save/FileNames.h"
+
 #include <QAbstractTableModel>
 #include <QStringList>
 #include <QVector>
@@ -11,6 +13,7 @@ enum class WktDialect;
 /// The systems of a group as the files that they are saved in, one each: system, file name, and what became of it.
 ///
 /// Saving takes one system at a time, so that a window can go on between them:
+///     setGroup(); while (nameFiles() < 1) ...;
 ///     start(); while (look() < 1) ...; a question when existing() is not 0; while (save(overwriting) < 1) ...; end();
 class GroupFiles : public QAbstractTableModel {
     Q_OBJECT
@@ -27,10 +30,13 @@ public:
 
     void setGroup(const QString& name);
 
+    /// Names the next systems' files; how much of all is done then, 1 at the end.
+    double nameFiles();
+
     /// Forgets what became of the systems.
     void start(const QString& folder, WktDialect dialect);
 
-    /// Looks whether the next system's file is there; how much of all is done then, 1 at the end.
+    /// Looks whether the next system's file is there; how much of all is done then.
     double look();
 
     /// How many of the files were there.
@@ -83,6 +89,7 @@ private:
     QString group;
     QString folder;
     WktDialect dialect;
+    FileNames names;
     QVector<Row> rows;
-    int next = 0; ///< row to look at or to save
+    int next = 0; ///< row to name, to look at or to save
 };

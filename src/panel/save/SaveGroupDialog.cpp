@@ -128,7 +128,6 @@ void SaveGroupDialog::buildButtons(QBoxLayout* layout) {
         row->addWidget(button);
     for (QPushButton* button : {static_cast<QPushButton*>(copyButton), overwriteButton, keepButton, closeButton})
         button->setAutoDefault(false);
-    saveButton->setDefault(true);
     layout->addLayout(row);
     connect(copyButton, SIGNAL(clicked()), this, SLOT(_onCopy()));
     connect(saveButton, SIGNAL(clicked()), this, SLOT(_onSave()));
@@ -140,7 +139,7 @@ void SaveGroupDialog::buildButtons(QBoxLayout* layout) {
 void SaveGroupDialog::go(Step to) {
     step = to;
     timer.stop();
-    if (step == Step::Looking || step == Step::Saving)
+    if (step == Step::Naming || step == Step::Looking || step == Step::Saving)
         timer.start(0);
     showState();
     if (step == Step::Saving)
@@ -152,15 +151,16 @@ void SaveGroupDialog::go(Step to) {
 }
 
 void SaveGroupDialog::showState() {
-    const bool isChoosing = step == Step::Choosing || step == Step::Done;
+    const bool isChoosing = step == Step::Naming || step == Step::Choosing || step == Step::Done;
     const bool isWorking = step == Step::Looking || step == Step::Saving;
     const int count = files->rowCount();
     const bool isRight = isFolder(folderEdit->text());
     const bool isWrong = !isRight && !folderEdit->text().isEmpty();
     const int there = step == Step::Asking ? files->existing() : 0;
-    messageLine->setMessage(step == Step::Asking ? PanelText::tr("There already: %1 of %2 files.").arg(there).arg(count)
-                            : isWrong            ? PanelText::tr("There is no such folder.")
-                                                 : PanelText::tr("Systems: %1").arg(count),
+    messageLine->setMessage(step == Step::Asking
+                                ? PanelText::tr("There already: %1 of %2 files. Overwrite them?").arg(there).arg(count)
+                            : isWrong ? PanelText::tr("There is no such folder.")
+                                      : PanelText::tr("Systems: %1").arg(count),
                             step == Step::Asking ? MessageLine::Tone::Warning
                             : isWrong            ? MessageLine::Tone::Error
                                                  : MessageLine::Tone::Hint);
@@ -169,9 +169,10 @@ void SaveGroupDialog::showState() {
     summaryText->setVisible(step == Step::Done);
     copyButton->setVisible(step == Step::Done);
     saveButton->setVisible(isChoosing || isWorking);
-    saveButton->setEnabled(isChoosing && isRight && count > 0);
+    saveButton->setEnabled(isChoosing && step != Step::Naming && isRight && count > 0);
     overwriteButton->setVisible(step == Step::Asking);
     keepButton->setVisible(step == Step::Asking);
+    (step == Step::Done ? closeButton : saveButton)->setDefault(true);
     closeButton->setText(step == Step::Done ? PanelText::tr("Close") : PanelText::tr("Cancel"));
 }
 
@@ -180,9 +181,7 @@ void SaveGroupDialog::reject() {
         _onGroupChosen();
         folderEdit->setFocus();
     } else if (step == Step::Saving) {
-        files->end();
-        summaryText->setPlainText(files->summary());
-        go(Step::Done);
+        goOn();
     } else {
         Dialog::reject();
     }
@@ -190,7 +189,7 @@ void SaveGroupDialog::reject() {
 
 void SaveGroupDialog::_onGroupChosen() {
     files->setGroup(groupBox->currentText());
-    go(Step::Choosing);
+    go(Step::Naming);
 }
 
 void SaveGroupDialog::_onFolderEdited() {
@@ -227,16 +226,25 @@ void SaveGroupDialog::_onCopy() {
     copyButton->copy(files->report());
 }
 
+double SaveGroupDialog::doPiece() {
+    return step == Step::Naming ? files->nameFiles() : step == Step::Looking ? files->look() : files->save(overwriting);
+}
+
 void SaveGroupDialog::_onTimeout() {
     QElapsedTimer time;
     time.start();
     double part = 0.0;
     while (part < 1.0 && time.elapsed() < slice)
-        part = step == Step::Looking ? files->look() : files->save(overwriting);
+        part = doPiece();
     progressBar->setValue(int(part * wholeBar));
-    if (part < 1.0)
-        return;
-    if (step == Step::Saving) {
+    if (part >= 1.0)
+        goOn();
+}
+
+void SaveGroupDialog::goOn() {
+    if (step == Step::Naming) {
+        go(Step::Choosing);
+    } else if (step == Step::Saving) {
         files->end();
         summaryText->setPlainText(files->summary());
         go(Step::Done);

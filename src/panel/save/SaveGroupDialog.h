@@ -44,19 +44,21 @@ private Q_SLOTS:
     void _onTimeout();
 
 private:
-    enum class Step { Choosing, Looking, Asking, Saving, Done };
+    enum class Step { Naming, Choosing, Looking, Asking, Saving, Done };
 
     void buildChoices(QBoxLayout* layout, const QComboBox& dialects);
     void buildTable(QBoxLayout* layout);
     void buildButtons(QBoxLayout* layout);
     void startSaving(bool overwrite);
+    double doPiece();
+    void goOn();
     void go(Step to);
     void showState();
 
     GroupFiles* files;
-    Step step = Step::Choosing;
+    Step step = Step::Naming;
     bool overwriting = false;
-    QTimer timer; ///< runs while Looking or Saving
+    QTimer timer; ///< runs while Naming, Looking or Saving
     QWidget* choices;
     ChoiceBox* groupBox;
     QLineEdit* folderEdit;
