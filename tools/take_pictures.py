@@ -70,12 +70,13 @@ class Photographer:
 
     def group(self):
         self.tool.tab("Definition").find("push button", "Save group...").click()
-        self.tool.dialog("Save group as .prj")
+        dialog = self.tool.dialog("Save group as .prj")
         folder = os.path.join(self.tool.home, "For the GIS")
         os.makedirs(folder)
-        type_text(folder + "\n")
-        wait_for(lambda: self.tool.dialog("Save group as .prj").all("push button", "Close"), "the summary", 300)
-        self.take_window("Save group..."save-group")
+        type_text(folder)
+        press("Return")
+        wait_for(lambda: dialog.all("push button", "Close"), "the summary")
+        self.take_window("Save group as .prj", "save-group")
         press("Escape")
         self.tool.gone("Save group as .prj")
 
@@ -158,8 +159,8 @@ def main():
             installed = tool.Tool(desktop, home, build)
             installed.start()
             photographer = Photographer(desktop, installed)
-            for step in (photographer.window, photographer.tabs, photographer.group, photographer.registry, photographer.shift,
-                         photographer.commands, photographer.dialogs):
+            for step in (photographer.window, photographer.tabs, photographer.group, photographer.registry,
+                         photographer.shift, photographer.commands, photographer.dialogs):
                 step()
             installed.close()
         finally:

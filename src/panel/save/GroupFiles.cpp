@@ -94,10 +94,10 @@ double GroupFiles::nameFiles() {
     return done(next);
 }
 
-void GroupFiles::start(const QString& into, WktDialect as) {
+void GroupFiles::start(const QString& intoFolder, WktDialect inDialect) {
     beginResetModel();
-    folder = into;
-    dialect = as;
+    folder = intoFolder;
+    dialect = inDialect;
     next = 0;
     for (Row& row : rows) {
         row.remark.clear();

@@ -34,7 +34,7 @@ public:
     double nameFiles();
 
     /// Forgets what became of the systems.
-    void start(const QString& folder, WktDialect dialect);
+    void start(const QString& intoFolder, WktDialect inDialect);
 
     /// Looks whether the next system's file is there; how much of all is done then.
     double look();
