@@ -13,12 +13,14 @@
 #include "panel/record/DefinitionState.h"
 #include "panel/record/PanelText.h"
 #include "panel/record/RecordWkt.h"
+#include "panel/record/SystemFileName.h"
+#include "panel/registry/IdentityLine.h"
 #include "panel/registry/RegistryDialog.h"
-#include "panel/save/FileNames.h"
 #include "panel/save/SaveGroupDialog.h"
 #include "platform/desktop/VornMessageBox.h"
 #include "platform/projection/IProjectionModule.h"
 
+#include <QCheckBox>
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QGridLayout>
@@ -52,6 +54,7 @@ QString DefinitionTab::title() const {
 
 void DefinitionTab::build() {
     problemLine = new MessageLine;
+    identityLine = new IdentityLine;
     definitionText = newText(PanelText::tr("PROJ definition"));
     definitionText->setFixedHeight(definitionText->fontMetrics().lineSpacing() * 5 + 12);
     copyDefinitionButton = new CopyButton(PanelText::tr("Copy"));
@@ -62,11 +65,13 @@ void DefinitionTab::build() {
     dialectBox->addItem(PanelText::tr("WKT 2:2019"), int(WktDialect::Wkt2_2019));
     // What most programs expect in a .prj file.
     dialectBox->setCurrentIndex(dialectBox->findData(int(WktDialect::Wkt1Esri)));
+    identifierBox = new QCheckBox(PanelText::tr("With identifier"));
     copyWktButton = new CopyButton(PanelText::tr("Copy"));
     saveButton = new QPushButton(PanelText::tr("Save as .prj"));
     saveGroupButton = new QPushButton(PanelText::tr("Save group..."));
     wktText = newText(PanelText::tr("WKT"));
     wktText->setLineWrapMode(QPlainTextEdit::NoWrap);
+    wktText->setMinimumHeight(wktText->fontMetrics().lineSpacing() * 2 + 12);
     remarkLine = new MessageLine;
 
     auto* definitionRow = new QHBoxLayout;
@@ -75,10 +80,13 @@ void DefinitionTab::build() {
     definitionRow->addWidget(copyDefinitionButton);
     auto* wktRow = new QHBoxLayout;
     wktRow->addWidget(dialectBox);
+    wktRow->addWidget(identifierBox);
     wktRow->addStretch();
     wktRow->addWidget(copyWktButton);
     wktRow->addWidget(saveButton);
-    wktRow->addWidget(saveGroupButton);
+    auto* remarkRow = new QHBoxLayout;
+    remarkRow->addWidget(remarkLine, 1);
+    remarkRow->addWidget(saveGroupButton);
     content = new QWidget;
     auto* texts = new QVBoxLayout(content);
     texts->setContentsMargins(0, 0, 0, 0);
@@ -86,14 +94,17 @@ void DefinitionTab::build() {
     texts->addWidget(definitionText);
     texts->addLayout(wktRow);
     texts->addWidget(wktText, 1);
-    texts->addWidget(remarkLine);
+    texts->addLayout(remarkRow);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(problemLine);
+    layout->addWidget(identityLine);
     layout->addWidget(content, 1);
     auto* notes = new QGridLayout;
     buildNotes(notes);
     layout->addLayout(notes);
     connect(dialectBox, SIGNAL(activated(int)), this, SLOT(_onDialectChosen()));
+    connect(identityLine, SIGNAL(identified()), this, SLOT(_onIdentified()));
+    connect(identifierBox, SIGNAL(toggled(bool)), this, SLOT(_onIdentifierToggled()));
     connect(copyDefinitionButton, SIGNAL(clicked()), this, SLOT(_onCopyDefinition()));
     connect(copyWktButton, SIGNAL(clicked()), this, SLOT(_onCopyWkt()));
     connect(saveButton, SIGNAL(clicked()), this, SLOT(_onSave()));
@@ -134,15 +145,25 @@ void DefinitionTab::showRecord() {
     problemLine->setMessage(state.problem, MessageLine::Tone::Error);
     problemLine->setVisible(!state.problem.isEmpty());
     // Other systems of the group can be saved whatever this one lacks.
-    for (QWidget* each : content->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
-        each->setEnabled(each == saveGroupButton ? catalogue != nullptr : !definition.isEmpty());
+    for (QWidget* each : content->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (each != identifierBox)
+            each->setEnabled(each == saveGroupButton ? catalogue != nullptr : !definition.isEmpty());
+    }
     definitionText->setPlainText(QString::fromUtf8(definition));
+    identityLine->identify(record(), definition);
+    identityLine->setVisible(!definition.isEmpty());
     showWkt();
 }
 
 QByteArray DefinitionTab::wkt(bool indented) const {
-    return definition.isEmpty() ? QByteArray()
-                                : recordWkt(record(), WktDialect(dialectBox->currentData().toInt()), indented);
+    return definition.isEmpty()
+               ? QByteArray()
+               : recordWkt(record(), WktDialect(dialectBox->currentData().toInt()), indented, identifier());
+}
+
+/// EPSG's code of the system that the user says it is; empty without one.
+QByteArray DefinitionTab::identifier() const {
+    return identifierBox->isChecked() ? identityLine->code() : QByteArray();
 }
 
 void DefinitionTab::showWkt() {
@@ -157,10 +178,25 @@ void DefinitionTab::showWkt() {
 QString DefinitionTab::remark(const QByteArray& text) const {
     if (text.isEmpty())
         return PanelText::tr("This form can't express the system.");
+    const QByteArray code = identifier();
+    if (!code.isEmpty() && !text.contains(code + ']') && !text.contains(code + "\"]"))
+        return PanelText::tr("This form can't carry the identifier.");
     return wktRemark(record(), text);
 }
 
 void DefinitionTab::_onDialectChosen() {
+    showWkt();
+}
+
+/// Whoever ticks the box says that it is this system, so it is for one record only.
+void DefinitionTab::_onIdentified() {
+    identifierBox->setToolTip(identityLine->codeRemark());
+    identifierBox->setEnabled(!identityLine->code().isEmpty());
+    if (!identifierBox->isEnabled())
+        identifierBox->setChecked(false);
+}
+
+void DefinitionTab::_onIdentifierToggled() {
     showWkt();
 }
 
@@ -176,7 +212,7 @@ void DefinitionTab::_onSave() {
     QFileDialog dialog(this, PanelText::tr("Save as .prj"), QString(), "*.prj");
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix("prj");
-    dialog.selectFile(FileNames(".prj").add(QString::fromLocal8Bit(record().getValue(CoordParamKey::name))));
+    dialog.selectFile(SystemFileName::of(record(), "prj"));
     if (dialog.exec() != QDialog::Accepted)
         return;
     QString error;
@@ -211,4 +247,5 @@ void DefinitionTab::_onFromRegistry() {
 
 void DefinitionTab::_onNoteEdited() {
     recordChanged();
+    identityLine->identify(record(), definition);
 }

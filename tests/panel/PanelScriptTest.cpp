@@ -1,5 +1,6 @@
 #include "import/WktToCoordParam.h"
 #include "panel/record/RecordDifferences.h"
+#include "panel/registry/IdentityLine.h"
 #include "support/Files.h"
 #include "support/MessageBoxDouble.h"
 #include "support/ModalDriver.h"
@@ -121,6 +122,11 @@ private Q_SLOTS:
         };
         screen.acts["add group"] = [&](const QString& name) { screen.catalogue.addTestGroup(name); };
         screen.sights["group to save"] = [&](const QString&) { return groupToSave(screen); };
+        const auto isSearching = [&] { // in the registry
+            return screen.panel.findChild<IdentityLine*>()->findChild<QTimer*>()->isActive();
+        };
+        screen.acts["search"] = [&](const QString&) { QTRY_VERIFY_WITH_TIMEOUT(!isSearching(), 60000); };
+        screen.sights["searching"] = [&](const QString&) { return isSearching() ? "yes" : "no"; };
         screen.sights["saved"] = [&](const QString&) { return saveDefinition(screen); };
         MessageBoxDouble::reset();
         screen.play();

@@ -226,7 +226,7 @@ QString GroupFiles::report() const {
     QString text = summary() + '\n';
     for (const Row& row : rows) {
         if (row.state != State::Saved)
-            text += row.system + '\t' + row.file + '\t' + resultText(row) + '\n';
+            text.append(row.system).append('\t').append(row.file).append('\t').append(resultText(row)).append('\n');
     }
     return text;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "panel/save/FileNames.h"
+#include "panel/record/FileNames.h"
 
 #include <QAbstractTableModel>
 #include <QStringList>

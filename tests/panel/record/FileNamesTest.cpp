@@ -1,4 +1,4 @@
-#include "panel/save/FileNames.h"
+#include "panel/record/FileNames.h"
 
 #include "support/TextTable.h"
 

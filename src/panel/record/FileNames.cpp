@@ -1,4 +1,4 @@
-#include "panel/save/FileNames.h"
+#include "panel/record/FileNames.h"
 
 #include <QRegularExpression>
 #include <QTextBoundaryFinder>
