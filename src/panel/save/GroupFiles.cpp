@@ -15,6 +15,7 @@
 #include <QMap>
 
 #include <algorithm>
+#include <chrono>
 
 namespace {
 
@@ -128,40 +129,62 @@ int GroupFiles::existing() const {
 }
 
 double GroupFiles::save(bool overwriting) {
-    if (next < rows.size()) {
-        save(rows[next], overwriting);
-        Q_EMIT dataChanged(index(next, Result), index(next, Result));
-        ++next;
-    }
-    return done(next);
+    if (next == rows.size() || !isDone(rows[next], overwriting))
+        return done(next);
+    Q_EMIT dataChanged(index(next, Result), index(next, Result));
+    return done(++next);
 }
 
 const IDictionary* GroupFiles::recordOf(const Row& row) const {
     return row.system == shownName && group == shownGroup ? &shown : recordIn(catalogue, group, row.system);
 }
 
-void GroupFiles::save(Row& row, bool overwriting) const {
+/// Whether that row is done: saved, or left out.
+bool GroupFiles::isDone(Row& row, bool overwriting) {
+    if (!writing.valid())
+        return !beginToWrite(row, overwriting);
+    if (writing.wait_for(std::chrono::milliseconds(5)) != std::future_status::ready)
+        return false;
+    endWriting(row);
+    return true;
+}
+
+/// Whether the row's file is being written; else the row says why it is left out.
+bool GroupFiles::beginToWrite(Row& row, bool overwriting) {
     const QString path = QDir(folder).filePath(row.file);
     row.state = State::LeftOut;
     if (isThere(path) && !(row.isThere && overwriting)) {
         row.remark = PanelText::tr("The file is there already.");
-        return;
+        return false;
     }
     const IDictionary* const record = recordOf(row);
     const DefinitionState state = record ? DefinitionState::of(*record) : DefinitionState();
     const QByteArray wkt = state.definition.isEmpty() ? QByteArray() : recordWkt(*record, dialect, false);
-    QString error;
-    if (!state.problem.isEmpty())
-        row.remark = state.problem;
-    else if (wkt.isEmpty())
-        row.remark = PanelText::tr("This form can't express the system.");
-    else if (!process_replace_file(path, wkt, &error))
-        row.remark = PanelText::tr("The file can't be written: %1").arg(error);
-    else {
-        row.remark = wktRemark(*record, wkt);
+    if (wkt.isEmpty()) {
+        row.remark = state.problem.isEmpty() ? PanelText::tr("This form can't express the system.") : state.problem;
+        addOlder(row);
+        return false;
+    }
+    row.remark = wktRemark(*record, wkt);
+    // A disk may take its time.
+    writing = std::async(std::launch::async, [path, wkt] {
+        QString error;
+        return process_replace_file(path, wkt, &error) ? QString() : error.isEmpty() ? path : error;
+    });
+    return true;
+}
+
+void GroupFiles::endWriting(Row& row) {
+    const QString error = writing.get();
+    if (error.isEmpty()) {
         row.state = row.remark.isEmpty() ? State::Saved : State::SavedInPart;
         return;
     }
+    row.remark = PanelText::tr("The file can't be written: %1").arg(error);
+    addOlder(row);
+}
+
+void GroupFiles::addOlder(Row& row) {
     if (row.isThere)
         row.remark += ' ' + PanelText::tr("The file there is an older one.");
 }
@@ -174,6 +197,8 @@ void GroupFiles::sortByResult() {
 }
 
 void GroupFiles::end() {
+    if (writing.valid())
+        endWriting(rows[next]);
     for (Row& row : rows) {
         if (row.state != State::Planned && row.state != State::There)
             continue;

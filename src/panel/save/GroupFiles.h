@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <future>
+
 class ICoordSystem;
 class IDictionary;
 enum class WktDialect;
@@ -42,14 +44,14 @@ public:
     /// How many of the files were there.
     int existing() const;
 
-    /// Saves the next system; how much of all is done then. No file is overwritten but those that were there when
-    /// look() looked, and these only with `overwriting`.
+    /// Saves the next system, or waits some milliseconds for its file to be written; how much of all is done then. No
+    /// file is overwritten but those that were there when look() looked, and these only with `overwriting`.
     double save(bool overwriting);
 
     /// The systems that were not saved, and those of which the form does not hold all, come first.
     void sortByResult();
 
-    /// Those that are still to be saved are left out.
+    /// Those that are still to be saved are left out, but for one whose file is being written.
     void end();
 
     /// How many were saved and how many left out, and why, in lines.
@@ -76,7 +78,10 @@ private:
     };
 
     const IDictionary* recordOf(const Row& row) const;
-    void save(Row& row, bool overwriting) const;
+    bool isDone(Row& row, bool overwriting);
+    bool beginToWrite(Row& row, bool overwriting);
+    void endWriting(Row& row);
+    static void addOlder(Row& row);
     static QString resultText(const Row& row);
     QStringList remarks(bool isSaved) const;
     double done(int row) const;
@@ -91,5 +96,6 @@ private:
     WktDialect dialect;
     FileNames names;
     QVector<Row> rows;
-    int next = 0; ///< row to name, to look at or to save
+    std::future<QString> writing; ///< the file of the row to save: gives the error, empty without one
+    int next = 0;                 ///< row to name, to look at or to save
 };
