@@ -12,7 +12,7 @@ class QPushButton;
 class TextField;
 
 /// The tab "Definition": the record as PROJ definition and as WKT, to copy and to save as a .prj file; where it is
-/// from, and the way to take another definition over from the registry.
+/// from, and the ways to take another definition over, from the registry or from a text.
 ///
 /// Nothing is built or computed before the tab is first shown.
 class DefinitionTab : public ParamTab {
@@ -32,11 +32,13 @@ private Q_SLOTS:
     void _onCopyWkt();
     void _onSave();
     void _onFromRegistry();
+    void _onFromText();
     void _onNoteEdited();
 
 private:
     void build();
     void buildNotes(QGridLayout* grid);
+    void takeOver(const IDictionary& values);
     QByteArray wkt(bool indented) const;
     void showWkt();
     QString remark(const QByteArray& text) const;
@@ -54,4 +56,5 @@ private:
     TextField* source = nullptr;
     TextField* note = nullptr;
     QPushButton* registryButton = nullptr;
+    QPushButton* textButton = nullptr;
 };
