@@ -170,7 +170,7 @@ private Q_SLOTS:
             QVERIFY2(names.size() < 40, way);
             if (tab == PanelOnScreen::Definition)
                 QCOMPARE(way, ", Copy, PROJ definition, WKT dialect, Copy, Save as .prj, WKT, Where from, From "
-                              "registry..., Remark");
+                              "registry..., Remark, From text...");
             else
                 QVERIFY2(names.contains("Latitude") && names.contains("Show angles in"), way);
         }
