@@ -14,6 +14,8 @@ public:
 
     /// Empty when PROJ can't write the system in this dialect.
     QByteArray wkt(PJ_WKT_TYPE dialect) const;
+    QByteArray projJson() const;
+    QByteArray projText() const;
 
     /// A place on the system's own datum, degrees from Greenwich, and where it lies on the grid in metres.
     struct Sample {
@@ -24,8 +26,9 @@ public:
     };
 
     /// Nine places over the area of use (where the registry has none, around the origin), projected by PROJ's own
-    /// operation from the system's base system. Places that PROJ can't project are left out; none is left when PROJ has
-    /// no operation for the system.
+    /// operation from the system's base system; of the two methods that PROJ does not compute (the Belgian turn, and a
+    /// polar false origin on the parallel), by the formulas of EPSG's guidance note 7-2. Places that PROJ can't project
+    /// are left out; none is left when PROJ has no operation for the system.
     QVector<Sample> samples() const;
 
     /// The same for these places, whose eastings and northings are not looked at.
@@ -45,6 +48,9 @@ private:
         double degreesPerUnit;
     };
     Base base(const PJ* geodetic) const;
+    double parameter(const char* name) const;
+    void turnBelgian(Sample& sample) const;
+    void projectPolarVariantC(Sample& sample) const;
 
     PJ_CONTEXT* context;
     ProjObject crs;

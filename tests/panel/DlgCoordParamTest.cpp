@@ -171,7 +171,7 @@ private Q_SLOTS:
             if (tab == PanelOnScreen::Definition)
                 QCOMPARE(way, ", In the registry, Copy, PROJ definition, WKT dialect, Copy, Save as .prj, WKT, Save "
                               "group..., Where from, From "
-                              "registry..., Remark");
+                              "registry..., Remark, From text...");
             else
                 QVERIFY2(names.contains("Latitude") && names.contains("Show angles in"), way);
         }
