@@ -219,8 +219,8 @@ def main():
             installed = tool.Tool(desktop, home, build)
             installed.start()
             photographer = Photographer(desktop, installed)
-            for step in (photographer.window, photographer.tabs, photographer.registry, photographer.coordinates, photographer.shift,
-                         photographer.commands, photographer.dialogs, photographer.points):
+            for step in (photographer.window, photographer.tabs, photographer.registry, photographer.coordinates,
+                         photographer.shift, photographer.commands, photographer.dialogs, photographer.points):
                 step()
             installed.close()
         finally:
