@@ -12,13 +12,15 @@
 #include "panel/record/CoordParamEditor.h"
 #include "panel/record/DefinitionState.h"
 #include "panel/record/PanelText.h"
-#include "panel/record/RecordDifferences.h"
 #include "panel/record/RecordWkt.h"
 #include "panel/record/SystemFileName.h"
+#include "panel/registry/IdentityLine.h"
 #include "panel/registry/RegistryDialog.h"
+#include "panel/save/SaveGroupDialog.h"
 #include "platform/desktop/VornMessageBox.h"
 #include "platform/projection/IProjectionModule.h"
 
+#include <QCheckBox>
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QGridLayout>
@@ -52,6 +54,7 @@ QString DefinitionTab::title() const {
 
 void DefinitionTab::build() {
     problemLine = new MessageLine;
+    identityLine = new IdentityLine;
     definitionText = newText(PanelText::tr("PROJ definition"));
     definitionText->setFixedHeight(definitionText->fontMetrics().lineSpacing() * 5 + 12);
     copyDefinitionButton = new CopyButton(PanelText::tr("Copy"));
@@ -62,10 +65,13 @@ void DefinitionTab::build() {
     dialectBox->addItem(PanelText::tr("WKT 2:2019"), int(WktDialect::Wkt2_2019));
     // What most programs expect in a .prj file.
     dialectBox->setCurrentIndex(dialectBox->findData(int(WktDialect::Wkt1Esri)));
+    identifierBox = new QCheckBox(PanelText::tr("With identifier"));
     copyWktButton = new CopyButton(PanelText::tr("Copy"));
     saveButton = new QPushButton(PanelText::tr("Save as .prj"));
+    saveGroupButton = new QPushButton(PanelText::tr("Save group..."));
     wktText = newText(PanelText::tr("WKT"));
     wktText->setLineWrapMode(QPlainTextEdit::NoWrap);
+    wktText->setMinimumHeight(wktText->fontMetrics().lineSpacing() * 2 + 12);
     remarkLine = new MessageLine;
 
     auto* definitionRow = new QHBoxLayout;
@@ -74,9 +80,13 @@ void DefinitionTab::build() {
     definitionRow->addWidget(copyDefinitionButton);
     auto* wktRow = new QHBoxLayout;
     wktRow->addWidget(dialectBox);
+    wktRow->addWidget(identifierBox);
     wktRow->addStretch();
     wktRow->addWidget(copyWktButton);
     wktRow->addWidget(saveButton);
+    auto* remarkRow = new QHBoxLayout;
+    remarkRow->addWidget(remarkLine, 1);
+    remarkRow->addWidget(saveGroupButton);
     content = new QWidget;
     auto* texts = new QVBoxLayout(content);
     texts->setContentsMargins(0, 0, 0, 0);
@@ -84,17 +94,21 @@ void DefinitionTab::build() {
     texts->addWidget(definitionText);
     texts->addLayout(wktRow);
     texts->addWidget(wktText, 1);
-    texts->addWidget(remarkLine);
+    texts->addLayout(remarkRow);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(problemLine);
+    layout->addWidget(identityLine);
     layout->addWidget(content, 1);
     auto* notes = new QGridLayout;
     buildNotes(notes);
     layout->addLayout(notes);
     connect(dialectBox, SIGNAL(activated(int)), this, SLOT(_onDialectChosen()));
+    connect(identityLine, SIGNAL(identified()), this, SLOT(_onIdentified()));
+    connect(identifierBox, SIGNAL(toggled(bool)), this, SLOT(_onIdentifierToggled()));
     connect(copyDefinitionButton, SIGNAL(clicked()), this, SLOT(_onCopyDefinition()));
     connect(copyWktButton, SIGNAL(clicked()), this, SLOT(_onCopyWkt()));
     connect(saveButton, SIGNAL(clicked()), this, SLOT(_onSave()));
+    connect(saveGroupButton, SIGNAL(clicked()), this, SLOT(_onSaveGroup()));
     connect(registryButton, SIGNAL(clicked()), this, SLOT(_onFromRegistry()));
 }
 
@@ -130,14 +144,26 @@ void DefinitionTab::showRecord() {
     definition = state.definition;
     problemLine->setMessage(state.problem, MessageLine::Tone::Error);
     problemLine->setVisible(!state.problem.isEmpty());
-    content->setEnabled(!definition.isEmpty());
+    // Other systems of the group can be saved whatever this one lacks.
+    for (QWidget* each : content->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (each != identifierBox)
+            each->setEnabled(each == saveGroupButton ? catalogue != nullptr : !definition.isEmpty());
+    }
     definitionText->setPlainText(QString::fromUtf8(definition));
+    identityLine->identify(record(), definition);
+    identityLine->setVisible(!definition.isEmpty());
     showWkt();
 }
 
 QByteArray DefinitionTab::wkt(bool indented) const {
-    return definition.isEmpty() ? QByteArray()
-                                : recordWkt(record(), WktDialect(dialectBox->currentData().toInt()), indented);
+    return definition.isEmpty()
+               ? QByteArray()
+               : recordWkt(record(), WktDialect(dialectBox->currentData().toInt()), indented, identifier());
+}
+
+/// EPSG's code of the system that the user says it is; empty without one.
+QByteArray DefinitionTab::identifier() const {
+    return identifierBox->isChecked() ? identityLine->code() : QByteArray();
 }
 
 void DefinitionTab::showWkt() {
@@ -152,20 +178,25 @@ void DefinitionTab::showWkt() {
 QString DefinitionTab::remark(const QByteArray& text) const {
     if (text.isEmpty())
         return PanelText::tr("This form can't express the system.");
-    const DictionaryGuard imported;
-    if (!WktToCoordParam::write(text, imported.get()))
-        return PanelText::tr("This form can't be imported again.");
-    const QStringList lost = recordDifferences(record(), *imported);
-    if (!lost.isEmpty())
-        return PanelText::tr("Does not come back with an import of this form: %1.").arg(lost.join(", "));
-    // GDAL and PROJ read the method with false easting and northing at the projection centre.
-    if (dictionary_number(record(), CoordParamKey::projectType, 0.0) ==
-        double(ProjectionMethod::ObliqueMercatorTwoPoints))
-        return PanelText::tr("Other software may count easting and northing from the natural origin.");
-    return QString();
+    const QByteArray code = identifier();
+    if (!code.isEmpty() && !text.contains(code + ']') && !text.contains(code + "\"]"))
+        return PanelText::tr("This form can't carry the identifier.");
+    return wktRemark(record(), text);
 }
 
 void DefinitionTab::_onDialectChosen() {
+    showWkt();
+}
+
+/// Whoever ticks the box says that it is this system, so it is for one record only.
+void DefinitionTab::_onIdentified() {
+    identifierBox->setToolTip(identityLine->codeRemark());
+    identifierBox->setEnabled(!identityLine->code().isEmpty());
+    if (!identifierBox->isEnabled())
+        identifierBox->setChecked(false);
+}
+
+void DefinitionTab::_onIdentifierToggled() {
     showWkt();
 }
 
@@ -190,6 +221,10 @@ void DefinitionTab::_onSave() {
                                        PanelText::tr("The file can't be written: %1").arg(error));
 }
 
+void DefinitionTab::_onSaveGroup() {
+    SaveGroupDialog(*catalogue, record(), *dialectBox, this).exec();
+}
+
 void DefinitionTab::_onFromRegistry() {
     IProjectionModule* const module = projectionModule();
     if (!module)
@@ -205,4 +240,5 @@ void DefinitionTab::_onFromRegistry() {
 
 void DefinitionTab::_onNoteEdited() {
     recordChanged();
+    identityLine->identify(record(), definition);
 }

@@ -6,21 +6,23 @@ enum class WktDialect;
 class ChoiceBox;
 class CopyButton;
 class ICoordSystem;
+class IdentityLine;
 class MessageLine;
+class QCheckBox;
 class QPlainTextEdit;
 class QGridLayout;
 class QPushButton;
 class TextField;
 
-/// The tab "Definition": the record as PROJ definition and as WKT, to copy and to save as a .prj file; where it is
-/// from, and the way to take another definition over from the registry.
+/// The tab "Definition": the record as PROJ definition and as WKT, to copy and to save as a .prj file; which system of
+/// the registry it is; where it is from, and the way to take another definition over from the registry.
 ///
 /// Nothing is built or computed before the tab is first shown.
 class DefinitionTab : public ParamTab {
     Q_OBJECT
 
 public:
-    /// `catalogue`, which systems are looked for in, outlives the tab.
+    /// `catalogue`, which systems are looked for in and whole groups are saved from, outlives the tab.
     DefinitionTab(ICoordSystem* catalogue, CoordParamEditor& editor, bool readOnly, QWidget* parent);
 
     QString title() const override;
@@ -30,9 +32,12 @@ protected:
 
 private Q_SLOTS:
     void _onDialectChosen();
+    void _onIdentified();
+    void _onIdentifierToggled();
     void _onCopyDefinition();
     void _onCopyWkt();
     void _onSave();
+    void _onSaveGroup();
     void _onFromRegistry();
     void _onNoteEdited();
 
@@ -40,19 +45,23 @@ private:
     void build();
     void buildNotes(QGridLayout* grid);
     QByteArray wkt(bool indented) const;
+    QByteArray identifier() const;
     void showWkt();
     QString remark(const QByteArray& text) const;
 
     ICoordSystem* catalogue;
     QByteArray definition; ///< of the record; empty when it defines no projection
     MessageLine* problemLine = nullptr;
+    IdentityLine* identityLine = nullptr;
     QWidget* content = nullptr;
     CopyButton* copyDefinitionButton = nullptr;
     QPlainTextEdit* definitionText = nullptr;
     ChoiceBox* dialectBox = nullptr;
+    QCheckBox* identifierBox = nullptr;
     QPlainTextEdit* wktText = nullptr;
     MessageLine* remarkLine = nullptr;
     QPushButton* saveButton = nullptr;
+    QPushButton* saveGroupButton = nullptr;
     CopyButton* copyWktButton = nullptr;
     TextField* source = nullptr;
     TextField* note = nullptr;

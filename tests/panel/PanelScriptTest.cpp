@@ -1,5 +1,6 @@
 #include "import/WktToCoordParam.h"
 #include "panel/record/RecordDifferences.h"
+#include "panel/registry/IdentityLine.h"
 #include "panel/registry/NameSearch.h"
 #include "support/Files.h"
 #include "support/MessageBoxDouble.h"
@@ -52,6 +53,18 @@ QString saveDefinition(const PanelOnScreen& screen) {
     const DictionaryGuard imported;
     const bool isRead = WktToCoordParam::write(contentOf(folder.filePath("saved.prj")), imported.get());
     return offered + " lacks " + (isRead ? recordDifferences(screen.record(), *imported).join(", ") : "all");
+}
+
+/// What the dialog for a group begins with: the group and the dialect.
+QString groupToSave(const PanelOnScreen& screen) {
+    QStringList chosen;
+    ModalDriver::onNextDialog([&](QDialog* dialog) {
+        for (const auto* box : dialog->findChildren<QComboBox*>())
+            chosen << box->currentText();
+        dialog->reject();
+    });
+    screen.button("Save group...")->click();
+    return chosen.join(", ");
 }
 
 } // namespace
@@ -108,6 +121,13 @@ private Q_SLOTS:
         screen.acts["from points cancelled"] = [&](const QString& lines) {
             shiftFromPoints(screen, lines, "Three", QDialogButtonBox::Cancel);
         };
+        screen.acts["add group"] = [&](const QString& name) { screen.catalogue.addTestGroup(name); };
+        screen.sights["group to save"] = [&](const QString&) { return groupToSave(screen); };
+        const auto isSearching = [&] { // in the registry
+            return screen.panel.findChild<IdentityLine*>()->findChild<QTimer*>()->isActive();
+        };
+        screen.acts["search"] = [&](const QString&) { QTRY_VERIFY_WITH_TIMEOUT(!isSearching(), 60000); };
+        screen.sights["searching"] = [&](const QString&) { return isSearching() ? "yes" : "no"; };
         screen.sights["saved"] = [&](const QString&) { return saveDefinition(screen); };
         MessageBoxDouble::reset();
         screen.play();
