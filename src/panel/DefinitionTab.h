@@ -22,7 +22,7 @@ class DefinitionTab : public ParamTab {
     Q_OBJECT
 
 public:
-    /// `catalogue`, which groups are saved from, outlives the tab.
+    /// `catalogue`, which systems are looked for in and whole groups are saved from, outlives the tab.
     DefinitionTab(ICoordSystem* catalogue, CoordParamEditor& editor, bool readOnly, QWidget* parent);
 
     QString title() const override;
