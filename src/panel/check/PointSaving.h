@@ -19,8 +19,9 @@ public:
     /// Whether the file is being put in its place: that can't be called off.
     bool isCommitting() const { return committed.valid(); }
 
-    /// Why it failed; empty where it did not.
-    QString error() const { return isFailed ? file.errorString() : QString(); }
+    /// Whether it failed, and why.
+    bool hasFailed() const { return isFailed; }
+    QString error() const { return file.errorString(); }
 
 private:
     const PointTable& points;

@@ -620,7 +620,7 @@ void PointsPane::save(const QString& path, bool isFull) {
         [this, current, path] {
             const QString name = QFileInfo(path).fileName();
             saving.reset();
-            if (current->error().isEmpty())
+            if (!current->hasFailed())
                 say(PanelText::tr("%1: %2 saved.").arg(name, rowsText(points().size())));
             else
                 say(PanelText::tr("%1 can't be saved: %2").arg(name, current->error()), true);

@@ -210,9 +210,9 @@ void PointsPlot::finish() {
     for (const int axis : {xBottom, yLeft})
         enableAxis(axis, !cells.empty());
     if (!cells.empty()) {
-        const double reference = longestSound > 0.0 ? longestSound : longest;
-        // Below a micrometre lies the noise of the computation.
-        if (reference > 1e-6)
+        constexpr double noise = 1e-6; // of the computation, metres
+        const double reference = longestSound > noise ? longestSound : longest;
+        if (reference > noise)
             item->factor =
                 roundedDown(vectorShare * metresPerPixel * std::min(size.width(), size.height()) / reference);
         const double unit = LengthUnit::metres();
