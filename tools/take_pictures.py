@@ -5,6 +5,8 @@ The tool is driven as in the end-to-end tests, on its starter catalogue.
 """
 
 import os
+import re
+import subprocess
 import sys
 import tempfile
 
@@ -68,15 +70,18 @@ class Photographer:
         panel.find("page tab", "Distortion").click()
         self.take("check-distortion")
 
-    def registry(self):
-        self.tool.tab("Definition")
-        self.tool.main.find("push button", "From registry...").click()
+    def take_from_registry(self, words, code, picture=None):
+        self.tool.tab("Definition").find("push button", "From registry...").click()
         dialog = self.tool.dialog("From registry")
-        type_text("british national grid")
-        dialog.find("table cell", "27700").click()
-        self.take("from-registry")
+        type_text(words)
+        dialog.find("table cell", code).click()
+        if picture:
+            self.take(picture)
         dialog.find("push button", "Take over").click()
         self.tool.gone("From registry")
+
+    def registry(self):
+        self.take_from_registry("british national grid", "27700", "from-registry")
         self.tool.tab("Datum shift")
         self.take("datum-shift")
 
@@ -97,7 +102,61 @@ class Photographer:
         press("Escape")
         self.tool.gone("Shift from points")
 
+    def points(self):
+        """A list of control points with two digits of one northing changed over: 377308 for 377380."""
+        given = os.path.join(self.tool.home, "control points.csv")
+        with open(given, "w", encoding="utf-8") as file:
+            file.write("Point;x;y;Latitude;Longitude;Height\n")
+            for point in RD_POINTS:
+                name, easting, northing, _, latitude, longitude, height = point.split()
+                northing = northing.replace("377380", "377308")
+                file.write(";".join((name, easting, northing, latitude, longitude, height)) + "\n")
+        self.tool.scroll_to("Amersfoort / RD New")
+        self.tool.item("Amersfoort / RD New").click()
+        self.take_from_registry("amersfoort new", "28992")  # with its shift
+        panel = self.tool.tab("Check")
+        panel.find("page tab", "Points").click()
+        window = ask("xdotool", "search", "--onlyvisible", "--name", f"^{tool.TITLE}$").split()[0]
+        before = re.findall(r"(?:WIDTH|HEIGHT)=(\d+)", ask("xdotool", "getwindowgeometry", "--shell", window))
+        hands("windowsize", "--sync", window, 1240, 680)
+        panel.find("push button", "Open...").click()
+        self.choose_file("Open points", given)
+        columns = self.tool.dialog("Columns")
+        self.take_window("Columns", "points-columns")
+        columns.find("push button", "OK").click()
+        self.tool.gone("Columns")
+        panel.find("combo box", "Own").choose("WGS 84")
+        panel.find("spin button", "Tolerance").click()
+        press("ctrl+a")
+        type_text("0.25\n")
+        panel.find("table cell", "Texel").click()
+        press("End")
+        self.take("check-points")
+        press("Home")
+        panel.find("table cell", "Zeeuws-Vlaanderen").click()
+        press("space")
+        panel.find("check box", "Fit").click()
+        self.take("points-fit")
+        panel.find("check box", "Fit").click()
+        report = os.path.join(self.tool.home, "Amersfoort.pdf")
+        panel.find("push button", "Report...").click()
+        self.choose_file("Save report", report)
+        panel.find("filler", "Amersfoort.pdf: report saved.")
+        target = os.path.join(IMAGES, "report.png")
+        pages = os.path.join(self.tool.home, "page")
+        subprocess.run(["pdftoppm", "-r", "65", "-png", "-l", "2", report, pages], check=True)
+        subprocess.run(["convert", f"{pages}-1.png", f"{pages}-2.png", "-bordercolor", "gray", "-border", "1", "+append",
+                        "-strip", "+dither", "-colors", "255", target], check=True)
+        print(target)
+        hands("windowsize", "--sync", window, *before)
+
+    def choose_file(self, title, path):
+        self.tool.dialog(title).find("text", "File name:").fill(path)
+        press("Return")
+        self.tool.gone(title)
+
     def commands(self):
+        self.tool.scroll_to("Uruguay")  # so that there is room for the menu
         self.tool.menu_at(self.tool.item(COUNTRY))
         self.take("menu")
         self.desktop.menu().find("menu item", "AddCoordSys").click()
@@ -148,7 +207,7 @@ def main():
             installed.start()
             photographer = Photographer(desktop, installed)
             for step in (photographer.window, photographer.tabs, photographer.registry, photographer.shift,
-                         photographer.commands, photographer.dialogs):
+                         photographer.commands, photographer.dialogs, photographer.points):
                 step()
             installed.close()
         finally:

@@ -207,6 +207,7 @@ void measureWindow(const QString& path) {
         table->selectRow(7);
         QMetaObject::invokeMethod(&pane, "_onDelete");
     });
+    change("undone", [&] { QMetaObject::invokeMethod(&pane, "_onUndo"); });
     QTimer::singleShot(300, [] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->accept(); });
     pane.read(path); // with the dialog's time
     change("the same opened once more", [] {});

@@ -14,10 +14,13 @@
 #include "panel/record/PanelText.h"
 #include "panel/record/RecordDifferences.h"
 #include "panel/record/RecordWkt.h"
+#include "panel/record/SystemFileName.h"
+#include "panel/registry/IdentityLine.h"
 #include "panel/registry/RegistryDialog.h"
 #include "platform/desktop/VornMessageBox.h"
 #include "platform/projection/IProjectionModule.h"
 
+#include <QCheckBox>
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QGridLayout>
@@ -25,7 +28,6 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QVBoxLayout>
 
 namespace {
@@ -40,13 +42,6 @@ QPlainTextEdit* newText(const QString& name) {
     return text;
 }
 
-/// The system's name as a file name that every desktop takes.
-QString fileName(const IDictionary& record) {
-    QString name = QString::fromLocal8Bit(record.getValue(CoordParamKey::name)).simplified();
-    name.replace(QRegularExpression("[\\x00-\\x1f<>:\"/\\\\|?*]"), "_");
-    return name + ".prj";
-}
-
 } // namespace
 
 DefinitionTab::DefinitionTab(CoordParamEditor& editor, bool readOnly, QWidget* parent)
@@ -59,6 +54,7 @@ QString DefinitionTab::title() const {
 
 void DefinitionTab::build() {
     problemLine = new MessageLine;
+    identityLine = new IdentityLine;
     definitionText = newText(PanelText::tr("PROJ definition"));
     definitionText->setFixedHeight(definitionText->fontMetrics().lineSpacing() * 5 + 12);
     copyDefinitionButton = new CopyButton(PanelText::tr("Copy"));
@@ -69,10 +65,12 @@ void DefinitionTab::build() {
     dialectBox->addItem(PanelText::tr("WKT 2:2019"), int(WktDialect::Wkt2_2019));
     // What most programs expect in a .prj file.
     dialectBox->setCurrentIndex(dialectBox->findData(int(WktDialect::Wkt1Esri)));
+    identifierBox = new QCheckBox(PanelText::tr("With identifier"));
     copyWktButton = new CopyButton(PanelText::tr("Copy"));
     saveButton = new QPushButton(PanelText::tr("Save as .prj"));
     wktText = newText(PanelText::tr("WKT"));
     wktText->setLineWrapMode(QPlainTextEdit::NoWrap);
+    wktText->setMinimumHeight(wktText->fontMetrics().lineSpacing() * 2 + 12);
     remarkLine = new MessageLine;
 
     auto* definitionRow = new QHBoxLayout;
@@ -81,6 +79,7 @@ void DefinitionTab::build() {
     definitionRow->addWidget(copyDefinitionButton);
     auto* wktRow = new QHBoxLayout;
     wktRow->addWidget(dialectBox);
+    wktRow->addWidget(identifierBox);
     wktRow->addStretch();
     wktRow->addWidget(copyWktButton);
     wktRow->addWidget(saveButton);
@@ -94,11 +93,14 @@ void DefinitionTab::build() {
     texts->addWidget(remarkLine);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(problemLine);
+    layout->addWidget(identityLine);
     layout->addWidget(content, 1);
     auto* notes = new QGridLayout;
     buildNotes(notes);
     layout->addLayout(notes);
     connect(dialectBox, SIGNAL(activated(int)), this, SLOT(_onDialectChosen()));
+    connect(identityLine, SIGNAL(identified()), this, SLOT(_onIdentified()));
+    connect(identifierBox, SIGNAL(toggled(bool)), this, SLOT(_onIdentifierToggled()));
     connect(copyDefinitionButton, SIGNAL(clicked()), this, SLOT(_onCopyDefinition()));
     connect(copyWktButton, SIGNAL(clicked()), this, SLOT(_onCopyWkt()));
     connect(saveButton, SIGNAL(clicked()), this, SLOT(_onSave()));
@@ -139,12 +141,20 @@ void DefinitionTab::showRecord() {
     problemLine->setVisible(!state.problem.isEmpty());
     content->setEnabled(!definition.isEmpty());
     definitionText->setPlainText(QString::fromUtf8(definition));
+    identityLine->identify(record(), definition);
+    identityLine->setVisible(!definition.isEmpty());
     showWkt();
 }
 
 QByteArray DefinitionTab::wkt(bool indented) const {
-    return definition.isEmpty() ? QByteArray()
-                                : recordWkt(record(), WktDialect(dialectBox->currentData().toInt()), indented);
+    return definition.isEmpty()
+               ? QByteArray()
+               : recordWkt(record(), WktDialect(dialectBox->currentData().toInt()), indented, identifier());
+}
+
+/// EPSG's code of the system that the user says it is; empty without one.
+QByteArray DefinitionTab::identifier() const {
+    return identifierBox->isChecked() ? identityLine->code() : QByteArray();
 }
 
 void DefinitionTab::showWkt() {
@@ -159,6 +169,9 @@ void DefinitionTab::showWkt() {
 QString DefinitionTab::remark(const QByteArray& text) const {
     if (text.isEmpty())
         return PanelText::tr("This form can't express the system.");
+    const QByteArray code = identifier();
+    if (!code.isEmpty() && !text.contains(code + ']') && !text.contains(code + "\"]"))
+        return PanelText::tr("This form can't carry the identifier.");
     const DictionaryGuard imported;
     if (!WktToCoordParam::write(text, imported.get()))
         return PanelText::tr("This form can't be imported again.");
@@ -176,6 +189,18 @@ void DefinitionTab::_onDialectChosen() {
     showWkt();
 }
 
+/// Whoever ticks the box says that it is this system, so it is for one record only.
+void DefinitionTab::_onIdentified() {
+    identifierBox->setToolTip(identityLine->codeRemark());
+    identifierBox->setEnabled(!identityLine->code().isEmpty());
+    if (!identifierBox->isEnabled())
+        identifierBox->setChecked(false);
+}
+
+void DefinitionTab::_onIdentifierToggled() {
+    showWkt();
+}
+
 void DefinitionTab::_onCopyDefinition() {
     copyDefinitionButton->copy(definitionText->toPlainText());
 }
@@ -188,7 +213,7 @@ void DefinitionTab::_onSave() {
     QFileDialog dialog(this, PanelText::tr("Save as .prj"), QString(), "*.prj");
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix("prj");
-    dialog.selectFile(fileName(record()));
+    dialog.selectFile(SystemFileName::of(record(), "prj"));
     if (dialog.exec() != QDialog::Accepted)
         return;
     QString error;
@@ -219,4 +244,5 @@ void DefinitionTab::_onFromRegistry() {
 
 void DefinitionTab::_onNoteEdited() {
     recordChanged();
+    identityLine->identify(record(), definition);
 }

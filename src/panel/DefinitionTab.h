@@ -5,14 +5,16 @@
 enum class WktDialect;
 class ChoiceBox;
 class CopyButton;
+class IdentityLine;
 class MessageLine;
+class QCheckBox;
 class QPlainTextEdit;
 class QGridLayout;
 class QPushButton;
 class TextField;
 
-/// The tab "Definition": the record as PROJ definition and as WKT, to copy and to save as a .prj file; where it is
-/// from, and the way to take another definition over from the registry.
+/// The tab "Definition": the record as PROJ definition and as WKT, to copy and to save as a .prj file; which system of
+/// the registry it is; where it is from, and the way to take another definition over from the registry.
 ///
 /// Nothing is built or computed before the tab is first shown.
 class DefinitionTab : public ParamTab {
@@ -28,6 +30,8 @@ protected:
 
 private Q_SLOTS:
     void _onDialectChosen();
+    void _onIdentified();
+    void _onIdentifierToggled();
     void _onCopyDefinition();
     void _onCopyWkt();
     void _onSave();
@@ -38,15 +42,18 @@ private:
     void build();
     void buildNotes(QGridLayout* grid);
     QByteArray wkt(bool indented) const;
+    QByteArray identifier() const;
     void showWkt();
     QString remark(const QByteArray& text) const;
 
     QByteArray definition; ///< of the record; empty when it defines no projection
     MessageLine* problemLine = nullptr;
+    IdentityLine* identityLine = nullptr;
     QWidget* content = nullptr;
     CopyButton* copyDefinitionButton = nullptr;
     QPlainTextEdit* definitionText = nullptr;
     ChoiceBox* dialectBox = nullptr;
+    QCheckBox* identifierBox = nullptr;
     QPlainTextEdit* wktText = nullptr;
     MessageLine* remarkLine = nullptr;
     QPushButton* saveButton = nullptr;

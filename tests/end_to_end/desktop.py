@@ -74,6 +74,15 @@ class Desktop(Screen):
         self.listener = Atspi.EventListener.new(self._on_showing)
         self.listener.register("object:state-changed:showing")
 
+    def copy(self, text):
+        """Has a text in the clipboard, as if copied from another program."""
+        holder = subprocess.Popen(["xclip", "-selection", "clipboard", "-in", "-quiet"], stdin=subprocess.PIPE,
+                                  stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.processes.append(holder)
+        holder.stdin.write(text.encode())
+        holder.stdin.close()
+        wait_for(lambda: ask("xclip", "-selection", "clipboard", "-out") == text, "the text in the clipboard")
+
     def _on_showing(self, event):
         try:
             if event.source.get_role_name() == "popup menu" and event.detail1:

@@ -35,6 +35,7 @@ public:
     QByteArray exportWkt(const QByteArray&, const WktNames&, WktDialect, bool) override;
     std::unique_ptr<IProjectedSystem> createSystem(const QByteArray&) override;
     IEpsgRegistry& registry() override;
+    QByteArray version() override { return {}; }
 
 private:
     void record(const char* call, ProjHandle handle);

@@ -1,5 +1,6 @@
 #include "import/WktToCoordParam.h"
 #include "panel/record/RecordDifferences.h"
+#include "panel/registry/IdentityLine.h"
 #include "support/Files.h"
 #include "support/MessageBoxDouble.h"
 #include "support/ModalDriver.h"
@@ -107,6 +108,11 @@ private Q_SLOTS:
         screen.acts["from points cancelled"] = [&](const QString& lines) {
             shiftFromPoints(screen, lines, "Three", QDialogButtonBox::Cancel);
         };
+        const auto isSearching = [&] { // in the registry
+            return screen.panel.findChild<IdentityLine*>()->findChild<QTimer*>()->isActive();
+        };
+        screen.acts["search"] = [&](const QString&) { QTRY_VERIFY_WITH_TIMEOUT(!isSearching(), 60000); };
+        screen.sights["searching"] = [&](const QString&) { return isSearching() ? "yes" : "no"; };
         screen.sights["saved"] = [&](const QString&) { return saveDefinition(screen); };
         MessageBoxDouble::reset();
         screen.play();

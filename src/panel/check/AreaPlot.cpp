@@ -89,6 +89,7 @@ AreaPlot::AreaPlot(const QString& accessibleName, QWidget* parent)
     spectrogram->setDisplayMode(QwtPlotSpectrogram::ContourMode, true);
     spectrogram->setDefaultContourPen(QColor(0x50, 0x50, 0x50), 0.0);
     spectrogram->setConrecFlag(QwtRasterData::IgnoreAllVerticesOnLevel, false);
+    spectrogram->setRenderThreadCount(0); // as many as the machine has
     spectrogram->attach(this);
     meridian = newLine(PanelText::tr("Central meridian"), Qt::DashLine);
     for (int i = 0; i < parallelCount; ++i)

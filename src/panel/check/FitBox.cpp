@@ -1,14 +1,18 @@
 #include "panel/check/FitBox.h"
 
+#include "catalogue/CoordParamKey.h"
+#include "catalogue/Dictionary.h"
 #include "panel/computing/DesignProposal.h"
 #include "panel/computing/ShownSystem.h"
 #include "panel/field/MessageLine.h"
+#include "panel/record/LengthUnit.h"
 #include "panel/record/NumberText.h"
 #include "panel/record/PanelText.h"
-#include "panel/record/ParamField.h"
+#include "panel/record/ProjectionFields.h"
 #include "platform/projection/IProjectionModule.h"
 
 #include <QCheckBox>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -18,26 +22,46 @@
 
 namespace {
 
-/// "False easting: 500000 → 500012.3456 ± 0.0021 m"
-QString changeText(const FitToPoints::Change& change) {
-    const bool isFactor = change.field->quantity == Quantity::ScaleFactor;
-    const int decimals = change.field->isAngle() ? 8 : isFactor ? 9 : 4;
-    QString text = change.field->labelText() + ": " + NumberText::shortest(change.before) + " → " +
-                   NumberText::shortest(change.after);
-    if (!std::isnan(change.deviation))
-        text += " ± " + NumberText::rounded(change.deviation, decimals);
-    return text + (change.field->isAngle() ? "°" : isFactor ? "" : " m");
+namespace Key = CoordParamKey;
+
+/// A value of the record with its unit; lengths in the one chosen now.
+QString valueText(const ParamField& field, double value) {
+    if (field.isAngle())
+        return NumberText::shortest(value) + "°";
+    if (field.quantity == Quantity::ScaleFactor)
+        return NumberText::shortest(value);
+    // A record's own digits are metres.
+    return (LengthUnit::chosen() == LengthUnit::Metre ? NumberText::shortest(value) : LengthUnit::text(value)) + ' ' +
+           LengthUnit::symbol();
 }
 
-double largest(const QVector<GridPoint>& residuals) {
-    double length = 0.0;
+/// " ± 0.0021", where there is a standard deviation.
+QString deviationText(const ParamField& field, double deviation) {
+    if (std::isnan(deviation))
+        return QString();
+    const bool isFactor = field.quantity == Quantity::ScaleFactor;
+    const double unit = field.isAngle() || isFactor ? 1.0 : LengthUnit::metres();
+    return " ± " + NumberText::rounded(deviation / unit, field.isAngle() ? 8 : isFactor ? 9 : 4);
+}
+
+/// A text of any length in a column that keeps its width.
+void setText(QLabel* label, const QString& text) {
+    label->setText(text);
+    label->setToolTip(text);
+}
+
+/// Of a whole system's size, what is behind the point tells nothing.
+QString misfitText(double metres) {
+    constexpr double large = 10000.0;
+    return metres < large ? LengthUnit::text(metres) : QString::number(metres / LengthUnit::metres(), 'f', 0);
+}
+
+/// "0.0093, 1.3057": the root mean square, and the largest.
+QString misfitText(const QVector<GridPoint>& residuals) {
+    double largest = 0.0;
     for (const GridPoint& residual : residuals)
-        length = std::max(length, std::hypot(residual.easting, residual.northing));
-    return length;
-}
-
-QString metres(double length) {
-    return QString::number(length, 'f', 4);
+        largest = std::max(largest, std::hypot(residual.easting, residual.northing));
+    return residuals.isEmpty() ? QString() : misfitText(FitToPoints::rms(residuals)) + ", " + misfitText(largest);
 }
 
 } // namespace
@@ -45,43 +69,68 @@ QString metres(double length) {
 FitBox::FitBox(bool readOnly, QWidget* parent)
     : QWidget(parent)
     , readOnly(readOnly)
-    , eastingBox(new QCheckBox(PanelText::tr("False easting")))
-    , northingBox(new QCheckBox(PanelText::tr("False northing")))
-    , factorBox(new QCheckBox(PanelText::tr("Scale factor")))
-    , lineBox(new QCheckBox)
-    , changesLabel(new QLabel)
-    , effectLabel(new QLabel)
+    , misfitBefore(new QLabel)
+    , misfitAfter(new QLabel)
+    , problemLabel(new QLabel)
+    , remainderLabel(new QLabel)
     , diagnosisLabel(new QLabel)
     , acceptButton(new QPushButton(PanelText::tr("Take over"))) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(3);
+    auto* grid = new QGridLayout;
+    layout->addLayout(grid);
+    grid->setVerticalSpacing(0);
+    grid->setHorizontalSpacing(8);
+    grid->setColumnStretch(2, 1);
     auto* title = new QLabel(PanelText::tr("Fit"));
     QFont bold = title->font();
     bold.setBold(true);
     title->setFont(bold);
     title->setToolTip(PanelText::tr("What would meet the points best; what is not ticked is held."));
-    auto* choices = new QHBoxLayout;
-    choices->addWidget(title);
-    for (QCheckBox* box : {eastingBox, northingBox, factorBox, lineBox}) {
-        box->setChecked(box != lineBox);
-        choices->addWidget(box);
-        connect(box, SIGNAL(toggled(bool)), this, SLOT(_onChoiceChanged()));
-    }
-    choices->addStretch(1);
-    choices->addWidget(acceptButton);
-    connect(acceptButton, SIGNAL(clicked()), this, SLOT(_onAcceptClicked()));
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(4);
-    layout->addLayout(choices);
-    changesLabel->setAccessibleName(PanelText::tr("Fitted values"));
-    effectLabel->setAccessibleName(PanelText::tr("Before and after"));
+    grid->addWidget(title, 0, 0);
+    grid->addWidget(new QLabel(PanelText::tr("before")), 0, 1, Qt::AlignRight);
+    grid->addWidget(new QLabel(PanelText::tr("after ± standard deviation")), 0, 2);
+    buildRow(grid, Line, QString());
+    buildRow(grid, Factor, PanelText::tr("Scale factor"));
+    buildRow(grid, East, PanelText::tr("False easting"));
+    buildRow(grid, North, PanelText::tr("False northing"));
+    values[Line].box->setChecked(false);
+    constexpr int row = ValueCount + 1;
+    grid->addWidget(new QLabel(PanelText::tr("RMS, largest")), row, 0);
+    grid->addWidget(misfitBefore, row, 1, Qt::AlignRight);
+    grid->addWidget(misfitAfter, row, 2);
+    misfitAfter->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    misfitBefore->setAccessibleName(PanelText::tr("Misfit before"));
+    misfitAfter->setAccessibleName(PanelText::tr("Misfit after"));
+    problemLabel->setAccessibleName(PanelText::tr("Problem"));
+    remainderLabel->setAccessibleName(PanelText::tr("Remainder"));
     diagnosisLabel->setAccessibleName(PanelText::tr("Diagnosis"));
-    for (QLabel* label : {changesLabel, effectLabel, diagnosisLabel}) {
-        label->setWordWrap(true);
-        layout->addWidget(label);
-    }
     QPalette colours = palette();
     colours.setColor(QPalette::WindowText, MessageLine::textColor(*this, MessageLine::Tone::Warning));
-    diagnosisLabel->setPalette(colours);
+    for (QLabel* label : {problemLabel, diagnosisLabel})
+        label->setPalette(colours);
+    auto* texts = new QVBoxLayout;
+    for (QLabel* label : {problemLabel, remainderLabel, diagnosisLabel}) {
+        label->setWordWrap(true);
+        texts->addWidget(label);
+    }
+    auto* below = new QHBoxLayout;
+    below->addLayout(texts, 1);
+    below->addWidget(acceptButton, 0, Qt::AlignTop);
+    layout->addLayout(below);
+    connect(acceptButton, SIGNAL(clicked()), this, SLOT(_onAcceptClicked()));
+}
+
+void FitBox::buildRow(QGridLayout* grid, Value value, const QString& title) {
+    Row& row = values[value];
+    row = {new QCheckBox(title), new QLabel, new QLabel};
+    row.box->setChecked(true);
+    row.after->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    grid->addWidget(row.box, value + 1, 0);
+    grid->addWidget(row.before, value + 1, 1, Qt::AlignRight);
+    grid->addWidget(row.after, value + 1, 2);
+    connect(row.box, SIGNAL(toggled(bool)), this, SLOT(_onChoiceChanged()));
 }
 
 void FitBox::setPoints(const std::shared_ptr<const ShownSystem>& shown, const QVector<KnownPoint>& known) {
@@ -90,50 +139,87 @@ void FitBox::setPoints(const std::shared_ptr<const ShownSystem>& shown, const QV
     showFit();
 }
 
+bool FitBox::isChosen(Value value) const {
+    return values[value].box->isChecked();
+}
+
+std::vector<GridPoint> FitBox::residuals(std::size_t rows) const {
+    if (result.residualsAfter().isEmpty())
+        return {};
+    std::vector<GridPoint> left(rows, GridPoint{std::nan(""), std::nan("")});
+    for (int i = 0; i < points.size(); ++i) {
+        if (points[i].row < rows)
+            left[points[i].row] = result.residualsAfter()[i];
+    }
+    return left;
+}
+
 void FitBox::showFit() {
     const bool isSystem = system && system->projection();
     setEnabled(isSystem);
-    result = FitToPoints();
-    if (isSystem) {
-        const ParamField* const line = DesignProposal::lineField(system->record());
-        lineBox->setVisible(line != nullptr);
-        if (line)
-            lineBox->setText(line->labelText());
-        factorBox->setEnabled(DesignProposal::isPossible(system->record()));
-        result = FitToPoints::solve(
-            system->record(), *projectionModule(), points,
-            {eastingBox->isChecked(), northingBox->isChecked(), factorBox->isChecked(), lineBox->isChecked()});
-    }
-    QStringList changes;
+    result = isSystem ? FitToPoints::solve(system->record(), *projectionModule(), points,
+                                           {isChosen(East), isChosen(North), isChosen(Factor), isChosen(Line)})
+                      : FitToPoints();
+    showValues();
     bool isOther = false;
-    for (const FitToPoints::Change& change : result.changes()) {
-        changes.append(changeText(change));
+    for (const FitToPoints::Change& change : result.changes())
         isOther = isOther || change.after != change.before;
-    }
-    changesLabel->setText(result.problem().isEmpty() ? changes.join(",  ") : result.problem());
-    effectLabel->setText(effectText());
-    diagnosisLabel->setText(result.diagnosis());
-    diagnosisLabel->setVisible(!result.diagnosis().isEmpty());
     acceptButton->setEnabled(!readOnly && isOther);
+    misfitBefore->setText(misfitText(result.residualsBefore()));
+    setText(misfitAfter, misfitText(result.residualsAfter()) +
+                             (result.residualsAfter().isEmpty() ? QString() : ' ' + LengthUnit::symbol()));
+    const std::pair<QLabel*, QString> texts[] = {
+        {problemLabel, result.problem()}, {remainderLabel, remainderText()}, {diagnosisLabel, result.diagnosis()}};
+    for (const auto& [label, text] : texts) {
+        label->setText(text);
+        label->setVisible(!text.isEmpty());
+    }
+    Q_EMIT fitChanged();
 }
 
-QString FitBox::effectText() const {
-    if (result.residualsBefore().isEmpty())
-        return QString();
-    QStringList parts{PanelText::tr("RMS %1 → %2 m, largest %3 → %4 m.")
-                          .arg(metres(FitToPoints::rms(result.residualsBefore())),
-                               metres(FitToPoints::rms(result.residualsAfter())),
-                               metres(largest(result.residualsBefore())), metres(largest(result.residualsAfter())))};
-    if (const auto& remains = result.remainder()) {
-        const bool isLarge = std::abs(remains->rotation) > 0.1;
-        const double unit = isLarge ? 1.0 : 3600.0;
-        parts << PanelText::tr("Against the ground remain a rotation of %1 ± %2%3 and a scale of %4 ± %5 ppm.")
-                     .arg(NumberText::rounded(remains->rotation * unit, isLarge ? 4 : 2),
-                          NumberText::rounded(remains->rotationDeviation * unit, isLarge ? 4 : 2),
-                          isLarge ? QStringLiteral("°") : QStringLiteral("\""), NumberText::rounded(remains->scale, 2),
-                          NumberText::rounded(remains->scaleDeviation, 2));
+/// Also those that are held, with the record's value alone.
+void FitBox::showValues() {
+    if (!system || !system->projection())
+        return;
+    const IDictionary& record = system->record();
+    const ProjectionFields& method = *ProjectionFields::ofRecord(record);
+    const ParamField* fields[ValueCount];
+    fields[Line] = DesignProposal::lineField(record);
+    fields[Factor] = DesignProposal::isPossible(record) ? method.field(Key::factor) : nullptr;
+    fields[East] = method.field(Key::falseEast);
+    fields[North] = method.field(Key::falseNorth);
+    if (fields[Line])
+        values[Line].box->setText(fields[Line]->labelText());
+    for (std::size_t i = 0; i < ValueCount; ++i) {
+        const ParamField* const field = fields[i];
+        const Row& row = values[i];
+        for (QWidget* widget :
+             {static_cast<QWidget*>(row.box), static_cast<QWidget*>(row.before), static_cast<QWidget*>(row.after)})
+            widget->setVisible(field != nullptr);
+        if (!field)
+            continue;
+        row.after->setAccessibleName(PanelText::tr("%1 after").arg(row.box->text()));
+        row.before->setText(valueText(*field, dictionary_number(record, field->key, 0.0)));
+        setText(row.after, QString());
+        for (const FitToPoints::Change& change : result.changes()) {
+            if (change.field == field)
+                setText(row.after, valueText(*field, change.after) + deviationText(*field, change.deviation));
+        }
     }
-    return parts.join(' ');
+}
+
+QString FitBox::remainderText() const {
+    const auto& remains = result.remainder();
+    if (!remains)
+        return QString();
+    const bool isLarge = std::abs(remains->rotation) > 0.1;
+    const double unit = isLarge ? 1.0 : 3600.0;
+    const int decimals = isLarge ? 4 : 2;
+    return PanelText::tr("Against the ground remain a rotation of %1 ± %2%3 and a scale of %4 ± %5 ppm.")
+        .arg(NumberText::rounded(remains->rotation * unit, decimals),
+             NumberText::rounded(remains->rotationDeviation * unit, decimals),
+             isLarge ? QStringLiteral("°") : QStringLiteral("\""), NumberText::rounded(remains->scale, 2),
+             NumberText::rounded(remains->scaleDeviation, 2));
 }
 
 void FitBox::_onChoiceChanged() {
@@ -143,6 +229,6 @@ void FitBox::_onChoiceChanged() {
 /// The keyboard stays beside the button, which has nothing more to take over then.
 void FitBox::_onAcceptClicked() {
     if (acceptButton->hasFocus())
-        eastingBox->setFocus();
+        values[East].box->setFocus();
     Q_EMIT accepted();
 }

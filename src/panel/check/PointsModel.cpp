@@ -1,5 +1,6 @@
 #include "panel/check/PointsModel.h"
 
+#include "panel/computing/PointLayout.h"
 #include "panel/record/AngleText.h"
 #include "panel/record/LengthUnit.h"
 #include "panel/record/PanelText.h"
@@ -7,12 +8,17 @@
 #include <QApplication>
 #include <QColor>
 #include <QFont>
+#include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
-constexpr int decimals = 4; ///< of lengths
+// What can be undone: no more than a user remembers, and than memory bears with a million points.
+constexpr std::size_t mostSteps = 50;
+constexpr std::size_t mostBytes = 200000000;
 
 /// The number that is shown in a column of the model.
 std::optional<PointColumn> numberOf(PointsModel::Column column) {
@@ -33,10 +39,7 @@ std::optional<PointColumn> numberOf(PointsModel::Column column) {
 }
 
 QString lengthText(double metres) {
-    if (std::isnan(metres))
-        return QString();
-    const QString text = QString::number(metres / LengthUnit::metres(), 'f', decimals);
-    return text == "-0.0000" ? "0.0000" : text;
+    return std::isnan(metres) ? QString() : LengthUnit::text(metres);
 }
 
 QString angleText(double degrees) {
@@ -66,20 +69,70 @@ PointsModel::PointsModel(QObject* parent) : QAbstractTableModel(parent) {
 
 void PointsModel::replace(PointTable&& points) {
     beginResetModel();
+    fitted.clear();
     table = std::move(points);
     endResetModel();
 }
 
 void PointsModel::remove(const std::vector<bool>& marked) {
     beginResetModel();
-    table.remove(marked);
+    fitted.clear();
+    remember({table.take(marked), marked, false});
     endResetModel();
 }
 
 void PointsModel::clear() {
     beginResetModel();
-    table = PointTable();
+    fitted.clear();
+    std::vector<bool> all(table.size(), true);
+    remember({std::exchange(table, PointTable()), std::move(all), false});
     endResetModel();
+}
+
+void PointsModel::remember(Step&& step) {
+    steps.push_back(std::move(step));
+    std::size_t bytes = 0;
+    for (const Step& kept : steps)
+        bytes += kept.rows.bytes();
+    for (; steps.size() > mostSteps || (bytes > mostBytes && steps.size() > 1); steps.pop_front())
+        bytes -= steps.front().rows.bytes();
+}
+
+int PointsModel::undo() {
+    if (steps.empty())
+        return -1;
+    beginResetModel();
+    fitted.clear();
+    // Rows have only been added at the end since: the places are still the same.
+    Step& step = steps.back();
+    if (step.isTyped)
+        table = table.picked(step.places, false);
+    table.putBack(step.rows, step.places);
+    const auto first = std::find(step.places.begin(), step.places.end(), true) - step.places.begin();
+    steps.pop_back();
+    endResetModel();
+    return int(first);
+}
+
+bool PointsModel::pasteInto(const QModelIndex& cell, const QString& text) {
+    static const QRegularExpression separators("[\t\r\n;]");
+    const QString value = text.trimmed();
+    if (value.isEmpty() || value.contains(separators) || !(flags(cell) & Qt::ItemIsEditable))
+        return false;
+    QString reason;
+    const auto number = numberOf(Column(cell.column()));
+    // Blanks and commas part columns, and stand within angles, names and the numbers of others.
+    static const QRegularExpression decimalComma("^[-+]?\\d*,\\d+$");
+    const bool isNumber = number && (typedNumber(value, *number, &reason) || value.contains(decimalComma));
+    if (!isNumber && PointLayout::guess(value.toUtf8()).isComplete())
+        return false;
+    setData(cell, value, Qt::EditRole);
+    return true;
+}
+
+void PointsModel::showFit(std::vector<GridPoint>&& residuals) {
+    fitted = std::move(residuals);
+    Q_EMIT dataChanged(index(0, FittedEast), index(rowCount() - 1, FittedNorth));
 }
 
 void PointsModel::setTolerance(double metres) {
@@ -140,6 +193,10 @@ QString PointsModel::text(std::size_t row, Column column) const {
         return lengthText(difference.northing);
     case Distance:
         return lengthText(std::hypot(difference.easting, difference.northing));
+    case FittedEast:
+        return row < fitted.size() ? lengthText(fitted[row].easting) : QString();
+    case FittedNorth:
+        return row < fitted.size() ? lengthText(fitted[row].northing) : QString();
     case Remark:
         return table.remark(row);
     default:
@@ -201,6 +258,8 @@ QVariant PointsModel::headerData(int section, Qt::Orientation orientation, int r
                                             "ΔE" + unit,
                                             "ΔN" + unit,
                                             PanelText::tr("Distance") + unit,
+                                            PanelText::tr("Fitted ΔE") + unit,
+                                            PanelText::tr("Fitted ΔN") + unit,
                                             PanelText::tr("Remark")};
         return names[section];
     }
@@ -212,6 +271,8 @@ QVariant PointsModel::headerData(int section, Qt::Orientation orientation, int r
         return PanelText::tr("Ellipsoidal height; 0 where there is none.");
     if (section >= Latitude && section <= Northing)
         return PanelText::tr("Slanted: computed from the other pair.");
+    if (section == FittedEast || section == FittedNorth)
+        return PanelText::tr("What the fit would leave.");
     return section == Remark ? QVariant() : PanelText::tr("Computed from latitude and longitude, minus given.");
 }
 
@@ -250,6 +311,12 @@ bool PointsModel::setText(std::size_t row, Column column, const QString& typed) 
             Q_EMIT refused(reason);
             return false;
         }
+    }
+    if (row < table.size()) {
+        std::vector<bool> places(row + 1, false);
+        places[row] = true;
+        PointTable before = table.picked(places, true);
+        remember({std::move(before), std::move(places), true});
     }
     row = writableRow(int(row));
     if (number)

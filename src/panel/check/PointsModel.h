@@ -4,7 +4,7 @@
 
 #include <QAbstractTableModel>
 
-#include <optional>
+#include <deque>
 
 /// The table of control points as it is shown and typed into, with an empty row at its end for the next point. What was
 /// computed is slanted, what is off by more than the tolerance red, and a row without a point of use tinted.
@@ -22,6 +22,8 @@ public:
         DifferenceEast,
         DifferenceNorth,
         Distance,
+        FittedEast, ///< what a fit leaves
+        FittedNorth,
         Remark,
         ColumnCount
     };
@@ -34,8 +36,20 @@ public:
     PointTable& computed() { return table; }
 
     void replace(PointTable&& points);
+
+    /// Removes the rows that are marked; `marked` has one value for each row.
     void remove(const std::vector<bool>& marked);
     void clear();
+
+    /// Puts a text into a cell as if typed, where it is one figure or name; false where it may be a line of points.
+    bool pasteInto(const QModelIndex& cell, const QString& text);
+
+    /// Brings back the rows that were removed last, or as they were before the last was typed into, and gives the first
+    /// of them; -1 where there is nothing to undo.
+    int undo();
+
+    /// What a fit leaves at each row, in metres, NaN where it knows none; empty without a fit.
+    void showFit(std::vector<GridPoint>&& residuals);
 
     /// Whether nothing can be typed for now.
     void setLocked(bool lock) { isLocked = lock; }
@@ -69,6 +83,14 @@ Q_SIGNALS:
     void refused(const QString& reason);
 
 private:
+    /// How rows were.
+    struct Step {
+        PointTable rows;
+        std::vector<bool> places; ///< of the rows in the table
+        bool isTyped;             ///< rather than removed
+    };
+
+    void remember(Step&& step);
     bool isComputed(std::size_t row, Column column) const;
     bool isBeyond(std::size_t row) const;
     QString text(std::size_t row, Column column) const;
@@ -76,6 +98,8 @@ private:
     std::size_t writableRow(int row);
 
     PointTable table;
+    std::deque<Step> steps;
+    std::vector<GridPoint> fitted;
     bool isLocked = false;
     double toleranceMetres = 0.05;
 };

@@ -2,11 +2,14 @@
 
 #include "panel/check/FitBox.h"
 #include "panel/check/PointColumnsDialog.h"
+#include "panel/check/PointFigures.h"
+#include "panel/check/PointReading.h"
+#include "panel/check/PointSaving.h"
 #include "panel/check/PointsModel.h"
 #include "panel/check/PointsPlot.h"
+#include "panel/check/ReportDialog.h"
 #include "panel/check/SlicedWork.h"
 #include "panel/computing/DuplicateNames.h"
-#include "panel/computing/PointReader.h"
 #include "panel/computing/PointStatistics.h"
 #include "panel/computing/PointWriter.h"
 #include "panel/computing/ShownSystem.h"
@@ -29,23 +32,23 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QSplitter>
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <QToolButton>
 
-#include <chrono>
 #include <cmath>
-#include <future>
 
 namespace {
 
 constexpr int headSize = 65536;
-constexpr qint64 bytesPerPiece = 32768;
 constexpr std::size_t rowsPerPiece = 1000;
 constexpr std::size_t rowsAtOnce = 2000; ///< so many are computed before the window is seen again
 constexpr std::size_t mostCopied = 200000;
+
+QString rowsText(std::size_t count) {
+    return count == 1 ? PanelText::tr("1 row") : PanelText::tr("%1 rows").arg(count);
+}
 
 /// Leaves what is being typed alone when the table behind it is computed anew.
 class TypingDelegate : public QStyledItemDelegate {
@@ -69,7 +72,7 @@ PointsPane::PointsPane(bool readOnly, QWidget* parent)
     , plot(new PointsPlot)
     , datumBox(new ChoiceBox)
     , toleranceBox(new QDoubleSpinBox)
-    , counts(new QLabel)
+    , figures(new PointFigures)
     , readout(new QLabel)
     , message(new MessageLine)
     , progress(new QProgressBar)
@@ -89,15 +92,14 @@ PointsPane::PointsPane(bool readOnly, QWidget* parent)
     clearButton = newButton(PanelText::tr("Clear"), SLOT(_onClear()));
     for (QToolButton* button : {openButton, pasteButton, copyButton, saveButton, deleteButton, clearButton})
         buttons->addWidget(button);
-    fitButton = newButton(PanelText::tr("Fit"), SLOT(_onFitClicked()));
-    fitButton->setCheckable(true);
-    fitButton->setToolTip(PanelText::tr("Which false origin and scale factor would meet the points best."));
-    buttons->addWidget(fitButton);
     buttons->addStretch();
     layout->addLayout(buttons, 0, 0);
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
-    plot->setMinimumSize(150, 90);
+    plot->setMinimumWidth(150);
+    // What the settings below it need comes first.
+    splitter->setMinimumHeight(90);
+    splitter->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     splitter->addWidget(table);
     splitter->addWidget(plot);
     splitter->setStretchFactor(0, 3);
@@ -116,11 +118,17 @@ PointsPane::PointsPane(bool readOnly, QWidget* parent)
     pointedAt->addWidget(nextButton);
     layout->addLayout(pointedAt, 2, 0);
     buildSettings();
-    buildFigures();
+    layout->addWidget(figures, 4, 0);
     fitBox->hide();
     connect(fitBox, SIGNAL(accepted()), this, SIGNAL(fitAccepted()));
+    connect(fitBox, SIGNAL(fitChanged()), this, SLOT(_onFitChanged()));
     layout->addWidget(fitBox, 5, 0);
-    layout->addWidget(message, 6, 0);
+    reportButton = newButton(PanelText::tr("Report..."), SLOT(_onReport()));
+    reportButton->setToolTip(PanelText::tr("Writes the check as a document to file with the job."));
+    auto* outcome = new QHBoxLayout;
+    outcome->addWidget(message, 1);
+    outcome->addWidget(reportButton);
+    layout->addLayout(outcome, 6, 0);
     layout->addLayout(working, 7, 0);
     connect(plot, SIGNAL(pointed(int)), this, SLOT(_onPointed(int)));
     connect(plot, SIGNAL(clicked(int)), this, SLOT(_onClicked(int)));
@@ -163,38 +171,14 @@ void PointsPane::buildTable() {
                                             : column == PointsModel::Height    ? "1234.1234"
                                             : column <= PointsModel::Northing  ? "-1234567.1234"
                                                                                : "-123.1234"));
+    for (const int column : {PointsModel::FittedEast, PointsModel::FittedNorth})
+        table->setColumnHidden(column, true);
     table->installEventFilter(this);
     connect(model, SIGNAL(edited(int)), this, SLOT(_onEdited(int)));
     connect(model, SIGNAL(usedChanged()), this, SLOT(_onUsedChanged()));
     connect(model, SIGNAL(refused(QString)), this, SLOT(_onRefused(QString)));
     connect(table->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)), this,
             SLOT(_onSelectionChanged()));
-}
-
-void PointsPane::buildFigures() {
-    auto* grid = new QGridLayout;
-    grid->setVerticalSpacing(0);
-    grid->setHorizontalSpacing(12);
-    const QString columns[] = {PanelText::tr("mean"), PanelText::tr("RMS"), PanelText::tr("largest")};
-    const QString lines[] = {"ΔE", "ΔN", PanelText::tr("Distance")};
-    for (int column = 0; column < FigureColumnCount; ++column)
-        grid->addWidget(new QLabel(columns[column]), 0, column + 1, Qt::AlignRight);
-    for (int line = 0; line < FigureLineCount; ++line) {
-        grid->addWidget(new QLabel(lines[line]), line + 1, 0);
-        for (int column = 0; column < FigureColumnCount; ++column) {
-            auto* label = new QLabel;
-            label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-            label->setAccessibleName(lines[line] + ' ' + columns[column]);
-            grid->addWidget(label, line + 1, column + 1, Qt::AlignRight);
-            figures[std::size_t(line)][std::size_t(column)] = label;
-        }
-    }
-    counts->setWordWrap(true);
-    counts->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    counts->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    grid->addWidget(counts, 0, 4, 4, 1);
-    grid->setColumnStretch(4, 1);
-    qobject_cast<QGridLayout*>(layout())->addLayout(grid, 4, 0);
 }
 
 void PointsPane::buildSettings() {
@@ -204,10 +188,10 @@ void PointsPane::buildSettings() {
     toleranceBox->setRange(0.0, 999.0);
     auto* datumLabel = new QLabel(PanelText::tr("Datum"));
     datumLabel->setBuddy(datumBox);
-    datumBox->addItem(PanelText::tr("The system's own"));
+    datumBox->addItem(PanelText::tr("Own"));
     datumBox->addItem(PanelText::tr("WGS 84"));
     datumBox->setAccessibleName(PanelText::tr("Datum"));
-    datumBox->setToolTip(PanelText::tr("Datum of latitude, longitude and height"));
+    datumBox->setToolTip(PanelText::tr("Datum of latitude, longitude and height: the system's own, or WGS 84"));
     auto* row = new QHBoxLayout;
     row->setSpacing(6);
     row->addWidget(datumLabel);
@@ -216,6 +200,10 @@ void PointsPane::buildSettings() {
     row->addWidget(toleranceLabel);
     row->addWidget(toleranceBox);
     row->addStretch();
+    fitButton = newButton(PanelText::tr("Fit"), SLOT(_onFitClicked()));
+    fitButton->setCheckable(true);
+    fitButton->setToolTip(PanelText::tr("Which false origin and scale factor would meet the points best."));
+    row->addWidget(fitButton);
     qobject_cast<QGridLayout*>(layout())->addLayout(row, 3, 0);
     connect(datumBox, SIGNAL(currentIndexChanged(int)), this, SLOT(_onDatumChanged()));
     connect(toleranceBox, SIGNAL(valueChanged(double)), this, SLOT(_onToleranceChanged()));
@@ -227,10 +215,6 @@ const PointTable& PointsPane::points() const {
 
 CheckPoint::Datum PointsPane::datum() const {
     return datumBox->currentIndex() == 0 ? CheckPoint::Datum::Own : CheckPoint::Datum::Wgs84;
-}
-
-QString PointsPane::lengthText(double metres) const {
-    return QString::number(metres / LengthUnit::metres(), 'f', 4);
 }
 
 void PointsPane::setSystem(const std::shared_ptr<const ShownSystem>& shown) {
@@ -292,7 +276,7 @@ void PointsPane::lock(bool isLocked) {
     model->setLocked(isLocked);
     for (QToolButton* button : {openButton, pasteButton})
         button->setEnabled(!isLocked);
-    for (QToolButton* button : {copyButton, saveButton, deleteButton, clearButton, nextButton})
+    for (QToolButton* button : {copyButton, saveButton, deleteButton, clearButton, nextButton, reportButton})
         button->setEnabled(!isLocked && isAnything);
     datumBox->setEnabled(!isLocked);
 }
@@ -316,8 +300,12 @@ void PointsPane::_onWorkEnded() {
 }
 
 void PointsPane::_onCancel() {
+    if ((saving && saving->isCommitting()) || (reporting && reporting->isCommitting()))
+        return say(PanelText::tr("All is written: that can't be cancelled any more."));
     say(PanelText::tr("Cancelled: %1").arg(taskName));
     const bool isComputing = task == Task::Computing;
+    saving.reset();
+    reporting.reset();
     work->cancel();
     if (isComputing)
         showResults();
@@ -342,8 +330,11 @@ void PointsPane::read(const QString& path) {
 }
 
 void PointsPane::_onPaste() {
+    const QString text = QGuiApplication::clipboard()->text();
+    if (model->pasteInto(table->currentIndex(), text))
+        return;
     auto buffer = std::make_unique<QBuffer>();
-    buffer->setData(QGuiApplication::clipboard()->text().toUtf8());
+    buffer->setData(text.toUtf8());
     buffer->open(QIODevice::ReadOnly);
     read(std::move(buffer), PanelText::tr("The clipboard"));
 }
@@ -356,38 +347,20 @@ void PointsPane::read(std::unique_ptr<QIODevice> source, const QString& name) {
     PointColumnsDialog dialog(PointReader::decodedHead(start), this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    struct Reading {
-        std::unique_ptr<QIODevice> source;
-        std::shared_ptr<PointTable> table = std::make_shared<PointTable>();
-        std::unique_ptr<PointReader> reader;
-    };
-    const auto reading = std::make_shared<Reading>();
-    reading->source = std::move(source);
-    reading->reader =
-        std::make_unique<PointReader>(dialog.pointLayout(), LengthUnit::metres(dialog.unit()), *reading->table);
-    const auto piece = [this, reading, name] {
-        QIODevice& from = *reading->source;
-        const QByteArray bytes = from.read(bytesPerPiece);
-        reading->reader->add(bytes);
-        if (reading->table->isFull()) {
-            say(PanelText::tr("%1 has too many points; nothing of it is taken.").arg(name), true);
-            work->cancel();
-            return 1.0;
-        }
-        if (bytes.isEmpty() || from.atEnd())
-            return 1.0;
-        return from.size() > 0 ? 0.999 * double(from.pos()) / double(from.size()) : 0.0;
-    };
-    begin(Task::Reading, PanelText::tr("Reading"), piece, [this, reading, name] {
-        const auto* file = qobject_cast<const QFile*>(reading->source.get());
-        const QString error = file && file->error() != QFile::NoError ? file->errorString() : QString();
-        reading->reader->finish();
+    const auto reading =
+        std::make_shared<PointReading>(std::move(source), dialog.pointLayout(), LengthUnit::metres(dialog.unit()));
+    const auto done = [this, reading, name] {
+        if (reading->isTooMuch())
+            return say(PanelText::tr("%1 has too many points; nothing of it is taken.").arg(name), true);
+        const QString error = reading->error();
         if (error.isEmpty())
-            say(PanelText::tr("%1: %2 rows read.").arg(name).arg(reading->table->size()));
+            say(PanelText::tr("%1: %2 read.").arg(name, rowsText(reading->table.size())));
         else
             say(PanelText::tr("%1 can't be read to its end: %2").arg(name, error), true);
-        join(reading->table);
-    });
+        join(std::shared_ptr<PointTable>(reading, &reading->table));
+    };
+    begin(
+        Task::Reading, PanelText::tr("Reading"), [reading] { return reading->read(); }, done);
 }
 
 /// Adds points behind those that are there.
@@ -484,7 +457,7 @@ void PointsPane::showResults() {
         },
         [this, statistics, draw] {
             statistics->finish();
-            showFigures(*statistics);
+            figures->setStatistics(*statistics, points().size());
             model->refresh();
             draw();
         });
@@ -494,8 +467,13 @@ const FitToPoints& PointsPane::fit() const {
     return fitBox->fit();
 }
 
+/// The box takes the place of the figures, whose like it tells before and after.
 void PointsPane::_onFitClicked() {
-    fitBox->setVisible(fitButton->isChecked());
+    const bool isOpen = fitButton->isChecked();
+    figures->setVisible(!isOpen);
+    fitBox->setVisible(isOpen);
+    for (const int column : {PointsModel::FittedEast, PointsModel::FittedNorth})
+        table->setColumnHidden(column, !isOpen);
     showFit();
 }
 
@@ -508,24 +486,8 @@ void PointsPane::showFit() {
                              : QVector<KnownPoint>());
 }
 
-void PointsPane::showFigures(const PointStatistics& statistics) {
-    const PointStatistics::Figures* const lines[] = {&statistics.easting, &statistics.northing, &statistics.distance};
-    for (std::size_t line = 0; line < FigureLineCount; ++line) {
-        const double values[] = {lines[line]->mean, lines[line]->rms, lines[line]->largest};
-        for (std::size_t column = 0; column < FigureColumnCount; ++column)
-            figures[line][column]->setText(statistics.count > 0 ? lengthText(values[column]) : QStringLiteral("–"));
-    }
-    QStringList texts{
-        PanelText::tr("%1 points, %2 with both pairs").arg(points().size()).arg(statistics.count + statistics.leftOut)};
-    if (statistics.leftOut > 0)
-        texts << PanelText::tr("%1 left out").arg(statistics.leftOut);
-    if (statistics.beyond > 0)
-        texts << PanelText::tr("%1 beyond the tolerance").arg(statistics.beyond);
-    if (statistics.problems > 0)
-        texts << PanelText::tr("%1 without a result").arg(statistics.problems);
-    if (statistics.duplicates > 0)
-        texts << PanelText::tr("%1 with a name that another has").arg(statistics.duplicates);
-    counts->setText(points().isEmpty() ? PanelText::tr("Paste, open or type points.") : texts.join(", "));
+void PointsPane::_onFitChanged() {
+    model->showFit(fitBox->residuals(points().size()));
 }
 
 void PointsPane::_onDatumChanged() {
@@ -552,9 +514,15 @@ void PointsPane::_onRefused(const QString& reason) {
 }
 
 void PointsPane::_onSelectionChanged() {
-    const QModelIndex current = table->currentIndex();
-    const bool isPoint = table->selectionModel()->hasSelection() && std::size_t(current.row()) < points().size();
-    plot->setSelected(isPoint ? points().grid(std::size_t(current.row())) : GridPoint{qQNaN(), qQNaN()});
+    const int row = selectedRow();
+    plot->setSelected(row >= 0 ? points().grid(std::size_t(row)) : GridPoint{qQNaN(), qQNaN()});
+    showPoint(row);
+}
+
+/// The one with the ring in the picture, -1 where there is none.
+int PointsPane::selectedRow() const {
+    const int row = table->currentIndex().row();
+    return table->selectionModel()->hasSelection() && row < int(points().size()) ? row : -1;
 }
 
 void PointsPane::_onClicked(int row) {
@@ -564,7 +532,12 @@ void PointsPane::_onClicked(int row) {
 }
 
 void PointsPane::_onPointed(int row) {
-    if (row < 0 || std::size_t(row) >= points().size()) {
+    showPoint(row >= 0 && row < int(points().size()) ? row : selectedRow());
+}
+
+/// Tells of a row: in a narrow window its columns are not in sight together.
+void PointsPane::showPoint(int row) {
+    if (row < 0) {
         readout->setText(PanelText::tr("Point at the picture for a point's name."));
         return;
     }
@@ -575,8 +548,8 @@ void PointsPane::_onPointed(int row) {
     const GridPoint difference = points().difference(std::size_t(row));
     if (!std::isnan(difference.easting))
         text += QString("   ΔE %1   ΔN %2   %3 %4")
-                    .arg(lengthText(difference.easting), lengthText(difference.northing),
-                         lengthText(std::hypot(difference.easting, difference.northing)), LengthUnit::symbol());
+                    .arg(LengthUnit::text(difference.easting), LengthUnit::text(difference.northing),
+                         LengthUnit::text(std::hypot(difference.easting, difference.northing)), LengthUnit::symbol());
     readout->setText(text);
 }
 
@@ -624,7 +597,7 @@ void PointsPane::_onCopy() {
             if (copying->isCut)
                 say(PanelText::tr("Only the first %1 rows are copied. Save all as CSV.").arg(copying->count), true);
             else
-                say(PanelText::tr("%1 rows copied.").arg(copying->count));
+                say(PanelText::tr("%1 copied.").arg(rowsText(copying->count)));
         });
 }
 
@@ -639,47 +612,37 @@ void PointsPane::_onSave() {
 }
 
 void PointsPane::save(const QString& path, bool isFull) {
-    struct Saving {
-        QSaveFile file;
-        PointWriter writer;
-        std::size_t next = 0;
-        std::future<bool> committed; ///< to the disk, which may take its time
-    };
-    const std::shared_ptr<Saving> saving(new Saving{
-        QSaveFile(path),
-        {points(), ',', isFull ? PointWriter::Digits::Full : PointWriter::Digits::AsShown, LengthUnit::metres()},
-        0,
-        {}});
-    const auto failed = [this, saving, path] {
-        say(PanelText::tr("%1 can't be saved: %2").arg(QFileInfo(path).fileName(), saving->file.errorString()), true);
-    };
-    // The mark tells a spreadsheet that it is UTF-8.
-    if (!saving->file.open(QIODevice::WriteOnly) || saving->file.write("\xef\xbb\xbf" + saving->writer.heading()) < 0)
-        return failed();
+    const auto current = std::make_shared<PointSaving>(
+        points(), path, isFull ? PointWriter::Digits::Full : PointWriter::Digits::AsShown);
+    saving = current;
     begin(
-        Task::Saving, PanelText::tr("Saving"),
-        [this, saving, failed] {
-            if (saving->committed.valid())
-                return saving->committed.wait_for(std::chrono::milliseconds(5)) == std::future_status::ready ? 1.0
-                                                                                                             : 0.99;
-            std::string text;
-            const std::size_t last = std::min(saving->next + rowsPerPiece, points().size());
-            for (; saving->next < last; ++saving->next)
-                saving->writer.write(saving->next, text);
-            if (saving->file.write(text.data(), qint64(text.size())) < 0) {
-                failed();
-                work->cancel();
-                return 1.0;
-            }
-            if (last == points().size())
-                saving->committed = std::async(std::launch::async, [saving] { return saving->file.commit(); });
-            return 0.99 * double(last) / double(points().size());
-        },
-        [this, saving, failed, path] {
-            if (saving->committed.get())
-                say(PanelText::tr("%1: %2 rows saved.").arg(QFileInfo(path).fileName()).arg(points().size()));
+        Task::Saving, PanelText::tr("Saving"), [current] { return current->write(); },
+        [this, current, path] {
+            const QString name = QFileInfo(path).fileName();
+            saving.reset();
+            if (current->error().isEmpty())
+                say(PanelText::tr("%1: %2 saved.").arg(name, rowsText(points().size())));
             else
-                failed();
+                say(PanelText::tr("%1 can't be saved: %2").arg(name, current->error()), true);
+        });
+}
+
+void PointsPane::_onReport() {
+    ReportDialog dialog(system->record(), this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const QString name = QFileInfo(dialog.path()).fileName();
+    const auto current = std::make_shared<ReportWriting>(
+        CheckReport::Check{system, &points(), datum(), model->tolerance()}, dialog.path(), dialog.form());
+    reporting = current;
+    begin(
+        Task::Saving, PanelText::tr("Report"), [current] { return current->step(); },
+        [this, current, name] {
+            reporting.reset();
+            if (current->error().isEmpty())
+                say(PanelText::tr("%1: report saved.").arg(name));
+            else
+                say(PanelText::tr("%1 can't be saved: %2").arg(name, current->error()), true);
         });
 }
 
@@ -687,10 +650,27 @@ void PointsPane::_onDelete() {
     if (!table->selectionModel()->hasSelection())
         return say(PanelText::tr("No row is selected."));
     const std::size_t before = points().size();
+    const QModelIndex current = table->currentIndex();
     work->cancel();
     model->remove(selectedRows());
-    say(PanelText::tr("%1 rows deleted.").arg(before - points().size()));
+    // The keyboard stays where it was, for the next one.
+    const int row = std::min(current.row(), int(points().size()));
+    table->selectionModel()->setCurrentIndex(model->index(row, current.column()), QItemSelectionModel::NoUpdate);
+    say(PanelText::tr("%1 deleted; Ctrl+Z undoes that.").arg(rowsText(before - points().size())));
     findDuplicates();
+}
+
+void PointsPane::_onUndo() {
+    if (!pasteButton->isEnabled())
+        return; // the table is locked
+    work->cancel();
+    const int column = table->currentIndex().column();
+    const int row = model->undo();
+    if (row < 0)
+        return say(PanelText::tr("There is nothing to undo."));
+    table->setCurrentIndex(model->index(row, std::max(column, 0)));
+    say(PanelText::tr("Undone: the points are as they were before."));
+    recompute();
 }
 
 void PointsPane::_onClear() {
@@ -699,7 +679,7 @@ void PointsPane::_onClear() {
         return;
     work->cancel();
     model->clear();
-    say(QString());
+    say(PanelText::tr("All points are removed; Ctrl+Z undoes that."));
     recompute();
 }
 
@@ -711,10 +691,14 @@ void PointsPane::_onNext() {
     _onClicked(row);
 }
 
-/// Copying, pasting and deleting by the keys that every table has.
+/// Copying, pasting, deleting and undoing by the keys that every table has.
 bool PointsPane::eventFilter(QObject* object, QEvent* event) {
     if (object == table && event->type() == QEvent::KeyPress) {
         auto* key = static_cast<QKeyEvent*>(event);
+        if (key->matches(QKeySequence::Undo)) {
+            _onUndo();
+            return true;
+        }
         const std::pair<bool, QToolButton*> keys[] = {{key->matches(QKeySequence::Copy), copyButton},
                                                       {key->matches(QKeySequence::Paste), pasteButton},
                                                       {key->matches(QKeySequence::Delete), deleteButton}};

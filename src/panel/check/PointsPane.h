@@ -5,7 +5,6 @@
 #include <QElapsedTimer>
 #include <QWidget>
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -14,6 +13,8 @@ class ChoiceBox;
 class FitBox;
 class FitToPoints;
 class MessageLine;
+class PointFigures;
+class PointSaving;
 class PointsModel;
 class PointsPlot;
 class PointTable;
@@ -24,9 +25,9 @@ class QProgressBar;
 class QPushButton;
 class QTableView;
 class QToolButton;
+class ReportWriting;
 class ShownSystem;
 class SlicedWork;
-struct PointStatistics;
 
 /// A table of control points computed through the system, with statistics of how far it is off and a picture. Reading,
 /// computing and saving many go on in slices, which the user can end.
@@ -74,8 +75,11 @@ private Q_SLOTS:
     void _onCopy();
     void _onSave();
     void _onDelete();
+    void _onUndo();
     void _onClear();
     void _onFitClicked();
+    void _onFitChanged();
+    void _onReport();
     void _onNext();
     void _onDatumChanged();
     void _onToleranceChanged();
@@ -91,12 +95,8 @@ private Q_SLOTS:
     void _onCancel();
 
 private:
-    enum FigureColumn { Mean, Rms, Largest, FigureColumnCount };
-    enum FigureLine { East, North, Total, FigureLineCount };
-
     void buildTable();
     void buildSettings();
-    void buildFigures();
     QToolButton* newButton(const QString& text, const char* slot);
 
     /// What is going on in slices. While there is reading, saving or copying, the table stays as it is.
@@ -120,10 +120,10 @@ private:
     void showResults();
     void showFit();
     std::vector<bool> selectedRows() const;
-    void showFigures(const PointStatistics& statistics);
+    int selectedRow() const;
+    void showPoint(int row);
     void showTolerance();
     void say(const QString& text, bool isError = false);
-    QString lengthText(double metres) const;
 
     std::shared_ptr<const ShownSystem> system;
     bool isStale = true;      ///< the system, or the datum, is another since the points were computed
@@ -133,6 +133,8 @@ private:
     Task task = Task::None;
     QString taskName;
     QElapsedTimer taskTime;
+    std::shared_ptr<PointSaving> saving; ///< what is going on
+    std::shared_ptr<ReportWriting> reporting;
     PointsModel* model;
     QTableView* table;
     PointsPlot* plot;
@@ -145,9 +147,9 @@ private:
     QToolButton* deleteButton;
     QToolButton* clearButton;
     QToolButton* fitButton;
+    QToolButton* reportButton;
     QToolButton* nextButton;
-    std::array<std::array<QLabel*, FigureColumnCount>, FigureLineCount> figures;
-    QLabel* counts;
+    PointFigures* figures;
     QLabel* readout;
     MessageLine* message;
     QProgressBar* progress;

@@ -41,10 +41,20 @@ double length(const GridPoint& vector) {
     return std::hypot(vector.easting, vector.northing);
 }
 
+/// "×2000", "×2·10^8".
+QString factorText(double factor) {
+    constexpr double longest = 1e7;
+    if (factor < longest)
+        return "×" + (factor < 1.0 ? QString::number(factor, 'g', 3) : QString::number(factor, 'f', 0));
+    const int power = int(std::floor(std::log10(factor) + 1e-9));
+    return QString("×%1·10^%2").arg(std::round(factor / std::pow(10.0, power))).arg(power);
+}
+
 QString barText(double metres) {
     if (LengthUnit::chosen() != LengthUnit::Metre)
-        return QString::number(metres / LengthUnit::metres(), 'g', 3) + ' ' + LengthUnit::symbol();
-    return metres < 1.0 ? QString::number(metres * 1000.0, 'g', 3) + " mm" : QString::number(metres, 'g', 6) + " m";
+        return QString::number(metres / LengthUnit::metres(), 'g', 3) + QChar(QChar::Nbsp) + LengthUnit::symbol();
+    return metres < 1.0 ? QString::number(metres * 1000.0, 'g', 3) + QChar(QChar::Nbsp) + "mm"
+                        : QString::number(metres, 'f', 0) + QChar(QChar::Nbsp) + "m";
 }
 
 } // namespace
@@ -99,16 +109,18 @@ void ResidualItem::drawBar(QPainter* painter, double pixelsPerMetre, const QRect
     const double unit = LengthUnit::metres();
     const double residual = roundedDown(vectorShare * canvas.width() / (pixelsPerMetre * factor) / unit) * unit;
     const double pixels = residual * pixelsPerMetre * factor;
-    const QString text = barText(residual) + QString(" (×%1)").arg(factor, 0, 'g', 6);
-    const QRectF words = QFontMetricsF(painter->font()).boundingRect(text);
-    const QPointF start(canvas.left() + 8.0, canvas.bottom() - 8.0);
+    const QString text = barText(residual) + ' ' + factorText(factor);
+    constexpr int flags = Qt::AlignLeft | Qt::AlignBottom | Qt::TextWordWrap; // a narrow picture has two lines
+    const QRectF room = canvas.adjusted(5.0, 5.0, -3.0, -12.0);
+    const QRectF words = painter->boundingRect(room, flags, text);
+    const QPointF start(canvas.left() + 5.0, canvas.bottom() - 8.0);
     painter->setPen(Qt::NoPen);
     painter->setBrush(QColor(255, 255, 255, 200));
     painter->drawRect(QRectF(start + QPointF(-4.0, -words.height() - 6.0),
                              QSizeF(std::max(pixels, words.width()) + 10.0, words.height() + 12.0)));
     painter->setPen(QPen(Qt::black, 2.0));
     painter->drawLine(start, start + QPointF(pixels, 0.0));
-    painter->drawText(start + QPointF(0.0, -4.0), text);
+    painter->drawText(room, flags, text);
 }
 
 PointsPlot::PointsPlot(QWidget* parent) : QwtPlot(parent), item(new ResidualItem) {

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <type_traits>
 
 namespace {
 
@@ -29,15 +30,6 @@ QString columnNames(std::uint8_t bits) {
             texts << PanelText::tr(names[i]);
     }
     return texts.join(", ");
-}
-
-template <typename Value> void removeMarked(std::vector<Value>& values, const std::vector<bool>& marked) {
-    std::size_t kept = 0;
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        if (!marked[i])
-            values[kept++] = values[i];
-    }
-    values.resize(kept);
 }
 
 /// A text with "?" for the two characters that end one in the table; hardly any text file has them.
@@ -108,23 +100,64 @@ bool PointTable::join(const PointTable& first, const PointTable& second, std::si
     return false;
 }
 
-void PointTable::remove(const std::vector<bool>& marked) {
-    std::string kept;
+PointTable PointTable::picked(const std::vector<bool>& marked, bool mark) const {
+    std::vector<std::size_t> rows;
     for (std::size_t row = 0; row < size(); ++row) {
-        const std::string_view whole = text(row);
-        const auto start = std::uint32_t(kept.size());
-        if (!marked[row])
-            kept.append(whole.data(), whole.size() + 1); // with its end
-        textStarts[row] = start;
+        if ((row < marked.size() && marked[row]) == mark)
+            rows.push_back(row);
     }
-    texts = std::move(kept);
-    for (auto& column : numbers)
-        removeMarked(column, marked);
-    for (auto& column : computed)
-        removeMarked(column, marked);
-    for (auto* bytes : {&states, &unread, &outOfRange})
-        removeMarked(*bytes, marked);
-    removeMarked(textStarts, marked);
+    PointTable table;
+    const auto pick = [&rows](auto& to, const auto& from) {
+        to.reserve(rows.size());
+        for (const std::size_t row : rows)
+            to.push_back(from[row]);
+    };
+    for (std::size_t i = 0; i < numberCount; ++i)
+        pick(table.numbers[i], numbers[i]);
+    for (std::size_t i = 0; i < computed.size(); ++i)
+        pick(table.computed[i], computed[i]);
+    pick(table.states, states);
+    pick(table.unread, unread);
+    pick(table.outOfRange, outOfRange);
+    table.textStarts.reserve(rows.size());
+    for (const std::size_t row : rows) {
+        const std::string_view whole = text(row);
+        table.textStarts.push_back(std::uint32_t(table.texts.size()));
+        table.texts.append(whole.data(), whole.size() + 1); // with its end
+    }
+    table.texts.shrink_to_fit();
+    return table;
+}
+
+PointTable PointTable::take(const std::vector<bool>& marked) {
+    PointTable taken = picked(marked, true);
+    *this = picked(marked, false);
+    return taken;
+}
+
+void PointTable::putBack(const PointTable& taken, const std::vector<bool>& marked) {
+    const auto insert = [&](auto& to, const auto& from) {
+        std::remove_reference_t<decltype(to)> all;
+        all.reserve(to.size() + from.size());
+        auto kept = to.begin();
+        auto next = from.begin();
+        for (const bool isTaken : marked)
+            all.push_back(isTaken ? *next++ : *kept++);
+        all.insert(all.end(), kept, to.end());
+        to = std::move(all);
+    };
+    for (std::size_t i = 0; i < numberCount; ++i)
+        insert(numbers[i], taken.numbers[i]);
+    for (std::size_t i = 0; i < computed.size(); ++i)
+        insert(computed[i], taken.computed[i]);
+    insert(states, taken.states);
+    insert(unread, taken.unread);
+    insert(outOfRange, taken.outOfRange);
+    std::vector<std::uint32_t> starts = taken.textStarts;
+    for (std::uint32_t& start : starts)
+        start += std::uint32_t(texts.size());
+    insert(textStarts, starts);
+    texts += taken.texts;
 }
 
 std::string_view PointTable::text(std::size_t row) const {

@@ -35,8 +35,14 @@ public:
     /// `part` from 0 until it returns false: all at once may take too long with a window open.
     bool join(const PointTable& first, const PointTable& second, std::size_t part);
 
-    /// Removes the rows that are marked; `marked` has one value for each row.
-    void remove(const std::vector<bool>& marked);
+    /// Removes the rows that are marked, and gives them; `marked` has one value for each row.
+    PointTable take(const std::vector<bool>& marked);
+
+    /// Puts rows back where take() found them; others may have been added behind the end meanwhile.
+    void putBack(const PointTable& taken, const std::vector<bool>& marked);
+
+    /// A table of the rows whose mark is `mark`; rows behind the last mark are not marked.
+    PointTable picked(const std::vector<bool>& marked, bool mark) const;
 
     /// The name as UTF-8.
     std::string_view name(std::size_t row) const;

@@ -9,6 +9,7 @@
 #include "panel/record/NumberText.h"
 #include "panel/record/PanelText.h"
 
+#include <Eigen/Cholesky>
 #include <Eigen/Eigenvalues>
 #include <Eigen/Geometry>
 
@@ -81,6 +82,30 @@ bool isAccepted(const ShiftFromPoints::Parameters& values) {
     for (std::size_t i = 0; i < values.size(); ++i)
         isSound = isSound && DatumFields::shift()[i].accepts(values[i]);
     return isSound;
+}
+
+/// How far an F value of three and `redundancy` degrees of freedom is out, in standard deviations of a normal variable
+/// (Paulson 1942, An approximate normalization of the analysis of variance distribution).
+double normalized(double f, double redundancy) {
+    const double root = std::cbrt(f), a = 2.0 / (9.0 * 3.0), b = 2.0 / (9.0 * redundancy);
+    return ((1.0 - b) * root - (1.0 - a)) / std::sqrt(b * root * root + a);
+}
+
+/// Whether the observations of a point, which begin in row `row`, don't belong to the others'.
+bool isOutlier(const LeastSquares& solution, const MatrixXd& design, Index row) {
+    constexpr double limit = 3.5; // 1 in 4,000
+    const double without = double(solution.redundancy) - 3.0;
+    if (without < 3.0)
+        return false;
+    const auto rows = design.middleRows<3>(row);
+    const Matrix3d own = Matrix3d::Identity() - rows * solution.cofactors * rows.transpose();
+    const Vector3d left = solution.residuals.segment<3>(row);
+    // What the point adds to the sum of squares.
+    const double added = left.dot(own.ldlt().solve(left));
+    const double others = std::max(solution.residuals.squaredNorm() - added, 0.0);
+    // Below a tenth of a millimetre lies the noise of the coordinates themselves.
+    constexpr double noise = 1e-8;
+    return normalized(added / 3.0 / std::max(others / without, noise), without) > limit;
 }
 
 QString deviationText(double metres) {
@@ -160,6 +185,11 @@ ShiftFromPoints ShiftFromPoints::solve(const QVector<Point>& points, Kind kind) 
     }
     result.weight = solution.unitWeight();
     result.leftOver = int(solution.redundancy);
+    Index row = 0;
+    for (const Point& point : points) {
+        result.outlying.append(point.isUsed && isOutlier(solution, design, row));
+        row += point.isUsed ? 3 : 0;
+    }
 
     // From the centroid, in (T, q, s) with q = (1 + s) r, to the geocentre, in (T, r, s) in the record's units.
     VectorXd values = solution.values;

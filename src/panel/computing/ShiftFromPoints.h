@@ -68,6 +68,11 @@ public:
     /// Of the parameters for the geocentre, the strongest first; none with three parameters, which are independent.
     const QVector<Correlation>& correlations() const { return strongest; }
 
+    /// For each of the points, whether it is in use and fits the others worse than one in some thousands would by
+    /// chance: F test of its three coordinates on the shift of the others (Cook and Weisberg 1982, Residuals and
+    /// Influence in Regression, section 2.2). None where fewer than three coordinates would be left over without it.
+    const QVector<bool>& outliers() const { return outlying; }
+
     /// A warning that the parameters can't be told apart, with a recommendation, translated; empty without one.
     const QString& advice() const { return recommendation; }
 
@@ -84,4 +89,5 @@ private:
     double weight = 0.0;
     int leftOver = 0;
     QVector<Correlation> strongest;
+    QVector<bool> outlying;
 };

@@ -23,6 +23,11 @@ bool LengthUnit::parse(const QString& text, double* metres) {
     return true;
 }
 
+QString LengthUnit::text(double metres) {
+    const QString text = QString::number(metres / LengthUnit::metres(), 'f', 4);
+    return text == "-0.0000" ? "0.0000" : text;
+}
+
 QString LengthUnit::refusal() {
     return tr("Not a length in %1 with a decimal point.").arg(symbol());
 }

@@ -29,6 +29,9 @@ public:
     /// for any other text, also one with another unit; `metres` is untouched then.
     static bool parse(const QString& text, double* metres);
 
+    /// A length with 4 decimals in the chosen unit, without it.
+    static QString text(double metres);
+
     /// Why parse() refused a text, translated.
     static QString refusal();
 

@@ -162,7 +162,7 @@ void ShiftDialog::showResult() {
     solution = ShiftFromPoints::solve(points.points(), kindBox->currentIndex() == 0 ? Kind::Seven : Kind::Three);
     const bool isSolved = solution.problem().isEmpty();
     const auto before = ShiftFromPoints::ofRecord(record);
-    points.showResiduals(before ? &*before : nullptr, isSolved ? &solution.parameters() : nullptr);
+    points.showResiduals(before ? &*before : nullptr, isSolved ? &solution.parameters() : nullptr, solution.outliers());
     for (std::size_t i = 0; i < values.size(); ++i) {
         const bool isEstimated = i < std::size_t(solution.kind());
         values[i]->setText(!isSolved ? QString()
@@ -220,6 +220,8 @@ void ShiftDialog::_onClear() {
 void ShiftDialog::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Paste) && table->hasFocus())
         _onPaste();
+    else if (event->matches(QKeySequence::Undo) && table->hasFocus())
+        points.undo();
     else if (event->matches(QKeySequence::Delete) && table->hasFocus())
         _onRemove();
     else if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && table->hasFocus())

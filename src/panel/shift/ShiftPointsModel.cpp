@@ -94,15 +94,55 @@ int ShiftPointsModel::unusableCount() const {
 }
 
 void ShiftPointsModel::showResiduals(const ShiftFromPoints::Parameters* before,
-                                     const ShiftFromPoints::Parameters* after) {
+                                     const ShiftFromPoints::Parameters* after, const QVector<bool>& outliers) {
     shiftBefore = before ? std::optional<ShiftFromPoints::Parameters>(*before) : std::nullopt;
     shiftAfter = after ? std::optional<ShiftFromPoints::Parameters>(*after) : std::nullopt;
+    int next = 0;
+    for (Row& row : rows)
+        row.isOutlier = row.point && outliers.value(next++);
     Q_EMIT dataChanged(index(0, Before), index(rows.size() - 1, Up));
+}
+
+void ShiftPointsModel::remember() {
+    constexpr int mostSteps = 50;
+    steps.append(rows);
+    if (steps.size() > mostSteps)
+        steps.removeFirst();
+}
+
+bool ShiftPointsModel::undo() {
+    if (steps.isEmpty())
+        return false;
+    beginResetModel();
+    rows = steps.takeLast();
+    endResetModel();
+    changed();
+    return true;
+}
+
+/// Whether a text without tabs and line ends is one cell's, though blanks or commas are in it.
+bool ShiftPointsModel::isOneFigure(const QString& text, int column) const {
+    static const QRegularExpression separators("[\t\r\n;]");
+    if (text.contains(separators))
+        return false;
+    if (column == Name)
+        return !PointLayout::guess(text.toUtf8()).isComplete();
+    const bool isOwn = column < Wgs84;
+    const int coordinate = column - (isOwn ? Own : Wgs84);
+    QString reason;
+    if (coordinate < 2 && (isOwn ? own == OwnForm::Geographic : wgs84 == Wgs84Form::Geographic))
+        return angle(text, coordinate == 0 ? AngleRole::Latitude : AngleRole::Longitude, &reason).has_value();
+    return number(text, &reason).has_value();
 }
 
 void ShiftPointsModel::paste(const QString& text, int row, int column) {
     static const QRegularExpression lineEnds("\r\n|\r|\n");
+    if (isOneFigure(text.trimmed(), column)) {
+        setData(index(row, column), text);
+        return;
+    }
     const PointLayout layout = PointLayout::guess(text.toUtf8());
+    remember();
     beginResetModel();
     for (const QString& line : text.split(lineEnds)) {
         if (line.trimmed().isEmpty())
@@ -122,6 +162,7 @@ void ShiftPointsModel::removeRowsOf(const QModelIndexList& indexes) {
     QVector<bool> isRemoved(rows.size(), false);
     for (const QModelIndex& index : indexes)
         isRemoved[index.row()] = true;
+    remember();
     beginResetModel();
     QVector<Row> left;
     for (int i = 0; i < rows.size(); ++i) {
@@ -134,6 +175,7 @@ void ShiftPointsModel::removeRowsOf(const QModelIndexList& indexes) {
 }
 
 void ShiftPointsModel::clear() {
+    remember();
     beginResetModel();
     rows.clear();
     endResetModel();
@@ -262,11 +304,13 @@ QVariant ShiftPointsModel::data(const QModelIndex& index, int role) const {
     case Qt::TextAlignmentRole:
         return int(Qt::AlignVCenter | (column == Name ? Qt::AlignLeft : Qt::AlignRight));
     case Qt::ForegroundRole:
-        if (isTyped && !row.reasons[std::size_t(column)].isEmpty())
+        if (isTyped ? !row.reasons[std::size_t(column)].isEmpty() : row.isOutlier && column > Before)
             return QColor(0xb2182b);
         return row.isUsed ? QVariant() : QColor(Qt::gray);
     case Qt::ToolTipRole:
-        return isTyped ? row.reasons[std::size_t(column)] : QString();
+        return isTyped         ? row.reasons[std::size_t(column)]
+               : row.isOutlier ? PanelText::tr("The other points speak against this one: check it, or leave it out.")
+                               : QString();
     default:
         return QVariant();
     }
@@ -278,12 +322,12 @@ QVariant ShiftPointsModel::headerData(int section, Qt::Orientation orientation, 
     const bool isGrid = own == OwnForm::Grid, isGeocentric = wgs84 == Wgs84Form::Geocentric;
     const QString titles[ColumnCount] = {
         PanelText::tr("Point"),
-        isGrid ? PanelText::tr("Easting") : PanelText::tr("Latitude"),
-        isGrid ? PanelText::tr("Northing") : PanelText::tr("Longitude"),
-        PanelText::tr("Height"),
-        isGeocentric ? PanelText::tr("WGS 84 X") : PanelText::tr("WGS 84 latitude"),
-        isGeocentric ? PanelText::tr("WGS 84 Y") : PanelText::tr("WGS 84 longitude"),
-        isGeocentric ? PanelText::tr("WGS 84 Z") : PanelText::tr("WGS 84 height"),
+        isGrid ? PanelText::tr("Easting, m") : PanelText::tr("Latitude"),
+        isGrid ? PanelText::tr("Northing, m") : PanelText::tr("Longitude"),
+        PanelText::tr("Height, m"),
+        isGeocentric ? PanelText::tr("WGS 84 X, m") : PanelText::tr("WGS 84 latitude"),
+        isGeocentric ? PanelText::tr("WGS 84 Y, m") : PanelText::tr("WGS 84 longitude"),
+        isGeocentric ? PanelText::tr("WGS 84 Z, m") : PanelText::tr("WGS 84 height, m"),
         PanelText::tr("Before, m"),
         PanelText::tr("East, mm"),
         PanelText::tr("North, mm"),
@@ -302,13 +346,14 @@ Qt::ItemFlags ShiftPointsModel::flags(const QModelIndex& index) const {
 }
 
 bool ShiftPointsModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (role != Qt::CheckStateRole && (role != Qt::EditRole || index.column() >= typedColumns))
+        return false;
+    remember();
     Row& row = rows[index.row()];
     if (role == Qt::CheckStateRole)
         row.isUsed = value.toInt() == Qt::Checked;
-    else if (role == Qt::EditRole && index.column() < typedColumns)
-        row.texts[std::size_t(index.column())] = value.toString().trimmed();
     else
-        return false;
+        row.texts[std::size_t(index.column())] = value.toString().trimmed();
     changed();
     return true;
 }

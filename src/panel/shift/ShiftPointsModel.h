@@ -35,13 +35,17 @@ public:
     /// How many rows have a text that can't be read, or lack one.
     int unusableCount() const;
 
-    /// The shifts whose residuals are shown; null for none.
-    void showResiduals(const ShiftFromPoints::Parameters* before, const ShiftFromPoints::Parameters* after);
+    /// The shifts whose residuals are shown, null for none, and which of points() are outliers after.
+    void showResiduals(const ShiftFromPoints::Parameters* before, const ShiftFromPoints::Parameters* after,
+                       const QVector<bool>& outliers);
 
     /// Puts lines of cells, parted as PointLayout sees it, from that cell on; rows are added as needed.
     void paste(const QString& text, int row, int column);
     void removeRowsOf(const QModelIndexList& indexes);
     void clear();
+
+    /// Takes back the last change of the points; false where there is none.
+    bool undo();
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
@@ -61,6 +65,7 @@ private:
         std::array<QString, typedColumns> texts;
         std::array<QString, typedColumns> reasons; ///< why a text is refused
         bool isUsed = true;
+        bool isOutlier = false;
         std::optional<ShiftFromPoints::Point> point;
 
         bool isEmpty() const;
@@ -69,9 +74,12 @@ private:
     void read(Row& row) const;
     std::optional<std::array<double, 3>> readPlace(Row& row, int first, bool isGeographic) const;
     void changed();
+    void remember();
+    bool isOneFigure(const QString& text, int column) const;
     QString residualText(const ShiftFromPoints::Point& point, int column) const;
 
     QVector<Row> rows;
+    QVector<QVector<Row>> steps; ///< the rows before each change
     OwnForm own = OwnForm::Geographic;
     Wgs84Form wgs84 = Wgs84Form::Geographic;
     std::shared_ptr<const ShownSystem> system;

@@ -41,6 +41,9 @@ public:
     virtual std::unique_ptr<IProjectedSystem> createSystem(const QByteArray& definition) = 0;
 
     virtual IEpsgRegistry& registry() = 0;
+
+    /// PROJ's version: "9.1.1".
+    virtual QByteArray version() = 0;
 };
 
 /// The module, loaded from "$(APP_DIR)/../lib" by the first call; null when it can't be loaded.

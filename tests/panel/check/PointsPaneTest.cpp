@@ -16,10 +16,11 @@ namespace {
 /// The page "Points" of the tab "Check".
 ///   done: "paste=text" (lines parted by "/") accepts the dialog of its columns, which "columns" tells; "refused paste"
 ///   shows none;
-///         "save=as shown", "save=full" and "open=text" a file; "cell=2 Name=text" types into the second row, "used=2"
-///         turns its check mark, "select=2", "click=2" the point in the picture, "mouse=2"
-///   seen: "cell:2 Name", "rows", "picture" (points, of them red and grey), "ring" the easting in the picture,
-///   "selected" in the table
+///         "cell paste=2 Name=text" into the second row, "undo" by the keyboard,
+///         "save=as shown", "save=full", "report=name" and "open=text" a file; "cell=2 Name=text" types into the second
+///         row, "used=2" turns its check mark, "select=2", "click=2" the point in the picture, "mouse=2"
+///   seen: "cell:2 Name", "rows", "scrolls" (how many pixels are out of sight in a small window), "picture" (points, of
+///   them red and grey), "ring" the easting in the picture, "selected" and "current" in the table
 class PointsOnScreen : public PanelOnScreen {
 public:
     explicit PointsOnScreen(const QString& start) : PanelOnScreen(start) {
@@ -34,6 +35,7 @@ public:
         acts["refused paste"] = [](const QString& text) { QApplication::clipboard()->setText(lines(text)); };
         acts["open"] = [this](const QString& text) { openFile(lines(text).toUtf8()); };
         acts["open bytes"] = [this](const QString& hex) { openFile(QByteArray::fromHex(hex.toLatin1())); };
+        acts["report"] = [this](const QString& name) { saveAs("Report...", 0, name); };
         acts["save"] = [this](const QString& digits) { save(digits == "full"); };
         acts["remove all"] = [this](const QString&) {
             MessageBoxDouble::reset();
@@ -52,6 +54,12 @@ public:
             model->refresh(); // computed anew meanwhile
             QTest::keyClick(edit, Qt::Key_Return);
         };
+        acts["cell paste"] = [this](const QString& text) {
+            QApplication::clipboard()->setText(text.section('=', 1));
+            table->setCurrentIndex(cell(text.section('=', 0, 0)));
+            QTest::keySequence(table, QKeySequence::Paste);
+        };
+        acts["undo"] = [this](const QString&) { QTest::keySequence(table, QKeySequence::Undo); };
         acts["Tolerance"] = [this](const QString& text) {
             find<QDoubleSpinBox>("Tolerance")->setValue(text.toDouble());
         };
@@ -64,6 +72,19 @@ public:
         acts["mouse"] = [this](const QString& row) {
             QMouseEvent move(QEvent::MouseMove, at(row), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
             QCoreApplication::sendEvent(plot->canvas(), &move);
+        };
+        sights["scrolls"] = [this](const QString&) {
+            const QFont usual = QApplication::font();
+            QFont desktop = usual;
+            desktop.setPixelSize(13);
+            QApplication::setFont(desktop);
+            panel.resize(516, 548); // as a window of 800 x 600 leaves it
+            QApplication::processEvents();
+            QSize hidden(0, 0);
+            for (const QScrollArea* area : findAll<QScrollArea>())
+                hidden += QSize(area->horizontalScrollBar()->maximum(), area->verticalScrollBar()->maximum());
+            QApplication::setFont(usual);
+            return QString("%1 x %2").arg(hidden.width()).arg(hidden.height());
         };
         sights["told"] = [this](const QString&) {
             const QString times = QString::number(changes.count());
@@ -88,8 +109,10 @@ public:
             const QModelIndexList rows = table->selectionModel()->selectedRows();
             return rows.isEmpty() ? "none" : QString::number(rows.first().row() + 1);
         };
+        sights["current"] = [this](const QString&) { return QString::number(table->currentIndex().row() + 1); };
         sights["counts"] = [this](const QString&) { return textOf(" with both pairs"); };
         sights["named"] = [this](const QString&) { return textOf("   ΔE "); };
+        sights["begins"] = [this](const QString& name) { return contentOf(folder.filePath(name)).left(5); };
         sights["saved"] = [this](const QString&) {
             return QString::fromUtf8(contentOf(folder.filePath("saved.csv"))).remove(QChar(0xfeff)).replace('\n', '/');
         };
@@ -137,16 +160,19 @@ private:
         QCOMPARE(ModalDriver::pending(), 0);
     }
 
-    void save(bool isFull) {
-        QFile::remove(folder.filePath("saved.csv")); // else the dialog asks
+    void save(bool isFull) { saveAs("Save...", isFull ? 1 : 0, "saved.csv"); }
+
+    void saveAs(const QString& button, int filter, const QString& name) {
+        const QString path = folder.filePath(name);
+        QFile::remove(path); // else the dialog asks
         ModalDriver::onNextDialog([=](QDialog* dialog) {
             auto* files = qobject_cast<QFileDialog*>(dialog);
-            files->selectNameFilter(files->nameFilters().at(isFull ? 1 : 0));
-            auto* name = files->findChild<QLineEdit*>("fileNameEdit");
-            name->setText(folder.filePath("saved.csv"));
-            QTest::keyClick(name, Qt::Key_Return);
+            files->selectNameFilter(files->nameFilters().at(filter));
+            auto* edit = files->findChild<QLineEdit*>("fileNameEdit");
+            edit->setText(path);
+            QTest::keyClick(edit, Qt::Key_Return);
         });
-        find<QToolButton>("Save...")->click();
+        find<QToolButton>(button)->click();
         finish();
     }
 

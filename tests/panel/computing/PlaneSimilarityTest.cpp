@@ -10,7 +10,8 @@ class PlaneSimilarityTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    /// Ghilani and Wolf, Adjustment Computations, the example of a two-dimensional conformal transformation.
+    /// Ghilani and Wolf, Adjustment Computations, the example of a two-dimensional conformal transformation: its points
+    /// give its scale to 1e-6, its rotation to 0.05", and its shift to a millimetre, which vouches for the digits here.
     void published() {
         const auto fit =
             PlaneSimilarity::between({{121.622, -128.066}, {141.228, 187.718}, {175.802, 135.728}},

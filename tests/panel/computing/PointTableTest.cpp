@@ -111,11 +111,22 @@ private Q_SLOTS:
         PointTable table = read("A,1,2\nB,3,x4\nC,5,6\n");
         table = joined(table, read("name,lat,lon\nD,7,8\nE,9,x\n"));
         table.setUsed(3, false);
-        table.remove({true, false, true, false, false});
+        const PointTable before = table;
+        const std::vector<bool> marked{true, false, true, false, false};
+        const PointTable taken = table.take(marked);
+        QVERIFY(taken.size() == 2 && taken.name(1) == "C" && taken.given(1, PointColumn::Latitude) == 5.0);
         QCOMPARE(table.size(), std::size_t(3));
         QVERIFY(table.name(0) == "B" && table.line(0) == "B,3,x4" && table.name(1) == "D" && !table.isUsed(1));
         QCOMPARE(table.given(1, PointColumn::Longitude), 8.0);
         QVERIFY(table.hasProblem(2) && table.line(2) == "E,9,x" && table.isUsed(2));
+        table.append("F");
+        table.putBack(taken, marked);
+        QCOMPARE(table.size(), std::size_t(6));
+        QVERIFY(table.name(5) == "F" && !table.isUsed(3));
+        for (std::size_t row = 0; row < before.size(); ++row) {
+            QVERIFY(table.name(row) == before.name(row) && table.remark(row) == before.remark(row));
+            QCOMPARE(table.given(row, PointColumn::Latitude), before.given(row, PointColumn::Latitude));
+        }
     }
 
     /// Residuals E 3, -1, 1 (and 100 left out), N 4, 0, 0 metres.

@@ -263,6 +263,28 @@ private Q_SLOTS:
         QVERIFY(std::abs(length(ShiftFromPoints::residual(shift.parameters(), points[1])) - 30.0) < 1e-4);
     }
 
+    /// How often points of random errors are called outliers, and one that is off by 12 of them is.
+    void outliers() {
+        std::mt19937 random(19);
+        constexpr int runs = 400, count = 12;
+        int wrong = 0, found = 0;
+        for (int run = 0; run < runs; ++run) {
+            for (const Kind kind : {Kind::Seven, Kind::Three}) {
+                const Parameters shift = kind == Kind::Seven ? someShift : Parameters{598.1, 73.7, 418.2};
+                QVector<Point> points = randomPoints(random, count, 2.0, shift, 0.02);
+                points[3].isUsed = false;
+                wrong += ShiftFromPoints::solve(points, kind).outliers().count(true);
+                points[7].wgs84.z += 0.24;
+                const QVector<bool> outliers = ShiftFromPoints::solve(points, kind).outliers();
+                QVERIFY(outliers.size() == count && !outliers[3]);
+                found += outliers[7];
+            }
+        }
+        QVERIFY2(wrong < 10, QByteArray::number(wrong)); // of 8,800
+        QVERIFY2(found > 2 * runs * 0.95, QByteArray::number(found));
+        QVERIFY(!ShiftFromPoints::solve(randomPoints(random, 4, 2.0, someShift, 9.0), Kind::Seven).outliers()[0]);
+    }
+
     /// Places as "latitude longitude height" on the ellipsoid of both datums; the first words of what is said.
     void problems_data() {
         const Rows<int, QByteArray, QByteArray> row({"kind", "places", "said"});

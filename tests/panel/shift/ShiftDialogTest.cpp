@@ -10,9 +10,9 @@ namespace {
 
 /// The dialog on a sample's record. A script starts with the record's name and changes to it.
 ///   done: "points=name" copies those of points.txt, "paste" (=lines) them by the keyboard, "select=row,column",
-///         "type=text" into that cell, "space" and "delete" are keys in the table, "reopen" the dialog on the same
-///         points
-///   seen: "rows", "cell:row,column", "tip of:row,column", "checked:row", "heading:column"
+///         "type=text" into that cell, "space", "delete" and "undo" are keys in the table, "reopen" the dialog on the
+///         same points
+///   seen: "rows", "outlier:row" by its colour, "cell:row,column", "tip of:row,column", "checked:row", "heading:column"
 class ShiftDialogOnScreen : public OnScreen {
 public:
     explicit ShiftDialogOnScreen(const QString& start) : points(nullptr) {
@@ -49,6 +49,10 @@ public:
         };
         acts["space"] = [this](const QString&) { QTest::keyClick(table(), Qt::Key_Space); };
         acts["delete"] = [this](const QString&) { QTest::keyClick(table(), Qt::Key_Delete); };
+        acts["undo"] = [this](const QString&) { QTest::keyClick(table(), Qt::Key_Z, Qt::ControlModifier); };
+        sights["outlier"] = [this](const QString& row) {
+            return index(row + ",8").data(Qt::ForegroundRole).value<QColor>() == QColor(0xb2182b) ? "yes" : "no";
+        };
         sights["rows"] = [this](const QString&) { return QString::number(points.rowCount()); };
         sights["cell"] = [this](const QString& cell) { return index(cell).data().toString(); };
         sights["tip of"] = [this](const QString& cell) { return index(cell).data(Qt::ToolTipRole).toString(); };

@@ -3,12 +3,15 @@
 #include "platform/projection/engine/proj/BoundSystem.h"
 #include "platform/projection/engine/proj/ProjContext.h"
 #include "platform/projection/engine/proj/RegistryEllipsoids.h"
+#include "platform/projection/engine/wkt/FaithfulDefinition.h"
+#include "platform/projection/engine/wkt/ProjectedWkt.h"
 
 #include <QByteArrayList>
 
 #include <proj_experimental.h>
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace {
@@ -73,6 +76,18 @@ QByteArray nameOf(PJ_CONTEXT* context, const PJ* datum) {
     const QByteArray name =
         withoutSuffix(withoutSuffix(proj_get_name(datum), " ensemble"), meridianSuffix(context, datum));
     return name.startsWith("Not specified") ? QByteArray() : name;
+}
+
+/// Around a pole both axes point along meridians: the easting 90 degrees east of the northing around the south pole,
+/// west of it around the north pole.
+bool isNorthingFirst(const ProjectedWkt& statement) {
+    const bool startsNorth = statement.axes.startsWith("north");
+    const QVector<double>& meridians = statement.axisMeridians;
+    if (meridians.size() != 2)
+        return startsNorth;
+    const bool isAtSouthPole = startsNorth;
+    const bool isEastOfSecond = std::remainder(meridians[0] - meridians[1], 360) > 0;
+    return isEastOfSecond != isAtSouthPole;
 }
 
 /// The seven numbers of `shift` joined by ",", each with all its digits.
@@ -213,6 +228,26 @@ QByteArray EpsgRegistry::wkt(const QByteArray& code, const RegistryShift* shift)
     if (crs && shift != nullptr)
         crs = boundToWgs84(context.get(), crs, towgs84(*shift));
     return crs ? QByteArray(proj_as_wkt(context.get(), crs.get(), PJ_WKT2_2019, nullptr)) : QByteArray();
+}
+
+const RegistryDefinition& EpsgRegistry::definition(const QByteArray& code) {
+    auto known = definitions.find(code);
+    if (known == definitions.end())
+        known = definitions.emplace(code, readDefinition(code)).first;
+    return known->second;
+}
+
+/// From the system's WKT, whose numbers have their units beside them. No other reader of WKT is asked: that takes nine
+/// times as long, and says the same of all of PROJ's own texts (bench/identify).
+RegistryDefinition EpsgRegistry::readDefinition(const QByteArray& code) const {
+    const ProjObject crs = system(code);
+    if (!crs)
+        return {};
+    const ProjectedWkt statement(proj_as_wkt(context.get(), crs.get(), PJ_WKT2_2019, nullptr));
+    const QByteArray definition = statedDefinition(statement);
+    const ProjObject datum(proj_crs_get_datum_forced(context.get(), crs.get()));
+    return {definition, datum ? nameOf(context.get(), datum.get()) : QByteArray(), isNorthingFirst(statement),
+            definition.isEmpty() ? 0 : statement.gridUnits.first()};
 }
 
 QByteArray EpsgRegistry::unitName(const QByteArray& code) {

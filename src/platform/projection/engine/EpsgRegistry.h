@@ -6,6 +6,8 @@
 
 #include <QHash>
 
+#include <map>
+
 class ProjContext;
 
 /// IEpsgRegistry over PROJ's database.
@@ -21,6 +23,7 @@ public:
     QByteArray datumName(const QByteArray& code) override;
     QByteArray edition() override;
     QByteArray wkt(const QByteArray& code, const RegistryShift* shift) override;
+    const RegistryDefinition& definition(const QByteArray& code) override;
     QByteArray unitName(const QByteArray& code) override;
     std::vector<RegistryEllipsoid> ellipsoids() override;
 
@@ -32,11 +35,13 @@ private:
 
     ProjObject system(const QByteArray& code) const;
     void readSystems();
+    RegistryDefinition readDefinition(const QByteArray& code) const;
     void readDatums();
     std::vector<PlacedShift> readShifts(const QByteArray& datumName);
 
     ProjContext& context;
     std::vector<RegistrySystem> systems;
+    std::map<QByteArray, RegistryDefinition> definitions; ///< by code
     std::vector<QByteArray> datums;
     QHash<QByteArray, QByteArray> datumCodes; ///< by the name in `datums`
     QHash<QByteArray, std::vector<PlacedShift>> shiftsOfDatums;

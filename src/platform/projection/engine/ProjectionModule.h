@@ -27,6 +27,7 @@ public:
     }
 
     IEpsgRegistry& registry() override { return epsgRegistry; }
+    QByteArray version() override { return proj_info().version; }
 
 private:
     ProjContext context;

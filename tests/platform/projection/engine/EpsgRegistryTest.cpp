@@ -67,6 +67,53 @@ private Q_SLOTS:
         QCOMPARE(shifts.empty() ? QByteArray() : shifts.front().name, shift);
     }
 
+    void definition_data() {
+        const Rows<QByteArray, QByteArray, bool, double> row({"code", "definition", "northingFirst", "unit"});
+        row("in metres", "27700",
+            "+proj=tmerc +lat_0=49 +lon_0=-2 +k_0=0.9996012717 +x_0=400000 +y_0=-100000 "
+            "+a=6377563.396 +rf=299.3249646 +units=m +no_defs",
+            false, 1.0);
+        row("northing first", "31467",
+            "+proj=tmerc +lat_0=0 +lon_0=9 +k_0=1 +x_0=3500000 +y_0=0 "
+            "+a=6377397.155 +rf=299.1528128 +units=m +no_defs",
+            true, 1.0);
+        row("in feet", "2225",
+            "+proj=lcc +lat_1=41.6666666666667 +lat_2=40 +lat_0=39.3333333333333 +lon_0=-122 +k_0=1 "
+            "+x_0=2000000.0001016 +y_0=500000.0001016 +a=6378137 +rf=298.257222101 +units=m +no_defs",
+            false, 1200 / 3937.0);
+        row("from Paris, in grads", "27572",
+            "+proj=lcc +lat_1=46.8 +lat_0=46.8 +lon_0=2.33722917 +k_0=0.99987742 "
+            "+x_0=600000 +y_0=2200000 +a=6378249.2 +rf=293.466021293627 +units=m +no_defs",
+            false, 1.0);
+        row("the web's sphere", "3857",
+            "+proj=merc +lon_0=0 +k_0=1 +x_0=0 +y_0=0 +a=6378137 +b=6378137 +units=m +no_defs", false, 1.0);
+        const QByteArray ups = "+proj=stere +lat_0=90 +lon_0=0 +k_0=0.994 +x_0=2000000 +y_0=2000000 +a=6378137 "
+                               "+rf=298.257223563 +units=m +no_defs";
+        row("north pole, easting first", "5041", ups, false, 1.0);
+        row("north pole, northing first", "32661", ups, true, 1.0);
+        const QByteArray ross = "+proj=stere +lat_0=-90 +lon_0=180 +k_0=0.994 +x_0=5000000 +y_0=1000000 +a=6378137 "
+                                "+rf=298.257222101 +units=m +no_defs";
+        row("south pole, northing first", "5482", ross, true, 1.0);
+        row("south pole, easting first", "3031",
+            QByteArray("+proj=stere +lat_0=-90 +lon_0=0 +lat_ts=-71 +k_0=1 +x_0=0 +y_0=0 +a=6378137 +rf=298.257223563 "
+                       "+units=m +no_defs"),
+            false, 1.0);
+        row("to the west and south", "2065", "", false, 0.0);
+        row("another method", "3035", "", true, 0.0);
+        row("unknown code", "1", "", false, 0.0);
+    }
+    void definition() {
+        QFETCH(QByteArray, code);
+        QFETCH(QByteArray, definition);
+        QFETCH(bool, northingFirst);
+        QFETCH(double, unit);
+        const RegistryDefinition& read = registry().definition(code);
+        QCOMPARE(read.definition, definition);
+        QCOMPARE(read.datum, registry().datumName(code));
+        QCOMPARE(read.northingFirst, northingFirst);
+        QCOMPARE(read.unit, unit);
+    }
+
     void edition() { QVERIFY(registry().edition().startsWith("EPSG v")); }
 };
 

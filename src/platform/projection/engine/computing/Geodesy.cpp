@@ -86,6 +86,14 @@ void putName(QByteArray& wkt, const char* keyword, QByteArray name) {
     wkt.replace(open + 1, close - open - 1, name.replace('"', "\"\""));
 }
 
+/// In ESRI's dialect PROJ leaves the identifier out.
+void putEsriIdentifier(QByteArray& wkt, const QByteArray& code) {
+    const int next = wkt.indexOf('\n');
+    const int indent = next < 0 ? 0 : int(wkt.mid(next + 1).indexOf(wkt.mid(next + 1).trimmed()));
+    const QByteArray lineBreak = next < 0 ? QByteArray() : '\n' + QByteArray(indent, ' ');
+    wkt.insert(wkt.lastIndexOf(']'), ',' + lineBreak + "AUTHORITY[\"EPSG\"," + code + ']');
+}
+
 /// The names to the letter: in its ESRI dialect PROJ turns all but plain letters into "_". Where it has ESRI's own name
 /// of a datum, that stays.
 void putEsriNames(QByteArray& wkt, const WktNames& names) {
@@ -118,13 +126,23 @@ QByteArray Geodesy::exportWkt(const QByteArray& definition, const WktNames& name
     static constexpr PJ_WKT_TYPE types[] = {PJ_WKT1_GDAL, PJ_WKT1_ESRI, PJ_WKT2_2019};
     const char* const options[] = {indented ? "MULTILINE=YES" : "MULTILINE=NO", nullptr};
     const DefinitionParts parts = splitDefinition(definition);
-    ProjObject crs = namedSystem(context.get(), parts.projection, names);
+    ProjObject crs =
+        names.code.isEmpty()
+            ? namedSystem(context.get(), parts.projection, names)
+            : ProjObject(proj_create_from_database(context.get(), "EPSG", names.code, PJ_CATEGORY_CRS, 0, nullptr));
     if (crs && !parts.shift.isEmpty())
         crs = boundToWgs84(context.get(), crs, parts.shift);
     if (!crs)
         return {};
     QByteArray wkt = proj_as_wkt(context.get(), crs.get(), types[static_cast<int>(dialect)], options);
-    if (dialect == WktDialect::Wkt1Esri && !wkt.isEmpty())
+    const bool isEsri = dialect == WktDialect::Wkt1Esri;
+    if (wkt.isEmpty())
+        return wkt;
+    if (!names.code.isEmpty())
+        putName(wkt, dialect == WktDialect::Wkt2_2019 ? "PROJCRS[" : "PROJCS[", names.system);
+    if (!names.code.isEmpty() && isEsri)
+        putEsriIdentifier(wkt, names.code);
+    else if (isEsri)
         putEsriNames(wkt, names);
     return wkt;
 }

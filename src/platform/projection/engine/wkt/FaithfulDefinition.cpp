@@ -1,5 +1,6 @@
 #include "platform/projection/engine/wkt/FaithfulDefinition.h"
 
+#include "platform/projection/ProjNumber.h"
 #include "platform/projection/engine/definition/Ellipsoid.h"
 #include "platform/projection/engine/definition/NormalisedProjection.h"
 #include "platform/projection/engine/definition/ProjItems.h"
@@ -42,6 +43,11 @@ bool areAxes(double semiMajorAxis, double inverseFlattening) {
     const bool isMinorAxis = inverseFlattening > 0.9 * semiMajorAxis && inverseFlattening <= semiMajorAxis;
     return semiMajorAxis > smallest && !isEarthIn(0.3048) && !isEarthIn(0.9144) && !isMinorAxis &&
            (inverseFlattening == 0 || inverseFlattening > 1);
+}
+
+/// It takes latitudes on the ellipsoid for latitudes on a sphere.
+bool isMercatorOfTheWeb(const ProjectedWkt& wkt) {
+    return wkt.method == "popularvisualisationpseudomercator";
 }
 
 bool hasEllipsoid(const ProjItems& definition, const ProjectedWkt& wkt, const Ellipsoid& ellipsoid) {
@@ -121,4 +127,17 @@ QByteArray faithfulDefinition(const QByteArray& exported, const ProjectedWkt& wk
     // Readers round the meridian of Paris.
     const bool isRead = !isOnlyOurs && statedItems.text("pm") == "0";
     return isRead ? exported : normalised + ' ' + datumOf(items);
+}
+
+QByteArray statedDefinition(const ProjectedWkt& wkt) {
+    const StatedProjection stated(wkt);
+    const ProjItems items(stated.definition);
+    if (stated.definition.isEmpty() || !areAxes(wkt.semiMajorAxis, wkt.inverseFlattening) || !hasAxes(items, wkt))
+        return {};
+    const double a = wkt.semiMajorAxis;
+    const bool isSphere = wkt.inverseFlattening == 0 || isMercatorOfTheWeb(wkt);
+    const double b = isSphere ? a : a - a / wkt.inverseFlattening;
+    const QByteArray normalised = normalisedProjection(items, {QByteArray(), a, b});
+    const QByteArray shape = isSphere ? " +b=" + projNumber(a) : " +rf=" + projNumber(wkt.inverseFlattening);
+    return normalised.isEmpty() ? normalised : normalised + " +a=" + projNumber(a) + shape + " +units=m +no_defs";
 }

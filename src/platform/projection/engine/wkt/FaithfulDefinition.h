@@ -15,3 +15,8 @@ class ProjectedWkt;
 /// Where the text says more than readers understand (WktMethod::isOnlyOurs), its own reading counts. What is left in
 /// doubt comes back without its projection.
 QByteArray faithfulDefinition(const QByteArray& exported, const ProjectedWkt& wkt);
+
+/// The definition that such a text states by itself, without a reader's export of it beside it: "+proj=... +a=...
+/// +rf=... +units=m +no_defs" with degrees from Greenwich and metres, and no shift. Empty where a doubt is left. For
+/// texts that PROJ wrote from its registry, of which it is what faithfulDefinition() gives.
+QByteArray statedDefinition(const ProjectedWkt& wkt);
