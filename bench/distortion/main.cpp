@@ -64,7 +64,7 @@ static void measure(const char* name, const char* type, const char* lat, const c
     const double computed =
         milliseconds(10, [&] { grid = AreaValues::distortion(*system, area, nodes.width(), nodes.height(), 300.0); });
     const double drawn = milliseconds(10, [&] {
-        plot.showValues(grid, area, {"ppm", 1e-4});
+        plot.showValues(grid, area, {"ppm", AreaValues::distortionNoise});
         plot.showLines(DistortionLines(*record, *system, area));
         plot.showPlaces(origin, std::nullopt, {});
         plot.grab();

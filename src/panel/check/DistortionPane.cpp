@@ -19,7 +19,6 @@
 namespace {
 
 constexpr int designNodes = 15;
-constexpr double noise = 1e-4; ///< ppm
 
 bool isSamePlace(const GeographicPoint& left, const GeographicPoint& right) {
     constexpr double closing = 1e-7; // degrees: a centimetre
@@ -121,7 +120,7 @@ void DistortionPane::drawOnce() {
     const GridArea area = plot->fitted(areaBox->gridArea(outline));
     const QSize nodes = plot->nodeCount();
     plot->showValues(AreaValues::distortion(*projection(), area, nodes.width(), nodes.height(), meanHeight()), area,
-                     {PanelText::tr("ppm"), noise});
+                     {PanelText::tr("ppm"), AreaValues::distortionNoise});
     plot->showLines(DistortionLines(system->record(), *projection(), area));
     const auto checked = areaBox->checkedPlace();
     const bool isCheckedShown = checked && areaBox->chosenCentre() == AreaBox::CheckedPoint;

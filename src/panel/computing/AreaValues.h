@@ -25,6 +25,9 @@ public:
     static AreaValues distortion(const IProjectedSystem& system, const GridArea& area, int columns, int rows,
                                  double height);
 
+    /// ppm: below it lies the noise of the computation of the distortion.
+    static constexpr double distortionNoise = 1e-4;
+
     const QVector<double>& values() const { return numbers; }
     int columnCount() const { return columns; }
     int rowCount() const { return columns > 0 ? numbers.size() / columns : 0; }

@@ -41,7 +41,8 @@ public:
         plot.show();
         QApplication::processEvents();
         const GridArea area{{0.0, 0.0}, 1000.0, 1000.0};
-        plot.showValues(AreaValues::distortion(EvenSlope(west, east), area, 101, 101, 0.0), area, {"ppm", 1e-4});
+        plot.showValues(AreaValues::distortion(EvenSlope(west, east), area, 101, 101, 0.0), area,
+                        {"ppm", AreaValues::distortionNoise});
         plot.replot();
         const QSize canvas = plot.canvas()->size();
         QApplication::processEvents();

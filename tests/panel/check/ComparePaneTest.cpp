@@ -19,11 +19,13 @@ namespace {
 class CompareOnScreen : public PanelOnScreen {
 public:
     explicit CompareOnScreen(const QString& start) : PanelOnScreen(start) {
-        for (const auto& [group, name, east] : {std::tuple{"Home", "First grid", 1}, std::tuple{"Home", "Third grid", 3},
-                                                std::tuple{"Away", "Far grid", 9}}) {
+        for (const auto& [group, name, east] :
+             {std::tuple{"Home", "First grid", 1}, std::tuple{"Home", "Third grid", 3},
+              std::tuple{"Away", "Far grid", 9}}) {
             if (!catalogue.group(group))
                 catalogue.addTestGroup(group);
-            const auto record = SampleRecord::named("UTM").with("false_east", QByteArray::number(500000 + east)).record();
+            const auto record =
+                SampleRecord::named("UTM").with("false_east", QByteArray::number(500000 + east)).record();
             record->setText(CoordParamKey::name, name);
             catalogue.group(group)->systems.append(name, record.get());
         }
