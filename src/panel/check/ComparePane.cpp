@@ -65,6 +65,8 @@ ComparePane::ComparePane(QWidget* parent)
                                        "else the same latitude and longitude."));
     meanBox->setToolTip(PanelText::tr("The map shows what is left of the difference without its mean over the area, "
                                       "as after another false easting and northing."));
+    nameLine->setToolTip(PanelText::tr("The difference is easting and northing of the shown system minus those of the "
+                                       "other one, at the same place on the ground."));
     nameLine->setText(PanelText::tr("Choose a system to compare with"));
     plot->setMinimumSize(260, 150);
 
@@ -102,13 +104,18 @@ void ComparePane::addResults(QGridLayout* grid) {
                                                        PanelText::tr("Distance")};
     const std::array<QString, RowCount> names = {PanelText::tr("At the mouse"), PanelText::tr("Checked point"),
                                                  PanelText::tr("Mean"), PanelText::tr("Apart from it")};
+    const std::array<QString, RowCount> explained = {
+        QString(), PanelText::tr("The point of the page \"Point\"."), PanelText::tr("Over the black square."),
+        PanelText::tr("What is left of the difference without its mean is no larger in the black square.")};
     grid->setVerticalSpacing(1);
     for (int column = 0; column < ColumnCount; ++column) {
         grid->addWidget(new QLabel(headings[std::size_t(column)]), 0, column + 1, Qt::AlignRight);
         grid->setColumnStretch(column + 1, 1);
     }
     for (int row = 0; row < RowCount; ++row) {
-        grid->addWidget(new QLabel(names[std::size_t(row)]), row + 1, 0);
+        auto* name = new QLabel(names[std::size_t(row)]);
+        name->setToolTip(explained[std::size_t(row)]);
+        grid->addWidget(name, row + 1, 0);
         for (int column = 0; column < ColumnCount; ++column) {
             auto* result = new QLabel(QStringLiteral("–"));
             result->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -137,7 +144,10 @@ void ComparePane::setOther(const IDictionary& record, const QString& name) {
     other = ShownSystem::of(record, nullptr);
     otherName = name;
     nameLine->setText(PanelText::tr("minus %1").arg(name));
-    nameLine->setToolTip(name);
+    nameLine->setToolTip(
+        PanelText::tr("Easting and northing of the shown system minus those of %1, as it was when it was "
+                      "chosen, at the same place on the ground.")
+            .arg(name));
     _onSettingsChanged();
 }
 
