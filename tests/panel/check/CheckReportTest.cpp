@@ -163,6 +163,7 @@ private Q_SLOTS:
             return QString::fromUtf8(text.readAll()).split('\f', Qt::SkipEmptyParts);
         };
         int lines = 20;
+        QVERIFY(pages(lines).size() < 2);
         while (pages(lines).size() == 1)
             ++lines;
         if (pages(lines).isEmpty())
