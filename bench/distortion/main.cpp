@@ -7,6 +7,7 @@
 #include "panel/computing/AreaValues.h"
 #include "panel/computing/DesignProposal.h"
 #include "panel/computing/DistortionLines.h"
+#include "panel/computing/SystemDifference.h"
 #include "panel/registry/RegistryModel.h"
 #include "platform/projection/IProjectionModule.h"
 
@@ -73,6 +74,14 @@ static void measure(const char* name, const char* type, const char* lat, const c
     for (const GridPoint& node : AreaValues::nodes(area, 15, 15))
         points.append(*system->toGeographic(node, 0.0));
     const double proposed = milliseconds(5, [&] { DesignProposal::make(*record, module, points, 300.0, true); });
+    // Twice what the page "Compare" computes at most: 10,000 nodes, and once more where the map's shape has changed.
+    const auto shifted = module.createSystem(coordParamToProjDefine(*record) + " +towgs84=100,200,300,1,2,3,4");
+    const QVector<GridPoint> compared = AreaValues::nodes(area, 100, 100);
+    const double different =
+        2.0 * milliseconds(5, [&] {
+            SystemDifference(*shifted, *system, SystemDifference::Sameness::Wgs84).lengths(compared, {0.0, 0.0});
+        });
+    std::printf("%-22s difference %6.2f ms\n", name, different);
     std::printf("%-22s %5d nodes: compute %6.2f ms, draw %6.2f ms = %.2f of the limit; propose %6.2f ms\n", name,
                 nodes.width() * nodes.height(), computed, drawn, (computed + drawn) / limit, proposed);
 }

@@ -18,8 +18,8 @@
 
 namespace {
 
-constexpr int areaNodes = 15;  ///< on each side, for the mean
-constexpr int mapNodes = 2500; ///< at most: four projections at each, and differences are smooth
+constexpr int areaNodes = 15;   ///< on each side, for the mean
+constexpr int mapNodes = 10000; ///< at most, for a large window: five computations at each
 
 /// What differences up to `largest` metres are shown in: millimetres below a metre.
 struct DifferenceUnit {
