@@ -76,7 +76,7 @@ class Photographer:
         type_text(words)
         dialog.find("table cell", code).click()
         if picture:
-            self.take(picture)
+            self.take_window("From registry", picture)
         dialog.find("push button", "Take over").click()
         self.tool.gone("From registry")
 
@@ -95,6 +95,19 @@ class Photographer:
         self.take_from_registry("british national grid", "27700", "from-registry")
         self.tool.tab("Datum shift")
         self.take("datum-shift")
+
+    def coordinates(self):
+        self.tool.tab("Definition").find("push button", "From registry...").click()
+        dialog = self.tool.dialog("From registry")
+        dialog.find("page tab", "From coordinates").click()
+        for field, text in (("Latitude", "40.0"), ("Longitude", "-83"), ("First coordinate", "728350"),
+                            ("Second coordinate", "1827200")):
+            dialog.find("text", field + " of point 1").fill(text)
+        dialog.find("table cell", "3735")
+        press("Return")
+        self.take_window("From registry", "from-coordinates")
+        dialog.find("push button", "Cancel").click()
+        self.tool.gone("From registry")
 
     def shift(self):
         self.tool.scroll_to("Netherlands")
@@ -218,7 +231,8 @@ def main():
             installed.start()
             photographer = Photographer(desktop, installed)
             for step in (photographer.window, photographer.tabs, photographer.compare, photographer.registry,
-                         photographer.shift, photographer.commands, photographer.dialogs, photographer.points):
+                         photographer.coordinates, photographer.shift, photographer.commands, photographer.dialogs,
+                         photographer.points):
                 step()
             installed.close()
         finally:

@@ -28,17 +28,23 @@ public:
     /// no operation for the system.
     QVector<Sample> samples() const;
 
+    /// The same for these places, whose eastings and northings are not looked at.
+    QVector<Sample> computed(const QVector<Sample>& places) const;
+
+    struct Box {
+        double west, south, east, north; ///< degrees; west is below east
+    };
+    Box areaOfUse() const;
+
+    /// Of the system's own axes.
+    double metresPerUnit() const;
+
 private:
     struct Base {
         double primeMeridian; ///< degrees
         double degreesPerUnit;
     };
-    struct Box {
-        double west, south, east, north; ///< degrees; west is below east
-    };
     Base base(const PJ* geodetic) const;
-    Box areaOfUse() const;
-    double metresPerUnit() const;
 
     PJ_CONTEXT* context;
     ProjObject crs;

@@ -1,8 +1,6 @@
 #include "panel/CheckTab.h"
 
-#include "catalogue/CoordParamKey.h"
 #include "catalogue/DictionaryGuard.h"
-#include "import/WktToCoordParam.h"
 #include "panel/check/CatalogueDialog.h"
 #include "panel/check/CheckPointPane.h"
 #include "panel/check/ComparePane.h"
@@ -131,10 +129,8 @@ void CheckTab::_onRegistryWanted() {
     IProjectionModule* const module = projectionModule();
     if (!module)
         return;
-    RegistryDialog dialog(module->registry(), this);
+    RegistryDialog dialog(*module, catalogue, this);
     const DictionaryGuard chosen;
-    if (dialog.exec() != QDialog::Accepted || !WktToCoordParam::write(dialog.wkt(), chosen.get()))
-        return;
-    comparePane->setOther(*chosen, QString::fromUtf8(dialog.source().split(',').first()) + ", " +
-                                       QString::fromLocal8Bit(chosen->getValue(CoordParamKey::name)));
+    if (dialog.exec() == QDialog::Accepted && dialog.write(chosen.get()))
+        comparePane->setOther(*chosen, dialog.systemName());
 }

@@ -44,8 +44,8 @@ QPlainTextEdit* newText(const QString& name) {
 
 } // namespace
 
-DefinitionTab::DefinitionTab(CoordParamEditor& editor, bool readOnly, QWidget* parent)
-    : ParamTab(editor, readOnly, parent) {
+DefinitionTab::DefinitionTab(ICoordSystem* catalogue, CoordParamEditor& editor, bool readOnly, QWidget* parent)
+    : ParamTab(editor, readOnly, parent), catalogue(catalogue) {
 }
 
 QString DefinitionTab::title() const {
@@ -226,17 +226,10 @@ void DefinitionTab::_onFromRegistry() {
     IProjectionModule* const module = projectionModule();
     if (!module)
         return;
-    RegistryDialog dialog(module->registry(), this);
+    RegistryDialog dialog(*module, catalogue, this);
     const DictionaryGuard chosen;
-    if (dialog.exec() != QDialog::Accepted || !WktToCoordParam::write(dialog.wkt(), chosen.get()))
+    if (dialog.exec() != QDialog::Accepted || !dialog.write(chosen.get()))
         return;
-    chosen->remove(CoordParamKey::name);
-    const auto set = [&](const char* key, const QByteArray& text) {
-        if (!text.isEmpty())
-            chosen->setText(key, QString::fromUtf8(text).toLocal8Bit().constData());
-    };
-    set(CoordParamKey::datumName, dialog.datumName());
-    set(CoordParamKey::source, dialog.source());
     editor().replaceValues(*chosen);
     showRecord();
     recordChanged();

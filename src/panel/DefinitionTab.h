@@ -6,6 +6,7 @@ enum class WktDialect;
 class ChoiceBox;
 class CopyButton;
 class IdentityLine;
+class ICoordSystem;
 class MessageLine;
 class QCheckBox;
 class QPlainTextEdit;
@@ -21,7 +22,8 @@ class DefinitionTab : public ParamTab {
     Q_OBJECT
 
 public:
-    DefinitionTab(CoordParamEditor& editor, bool readOnly, QWidget* parent);
+    /// `catalogue`, which systems are looked for in, outlives the tab.
+    DefinitionTab(ICoordSystem* catalogue, CoordParamEditor& editor, bool readOnly, QWidget* parent);
 
     QString title() const override;
 
@@ -46,6 +48,7 @@ private:
     void showWkt();
     QString remark(const QByteArray& text) const;
 
+    ICoordSystem* catalogue;
     QByteArray definition; ///< of the record; empty when it defines no projection
     MessageLine* problemLine = nullptr;
     IdentityLine* identityLine = nullptr;

@@ -1,6 +1,7 @@
 #include "import/WktToCoordParam.h"
 #include "panel/record/RecordDifferences.h"
 #include "panel/registry/IdentityLine.h"
+#include "panel/registry/NameSearch.h"
 #include "support/Files.h"
 #include "support/MessageBoxDouble.h"
 #include "support/ModalDriver.h"
@@ -15,8 +16,8 @@ namespace {
 void takeFromRegistry(const PanelOnScreen& screen, const QString& code, QDialogButtonBox::StandardButton answer,
                       bool deprecatedToo) {
     ModalDriver::onNextDialog([=](QDialog* dialog) {
-        dialog->findChild<QCheckBox*>()->setChecked(deprecatedToo);
-        QTest::keyClicks(dialog->findChild<QLineEdit*>(), code);
+        dialog->findChild<NameSearch*>()->findChild<QCheckBox*>()->setChecked(deprecatedToo);
+        QTest::keyClicks(dialog->focusWidget(), code);
         dialog->findChild<QDialogButtonBox*>()->button(answer)->click();
     });
     screen.button("From registry...")->click();
