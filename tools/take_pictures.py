@@ -70,6 +70,18 @@ class Photographer:
         panel.find("page tab", "Distortion").click()
         self.take("check-distortion")
 
+    def group(self):
+        self.tool.tab("Definition").find("push button", "Save group...").click()
+        dialog = self.tool.dialog("Save group as .prj")
+        folder = os.path.join(self.tool.home, "For the GIS")
+        os.makedirs(folder)
+        type_text(folder)
+        press("Return")
+        wait_for(lambda: dialog.all("push button", "Close"), "the summary")
+        self.take_window("Save group as .prj", "save-group")
+        press("Escape")
+        self.tool.gone("Save group as .prj")
+
     def take_from_registry(self, words, code, picture=None):
         self.tool.tab("Definition").find("push button", "From registry...").click()
         dialog = self.tool.dialog("From registry")
@@ -232,9 +244,9 @@ def main():
             installed = tool.Tool(desktop, home, build)
             installed.start()
             photographer = Photographer(desktop, installed)
-            for step in (photographer.window, photographer.tabs, photographer.compare, photographer.registry,
-                         photographer.coordinates, photographer.shift, photographer.commands, photographer.dialogs,
-                         photographer.points):
+            for step in (photographer.window, photographer.tabs, photographer.compare, photographer.group,
+                         photographer.registry, photographer.coordinates, photographer.shift, photographer.commands,
+                         photographer.dialogs, photographer.points):
                 step()
             installed.close()
         finally:

@@ -12,11 +12,11 @@
 #include "panel/record/CoordParamEditor.h"
 #include "panel/record/DefinitionState.h"
 #include "panel/record/PanelText.h"
-#include "panel/record/RecordDifferences.h"
 #include "panel/record/RecordWkt.h"
 #include "panel/record/SystemFileName.h"
 #include "panel/registry/IdentityLine.h"
 #include "panel/registry/RegistryDialog.h"
+#include "panel/save/SaveGroupDialog.h"
 #include "platform/desktop/VornMessageBox.h"
 #include "platform/projection/IProjectionModule.h"
 
@@ -68,6 +68,7 @@ void DefinitionTab::build() {
     identifierBox = new QCheckBox(PanelText::tr("With identifier"));
     copyWktButton = new CopyButton(PanelText::tr("Copy"));
     saveButton = new QPushButton(PanelText::tr("Save as .prj"));
+    saveGroupButton = new QPushButton(PanelText::tr("Save group..."));
     wktText = newText(PanelText::tr("WKT"));
     wktText->setLineWrapMode(QPlainTextEdit::NoWrap);
     wktText->setMinimumHeight(wktText->fontMetrics().lineSpacing() * 2 + 12);
@@ -83,6 +84,9 @@ void DefinitionTab::build() {
     wktRow->addStretch();
     wktRow->addWidget(copyWktButton);
     wktRow->addWidget(saveButton);
+    auto* remarkRow = new QHBoxLayout;
+    remarkRow->addWidget(remarkLine, 1);
+    remarkRow->addWidget(saveGroupButton);
     content = new QWidget;
     auto* texts = new QVBoxLayout(content);
     texts->setContentsMargins(0, 0, 0, 0);
@@ -90,7 +94,7 @@ void DefinitionTab::build() {
     texts->addWidget(definitionText);
     texts->addLayout(wktRow);
     texts->addWidget(wktText, 1);
-    texts->addWidget(remarkLine);
+    texts->addLayout(remarkRow);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(problemLine);
     layout->addWidget(identityLine);
@@ -104,6 +108,7 @@ void DefinitionTab::build() {
     connect(copyDefinitionButton, SIGNAL(clicked()), this, SLOT(_onCopyDefinition()));
     connect(copyWktButton, SIGNAL(clicked()), this, SLOT(_onCopyWkt()));
     connect(saveButton, SIGNAL(clicked()), this, SLOT(_onSave()));
+    connect(saveGroupButton, SIGNAL(clicked()), this, SLOT(_onSaveGroup()));
     connect(registryButton, SIGNAL(clicked()), this, SLOT(_onFromRegistry()));
 }
 
@@ -139,7 +144,11 @@ void DefinitionTab::showRecord() {
     definition = state.definition;
     problemLine->setMessage(state.problem, MessageLine::Tone::Error);
     problemLine->setVisible(!state.problem.isEmpty());
-    content->setEnabled(!definition.isEmpty());
+    // Other systems of the group can be saved whatever this one lacks.
+    for (QWidget* each : content->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (each != identifierBox)
+            each->setEnabled(each == saveGroupButton ? catalogue != nullptr : !definition.isEmpty());
+    }
     definitionText->setPlainText(QString::fromUtf8(definition));
     identityLine->identify(record(), definition);
     identityLine->setVisible(!definition.isEmpty());
@@ -172,17 +181,7 @@ QString DefinitionTab::remark(const QByteArray& text) const {
     const QByteArray code = identifier();
     if (!code.isEmpty() && !text.contains(code + ']') && !text.contains(code + "\"]"))
         return PanelText::tr("This form can't carry the identifier.");
-    const DictionaryGuard imported;
-    if (!WktToCoordParam::write(text, imported.get()))
-        return PanelText::tr("This form can't be imported again.");
-    const QStringList lost = recordDifferences(record(), *imported);
-    if (!lost.isEmpty())
-        return PanelText::tr("Does not come back with an import of this form: %1.").arg(lost.join(", "));
-    // GDAL and PROJ read the method with false easting and northing at the projection centre.
-    if (dictionary_number(record(), CoordParamKey::projectType, 0.0) ==
-        double(ProjectionMethod::ObliqueMercatorTwoPoints))
-        return PanelText::tr("Other software may count easting and northing from the natural origin.");
-    return QString();
+    return wktRemark(record(), text);
 }
 
 void DefinitionTab::_onDialectChosen() {
@@ -220,6 +219,10 @@ void DefinitionTab::_onSave() {
     if (!process_replace_file(dialog.selectedFiles().first(), wkt(false), &error))
         VornMessageBox::information_ok(this, PanelText::tr("Warning"),
                                        PanelText::tr("The file can't be written: %1").arg(error));
+}
+
+void DefinitionTab::_onSaveGroup() {
+    SaveGroupDialog(*catalogue, record(), *dialectBox, this).exec();
 }
 
 void DefinitionTab::_onFromRegistry() {

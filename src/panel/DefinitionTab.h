@@ -5,8 +5,8 @@
 enum class WktDialect;
 class ChoiceBox;
 class CopyButton;
-class IdentityLine;
 class ICoordSystem;
+class IdentityLine;
 class MessageLine;
 class QCheckBox;
 class QPlainTextEdit;
@@ -22,7 +22,7 @@ class DefinitionTab : public ParamTab {
     Q_OBJECT
 
 public:
-    /// `catalogue`, which systems are looked for in, outlives the tab.
+    /// `catalogue`, which systems are looked for in and whole groups are saved from, outlives the tab.
     DefinitionTab(ICoordSystem* catalogue, CoordParamEditor& editor, bool readOnly, QWidget* parent);
 
     QString title() const override;
@@ -37,6 +37,7 @@ private Q_SLOTS:
     void _onCopyDefinition();
     void _onCopyWkt();
     void _onSave();
+    void _onSaveGroup();
     void _onFromRegistry();
     void _onNoteEdited();
 
@@ -60,6 +61,7 @@ private:
     QPlainTextEdit* wktText = nullptr;
     MessageLine* remarkLine = nullptr;
     QPushButton* saveButton = nullptr;
+    QPushButton* saveGroupButton = nullptr;
     CopyButton* copyWktButton = nullptr;
     TextField* source = nullptr;
     TextField* note = nullptr;

@@ -55,6 +55,18 @@ QString saveDefinition(const PanelOnScreen& screen) {
     return offered + " lacks " + (isRead ? recordDifferences(screen.record(), *imported).join(", ") : "all");
 }
 
+/// What the dialog for a group begins with: the group and the dialect.
+QString groupToSave(const PanelOnScreen& screen) {
+    QStringList chosen;
+    ModalDriver::onNextDialog([&](QDialog* dialog) {
+        for (const auto* box : dialog->findChildren<QComboBox*>())
+            chosen << box->currentText();
+        dialog->reject();
+    });
+    screen.button("Save group...")->click();
+    return chosen.join(", ");
+}
+
 } // namespace
 
 /// What the panel's tabs do, over the real projection module.
@@ -109,6 +121,8 @@ private Q_SLOTS:
         screen.acts["from points cancelled"] = [&](const QString& lines) {
             shiftFromPoints(screen, lines, "Three", QDialogButtonBox::Cancel);
         };
+        screen.acts["add group"] = [&](const QString& name) { screen.catalogue.addTestGroup(name); };
+        screen.sights["group to save"] = [&](const QString&) { return groupToSave(screen); };
         const auto isSearching = [&] { // in the registry
             return screen.panel.findChild<IdentityLine*>()->findChild<QTimer*>()->isActive();
         };

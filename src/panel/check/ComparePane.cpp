@@ -68,7 +68,7 @@ ComparePane::ComparePane(QWidget* parent)
     nameLine->setToolTip(PanelText::tr("The difference is easting and northing of the shown system minus those of the "
                                        "other one, at the same place on the ground."));
     nameLine->setText(PanelText::tr("Choose a system to compare with"));
-    plot->setMinimumSize(260, 150);
+    plot->setMinimumSize(260, 110);
 
     auto* choice = new QHBoxLayout;
     choice->addWidget(nameLine, 1);
