@@ -92,6 +92,19 @@ class Photographer:
         dialog.find("push button", "Take over").click()
         self.tool.gone("From registry")
 
+    def compare(self):
+        """The United Kingdom's grid against the registry's with its datum shift."""
+        panel = self.tool.tab("Check")
+        panel.find("page tab", "Compare").click()
+        panel.find("push button", "From registry...").click()
+        dialog = self.tool.dialog("From registry")
+        type_text("british national grid")
+        dialog.find("table cell", "27700").click()
+        dialog.find("push button", "Take over").click()
+        self.tool.gone("From registry")
+        panel.find("check box", "With datum shifts").click()
+        self.take("check-compare")
+
     def registry(self):
         self.take_from_registry("british national grid", "27700", "from-registry")
         self.tool.tab("Datum shift")
@@ -240,9 +253,9 @@ def main():
             installed = tool.Tool(desktop, home, build)
             installed.start()
             photographer = Photographer(desktop, installed)
-            for step in (photographer.window, photographer.tabs, photographer.group, photographer.registry,
-                         photographer.coordinates, photographer.text, photographer.shift, photographer.commands, photographer.dialogs,
-                         photographer.points):
+            for step in (photographer.window, photographer.tabs, photographer.compare, photographer.group,
+                         photographer.registry, photographer.coordinates, photographer.text, photographer.shift,
+                         photographer.commands, photographer.dialogs, photographer.points):
                 step()
             installed.close()
         finally:

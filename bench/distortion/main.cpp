@@ -3,10 +3,11 @@
 
 #include "catalogue/DictionaryGuard.h"
 #include "import/CoordParamToProjDefine.h"
-#include "panel/check/DistortionPlot.h"
+#include "panel/check/AreaPlot.h"
+#include "panel/computing/AreaValues.h"
 #include "panel/computing/DesignProposal.h"
-#include "panel/computing/DistortionGrid.h"
 #include "panel/computing/DistortionLines.h"
+#include "panel/computing/SystemDifference.h"
 #include "panel/registry/RegistryModel.h"
 #include "platform/projection/IProjectionModule.h"
 
@@ -54,25 +55,33 @@ static void measure(const char* name, const char* type, const char* lat, const c
     fill(record.get(), type, lat, factor);
     IProjectionModule& module = *projectionModule();
     const auto system = module.createSystem(coordParamToProjDefine(*record));
-    DistortionPlot plot;
+    AreaPlot plot{QString()};
     plot.resize(500, 400);
     plot.show();
     const GridPoint origin = DistortionLines::origin(*record);
-    const DistortionArea area = plot.fitted({origin, width, width});
+    const GridArea area = plot.fitted({origin, width, width});
     const QSize nodes = plot.nodeCount();
-    DistortionGrid grid;
+    AreaValues grid;
     const double computed =
-        milliseconds(10, [&] { grid = DistortionGrid(*system, area, nodes.width(), nodes.height(), 300.0); });
+        milliseconds(10, [&] { grid = AreaValues::distortion(*system, area, nodes.width(), nodes.height(), 300.0); });
     const double drawn = milliseconds(10, [&] {
-        plot.showDistortion(grid, area);
+        plot.showValues(grid, area, {"ppm", AreaValues::distortionNoise});
         plot.showLines(DistortionLines(*record, *system, area));
         plot.showPlaces(origin, std::nullopt, {});
         plot.grab();
     });
     QVector<GeographicPoint> points;
-    for (const GridPoint& node : DistortionGrid::nodes(area, 15, 15))
+    for (const GridPoint& node : AreaValues::nodes(area, 15, 15))
         points.append(*system->toGeographic(node, 0.0));
     const double proposed = milliseconds(5, [&] { DesignProposal::make(*record, module, points, 300.0, true); });
+    // Twice what the page "Compare" computes at most: 10,000 nodes, and once more where the map's shape has changed.
+    const auto shifted = module.createSystem(coordParamToProjDefine(*record) + " +towgs84=100,200,300,1,2,3,4");
+    const QVector<GridPoint> compared = AreaValues::nodes(area, 100, 100);
+    const double different =
+        2.0 * milliseconds(5, [&] {
+            SystemDifference(*shifted, *system, SystemDifference::Sameness::Wgs84).lengths(compared, {0.0, 0.0});
+        });
+    std::printf("%-22s difference %6.2f ms\n", name, different);
     std::printf("%-22s %5d nodes: compute %6.2f ms, draw %6.2f ms = %.2f of the limit; propose %6.2f ms\n", name,
                 nodes.width() * nodes.height(), computed, drawn, (computed + drawn) / limit, proposed);
 }

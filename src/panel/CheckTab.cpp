@@ -1,6 +1,9 @@
 #include "panel/CheckTab.h"
 
+#include "catalogue/DictionaryGuard.h"
+#include "panel/check/CatalogueDialog.h"
 #include "panel/check/CheckPointPane.h"
+#include "panel/check/ComparePane.h"
 #include "panel/check/DistortionPane.h"
 #include "panel/check/PointsPane.h"
 #include "panel/computing/FitToPoints.h"
@@ -10,12 +13,15 @@
 #include "panel/field/MessageLine.h"
 #include "panel/record/CoordParamEditor.h"
 #include "panel/record/PanelText.h"
+#include "panel/registry/RegistryDialog.h"
+#include "platform/projection/IProjectionModule.h"
 
 #include <QHBoxLayout>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-CheckTab::CheckTab(CoordParamEditor& editor, bool readOnly, QWidget* parent) : ParamTab(editor, readOnly, parent) {
+CheckTab::CheckTab(ICoordSystem* catalogue, CoordParamEditor& editor, bool readOnly, QWidget* parent)
+    : ParamTab(editor, readOnly, parent), catalogue(catalogue) {
 }
 
 QString CheckTab::title() const {
@@ -32,9 +38,13 @@ void CheckTab::build() {
     pages->addTab(distortionPane, PanelText::tr("Distortion"));
     pointsPane = new PointsPane(isReadOnly());
     pages->addTab(pointsPane, PanelText::tr("Points"));
+    comparePane = new ComparePane;
+    pages->addTab(comparePane, PanelText::tr("Compare"));
     connect(pages, SIGNAL(currentChanged(int)), this, SLOT(_onPageChanged()));
     connect(distortionPane, SIGNAL(proposalAccepted()), this, SLOT(_onProposalAccepted()));
     connect(pointsPane, SIGNAL(fitAccepted()), this, SLOT(_onFitAccepted()));
+    connect(comparePane, SIGNAL(catalogueWanted()), this, SLOT(_onCatalogueWanted()));
+    connect(comparePane, SIGNAL(registryWanted()), this, SLOT(_onRegistryWanted()));
 
     notationBox = new AngleNotationBox;
     notationBox->setAccessibleName(PanelText::tr("Show angles in"));
@@ -62,6 +72,7 @@ void CheckTab::showRecord() {
     pointPane->showNotation();
     distortionPane->setSystem(system, pointPane->place());
     distortionPane->showUnits();
+    comparePane->setSystem(system, pointPane->place());
     pointsPane->setSystem(system);
     pointsPane->showNotation();
     problemLine->setMessage(system->problem(), MessageLine::Tone::Error);
@@ -73,6 +84,7 @@ void CheckTab::showRecord() {
 
 void CheckTab::_onPageChanged() {
     distortionPane->setCheckedPlace(pointPane->place());
+    comparePane->setCheckedPlace(pointPane->place());
 }
 
 void CheckTab::_onProposalAccepted() {
@@ -101,6 +113,24 @@ void CheckTab::_onNotationChosen() {
 
 void CheckTab::_onUnitChosen() {
     distortionPane->showUnits();
+    comparePane->showUnits();
     pointPane->showNotation();
     pointsPane->showNotation();
+}
+
+void CheckTab::_onCatalogueWanted() {
+    CatalogueDialog dialog(*catalogue, this);
+    const DictionaryGuard chosen;
+    if (dialog.exec() == QDialog::Accepted && dialog.write(chosen.get()))
+        comparePane->setOther(*chosen, dialog.systemName());
+}
+
+void CheckTab::_onRegistryWanted() {
+    IProjectionModule* const module = projectionModule();
+    if (!module)
+        return;
+    RegistryDialog dialog(*module, catalogue, this);
+    const DictionaryGuard chosen;
+    if (dialog.exec() == QDialog::Accepted && dialog.write(chosen.get()))
+        comparePane->setOther(*chosen, dialog.systemName());
 }

@@ -6,7 +6,9 @@
 
 class AngleNotationBox;
 class CheckPointPane;
+class ComparePane;
 class DistortionPane;
+class ICoordSystem;
 class LengthUnitBox;
 class MessageLine;
 class PointsPane;
@@ -20,7 +22,8 @@ class CheckTab : public ParamTab {
     Q_OBJECT
 
 public:
-    CheckTab(CoordParamEditor& editor, bool readOnly, QWidget* parent);
+    /// `catalogue`, whose systems can be compared with, outlives the tab.
+    CheckTab(ICoordSystem* catalogue, CoordParamEditor& editor, bool readOnly, QWidget* parent);
 
     QString title() const override;
 
@@ -33,10 +36,13 @@ private Q_SLOTS:
     void _onPageChanged();
     void _onProposalAccepted();
     void _onFitAccepted();
+    void _onCatalogueWanted();
+    void _onRegistryWanted();
 
 private:
     void build();
 
+    ICoordSystem* catalogue;
     std::shared_ptr<const ShownSystem> system;
     MessageLine* problemLine = nullptr;
     AngleNotationBox* notationBox = nullptr;
@@ -45,4 +51,5 @@ private:
     CheckPointPane* pointPane = nullptr;
     DistortionPane* distortionPane = nullptr;
     PointsPane* pointsPane = nullptr;
+    ComparePane* comparePane = nullptr;
 };

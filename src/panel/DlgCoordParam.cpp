@@ -8,7 +8,7 @@
 #include "panel/HeightTab.h"
 #include "panel/ParamTab.h"
 #include "panel/ProjectionTab.h"
-#include "panel/SystemNameLine.h"
+#include "panel/field/SystemNameLine.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -28,7 +28,7 @@ DlgCoordParam::DlgCoordParam(ICoordSystem* coordSystem, QWidget* parent, bool re
     addParamTab(new ProjectionTab(editor, readOnly, nullptr));
     addParamTab(new DatumShiftTab(editor, readOnly, nullptr));
     addParamTab(new HeightTab(coordSystem, editor, readOnly, nullptr));
-    addParamTab(new CheckTab(editor, readOnly, nullptr));
+    addParamTab(new CheckTab(coordSystem, editor, readOnly, nullptr));
     addParamTab(new DefinitionTab(coordSystem, editor, readOnly, nullptr));
     connect(this, SIGNAL(currentChanged(int)), this, SLOT(_onPageChanged()));
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(_onFocusChanged(QWidget*, QWidget*)));

@@ -80,7 +80,7 @@ private Q_SLOTS:
             ++effects[tool.saveButton->isEnabled() ? "dirty" : "clean"];
             ++effects[tool.panel->isEnabled() ? "shown" : "nothing to show"];
             for (const QWidget* map : tool.panel->findChildren<QWidget*>()) {
-                if (map->inherits("DistortionPlot") && map->isVisible())
+                if (map->inherits("AreaPlot") && map->isVisible())
                     ++effects[map->isEnabled() ? "map" : "no projection"];
             }
         }

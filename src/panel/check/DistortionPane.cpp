@@ -1,10 +1,10 @@
 #include "panel/check/DistortionPane.h"
 
+#include "panel/check/AreaBox.h"
+#include "panel/check/AreaPlot.h"
 #include "panel/check/DesignBox.h"
-#include "panel/check/DistortionPlot.h"
 #include "panel/computing/ShownSystem.h"
 #include "panel/field/CheckField.h"
-#include "panel/field/ChoiceBox.h"
 #include "panel/record/LengthUnit.h"
 #include "panel/record/PanelText.h"
 #include "platform/projection/IProjectionModule.h"
@@ -12,7 +12,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSpinBox>
-#include <QStandardItemModel>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -20,7 +19,6 @@
 namespace {
 
 constexpr int designNodes = 15;
-constexpr int defaultWidth = 500; ///< kilometres
 
 bool isSamePlace(const GeographicPoint& left, const GeographicPoint& right) {
     constexpr double closing = 1e-7; // degrees: a centimetre
@@ -32,23 +30,11 @@ bool isSamePlace(const GeographicPoint& left, const GeographicPoint& right) {
 
 DistortionPane::DistortionPane(bool readOnly, QWidget* parent)
     : QWidget(parent)
-    , centreBox(new ChoiceBox)
-    , widthBox(new ChoiceBox)
+    , areaBox(new AreaBox)
     , heightBox(new QSpinBox)
-    , plot(new DistortionPlot)
+    , plot(new AreaPlot(PanelText::tr("Picture of the linear distortion")))
     , readout(new QLabel)
     , design(new DesignBox(readOnly)) {
-    centreBox->addItem(PanelText::tr("Origin"));
-    centreBox->addItem(PanelText::tr("Standard parallels"));
-    centreBox->addItem(PanelText::tr("Checked point"));
-    centreBox->addItem(PanelText::tr("Designed area"));
-    centreBox->setAccessibleName(PanelText::tr("Area"));
-    centreBox->setToolTip(PanelText::tr("What the map is around."));
-    for (const int kilometres : {2, 5, 10, 20, 50, 100, 200, 500, 1000, 2000, 5000})
-        widthBox->addItem(QString::number(kilometres) + " km", kilometres);
-    widthBox->setCurrentIndex(widthBox->findData(defaultWidth));
-    widthBox->setAccessibleName(PanelText::tr("Width of the area"));
-    widthBox->setToolTip(PanelText::tr("Side of the square area; the map shows all of it."));
     heightBox->setRange(-1000, 9000);
     heightBox->setSingleStep(50);
     heightBox->setSuffix(" m");
@@ -59,15 +45,8 @@ DistortionPane::DistortionPane(bool readOnly, QWidget* parent)
     // and go without end.
     readout->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     plot->setMinimumSize(260, 170);
-    for (ChoiceBox* box : {centreBox, widthBox}) {
-        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        box->setMinimumContentsLength(6);
-    }
-    centreBox->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-
     auto* settings = new QHBoxLayout;
-    settings->addWidget(centreBox, 1);
-    settings->addWidget(widthBox);
+    settings->addWidget(areaBox, 1);
     settings->addWidget(heightLabel);
     settings->addWidget(heightBox);
     auto* layout = new QVBoxLayout(this);
@@ -76,8 +55,7 @@ DistortionPane::DistortionPane(bool readOnly, QWidget* parent)
     layout->addWidget(plot, 1);
     layout->addWidget(readout);
     layout->addWidget(design);
-    for (ChoiceBox* box : {centreBox, widthBox})
-        connect(box, SIGNAL(currentIndexChanged(int)), this, SLOT(_onSettingsChanged()));
+    connect(areaBox, SIGNAL(areaChanged()), this, SLOT(_onSettingsChanged()));
     connect(heightBox, SIGNAL(valueChanged(int)), this, SLOT(_onSettingsChanged()));
     connect(plot, SIGNAL(pointed(double, double)), this, SLOT(_onPointed(double, double)));
     connect(plot, SIGNAL(left()), this, SLOT(_onLeft()));
@@ -89,20 +67,16 @@ DistortionPane::DistortionPane(bool readOnly, QWidget* parent)
 
 void DistortionPane::setSystem(const std::shared_ptr<const ShownSystem>& shown,
                                const std::optional<GeographicPoint>& place) {
-    // Another system is seen where it belongs.
-    if (centreBox->currentIndex() == DesignedArea && system && system->name() != shown->name()) {
-        const QSignalBlocker silent(centreBox);
-        centreBox->setCurrentIndex(Origin);
-    }
     system = shown;
-    checkedPlace = place;
+    areaBox->setSystem(shown);
+    areaBox->setCheckedPlace(place);
     _onSettingsChanged();
 }
 
 void DistortionPane::setCheckedPlace(const std::optional<GeographicPoint>& place) {
-    const bool isSame = place && checkedPlace && place->latitude == checkedPlace->latitude &&
-                        place->longitude == checkedPlace->longitude;
-    checkedPlace = place;
+    const auto before = areaBox->checkedPlace();
+    const bool isSame = place && before && place->latitude == before->latitude && place->longitude == before->longitude;
+    areaBox->setCheckedPlace(place);
     if (!isSame)
         _onSettingsChanged();
 }
@@ -116,30 +90,10 @@ const IProjectedSystem* DistortionPane::projection() const {
     return system ? system->projection() : nullptr;
 }
 
-GridPoint DistortionPane::centre() const {
-    std::optional<GridPoint> place;
-    if (centreBox->currentIndex() == Parallels)
-        place = DistortionLines::middleOfParallels(system->record(), *projection());
-    else if (centreBox->currentIndex() == CheckedPoint && checkedPlace)
-        place = projection()->toGrid(*checkedPlace);
-    else if (centreBox->currentIndex() == DesignedArea && designedPlace)
-        place = projection()->toGrid(*designedPlace);
-    return place ? *place : DistortionLines::origin(system->record());
-}
-
-/// Greys what the system does not have; chosen all the same, it stands for the origin.
-void DistortionPane::offerCentres() {
-    auto* items = qobject_cast<QStandardItemModel*>(centreBox->model());
-    items->item(Parallels)->setEnabled(projection() &&
-                                       DistortionLines::middleOfParallels(system->record(), *projection()));
-    items->item(CheckedPoint)->setEnabled(projection() && checkedPlace);
-    items->item(DesignedArea)->setEnabled(projection() && designedPlace);
-}
-
 void DistortionPane::_onSettingsChanged() {
     if (!isVisible())
         return;
-    offerCentres();
+    areaBox->offerCentres();
     draw();
     propose();
 }
@@ -162,14 +116,16 @@ void DistortionPane::draw() {
 }
 
 void DistortionPane::drawOnce() {
-    const DistortionLines::Line outline = designOutline();
-    const DistortionArea area = mapArea(outline);
+    const DistortionLines::Line outline = areaBox->outline();
+    const GridArea area = plot->fitted(areaBox->gridArea(outline));
     const QSize nodes = plot->nodeCount();
-    plot->showDistortion(DistortionGrid(*projection(), area, nodes.width(), nodes.height(), meanHeight()), area);
+    plot->showValues(AreaValues::distortion(*projection(), area, nodes.width(), nodes.height(), meanHeight()), area,
+                     {PanelText::tr("ppm"), AreaValues::distortionNoise});
     plot->showLines(DistortionLines(system->record(), *projection(), area));
-    const bool isCheckedShown = checkedPlace && centreBox->currentIndex() == CheckedPoint;
+    const auto checked = areaBox->checkedPlace();
+    const bool isCheckedShown = checked && areaBox->chosenCentre() == AreaBox::CheckedPoint;
     plot->showPlaces(DistortionLines::origin(system->record()),
-                     isCheckedShown ? projection()->toGrid(*checkedPlace) : std::nullopt, outline);
+                     isCheckedShown ? projection()->toGrid(*checked) : std::nullopt, outline);
 }
 
 /// Metres.
@@ -187,45 +143,12 @@ void DistortionPane::showUnits() {
     _onSettingsChanged();
 }
 
-double DistortionPane::side() const {
-    return widthBox->currentData().toInt() * 1000.0;
-}
-
-/// The area to design for, around the map's centre and as wide as it says; nothing where the projection ends.
-std::optional<DesignArea> DistortionPane::designArea() const {
-    const auto place = projection()->toGeographic(centre(), 0.0);
-    return place ? std::optional<DesignArea>(DesignArea(*place, side())) : std::nullopt;
-}
-
-DistortionLines::Line DistortionPane::designOutline() const {
-    DistortionLines::Line line;
-    const auto area = designArea();
-    for (const GeographicPoint& place : area ? area->outline() : QVector<GeographicPoint>()) {
-        if (const auto point = projection()->toGrid(place))
-            line.push_back(*point);
-    }
-    return line;
-}
-
-/// What the map shows: all of the area to design for and a little around it, however that is turned on the grid.
-DistortionArea DistortionPane::mapArea(const DistortionLines::Line& outline) const {
-    constexpr double margin = 1.04;
-    const GridPoint middle = centre();
-    double width = side(), height = side();
-    for (const GridPoint& point : outline) {
-        width = std::max(width, 2.0 * std::abs(point.easting - middle.easting));
-        height = std::max(height, 2.0 * std::abs(point.northing - middle.northing));
-    }
-    // Towards the end of a projection the grid has no end.
-    const double most = 2.0 * side();
-    return plot->fitted({middle, margin * std::min(width, most), margin * std::min(height, most)});
-}
-
 QVector<GeographicPoint> DistortionPane::designPoints() const {
     if (design->isForPoint())
-        return checkedPlace ? QVector<GeographicPoint>{*checkedPlace} : QVector<GeographicPoint>();
+        return areaBox->checkedPlace() ? QVector<GeographicPoint>{*areaBox->checkedPlace()}
+                                       : QVector<GeographicPoint>();
     QVector<GeographicPoint> points;
-    const auto area = designArea();
+    const auto area = areaBox->square();
     for (const GeographicPoint& place : area ? area->nodes(designNodes) : QVector<GeographicPoint>()) {
         // What lies beyond the projection's end can't be made better.
         if (projection()->localScale(place))
@@ -275,12 +198,10 @@ void DistortionPane::_onLeft() {
 void DistortionPane::_onAccepted() {
     if (!projection())
         return;
-    const auto before = projection()->toGeographic(centre(), 0.0);
+    const auto before = projection()->toGeographic(areaBox->centre(), 0.0);
     Q_EMIT proposalAccepted();
-    const auto after = projection() ? projection()->toGeographic(centre(), 0.0) : std::nullopt;
+    const auto after = projection() ? projection()->toGeographic(areaBox->centre(), 0.0) : std::nullopt;
     if (!before || !after || design->isForPoint() || isSamePlace(*before, *after))
         return;
-    designedPlace = before;
-    centreBox->setCurrentIndex(DesignedArea);
-    _onSettingsChanged();
+    areaBox->stayAround(*before);
 }

@@ -1,16 +1,14 @@
 #pragma once
 
-#include "panel/computing/DesignArea.h"
 #include "panel/computing/DesignProposal.h"
-#include "panel/computing/DistortionLines.h"
 
 #include <QWidget>
 
 #include <memory>
 
-class ChoiceBox;
+class AreaBox;
+class AreaPlot;
 class DesignBox;
-class DistortionPlot;
 class QLabel;
 class QSpinBox;
 class ShownSystem;
@@ -50,31 +48,20 @@ private Q_SLOTS:
     void _onAccepted();
 
 private:
-    enum Centre { Origin, Parallels, CheckedPoint, DesignedArea };
-
     const IProjectedSystem* projection() const;
     void draw();
     void drawOnce();
     void propose();
-    void offerCentres();
-    GridPoint centre() const;
-    std::optional<DesignArea> designArea() const;
-    DistortionLines::Line designOutline() const;
-    DistortionArea mapArea(const DistortionLines::Line& outline) const;
-    double side() const;
     double meanHeight() const;
     QVector<GeographicPoint> designPoints() const;
 
     std::shared_ptr<const ShownSystem> system;
-    std::optional<GeographicPoint> checkedPlace;
-    std::optional<GeographicPoint> designedPlace; ///< the middle of the area whose proposal was taken over last
     std::optional<DesignProposal> designProposal;
 
-    ChoiceBox* centreBox;
-    ChoiceBox* widthBox;
+    AreaBox* areaBox;
     QSpinBox* heightBox;
     double shownUnit = 1.0; ///< metres in one of the height's
-    DistortionPlot* plot;
+    AreaPlot* plot;
     QLabel* readout;
     DesignBox* design;
 };

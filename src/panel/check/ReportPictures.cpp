@@ -1,8 +1,9 @@
 #include "panel/check/ReportPictures.h"
 
-#include "panel/check/DistortionPlot.h"
+#include "panel/check/AreaPlot.h"
 #include "panel/check/PointsPlot.h"
 #include "panel/computing/ShownSystem.h"
+#include "panel/record/PanelText.h"
 
 #include <QPainter>
 #include <qwt_plot_renderer.h>
@@ -11,9 +12,9 @@
 
 namespace {
 
-template <typename Plot> std::unique_ptr<Plot> newPlot() {
+template <typename Plot, typename... Arguments> std::unique_ptr<Plot> newPlot(const Arguments&... arguments) {
     constexpr double fontSize = 8.0;
-    auto plot = std::make_unique<Plot>();
+    auto plot = std::make_unique<Plot>(arguments...);
     QFont font = plot->font();
     font.setPointSizeF(fontSize);
     plot->setFont(font);
@@ -34,11 +35,11 @@ std::unique_ptr<PointsPlot> ReportPictures::newPointsPlot() {
     return newPlot<PointsPlot>();
 }
 
-std::unique_ptr<DistortionPlot> ReportPictures::newDistortionPlot() {
-    return newPlot<DistortionPlot>();
+std::unique_ptr<AreaPlot> ReportPictures::newDistortionPlot() {
+    return newPlot<AreaPlot>(QString());
 }
 
-CheckReport::Distortion ReportPictures::showDistortion(DistortionPlot& plot, const ShownSystem& system,
+CheckReport::Distortion ReportPictures::showDistortion(AreaPlot& plot, const ShownSystem& system,
                                                        const CheckReport& report) {
     constexpr double least = 200.0, around = 1.25; // metres; of the points' area
     const GridPoint& low = report.statistics().lowest;
@@ -47,14 +48,15 @@ CheckReport::Distortion ReportPictures::showDistortion(DistortionPlot& plot, con
     CheckReport::Distortion shown;
     // Other numbers on the axes may change the canvas's shape, and so the area.
     for (int i = 0; i < 2; ++i) {
-        const DistortionArea area = plot.fitted({centre, around * std::max(least, high.easting - low.easting),
-                                                 around * std::max(least, high.northing - low.northing)});
+        const GridArea area = plot.fitted({centre, around * std::max(least, high.easting - low.easting),
+                                           around * std::max(least, high.northing - low.northing)});
         const QSize nodes = plot.nodeCount();
-        const DistortionGrid grid(*system.projection(), area, nodes.width(), nodes.height(), report.meanHeight());
-        if (grid.isEmpty())
+        const AreaValues values =
+            AreaValues::distortion(*system.projection(), area, nodes.width(), nodes.height(), report.meanHeight());
+        if (values.isEmpty())
             return {};
-        shown = {grid.smallest(), grid.largest()};
-        plot.showDistortion(grid, area);
+        shown = {values.smallest(), values.largest()};
+        plot.showValues(values, area, {PanelText::tr("ppm"), AreaValues::distortionNoise});
         plot.showLines(DistortionLines(system.record(), *system.projection(), area));
     }
     plot.showPlaces(DistortionLines::origin(system.record()), std::nullopt,

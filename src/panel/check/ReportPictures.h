@@ -4,7 +4,7 @@
 
 #include <QImage>
 
-class DistortionPlot;
+class AreaPlot;
 class PointsPlot;
 class QwtPlot;
 
@@ -13,11 +13,11 @@ namespace ReportPictures {
 
 /// Pictures that no window shows, to be filled.
 std::unique_ptr<PointsPlot> newPointsPlot();
-std::unique_ptr<DistortionPlot> newDistortionPlot();
+std::unique_ptr<AreaPlot> newDistortionPlot();
 
 /// Shows the system's distortion over the area of the points and a little around it, at their mean height. Gives what
 /// there is to see.
-CheckReport::Distortion showDistortion(DistortionPlot& plot, const ShownSystem& system, const CheckReport& report);
+CheckReport::Distortion showDistortion(AreaPlot& plot, const ShownSystem& system, const CheckReport& report);
 
 /// The plot, with so many pixels for one of the screen.
 QImage of(QwtPlot& plot, int finer);

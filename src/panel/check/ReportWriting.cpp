@@ -1,7 +1,7 @@
 #include "panel/check/ReportWriting.h"
 
 #include "catalogue/File.h"
-#include "panel/check/DistortionPlot.h"
+#include "panel/check/AreaPlot.h"
 #include "panel/check/PointsPlot.h"
 #include "panel/check/ReportPdf.h"
 #include "panel/check/ReportPictures.h"

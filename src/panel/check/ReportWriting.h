@@ -6,7 +6,7 @@
 
 #include <memory>
 
-class DistortionPlot;
+class AreaPlot;
 class PointsPlot;
 
 /// Writes the report of a check to a file, piece by piece: counts, draws and composes in the window's own thread, a few
@@ -50,6 +50,6 @@ private:
     std::size_t next = 0;
     bool isSecond = false; ///< drawing for a canvas that the first has changed
     std::unique_ptr<PointsPlot> plot;
-    std::unique_ptr<DistortionPlot> map;
+    std::unique_ptr<AreaPlot> map;
     std::shared_ptr<Output> output; ///< shared with the thread
 };

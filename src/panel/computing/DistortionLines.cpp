@@ -12,14 +12,14 @@ namespace {
 
 constexpr int pointsPerLine = 121;
 
-bool isInside(const GridPoint& point, const DistortionArea& area) {
+bool isInside(const GridPoint& point, const GridArea& area) {
     return std::abs(point.easting - area.centre.easting) <= area.width / 2.0 &&
            std::abs(point.northing - area.centre.northing) <= area.height / 2.0;
 }
 
 /// The grid points of the places that `place` gives for 0 to 1; empty when none lies in the area.
 template <typename Place>
-DistortionLines::Line draw(const IProjectedSystem& system, const DistortionArea& area, Place place) {
+DistortionLines::Line draw(const IProjectedSystem& system, const GridArea& area, Place place) {
     DistortionLines::Line line;
     bool visible = false;
     for (int i = 0; i < pointsPerLine; ++i) {
@@ -53,8 +53,7 @@ std::vector<double> standardLatitudes(const IDictionary& record, const Projectio
 
 } // namespace
 
-DistortionLines::DistortionLines(const IDictionary& record, const IProjectedSystem& system,
-                                 const DistortionArea& area) {
+DistortionLines::DistortionLines(const IDictionary& record, const IProjectedSystem& system, const GridArea& area) {
     const ProjectionFields* const projection = ProjectionFields::ofRecord(record);
     const double centre = dictionary_number(record, CoordParamKey::orgLon, 0.0);
     const auto seen = extent(system, area, centre);
@@ -91,10 +90,10 @@ std::optional<GridPoint> DistortionLines::middleOfParallels(const IDictionary& r
 }
 
 /// The latitudes and longitudes that the area covers, from 15 x 15 nodes and a margin; longitudes around `meridian`.
-std::optional<DistortionLines::Extent> DistortionLines::extent(const IProjectedSystem& system,
-                                                               const DistortionArea& area, double meridian) {
+std::optional<DistortionLines::Extent> DistortionLines::extent(const IProjectedSystem& system, const GridArea& area,
+                                                               double meridian) {
     std::optional<Extent> result;
-    for (const GridPoint& node : DistortionGrid::nodes(area, 15, 15)) {
+    for (const GridPoint& node : AreaValues::nodes(area, 15, 15)) {
         const auto place = system.toGeographic(node, 0.0);
         if (!place)
             continue;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "panel/computing/DistortionGrid.h"
+#include "panel/computing/AreaValues.h"
 
 #include <optional>
 #include <vector>
@@ -14,7 +14,7 @@ public:
     using Line = std::vector<GridPoint>;
 
     /// `record` defines `system`.
-    DistortionLines(const IDictionary& record, const IProjectedSystem& system, const DistortionArea& area);
+    DistortionLines(const IDictionary& record, const IProjectedSystem& system, const GridArea& area);
 
     /// Empty where the method has none, or outside the area.
     const Line& centralMeridian() const { return meridian; }
@@ -32,7 +32,7 @@ private:
         double south, north, west, east;
     };
 
-    static std::optional<Extent> extent(const IProjectedSystem& system, const DistortionArea& area, double meridian);
+    static std::optional<Extent> extent(const IProjectedSystem& system, const GridArea& area, double meridian);
 
     Line meridian;
     std::vector<Line> parallels;

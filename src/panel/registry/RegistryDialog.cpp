@@ -97,6 +97,12 @@ bool RegistryDialog::write(IDictionary* record) const {
     return found() && writeOwn(*found(), record);
 }
 
+QString RegistryDialog::systemName() const {
+    if (const RegistrySystem* const system = registered())
+        return QString::fromUtf8("EPSG:" + system->code + ", " + system->name);
+    return found() ? FoundSystemsModel::nameOf(*found()) : QString();
+}
+
 bool RegistryDialog::writeRegistered(const RegistrySystem& system, IDictionary* record) const {
     if (!WktToCoordParam::write(module.registry().wkt(system.code, chosenShift()), record))
         return false;

@@ -31,6 +31,9 @@ public:
     /// is chosen.
     bool write(IDictionary* record) const;
 
+    /// The chosen system's code and name, or group and name, as the user reads them; empty when none is chosen.
+    QString systemName() const;
+
 private Q_SLOTS:
     void _onSelectionChanged();
     void _onShiftChanged();

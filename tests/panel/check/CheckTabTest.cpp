@@ -32,7 +32,7 @@ private Q_SLOTS:
     void fits_data() {
         const Rows<SampleRecord, int> row({"sample", "page"});
         for (const char* title : {"British grid", "UTM", "Lambert one parallel", "Cassini"}) {
-            for (const int page : {0, 1, 2})
+            for (const int page : {0, 1, 2, 3})
                 row(title + QByteArray(", page ") + QByteArray::number(page), SampleRecord::named(title), page);
         }
     }

@@ -1,6 +1,6 @@
 #include "panel/check/DistortionPane.h"
 
-#include "panel/check/DistortionPlot.h"
+#include "panel/check/AreaPlot.h"
 #include "panel/record/ParamField.h"
 #include "support/PanelOnScreen.h"
 #include "support/RoomTest.h"
@@ -20,7 +20,7 @@ public:
         turnTo("Distortion");
         QApplication::processEvents();
         pane = panel.findChild<DistortionPane*>();
-        plot = panel.findChild<DistortionPlot*>();
+        plot = pane->findChild<AreaPlot*>();
         acts["mouse"] = [this](const QString&) {
             QMouseEvent move(QEvent::MouseMove, plot->canvas()->contentsRect().center(), Qt::NoButton, Qt::NoButton,
                              Qt::NoModifier);
@@ -47,7 +47,7 @@ public:
             return QString("%1 to %2").arg(ends.minValue(), 0, 'f', 1).arg(ends.maxValue(), 0, 'f', 1);
         };
         sights["outline"] = [this](const QString&) {
-            const auto* line = static_cast<QwtPlotCurve*>(item("Area of the design"));
+            const auto* line = static_cast<QwtPlotCurve*>(item("Outline of the area"));
             const QRectF area = line->boundingRect();
             const QwtInterval east = plot->axisInterval(QwtPlot::xBottom), north = plot->axisInterval(QwtPlot::yLeft);
             const bool isClosed = line->sample(0) == line->sample(int(line->dataSize()) - 1);
@@ -67,7 +67,7 @@ public:
     }
 
     DistortionPane* pane;
-    DistortionPlot* plot;
+    AreaPlot* plot;
 
 private:
     QString textWith(const QString& wildcard) const {

@@ -1,4 +1,4 @@
-#include "panel/SystemNameLine.h"
+#include "panel/field/SystemNameLine.h"
 
 #include <QPainter>
 #include <QStyle>

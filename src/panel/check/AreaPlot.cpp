@@ -1,4 +1,4 @@
-#include "panel/check/DistortionPlot.h"
+#include "panel/check/AreaPlot.h"
 
 #include "panel/record/LengthUnit.h"
 #include "panel/record/PanelText.h"
@@ -34,9 +34,9 @@ public:
 /// Blue for negative, white for 0, red for positive values: ColorBrewer's diverging scheme RdBu, which the colour-blind
 /// tell apart, with white for its grey middle (Brewer, Hatchard and Harrower 2003, "ColorBrewer in print", Cartography
 /// and Geographic Information Science 30(1)).
-class DistortionColours : public QwtLinearColorMap {
+class AreaColours : public QwtLinearColorMap {
 public:
-    DistortionColours() : QwtLinearColorMap(QColor(0x2166ac), QColor(0xb2182b)) {
+    AreaColours() : QwtLinearColorMap(QColor(0x2166ac), QColor(0xb2182b)) {
         addColorStop(0.25, QColor(0x92c5de));
         addColorStop(0.5, QColor(0xffffff));
         addColorStop(0.75, QColor(0xf4a582));
@@ -79,12 +79,12 @@ double squaredDistance(const QPointF& left, const QPointF& right) {
 
 } // namespace
 
-DistortionPlot::DistortionPlot(QWidget* parent)
+AreaPlot::AreaPlot(const QString& accessibleName, QWidget* parent)
     : QwtPlot(parent)
     , spectrogram(new QwtPlotSpectrogram)
     , originMarker(new QwtPlotMarker(PanelText::tr("Origin")))
     , checkedMarker(new QwtPlotMarker(PanelText::tr("Checked point"))) {
-    setAccessibleName(PanelText::tr("Picture of the linear distortion"));
+    setAccessibleName(accessibleName);
     setUpAxes();
     spectrogram->setDisplayMode(QwtPlotSpectrogram::ContourMode, true);
     spectrogram->setDefaultContourPen(QColor(0x50, 0x50, 0x50), 0.0);
@@ -96,8 +96,8 @@ DistortionPlot::DistortionPlot(QWidget* parent)
         parallels.append(newLine(PanelText::tr("Standard parallel"), Qt::DotLine));
     originMarker->setSymbol(new QwtSymbol(QwtSymbol::Cross, QBrush(), QPen(Qt::black, 2.0), QSize(13, 13)));
     originMarker->attach(this);
-    designOutline = newLine(PanelText::tr("Area of the design"), Qt::SolidLine);
-    designOutline->setPen(Qt::black, 1.5);
+    areaOutline = newLine(PanelText::tr("Outline of the area"), Qt::SolidLine);
+    areaOutline->setPen(Qt::black, 1.5);
     checkedMarker->setSymbol(
         new QwtSymbol(QwtSymbol::Ellipse, QBrush(Qt::yellow), QPen(Qt::black, 2.0), QSize(10, 10)));
     checkedMarker->setZ(40.0);
@@ -111,7 +111,7 @@ DistortionPlot::DistortionPlot(QWidget* parent)
     clear();
 }
 
-void DistortionPlot::setUpAxes() {
+void AreaPlot::setUpAxes() {
     const QFont small = font();
     for (const int axis : axes) {
         setAxisFont(axis, small);
@@ -124,17 +124,17 @@ void DistortionPlot::setUpAxes() {
     plotLayout()->setAlignCanvasToScales(true);
 }
 
-void DistortionPlot::showUnits() {
+void AreaPlot::showTitles(const QString& unit) {
     for (const int axis : axes) {
         QwtText title(axis == xBottom ? PanelText::tr("Easting, %1").arg(axisUnitText())
                       : axis == yLeft ? PanelText::tr("Northing, %1").arg(axisUnitText())
-                                      : PanelText::tr("ppm"));
+                                      : unit);
         title.setFont(font());
         setAxisTitle(axis, title);
     }
 }
 
-QwtPlotCurve* DistortionPlot::newLine(const QString& title, Qt::PenStyle style) {
+QwtPlotCurve* AreaPlot::newLine(const QString& title, Qt::PenStyle style) {
     auto* curve = new QwtPlotCurve(title);
     curve->setPen(QColor(0x10, 0x50, 0x10), 2.0, style);
     curve->setRenderHint(QwtPlotItem::RenderAntialiased);
@@ -142,64 +142,64 @@ QwtPlotCurve* DistortionPlot::newLine(const QString& title, Qt::PenStyle style) 
     return curve;
 }
 
-void DistortionPlot::enableAxes(bool enable) {
+void AreaPlot::enableAxes(bool enable) {
     for (const int axis : axes)
         enableAxis(axis, enable);
 }
 
-DistortionArea DistortionPlot::fitted(const DistortionArea& area) const {
+GridArea AreaPlot::fitted(const GridArea& area) const {
     const QSize size = canvas()->contentsRect().size().expandedTo(QSize(1, 1));
     const double metresPerPixel = std::max(area.width / size.width(), area.height / size.height());
     return {area.centre, metresPerPixel * size.width(), metresPerPixel * size.height()};
 }
 
-QSize DistortionPlot::nodeCount() const {
+QSize AreaPlot::nodeCount() const {
     const QSize size = canvas()->contentsRect().size() / pixelsPerNode;
     return size.expandedTo(QSize(2, 2));
 }
 
-void DistortionPlot::showDistortion(const DistortionGrid& grid, const DistortionArea& area) {
-    if (grid.isEmpty()) {
+void AreaPlot::showValues(const AreaValues& values, const GridArea& area, const Unit& unit) {
+    if (values.isEmpty()) {
         clear();
         return;
     }
     enableAxes(true);
-    showUnits();
+    showTitles(unit.symbol);
     const QwtInterval easting = interval(area.centre.easting, area.width);
     const QwtInterval northing = interval(area.centre.northing, area.height);
     setAxisScale(xBottom, easting.minValue(), easting.maxValue());
     setAxisScale(yLeft, northing.minValue(), northing.maxValue());
     auto* raster = new QwtMatrixRasterData;
     raster->setResampleMode(QwtMatrixRasterData::BilinearInterpolation);
-    raster->setValueMatrix(grid.values(), grid.columnCount());
+    raster->setValueMatrix(values.values(), values.columnCount());
     // Qwt takes the values for those of cells' middles: the outer nodes lie half a cell inside.
-    const QSizeF cell(easting.width() / (grid.columnCount() - 1), northing.width() / (grid.rowCount() - 1));
+    const QSizeF cell(easting.width() / (values.columnCount() - 1), northing.width() / (values.rowCount() - 1));
     raster->setInterval(Qt::XAxis,
                         QwtInterval(easting.minValue() - cell.width() / 2.0, easting.maxValue() + cell.width() / 2.0));
     raster->setInterval(
         Qt::YAxis, QwtInterval(northing.minValue() - cell.height() / 2.0, northing.maxValue() + cell.height() / 2.0));
     spectrogram->setData(raster);
     spectrogram->setVisible(true);
-    setColours(grid);
-    const QList<double> levels = grid.contourLevels(contourCount).toList();
+    setColours(values, unit.noise);
+    const bool isEven = values.largest() - values.smallest() <= 2.0 * unit.noise;
+    const QList<double> levels = isEven ? QList<double>() : values.contourLevels(contourCount).toList();
     spectrogram->setContourLevels(levels);
     updateAxes();
     updateLayout(); // not before the next event otherwise, and the labels need the final canvas
     showLabels(levels);
 }
 
-void DistortionPlot::setColours(const DistortionGrid& grid) {
-    // Below a ten-thousandth of a ppm lies the noise of the computation.
-    const double low = grid.smallest() - 1e-4;
-    const double high = grid.largest() + 1e-4;
-    const QwtInterval colours = DistortionColours::interval(low, high);
+void AreaPlot::setColours(const AreaValues& values, double noise) {
+    const double low = values.smallest() - noise;
+    const double high = values.largest() + noise;
+    const QwtInterval colours = AreaColours::interval(low, high);
     spectrogram->data()->setInterval(Qt::ZAxis, colours);
-    spectrogram->setColorMap(new DistortionColours);
-    axisWidget(yRight)->setColorMap(colours, new DistortionColours);
+    spectrogram->setColorMap(new AreaColours);
+    axisWidget(yRight)->setColorMap(colours, new AreaColours);
     setAxisScale(yRight, low, high);
 }
 
-void DistortionPlot::showLabels(const QList<double>& levels) {
+void AreaPlot::showLabels(const QList<double>& levels) {
     for (QwtPlotMarker* label : qAsConst(labels)) {
         label->detach();
         delete label;
@@ -226,8 +226,8 @@ void DistortionPlot::showLabels(const QList<double>& levels) {
     }
 }
 
-void DistortionPlot::addLabel(double level, const QPointF& place) {
-    QwtText text(QString::number(level, 'g', 7));
+void AreaPlot::addLabel(double level, const QPointF& place) {
+    QwtText text(QString::number(level, 'g', 10));
     text.setColor(Qt::black);
     text.setBackgroundBrush(QColor(255, 255, 255, 190));
     text.setBorderRadius(2.0);
@@ -254,7 +254,7 @@ void DistortionPlot::addLabel(double level, const QPointF& place) {
     labels.append(label);
 }
 
-void DistortionPlot::drawLine(QwtPlotCurve* curve, const DistortionLines::Line& line) {
+void AreaPlot::drawLine(QwtPlotCurve* curve, const DistortionLines::Line& line) {
     QVector<QPointF> points;
     for (const GridPoint& point : line)
         points.append(onAxes(point));
@@ -262,7 +262,7 @@ void DistortionPlot::drawLine(QwtPlotCurve* curve, const DistortionLines::Line& 
     curve->setVisible(!points.isEmpty());
 }
 
-void DistortionPlot::showLines(const DistortionLines& lines) {
+void AreaPlot::showLines(const DistortionLines& lines) {
     drawLine(meridian, lines.centralMeridian());
     for (int i = 0; i < parallelCount; ++i) {
         const bool used = i < int(lines.standardParallels().size());
@@ -271,18 +271,18 @@ void DistortionPlot::showLines(const DistortionLines& lines) {
     replot();
 }
 
-void DistortionPlot::showPlaces(const GridPoint& origin, const std::optional<GridPoint>& checked,
-                                const DistortionLines::Line& designed) {
+void AreaPlot::showPlaces(const GridPoint& origin, const std::optional<GridPoint>& checked,
+                          const DistortionLines::Line& outline) {
     originMarker->setValue(onAxes(origin));
     originMarker->setVisible(true);
     checkedMarker->setValue(onAxes(checked.value_or(GridPoint())));
     checkedMarker->setVisible(checked.has_value());
-    drawLine(designOutline, designed);
+    drawLine(areaOutline, outline);
     replot();
     pointAgain();
 }
 
-void DistortionPlot::clear() {
+void AreaPlot::clear() {
     for (QwtPlotItem* item : itemList())
         item->setVisible(false);
     enableAxes(false);
@@ -291,14 +291,14 @@ void DistortionPlot::clear() {
 }
 
 /// Tells what is under the mouse, if it is over a map.
-void DistortionPlot::pointAgain() {
+void AreaPlot::pointAgain() {
     if (mouse && spectrogram->isVisible())
         Q_EMIT pointed(invTransform(xBottom, mouse->x()) * axisUnit(), invTransform(yLeft, mouse->y()) * axisUnit());
     else
         Q_EMIT left();
 }
 
-bool DistortionPlot::eventFilter(QObject* object, QEvent* event) {
+bool AreaPlot::eventFilter(QObject* object, QEvent* event) {
     if (object == canvas() && (event->type() == QEvent::MouseMove || event->type() == QEvent::Leave)) {
         mouse.reset();
         if (event->type() == QEvent::MouseMove)
@@ -308,7 +308,7 @@ bool DistortionPlot::eventFilter(QObject* object, QEvent* event) {
     return QwtPlot::eventFilter(object, event);
 }
 
-void DistortionPlot::resizeEvent(QResizeEvent* event) {
+void AreaPlot::resizeEvent(QResizeEvent* event) {
     QwtPlot::resizeEvent(event);
     Q_EMIT resized();
 }

@@ -11,29 +11,35 @@ class QwtPlotCurve;
 class QwtPlotMarker;
 class QwtPlotSpectrogram;
 
-/// The picture of a system's linear distortion: a map coloured by ppm with labelled contours, axes in kilometres or
-/// thousands of feet, the central meridian, standard parallels, origin, checked point and the area to design for. White
-/// is no distortion, blue is grid shorter than ground, red longer.
-class DistortionPlot : public QwtPlot {
+/// The picture of values over an area of a system's grid: a coloured map with labelled contours, axes in kilometres or
+/// thousands of feet, the central meridian, standard parallels, origin, checked point and an outline. White is 0, blue
+/// below it, red above.
+class AreaPlot : public QwtPlot {
     Q_OBJECT
 
 public:
-    explicit DistortionPlot(QWidget* parent = nullptr);
+    /// What the values are measured in.
+    struct Unit {
+        QString symbol;
+        double noise; ///< of the computation: what differs by less counts as the same
+    };
+
+    explicit AreaPlot(const QString& accessibleName, QWidget* parent = nullptr);
 
     /// The least area of the canvas's shape that has all of `area` and its centre.
-    DistortionArea fitted(const DistortionArea& area) const;
+    GridArea fitted(const GridArea& area) const;
 
     /// How many nodes a picture of the canvas's size needs.
     QSize nodeCount() const;
 
-    /// Shows the values of `grid` over `area`. The axes' numbers may need another width than before; then the canvas's
-    /// shape changes.
-    void showDistortion(const DistortionGrid& grid, const DistortionArea& area);
+    /// Shows `values` over `area`. The axes' numbers may need another width than before; then the canvas's shape
+    /// changes.
+    void showValues(const AreaValues& values, const GridArea& area, const Unit& unit);
     void showLines(const DistortionLines& lines);
 
-    /// Marks the origin, the checked point (unless there is none), and the outline of the area to design for.
+    /// Marks the origin, the checked point (unless there is none), and the outline of an area.
     void showPlaces(const GridPoint& origin, const std::optional<GridPoint>& checked,
-                    const DistortionLines::Line& designed);
+                    const DistortionLines::Line& outline);
 
     /// No picture and no scales.
     void clear();
@@ -52,11 +58,11 @@ protected:
 
 private:
     void setUpAxes();
-    void showUnits();
+    void showTitles(const QString& unit);
     void enableAxes(bool enable);
     void pointAgain();
     void showLabels(const QList<double>& levels);
-    void setColours(const DistortionGrid& grid);
+    void setColours(const AreaValues& values, double noise);
     void addLabel(double level, const QPointF& place);
     QwtPlotCurve* newLine(const QString& title, Qt::PenStyle style);
     void drawLine(QwtPlotCurve* curve, const DistortionLines::Line& line);
@@ -66,7 +72,7 @@ private:
     QVector<QwtPlotCurve*> parallels;
     QwtPlotMarker* originMarker;
     QwtPlotMarker* checkedMarker;
-    QwtPlotCurve* designOutline;
+    QwtPlotCurve* areaOutline;
     std::optional<QPoint> mouse; ///< over the canvas
     QVector<QwtPlotMarker*> labels;
 };

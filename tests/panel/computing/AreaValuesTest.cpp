@@ -1,4 +1,4 @@
-#include "panel/computing/DistortionGrid.h"
+#include "panel/computing/AreaValues.h"
 
 #include "support/RoomTest.h"
 #include "support/Rows.h"
@@ -8,7 +8,7 @@
 
 #include <cmath>
 
-class DistortionGridTest : public QObject {
+class AreaValuesTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -26,7 +26,8 @@ private Q_SLOTS:
         QFETCH(double, height);
         const auto system = SampleRecord::named("UTM").with("factor", QByteArray::number(factor)).system();
         for (const double width : {2e3, 5e4, 5e5, 2e6}) {
-            const DistortionGrid grid(*system, {{500000.0, 5000000.0}, width, width / 2.0}, 31, 17, height);
+            const AreaValues grid =
+                AreaValues::distortion(*system, {{500000.0, 5000000.0}, width, width / 2.0}, 31, 17, height);
             const auto levels = grid.contourLevels(8);
             QVERIFY(levels.size() >= 2 && levels.size() <= 9);
             QVERIFY(levels.first() >= grid.smallest() && levels.last() <= grid.largest());
@@ -40,28 +41,29 @@ private Q_SLOTS:
 
     void gridOfDistortion() {
         const auto system = SampleRecord::named("UTM").system();
-        const DistortionArea area{{500000.0, 5000000.0}, 400000.0, 200000.0};
-        const auto nodes = DistortionGrid::nodes(area, 5, 3);
+        const GridArea area{{500000.0, 5000000.0}, 400000.0, 200000.0};
+        const auto nodes = AreaValues::nodes(area, 5, 3);
         QCOMPARE(nodes.size(), 15);
         QCOMPARE(nodes.first().easting, 300000.0);
         QCOMPARE(nodes.first().northing, 4900000.0);
         QCOMPARE(nodes[1].easting, 400000.0);
         QCOMPARE(nodes.last().northing, 5100000.0);
-        const DistortionGrid grid(*system, area, 5, 3, 0.0);
+        const AreaValues grid = AreaValues::distortion(*system, area, 5, 3, 0.0);
         QVERIFY(!grid.isEmpty());
         QVERIFY(std::abs(grid.values()[2] + 400.0) < 0.01); // on the central meridian
         // Flinders Peak (GDA Technical Manual: scale factor 1.00023056), in the corner; at 500 m, R = 6372887.710 m.
         const auto mga = SampleRecord::named("UTM").with("org_lon", "147").with("false_north", "10000000").system();
-        const DistortionArea corner{{273741.297 + 50.0, 5796489.777 + 50.0}, 100.0, 100.0};
-        QVERIFY(std::abs(DistortionGrid(*mga, corner, 2, 2, 0.0).values()[0] - 230.56) < 0.005);
-        QVERIFY(std::abs(DistortionGrid(*mga, corner, 2, 2, 500.0).values()[0] - 152.0907) < 0.005);
+        const GridArea corner{{273741.297 + 50.0, 5796489.777 + 50.0}, 100.0, 100.0};
+        QVERIFY(std::abs(AreaValues::distortion(*mga, corner, 2, 2, 0.0).values()[0] - 230.56) < 0.005);
+        QVERIFY(std::abs(AreaValues::distortion(*mga, corner, 2, 2, 500.0).values()[0] - 152.0907) < 0.005);
         QCOMPARE(grid.smallest(), *std::min_element(grid.values().begin(), grid.values().end()));
         // Where the projection ends, there is no value, and what there is counts.
-        const DistortionGrid nowhere(*system, {{1e9, 1e9}, 1e3, 1e3}, 3, 3, 0.0);
+        const AreaValues nowhere = AreaValues::distortion(*system, {{1e9, 1e9}, 1e3, 1e3}, 3, 3, 0.0);
         QVERIFY(nowhere.isEmpty() && nowhere.contourLevels(8).isEmpty());
-        QVERIFY(DistortionGrid(*system, {{500000.0, 5000000.0}, 0.0, 0.0}, 2, 2, 0.0).contourLevels(8).isEmpty());
+        QVERIFY(
+            AreaValues::distortion(*system, {{500000.0, 5000000.0}, 0.0, 0.0}, 2, 2, 0.0).contourLevels(8).isEmpty());
     }
 };
 
-ROOM_TEST(DistortionGridTest)
-#include "DistortionGridTest.moc"
+ROOM_TEST(AreaValuesTest)
+#include "AreaValuesTest.moc"

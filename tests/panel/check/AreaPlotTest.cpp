@@ -1,4 +1,4 @@
-#include "panel/check/DistortionPlot.h"
+#include "panel/check/AreaPlot.h"
 
 #include "support/RoomTest.h"
 #include "support/Rows.h"
@@ -40,8 +40,9 @@ public:
         plot.resize(500, 400);
         plot.show();
         QApplication::processEvents();
-        const DistortionArea area{{0.0, 0.0}, 1000.0, 1000.0};
-        plot.showDistortion(DistortionGrid(EvenSlope(west, east), area, 101, 101, 0.0), area);
+        const GridArea area{{0.0, 0.0}, 1000.0, 1000.0};
+        plot.showValues(AreaValues::distortion(EvenSlope(west, east), area, 101, 101, 0.0), area,
+                        {"ppm", AreaValues::distortionNoise});
         plot.replot();
         const QSize canvas = plot.canvas()->size();
         QApplication::processEvents();
@@ -56,7 +57,7 @@ public:
         return image.pixelColor((place * image.devicePixelRatio()).toPoint());
     }
 
-    DistortionPlot plot;
+    AreaPlot plot{QString()};
     bool isSettled; ///< the map has its final size as soon as it is drawn
 
 private:
@@ -74,7 +75,7 @@ constexpr QRgb paler = 0xc8e2ee; ///< in the middle between white and pale blue
 
 } // namespace
 
-class DistortionPlotTest : public QObject {
+class AreaPlotTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -124,5 +125,5 @@ private Q_SLOTS:
     }
 };
 
-ROOM_TEST(DistortionPlotTest)
-#include "DistortionPlotTest.moc"
+ROOM_TEST(AreaPlotTest)
+#include "AreaPlotTest.moc"

@@ -1,10 +1,10 @@
-#include "panel/computing/DistortionGrid.h"
+#include "panel/computing/AreaValues.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
-QVector<GridPoint> DistortionGrid::nodes(const DistortionArea& area, int columns, int rows) {
+QVector<GridPoint> AreaValues::nodes(const GridArea& area, int columns, int rows) {
     QVector<GridPoint> points;
     points.reserve(columns * rows);
     for (int row = 0; row < rows; ++row) {
@@ -15,12 +15,9 @@ QVector<GridPoint> DistortionGrid::nodes(const DistortionArea& area, int columns
     return points;
 }
 
-DistortionGrid::DistortionGrid(const IProjectedSystem& system, const DistortionArea& area, int columns, int rows,
-                               double height)
-    : ppm(columns * rows), columns(columns), low(std::numeric_limits<double>::infinity()), high(-low) {
-    const QVector<GridPoint> points = nodes(area, columns, rows);
-    system.linearDistortion(points.constData(), std::size_t(points.size()), height, ppm.data());
-    for (const double value : qAsConst(ppm)) {
+AreaValues::AreaValues(const QVector<double>& values, int columns)
+    : numbers(values), columns(columns), low(std::numeric_limits<double>::infinity()), high(-low) {
+    for (const double value : qAsConst(numbers)) {
         if (std::isnan(value))
             continue;
         low = std::min(low, value);
@@ -28,7 +25,15 @@ DistortionGrid::DistortionGrid(const IProjectedSystem& system, const DistortionA
     }
 }
 
-QVector<double> DistortionGrid::contourLevels(int count) const {
+AreaValues AreaValues::distortion(const IProjectedSystem& system, const GridArea& area, int columns, int rows,
+                                  double height) {
+    const QVector<GridPoint> points = nodes(area, columns, rows);
+    QVector<double> ppm(points.size());
+    system.linearDistortion(points.constData(), std::size_t(points.size()), height, ppm.data());
+    return AreaValues(ppm, columns);
+}
+
+QVector<double> AreaValues::contourLevels(int count) const {
     QVector<double> levels;
     const double range = high - low;
     if (isEmpty() || !(range > 0.0) || !std::isfinite(range))
