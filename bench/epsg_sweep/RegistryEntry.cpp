@@ -51,18 +51,48 @@ RegistryEntry::Box RegistryEntry::areaOfUse() const {
         return area;
     }
     // Some withdrawn systems have no area.
-    const ProjObject conversion(proj_crs_get_coordoperation(context, crs.get()));
-    const auto origin = [&](const char* parameter) {
-        const int index = proj_coordoperation_get_param_index(context, conversion.get(), parameter);
-        double value = 0;
-        double radiansPerUnit = 0;
-        proj_coordoperation_get_param(context, conversion.get(), index, nullptr, nullptr, nullptr, &value, nullptr,
-                                      &radiansPerUnit, nullptr, nullptr, nullptr, nullptr);
-        return Angle::toDegrees(value * radiansPerUnit);
-    };
-    const double longitude = origin("Longitude of natural origin");
-    const double latitude = origin("Latitude of natural origin");
+    const double longitude = Angle::toDegrees(parameter("Longitude of natural origin"));
+    const double latitude = Angle::toDegrees(parameter("Latitude of natural origin"));
     return {longitude - 3, latitude - 5, longitude + 3, latitude + 5};
+}
+
+/// In metres, radians or parts of 1.
+double RegistryEntry::parameter(const char* name) const {
+    const ProjObject conversion(proj_crs_get_coordoperation(context, crs.get()));
+    const int index = proj_coordoperation_get_param_index(context, conversion.get(), name);
+    double value = 0;
+    double unit = 0;
+    proj_coordoperation_get_param(context, conversion.get(), index, nullptr, nullptr, nullptr, &value, nullptr, &unit,
+                                  nullptr, nullptr, nullptr, nullptr);
+    return value * unit;
+}
+
+/// Turns what PROJ gives without it by 29.2985 arc-seconds around the apex of the cone, where the false origin of the
+/// registry's Belgian grid lies.
+void RegistryEntry::turnBelgian(Sample& sample) const {
+    const double turn = Angle::toRadians(29.2985 / 3600);
+    const double x = sample.easting - parameter("Easting at false origin");
+    const double y = sample.northing - parameter("Northing at false origin");
+    sample.easting += x * (std::cos(turn) - 1) + y * std::sin(turn);
+    sample.northing += y * (std::cos(turn) - 1) - x * std::sin(turn);
+}
+
+/// South polar, as all of the registry's.
+void RegistryEntry::projectPolarVariantC(Sample& sample) const {
+    double a = 0;
+    double b = 0;
+    const ProjObject ellipsoid(proj_get_ellipsoid(context, crs.get()));
+    proj_ellipsoid_get_parameters(context, ellipsoid.get(), &a, &b, nullptr, nullptr);
+    const double e = std::sqrt(1 - b * b / (a * a));
+    const auto t = [e](double phi) {
+        return std::tan(M_PI_4 + phi / 2) / std::pow((1 + e * std::sin(phi)) / (1 - e * std::sin(phi)), e / 2);
+    };
+    const double parallel = parameter("Latitude of standard parallel");
+    const double radius = a * std::cos(parallel) / std::sqrt(1 - std::pow(e * std::sin(parallel), 2));
+    const double rho = radius * t(Angle::toRadians(sample.latitude)) / t(parallel);
+    const double theta = Angle::toRadians(sample.longitude) - parameter("Longitude of origin");
+    sample.easting = parameter("Easting at false origin") + rho * std::sin(theta);
+    sample.northing = parameter("Northing at false origin") - radius + rho * std::cos(theta);
 }
 
 QVector<RegistryEntry::Sample> RegistryEntry::samples() const {
@@ -70,7 +100,8 @@ QVector<RegistryEntry::Sample> RegistryEntry::samples() const {
     const ProjObject asStored(
         geodetic ? proj_create_crs_to_crs_from_pj(context, geodetic.get(), crs.get(), nullptr, nullptr) : nullptr);
     const ProjObject operation(asStored ? proj_normalize_for_visualization(context, asStored.get()) : nullptr);
-    if (!operation)
+    const bool isVariantC = method() == "Polar Stereographic (variant C)";
+    if (!operation && !isVariantC)
         return {};
     const Box area = areaOfUse();
     const Base from = base(geodetic.get());
@@ -84,6 +115,10 @@ QVector<RegistryEntry::Sample> RegistryEntry::samples() const {
                                                         sample.latitude / from.degreesPerUnit, 0, 0));
             sample.easting = grid.xy.x * unit;
             sample.northing = grid.xy.y * unit;
+            if (isVariantC)
+                projectPolarVariantC(sample);
+            else if (method() == "Lambert Conic Conformal (2SP Belgium)")
+                turnBelgian(sample);
             if (std::isfinite(sample.easting) && std::isfinite(sample.northing))
                 result.append(sample);
         }

@@ -24,8 +24,9 @@ public:
     };
 
     /// Nine places over the area of use (where the registry has none, around the origin), projected by PROJ's own
-    /// operation from the system's base system. Places that PROJ can't project are left out; none is left when PROJ has
-    /// no operation for the system.
+    /// operation from the system's base system; of the two methods that PROJ does not compute (the Belgian turn, and a
+    /// polar false origin on the parallel), by the formulas of EPSG's guidance note 7-2. Places that PROJ can't project
+    /// are left out; none is left when PROJ has no operation for the system.
     QVector<Sample> samples() const;
 
 private:
@@ -39,6 +40,9 @@ private:
     Base base(const PJ* geodetic) const;
     Box areaOfUse() const;
     double metresPerUnit() const;
+    double parameter(const char* name) const;
+    void turnBelgian(Sample& sample) const;
+    void projectPolarVariantC(Sample& sample) const;
 
     PJ_CONTEXT* context;
     ProjObject crs;

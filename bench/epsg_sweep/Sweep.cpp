@@ -6,6 +6,7 @@
 #include "import/CoordParamToProjDefine.h"
 #include "import/WktFile.h"
 #include "import/WktToCoordParam.h"
+#include "panel/record/WithheldText.h"
 #include "platform/sdk/Catalogue.h"
 
 #include <QDir>
@@ -38,7 +39,7 @@ bool Sweep::run() {
     importAll();
     compare();
     print();
-    return all.silentlyWrong() == 0;
+    return all.silentlyWrong() == 0 && !whyFlagged.contains(QByteArray());
 }
 
 void Sweep::collect() {
@@ -124,6 +125,8 @@ void Sweep::classify(const System& system, const QByteArray& definition) {
     };
     count(all);
     count(byMethod[system.method]);
+    if (definition.isEmpty())
+        ++whyFlagged[WithheldText::of(WktFile::read(system.file)).toUtf8()];
     if (options.verbose && definition.isEmpty())
         std::printf("  flagged  %s:%s %s\n", options.registry, system.code.constData(), system.method.constData());
     if (options.verbose && !definition.isEmpty() && !comparable)
@@ -160,6 +163,8 @@ void Sweep::print() const {
         if (options.verbose || method->right < method->total)
             line(method.key().constData(), *method);
     }
+    for (auto why = whyFlagged.cbegin(); why != whyFlagged.cend(); ++why)
+        std::printf("  flagged %4d: %s\n", why.value(), why.key().isEmpty() ? "NO REASON" : why.key().constData());
     std::printf("  right within 1 mm: %.2f %%; PROJ can't write %d more in this dialect, and can't compute %d\n",
                 100.0 * all.right / std::max(1, all.total), notWritable, all.withoutReference);
     std::printf("  GDAL's calls alone %.2f s, the whole import %.2f s: ratio %.3f\n\n", gdalSeconds, importSeconds,

@@ -64,4 +64,5 @@ private:
     double importSeconds = 0;
     Count all;
     QMap<QByteArray, Count> byMethod;
+    QMap<QByteArray, int> whyFlagged; ///< by the words that the tool has for it
 };

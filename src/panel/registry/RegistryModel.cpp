@@ -1,9 +1,8 @@
 #include "panel/registry/RegistryModel.h"
 
-#include "catalogue/DictionaryGuard.h"
-#include "import/CoordParamToProjDefine.h"
 #include "import/WktToCoordParam.h"
 #include "panel/record/PanelText.h"
+#include "panel/record/WithheldText.h"
 
 #include <QGuiApplication>
 #include <QPalette>
@@ -61,33 +60,12 @@ int RegistryModel::rowOf(const QByteArray& code) const {
     return -1;
 }
 
-bool RegistryModel::isHeld(const RegistrySystem& system) const {
-    // As EPSG names them; those that a record holds for some parameters only are left out.
-    static const QByteArrayList heldMethods = {"Transverse Mercator",
-                                               "Lambert Conic Conformal (1SP)",
-                                               "Lambert Conic Conformal (2SP)",
-                                               "Mercator (variant B)",
-                                               "Polar Stereographic (variant A)",
-                                               "Polar Stereographic (variant B)",
-                                               "Oblique Stereographic",
-                                               "Cassini-Soldner"};
-    if (heldMethods.contains(system.method))
-        return true;
-    const auto known = heldByCode.constFind(system.code);
-    if (known != heldByCode.constEnd())
-        return *known;
-    const DictionaryGuard record;
-    const bool held = WktToCoordParam::write(registry.wkt(system.code, nullptr), record.get()) &&
-                      coordParamDefinesProjection(*record);
-    heldByCode.insert(system.code, held);
-    return held;
-}
-
 QString RegistryModel::reason(const RegistrySystem& system) const {
-    if (isHeld(system))
-        return QString();
-    return PanelText::tr("None of the methods holds this projection exactly: %1.")
-        .arg(QString::fromUtf8(system.method));
+    auto known = reasons.constFind(system.code);
+    if (known == reasons.constEnd())
+        known =
+            reasons.insert(system.code, WithheldText::of(WktToCoordParam::read(registry.wkt(system.code, nullptr))));
+    return *known;
 }
 
 int RegistryModel::rowCount(const QModelIndex& parent) const {

@@ -35,8 +35,9 @@ public:
     /// The row of the system `code`, or -1 when it is not listed.
     int rowOf(const QByteArray& code) const;
 
-    /// Why the record can't hold the system, translated; empty when it can. Methods that it holds whatever their
-    /// parameters are known; systems of any other are tried, once, which takes some milliseconds.
+    /// Why the record can't hold the system, translated; empty when it can. Each system is tried, once, which takes a
+    /// millisecond: its method alone does not tell (the registry has six of the transverse Mercator with a scale in
+    /// another unit, and two of Cassini's with axes to the south and west).
     QString reason(const RegistrySystem& system) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -45,10 +46,8 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    bool isHeld(const RegistrySystem& system) const;
-
     IEpsgRegistry& registry;
     QStringList searchTexts; ///< by index in the registry's list
     QVector<int> rows;       ///< the listed systems, as indexes in the registry's list
-    mutable QHash<QByteArray, bool> heldByCode;
+    mutable QHash<QByteArray, QString> reasons; ///< by code, of those that were tried
 };

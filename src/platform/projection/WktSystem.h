@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/projection/Withheld.h"
+
 #include <QByteArray>
 
 /// What a WKT text, or a file with one, holds.
@@ -16,4 +18,5 @@ struct WktSystem {
     /// PROJ.4 definition of the projected system, for InitializeProj(). It has no "+proj" when PROJ.4 can't say what
     /// the WKT says, or the WKT leaves a doubt; the rest is then what could be read.
     QByteArray definition;
+    Withheld withheld = {}; ///< why `definition` has no "+proj", or the system is none that is projected
 };

@@ -16,15 +16,17 @@ double parallelRadius(double latitude, double e2) {
     return std::cos(phi) / std::sqrt(1 - e2 * std::pow(std::sin(phi), 2));
 }
 
+} // namespace
+
 /// n = (ln m1 - ln m2) / (psi2 - psi1). Where a difference of near numbers would lose digits, it is written as a
 /// function of the middle of the parallels and half their distance.
-double coneConstant(double latitude1, double latitude2, double e2) {
-    const double middle = Angle::toRadians((latitude1 + latitude2) / 2);
-    const double half = Angle::toRadians((latitude2 - latitude1) / 2);
+double LambertConformal::coneConstant(double firstParallel, double secondParallel, double e2) {
+    const double middle = Angle::toRadians((firstParallel + secondParallel) / 2);
+    const double half = Angle::toRadians((secondParallel - firstParallel) / 2);
     if (half == 0)
         return std::sin(middle);
     const double e = std::sqrt(e2);
-    const double phi1 = Angle::toRadians(latitude1), phi2 = Angle::toRadians(latitude2);
+    const double phi1 = Angle::toRadians(firstParallel), phi2 = Angle::toRadians(secondParallel);
     const double sine1 = std::sin(phi1), sine2 = std::sin(phi2);
     const double tangents = std::tan(middle) * std::tan(half);        // (cos1 - cos2) / (cos1 + cos2)
     const double squares = std::sin(2 * middle) * std::sin(2 * half); // sine2^2 - sine1^2
@@ -38,8 +40,6 @@ double coneConstant(double latitude1, double latitude2, double e2) {
     return radii / (std::atanh(sines / (std::pow(std::sin(half), 2) + std::pow(std::cos(middle), 2))) -
                     e * std::atanh(e * sines / (1 - e2 * sine1 * sine2)));
 }
-
-} // namespace
 
 LambertConformal::LambertConformal(const Parameters& parameters)
     : given(parameters)

@@ -23,6 +23,9 @@ public:
         double falseNorthing;
     };
 
+    /// The constant n of the cone with these standard parallels (degrees), which may be equal.
+    static double coneConstant(double firstParallel, double secondParallel, double e2);
+
     explicit LambertConformal(const Parameters& parameters);
 
     std::optional<GridPoint> toGrid(const GeographicPoint& point) const override;

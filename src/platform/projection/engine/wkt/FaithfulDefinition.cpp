@@ -7,6 +7,8 @@
 #include "platform/projection/engine/wkt/ProjectedWkt.h"
 #include "platform/projection/engine/wkt/StatedProjection.h"
 
+#include <QByteArrayList>
+
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
@@ -112,21 +114,30 @@ QByteArray datumOf(const ProjItems& definition) {
 
 } // namespace
 
-QByteArray faithfulDefinition(const QByteArray& exported, const ProjectedWkt& wkt) {
+FaithfulDefinition faithfulDefinition(const QByteArray& exported, const ProjectedWkt& wkt) {
+    using Reason = Withheld::Reason;
     const ProjItems items(exported);
     const StatedProjection stated(wkt);
     const ProjItems statedItems(stated.definition);
+    const auto withhold = [&items](const Withheld& withheld) {
+        return FaithfulDefinition{withoutProjection(items), withheld};
+    };
     Ellipsoid ellipsoid;
-    if (stated.definition.isEmpty() || !ellipsoid.read(items) || !hasEllipsoid(items, wkt, ellipsoid) ||
-        !hasAxes(statedItems, wkt))
-        return withoutProjection(items);
+    if (stated.definition.isEmpty())
+        return withhold(stated.withheld);
+    if (!ellipsoid.read(items) || !hasEllipsoid(items, wkt, ellipsoid))
+        return withhold({Reason::Ellipsoid, {}});
+    if (!hasAxes(statedItems, wkt))
+        return withhold({Reason::Axes, wkt.axes.toList().join(", ")});
     const QByteArray normalised = normalisedProjection(statedItems, ellipsoid);
+    if (normalised.isEmpty())
+        return withhold({Reason::Value, wkt.methodText});
     const bool isOnlyOurs = stated.isOnlyOurs && !wkt.hasExtension;
-    if (normalised.isEmpty() || !(isOnlyOurs || areSame(normalised, normalisedProjection(items, ellipsoid))))
-        return withoutProjection(items);
+    if (!(isOnlyOurs || areSame(normalised, normalisedProjection(items, ellipsoid))))
+        return withhold({Reason::Disagreement, {}});
     // Readers round the meridian of Paris.
     const bool isRead = !isOnlyOurs && statedItems.text("pm") == "0";
-    return isRead ? exported : normalised + ' ' + datumOf(items);
+    return {isRead ? exported : normalised + ' ' + datumOf(items), {}};
 }
 
 QByteArray statedDefinition(const ProjectedWkt& wkt) {

@@ -1,8 +1,15 @@
 #pragma once
 
+#include "platform/projection/Withheld.h"
+
 #include <QByteArray>
 
 class ProjectedWkt;
+
+struct FaithfulDefinition {
+    QByteArray text;
+    Withheld withheld; ///< why it has no projection
+};
 
 /// The definition of a WKT text's projected system, given the PROJ.4 definition that a reader of WKT exported from it
 /// (or, where it could export none, its ellipsoid and shift). Readers drop what they don't know and fill in what is
@@ -14,7 +21,7 @@ class ProjectedWkt;
 /// - the grid's axes point east and north, or, around a pole, where those of PROJ's polar projections point.
 /// Where the text says more than readers understand (WktMethod::isOnlyOurs), its own reading counts. What is left in
 /// doubt comes back without its projection.
-QByteArray faithfulDefinition(const QByteArray& exported, const ProjectedWkt& wkt);
+FaithfulDefinition faithfulDefinition(const QByteArray& exported, const ProjectedWkt& wkt);
 
 /// The definition that such a text states by itself, without a reader's export of it beside it: "+proj=... +a=...
 /// +rf=... +units=m +no_defs" with degrees from Greenwich and metres, and no shift. Empty where a doubt is left. For

@@ -71,7 +71,11 @@ private:
     void noteShiftUnit(Text keyword, int index, Text text);
     void noteAxis(Text parent, int index, Text text);
     void noteIdentifier(Text parent, int index, Text text);
-    void require(bool condition) { statement.isSound = statement.isSound && condition; }
+    void require(bool condition, Withheld::Reason reason, const QByteArray& detail) {
+        if (!condition && statement.doubt.reason == Withheld::Reason::None)
+            statement.doubt = {reason, detail};
+    }
+    void requireOnce(bool condition, Text keyword) { require(condition, Withheld::Reason::Twice, toBytes(keyword)); }
 
     Text wkt;
     ProjectedWkt& statement;
@@ -125,7 +129,7 @@ void Scanner::open(Text keyword) {
     const bool isBelow = !path.isEmpty() && path.last().isProjected;
     const bool isSystem = isProjectedSystem(keyword);
     if (isSystem) {
-        require(statement.node.isEmpty() && !isBelow);
+        requireOnce(statement.node.isEmpty() && !isBelow, keyword);
         systemStart = std::size_t(keyword.data() - wkt.data());
         statement.isWkt1 = equalsIgnoringCase(keyword, "PROJCS");
     }
@@ -173,15 +177,18 @@ void Scanner::note(Text keyword, Text parent, int index, Text text) {
     else if (index == 0 && isOneOf(keyword, {"DATUM"}))
         statement.isEsri = text.substr(0, 2) == "D_";
     else if (index == 0 && isOneOf(keyword, {"PROJECTION", "METHOD"})) {
-        require(statement.method.isEmpty());
-        statement.method = plainName(toBytes(text));
+        requireOnce(statement.method.isEmpty(), keyword);
+        statement.methodText = toBytes(text);
+        statement.method = plainName(statement.methodText);
     }
 }
 
 void Scanner::noteParameter(int index, Text text) {
-    require(index <= 1);
+    if (index > 1 && !statement.parameters.isEmpty())
+        require(false, Withheld::Reason::Twice, statement.parameters.last().text);
     if (index == 0) {
         statement.parameters.append(ProjectedWkt::Parameter());
+        statement.parameters.last().text = toBytes(text);
         statement.parameters.last().name = plainName(toBytes(text));
     } else if (index == 1 && !statement.parameters.isEmpty()) {
         statement.parameters.last().value = toNumber(text);
@@ -189,9 +196,9 @@ void Scanner::noteParameter(int index, Text text) {
 }
 
 void Scanner::noteEllipsoid(int index, Text text) {
-    require(index <= 2);
+    requireOnce(index <= 2, "SPHEROID");
     if (index == 0)
-        require(ellipsoids++ == 0);
+        requireOnce(ellipsoids++ == 0, "SPHEROID");
     else if (index == 1)
         statement.semiMajorAxis = toNumber(text);
     else if (index == 2)
@@ -199,9 +206,9 @@ void Scanner::noteEllipsoid(int index, Text text) {
 }
 
 void Scanner::noteMeridian(int index, Text text) {
-    require(index <= 1);
+    requireOnce(index <= 1, "PRIMEM");
     if (index == 0) {
-        require(meridians++ == 0);
+        requireOnce(meridians++ == 0, "PRIMEM");
         statement.meridianName = plainName(toBytes(text));
     } else if (index == 1) {
         statement.primeMeridian = toNumber(text);
@@ -209,14 +216,14 @@ void Scanner::noteMeridian(int index, Text text) {
 }
 
 void Scanner::noteUnit(Text keyword, Text parent, int index, Text text) {
-    require(index <= 1);
+    require(index <= 1, Withheld::Reason::Unit, toBytes(unitName));
     if (index == 0)
         unitName = text;
     if (index != 1)
         return;
     const WktUnit unit = WktUnit::read(unitName, text);
     const double factor = unit.factor;
-    require(factor > 0);
+    require(factor > 0, Withheld::Reason::Unit, toBytes(unitName));
     statement.hasRoundedUnit = statement.hasRoundedUnit || unit.isRounded;
     if (isOneOf(parent, {"PARAMETER"}) && !statement.parameters.isEmpty()) {
         using Quantity = ProjectedWkt::Parameter::Quantity;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/projection/Withheld.h"
+
 #include <QByteArray>
 #include <QVector>
 
@@ -18,6 +20,7 @@ public:
     struct Parameter {
         enum class Quantity { Any, Length, Angle, Scale };
 
+        QByteArray text; ///< its name as it stands
         QByteArray name; ///< plain, see plainName()
         int code = 0;    ///< EPSG's, or 0
         double value = none;
@@ -27,7 +30,8 @@ public:
 
     QByteArray node; ///< the projected system's own text: without a shift around it or a height beside it
     QByteArray name;
-    QByteArray method; ///< plain
+    QByteArray methodText; ///< its name as it stands
+    QByteArray method;     ///< plain
     int methodCode = 0;
     QByteArray baseAuthority; ///< of the base geographic system's identifier, EPSG as a rule
     QByteArray baseCode;
@@ -47,7 +51,6 @@ public:
     bool isWkt1 = false;
     bool isEsri = false;         ///< in ESRI's dialect of WKT 1, which readers know by its names of datums
     bool hasRoundedUnit = false; ///< see WktUnit
-    /// No node that there may be once stands twice, none has a number too many ("500,000" are two), no unit is in
-    /// doubt.
-    bool isSound = true;
+    /// A node that there may be once stands twice or has a number too many ("500,000" are two), or a unit is in doubt.
+    Withheld doubt;
 };

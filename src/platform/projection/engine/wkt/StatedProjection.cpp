@@ -2,6 +2,7 @@
 
 #include "catalogue/Angle.h"
 #include "platform/projection/ProjNumber.h"
+#include "platform/projection/engine/definition/Ellipsoid.h"
 #include "platform/projection/engine/definition/PrimeMeridian.h"
 #include "platform/projection/engine/definition/ProjItems.h"
 #include "platform/projection/engine/wkt/ProjectedWkt.h"
@@ -16,6 +17,7 @@ namespace {
 
 using Quantity = ProjectedWkt::Parameter::Quantity;
 using Meaning = WktMeaning;
+using Reason = Withheld::Reason;
 using Values = QMap<Meaning, double>;
 
 Quantity quantityOf(Meaning meaning) {
@@ -76,58 +78,59 @@ bool isInRange(Meaning meaning, double value) {
     return std::abs(value) <= (quantityOf(meaning) == Quantity::Angle ? wholeTurn : farthest);
 }
 
-/// None where a parameter leaves a doubt.
-std::optional<Values> valuesOf(const ProjectedWkt& wkt) {
-    Values values;
+/// A parameter's values by their meanings, or why they leave a doubt.
+Withheld readValues(const ProjectedWkt& wkt, Values& values) {
     for (const ProjectedWkt::Parameter& parameter : wkt.parameters) {
         const std::optional<Meaning> meaning = WktMethods::meaningOf(parameter.name, parameter.code);
         if (!meaning)
-            return std::nullopt;
+            return {Reason::UnknownParameter, parameter.text};
         const double value = valueOf(wkt, parameter, *meaning);
-        if (!isInRange(*meaning, value) || (values.contains(*meaning) && values.value(*meaning) != value))
-            return std::nullopt;
+        if (std::isnan(value) && !std::isnan(parameter.value))
+            return {Reason::Unit, parameter.text};
+        if (!isInRange(*meaning, value))
+            return {Reason::Value, parameter.text};
+        if (values.contains(*meaning) && values.value(*meaning) != value)
+            return {Reason::TwoValues, parameter.text};
         values.insert(*meaning, value);
     }
-    return values;
+    return {};
 }
 
 /// Takes the parameters that repeat the ellipsoid; false when they state another.
-bool takeEllipsoid(Values& values, const ProjectedWkt& wkt) {
+bool takeEllipsoid(Values& values, const Ellipsoid& ellipsoid) {
     constexpr double tolerance = 1e-3; // some write millimetres
-    const double a = wkt.semiMajorAxis;
-    const double b = wkt.inverseFlattening == 0 ? a : a - a / wkt.inverseFlattening;
     const auto take = [&](Meaning meaning, double axis) {
         return !values.contains(meaning) || std::abs(values.take(meaning) - axis) < tolerance;
     };
-    return take(Meaning::SemiMajorAxis, a) && take(Meaning::SemiMinorAxis, b);
+    return take(Meaning::SemiMajorAxis, ellipsoid.a) && take(Meaning::SemiMinorAxis, ellipsoid.b);
 }
 
-std::optional<WktItems> itemsOf(const WktMethod& method, Values values, bool isEsri) {
+/// The method's items with their numbers, or why the parameters are not its own.
+Withheld readItems(const WktMethod& method, Values values, bool isEsri, const Ellipsoid& ellipsoid, WktItems& items) {
     using Presence = WktMethod::Presence;
     const bool hasFalseOrigin = std::any_of(method.uses.begin(), method.uses.end(), [](const WktMethod::Use& use) {
         return use.meaning == Meaning::LatitudeOfFalseOrigin;
     });
     if (!hasFalseOrigin && values.contains(Meaning::LatitudeOfFalseOrigin)) {
         if (values.contains(Meaning::LatitudeOfOrigin))
-            return std::nullopt;
+            return {Reason::ForeignParameter, WktMethods::nameOf(Meaning::LatitudeOfFalseOrigin)};
         values.insert(Meaning::LatitudeOfOrigin, values.take(Meaning::LatitudeOfFalseOrigin));
     }
-    WktItems items;
     for (const WktMethod::Use& use : method.uses) {
         const bool isThere = values.contains(use.meaning);
         if (!isThere && (use.presence == Presence::Required || (use.presence == Presence::Esri && !isEsri)))
-            return std::nullopt;
+            return {Reason::MissingParameter, WktMethods::nameOf(use.meaning)};
         if (!isThere)
             continue;
         const double value = values.take(use.meaning);
         if (use.presence != Presence::Neutral)
             items.insert(use.item, value);
         else if (value != (use.meaning == Meaning::Scale ? 1 : 0))
-            return std::nullopt;
+            return {Reason::ForeignParameter, WktMethods::nameOf(use.meaning)};
     }
-    if (!values.isEmpty() || (method.settle && !method.settle(items)))
-        return std::nullopt;
-    return items;
+    if (!values.isEmpty())
+        return {Reason::ForeignParameter, WktMethods::nameOf(values.firstKey())};
+    return method.settle ? method.settle(items, ellipsoid) : Withheld();
 }
 
 constexpr double sameMeridian = 1e-8; // degrees, 1 mm
@@ -166,16 +169,36 @@ double meridianOf(const ProjectedWkt& wkt) {
 } // namespace
 
 StatedProjection::StatedProjection(const ProjectedWkt& wkt) {
-    std::optional<Values> values = valuesOf(wkt);
+    const QVector<const WktMethod*> methods = WktMethods::find(wkt.method, wkt.methodCode);
+    const double a = wkt.semiMajorAxis;
+    const Ellipsoid ellipsoid{{}, a, wkt.inverseFlattening == 0 ? a : a - a / wkt.inverseFlattening};
     const double meridian = meridianOf(wkt);
-    if (!wkt.isSound || !values || !takeEllipsoid(*values, wkt) || std::isnan(meridian) || std::isnan(gridUnitOf(wkt)))
+    Values values;
+    if (methods.isEmpty())
+        withheld = {Reason::Method, wkt.methodText};
+    else if (wkt.doubt.reason != Reason::None)
+        withheld = wkt.doubt;
+    else if (std::isnan(gridUnitOf(wkt)))
+        withheld = {Reason::Unit, "easting, northing"};
+    else
+        withheld = readValues(wkt, values);
+    if (withheld.reason == Reason::None && !takeEllipsoid(values, ellipsoid))
+        withheld = {Reason::Ellipsoid, {}};
+    if (withheld.reason == Reason::None && std::isnan(meridian))
+        withheld = {Reason::Meridian, wkt.meridianName};
+    if (withheld.reason != Reason::None)
         return;
-    for (const WktMethod* const method : WktMethods::find(wkt.method, wkt.methodCode)) {
-        const std::optional<WktItems> items = itemsOf(*method, *values, wkt.isEsri);
-        if (!items)
+    for (const WktMethod* const method : methods) {
+        WktItems items;
+        const Withheld why = readItems(*method, values, wkt.isEsri, ellipsoid, items);
+        if (why.reason != Reason::None) {
+            // The first of them that bears the name is the usual one.
+            withheld = withheld.reason == Reason::None ? why : withheld;
             continue;
+        }
+        withheld = {};
         definition = "+proj=" + method->projection;
-        for (auto item = items->begin(); item != items->end(); ++item)
+        for (auto item = items.cbegin(); item != items.cend(); ++item)
             definition += " +" + item.key() + '=' + projNumber(item.value());
         definition += " +pm=" + projNumber(meridian);
         const bool isMeridianInDegrees = std::abs(meridianInUnit(wkt) - meridian) >= sameMeridian;

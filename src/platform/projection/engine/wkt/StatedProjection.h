@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/projection/Withheld.h"
+
 #include <QByteArray>
 
 class ProjectedWkt;
@@ -13,6 +15,7 @@ struct StatedProjection {
     /// Readers get it wrong: see WktMethod, or they take a rounded factor of degrees or grads for another unit's, or a
     /// prime meridian in degrees for one in the unit of the angles.
     bool isOnlyOurs = false;
+    Withheld withheld; ///< why there is no definition
 
     explicit StatedProjection(const ProjectedWkt& wkt);
 };

@@ -1,5 +1,9 @@
 #include "platform/projection/engine/wkt/WktMethods.h"
 
+#include "catalogue/Angle.h"
+#include "platform/projection/ProjNumber.h"
+#include "platform/projection/engine/definition/Ellipsoid.h"
+#include "platform/projection/engine/plane/LambertConformal.h"
 #include "platform/projection/engine/wkt/PlainName.h"
 
 #include <cmath>
@@ -52,56 +56,92 @@ const QVector<ParameterName>& parameterNames() {
     return table;
 }
 
-/// One standard parallel: the latitude of origin, whether it is stated again or not.
-bool settleParallelAtOrigin(WktItems& items) {
-    const double origin = items.value("lat_0");
-    if (items.contains("lat_1") && items.value("lat_1") != origin)
-        return false;
-    items.insert("lat_1", origin);
-    return true;
+using Reason = Withheld::Reason;
+
+Withheld unless(bool holds, Reason reason, const QByteArray& detail = {}) {
+    return holds ? Withheld() : Withheld{reason, detail};
 }
 
-bool settlePole(WktItems& items) {
+QByteArray pair(double first, double second) {
+    return projNumber(first) + ", " + projNumber(second);
+}
+
+/// One standard parallel: the latitude of origin, whether it is stated again or not.
+Withheld settleParallelAtOrigin(WktItems& items, const Ellipsoid&) {
+    const double origin = items.value("lat_0");
+    const double parallel = items.value("lat_1", origin);
+    items.insert("lat_1", origin);
+    return unless(parallel == origin, Reason::OriginOffParallel, pair(parallel, origin));
+}
+
+/// The Belgian grid's angles from the meridian are smaller by a constant, 29.2985 arc-seconds, which is a turn around
+/// the apex of the cone: another meridian (EPSG guidance note 7-2, method 9803).
+Withheld settleBelgianMeridian(WktItems& items, const Ellipsoid& ellipsoid) {
+    constexpr double turn = 29.2985 / 3600;
+    items["lon_0"] += turn / LambertConformal::coneConstant(items.value("lat_1"), items.value("lat_2"), ellipsoid.e2());
+    return {};
+}
+
+bool isPole(const WktItems& items) {
     return std::abs(items.value("lat_0")) == 90 && items.contains("k_0");
 }
 
+Withheld settlePole(WktItems& items, const Ellipsoid&) {
+    return unless(isPole(items), Reason::NoPole);
+}
+
 /// Without a latitude of origin: the pole on the side of the standard parallel.
-bool settlePolarParallel(WktItems& items) {
+Withheld settlePolarParallel(WktItems& items, const Ellipsoid&) {
     items.insert("lat_0", std::copysign(90, items.value("lat_ts")));
-    return items.value("lat_ts") != 0 && items.value("k_0", 1) == 1;
+    return unless(items.value("lat_ts") != 0 && items.value("k_0", 1) == 1, Reason::NoPole);
 }
 
-bool settleNorthPole(WktItems& items) {
-    return settlePolarParallel(items) && items.value("lat_0") > 0;
+/// The same with the false origin on the standard parallel, on the meridian of origin: its distance from the pole is
+/// the radius of the parallel, where the scale is 1 (EPSG guidance note 7-2, method 9830).
+Withheld settlePolarOrigin(WktItems& items, const Ellipsoid& ellipsoid) {
+    const double phi = Angle::toRadians(items.value("lat_ts"));
+    const double radius = ellipsoid.a * std::cos(phi) / std::sqrt(1 - ellipsoid.e2() * std::pow(std::sin(phi), 2));
+    items["y_0"] += std::copysign(radius, phi);
+    return settlePolarParallel(items, ellipsoid);
 }
 
-bool settleSouthPole(WktItems& items) {
-    return settlePolarParallel(items) && items.value("lat_0") < 0;
+Withheld settleNorthPole(WktItems& items, const Ellipsoid& ellipsoid) {
+    return items.value("lat_ts") > 0 ? settlePolarParallel(items, ellipsoid) : Withheld{Reason::NoPole, {}};
+}
+
+Withheld settleSouthPole(WktItems& items, const Ellipsoid& ellipsoid) {
+    return items.value("lat_ts") < 0 ? settlePolarParallel(items, ellipsoid) : Withheld{Reason::NoPole, {}};
 }
 
 /// A latitude of origin that is no pole is the standard parallel.
-bool settlePoleOrParallel(WktItems& items) {
-    if (settlePole(items))
-        return true;
+Withheld settlePoleOrParallel(WktItems& items, const Ellipsoid& ellipsoid) {
+    if (isPole(items))
+        return {};
     const double latitude = items.value("lat_0");
     items.insert("lat_ts", latitude);
-    return std::abs(latitude) < 90 && settlePolarParallel(items);
+    return std::abs(latitude) < 90 ? settlePolarParallel(items, ellipsoid) : Withheld{Reason::NoPole, {}};
 }
 
 /// PROJ's omerc, and with it the record, turns the grid by the azimuth.
-bool settleGridAngle(WktItems& items) {
-    return !items.contains("gamma") || items.take("gamma") == items.value("alpha");
+Withheld settleGridAngle(WktItems& items, const Ellipsoid&) {
+    const double azimuth = items.value("alpha");
+    const double angle = items.contains("gamma") ? items.take("gamma") : azimuth;
+    return unless(angle == azimuth, Reason::GridAngle, pair(angle, azimuth));
 }
 
 /// GDAL wrote the Swiss grid, whose false origin is the centre, under the name of the variant with its false origin at
 /// the natural one.
-bool settleSwissGrid(WktItems& items) {
-    return settleGridAngle(items) && items.value("alpha") == 90;
+Withheld settleSwissGrid(WktItems& items, const Ellipsoid& ellipsoid) {
+    const Withheld withheld = settleGridAngle(items, ellipsoid);
+    const bool isSwiss = withheld.reason != Reason::None || items.value("alpha") == 90;
+    return isSwiss ? withheld : Withheld{Reason::OriginFarAway, {}};
 }
 
 /// With the azimuth 90 the natural origin is a quarter of the globe away: nobody means it.
-bool settleNaturalOrigin(WktItems& items) {
-    return settleGridAngle(items) && items.value("alpha") != 90;
+Withheld settleNaturalOrigin(WktItems& items, const Ellipsoid& ellipsoid) {
+    const Withheld withheld = settleGridAngle(items, ellipsoid);
+    const bool isFarAway = withheld.reason == Reason::None && items.value("alpha") == 90;
+    return isFarAway ? Withheld{Reason::OriginFarAway, {}} : withheld;
 }
 
 const QVector<WktMethod>& methods() {
@@ -151,6 +191,8 @@ const QVector<WktMethod>& methods() {
          {lat0, lon0, lat1, lat2, neutral(k0), x0, y0}, nullptr, false},
         {{"lambertconicconformal2spmichigan"}, 1051, "lcc",
          {lat0, lon0, lat1, lat2, k0, x0, y0}, nullptr, false},
+        {{"lambertconformalconic2spbelgium", "lambertconicconformal2spbelgium"}, 9803, "lcc",
+         {lat0, lon0, lat1, lat2, x0, y0}, settleBelgianMeridian, true},
         {{"lambertconformalconic"}, 0, "lcc",
          {lat0, lon0, lat1, lat2, may(k0), x0, y0}, nullptr, false},
         {{"lambertconformalconic"}, 0, "lcc",
@@ -167,6 +209,8 @@ const QVector<WktMethod>& methods() {
          {lat0, lon0, k0, x0, y0}, settlePole, false},
         {{"polarstereographicvariantb"}, 9829, "stere",
          {polar, lon0, x0, y0}, settlePolarParallel, false},
+        {{"polarstereographicvariantc"}, 9830, "stere",
+         {polar, lon0, x0, y0}, settlePolarOrigin, true},
         {{"stereographicnorthpole"}, 0, "stere",
          {latTs, lon0, neutral(k0), x0, y0}, settleNorthPole, false},
         {{"stereographicsouthpole"}, 0, "stere",
@@ -207,6 +251,48 @@ std::optional<WktMeaning> WktMethods::meaningOf(const QByteArray& name, int code
     if (isContradiction || (!byName && !byCode))
         return std::nullopt;
     return (byName ? byName : byCode)->meaning;
+}
+
+const char* WktMethods::nameOf(WktMeaning meaning) {
+    switch (meaning) {
+    case Meaning::LatitudeOfOrigin:
+        return "Latitude of natural origin";
+    case Meaning::LatitudeOfFalseOrigin:
+        return "Latitude of false origin";
+    case Meaning::LongitudeOfOrigin:
+        return "Longitude of natural origin";
+    case Meaning::Scale:
+        return "Scale factor at natural origin";
+    case Meaning::FalseEasting:
+        return "False easting";
+    case Meaning::FalseNorthing:
+        return "False northing";
+    case Meaning::FirstParallel:
+        return "Latitude of 1st standard parallel";
+    case Meaning::SecondParallel:
+        return "Latitude of 2nd standard parallel";
+    case Meaning::PolarParallel:
+        return "Latitude of standard parallel";
+    case Meaning::Azimuth:
+        return "Azimuth at projection centre";
+    case Meaning::GridAngle:
+        return "Angle from Rectified to Skew Grid";
+    case Meaning::FirstLatitude:
+        return "Latitude of 1st point";
+    case Meaning::FirstLongitude:
+        return "Longitude of 1st point";
+    case Meaning::SecondLatitude:
+        return "Latitude of 2nd point";
+    case Meaning::SecondLongitude:
+        return "Longitude of 2nd point";
+    case Meaning::SemiMajorAxis:
+        return "Semi-major axis";
+    case Meaning::SemiMinorAxis:
+        return "Semi-minor axis";
+    case Meaning::SphereType:
+        break;
+    }
+    return "Auxiliary sphere type";
 }
 
 QVector<const WktMethod*> WktMethods::find(const QByteArray& name, int code) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/projection/Withheld.h"
+
 #include <QByteArray>
 #include <QMap>
 #include <QVector>
@@ -28,6 +30,8 @@ enum class WktMeaning {
     SphereType,
 };
 
+struct Ellipsoid;
+
 /// The numbers of a definition's items: degrees, metres and factors.
 using WktItems = QMap<QByteArray, double>;
 
@@ -50,8 +54,9 @@ struct WktMethod {
     int code;                  ///< EPSG's, or 0
     QByteArray projection;     ///< PROJ's name, and items that go with it
     QVector<Use> uses;
-    bool (*settle)(WktItems&); ///< puts in what follows from the others; false when they go with another method
-    bool isOnlyOurs;           ///< GDAL does not know the method under that name, or drops one of its parameters
+    /// Puts in what follows from the others, if need be from the ellipsoid; says why when they go with another method.
+    Withheld (*settle)(WktItems&, const Ellipsoid&);
+    bool isOnlyOurs; ///< GDAL does not know the method under that name, or drops one of its parameters
 };
 
 namespace WktMethods {
@@ -59,6 +64,9 @@ namespace WktMethods {
 /// The meaning of a parameter by its plain name and EPSG's code, of which one may be unknown; none where both are, or
 /// where they contradict each other.
 std::optional<WktMeaning> meaningOf(const QByteArray& name, int code);
+
+/// What EPSG calls a parameter, or one of its names.
+const char* nameOf(WktMeaning meaning);
 
 /// The methods that bear a plain name, EPSG's code (0 for none) or both; none where they contradict each other.
 QVector<const WktMethod*> find(const QByteArray& name, int code);

@@ -84,6 +84,15 @@ QByteArray datumDefinition(const OGRSpatialReference& reference) {
     return text;
 }
 
+Withheld::Reason kindOf(const OGRSpatialReference& reference) {
+    using Reason = Withheld::Reason;
+    return reference.IsGeographic() || reference.IsDerivedGeographic() ? Reason::Geographic
+           : reference.IsGeocentric()                                  ? Reason::Geocentric
+           : reference.IsVertical()                                    ? Reason::Vertical
+           : reference.IsLocal()                                       ? Reason::Local
+                                                                       : Reason::OtherKind;
+}
+
 } // namespace
 
 bool WktReader::isGeocentric(const QByteArray& authority, const QByteArray& code) {
@@ -120,7 +129,7 @@ WktSystem WktReader::read(const QByteArray& wkt) {
     if (reference.importFromWkt(&text) != OGRERR_NONE)
         return {};
     if (!reference.IsProjected())
-        return {WktSystem::Content::NotProjected, {}, {}};
+        return {WktSystem::Content::NotProjected, {}, {}, {kindOf(reference), {}}};
     ProjectedWkt statement(wkt);
     std::optional<NoSearchForShift> noSearch;
     // Where a geographic system bears a geocentric one's identifier, the search follows a null pointer (PROJ 9.1).
@@ -134,5 +143,6 @@ WktSystem WktReader::read(const QByteArray& wkt) {
     const QByteArray name = systemName(reference, statement);
     if (statement.axes.isEmpty() && ProjItems(definition).text("proj") == "cass" && isTurnedCassini(name))
         statement.axes = {"south", "west"};
-    return {WktSystem::Content::Projected, name, faithfulDefinition(definition, statement)};
+    const FaithfulDefinition faithful = faithfulDefinition(definition, statement);
+    return {WktSystem::Content::Projected, name, faithful.text, faithful.withheld};
 }

@@ -9,6 +9,9 @@
 #include <cmath>
 #include <cstdio>
 
+Q_DECLARE_METATYPE(GeographicPoint)
+Q_DECLARE_METATYPE(GridPoint)
+
 class WktReaderTest : public QObject {
     Q_OBJECT
 
@@ -46,6 +49,33 @@ private Q_SLOTS:
         QVERIFY(system.content == WktSystem::Content::Projected);
         const QByteArray definition = define(system.definition);
         QVERIFY2(definition.startsWith(start) && definition.contains("+proj=") != start.isEmpty(), definition);
+        QVERIFY((system.withheld.reason == Withheld::Reason::None) == !start.isEmpty());
+    }
+
+    /// The worked examples of EPSG's guidance note 7-2 for the two methods that are another one in other words.
+    void otherOrigins_data() {
+        const Rows<QByteArray, GeographicPoint, GridPoint> row({"method", "place", "grid"});
+        row("Belgium", "2SP_Belgium", {50 + 40 / 60.0 + 46.461 / 3600, 5 + 48 / 60.0 + 26.533 / 3600, 0},
+            {251763.20, 153034.13});
+        row("polar, variant C", "variant_C", {-66 - 36 / 60.0 - 18.820 / 3600, 140 + 4 / 60.0 + 17.040 / 3600, 0},
+            {303169.52, 244055.72});
+    }
+
+    void otherOrigins() {
+        QFETCH(QByteArray, method);
+        QFETCH(GeographicPoint, place);
+        QFETCH(GridPoint, grid);
+        int found = 0;
+        for (const QByteArrayList& columns : textTable("projected.txt")) {
+            if (!columns.last().contains(method))
+                continue;
+            const auto system =
+                projectionModule()->createSystem(define(projectionModule()->readWkt(columns.last()).definition));
+            const auto point = system->toGrid(place);
+            QVERIFY(std::hypot(point->easting - grid.easting, point->northing - grid.northing) < 0.01);
+            ++found;
+        }
+        QCOMPARE(found, 2);
     }
 
     /// One parallel with the origin elsewhere has no name in any dialect, two equal ones have.
