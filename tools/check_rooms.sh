@@ -18,8 +18,9 @@ declare -A allowed=(
     [platform/projection/engine/plane]="catalogue platform/projection $engine/proj"
     [platform/projection/engine/definition]="catalogue platform/projection $engine/proj $engine/plane"
     [platform/projection/engine/wkt]="catalogue platform/projection $engine/proj $engine/plane $engine/definition"
+    [platform/projection/engine/reading]="catalogue platform/projection $engine/proj $engine/definition $engine/wkt"
     [platform/projection/engine/computing]="catalogue platform/projection $engine/proj $engine/plane $engine/definition"
-    [platform/projection/engine]="platform/projection $engine/proj $engine/definition $engine/wkt $engine/computing"
+    [platform/projection/engine]="platform/projection $engine/proj $engine/definition $engine/wkt $engine/computing $engine/reading"
     [platform/projection/module]='platform/projection platform/projection/engine'
     [platform/desktop]='catalogue platform/utility'
     [import]="catalogue $interfaces"
@@ -35,7 +36,7 @@ declare -A allowed=(
     [app]="catalogue tree panel $interfaces"
 )
 without_widgets="catalogue import platform/utility platform/sdk platform/projection platform/projection/module"
-without_widgets+=" $engine $engine/proj $engine/plane $engine/definition $engine/wkt $engine/computing panel/record panel/computing"
+without_widgets+=" $engine $engine/proj $engine/plane $engine/definition $engine/wkt $engine/reading $engine/computing panel/record panel/computing"
 widget_headers=$(pkg-config --variable=includedir Qt5Widgets)/QtWidgets
 
 # includes FOLDER: "file:line:included" for each include of its files.

@@ -36,6 +36,7 @@ constexpr const char* geoidName = "geoid_name"; ///< geoid model of the system's
 constexpr const char* datumName = "datum_name"; ///< as the EPSG registry names it, or any other name
 constexpr const char* source = "source";        ///< where the figures are from: "EPSG:25832, EPSG v10.076, 2022-11-25"
 constexpr const char* remark = "remark";        ///< anything worth knowing
+constexpr const char* pastedText = "pasted_text"; ///< the text that the definition was read from, as it was pasted
 
 } // namespace CoordParamKey
 

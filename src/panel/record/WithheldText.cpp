@@ -58,6 +58,14 @@ QString sentence(Reason reason) {
         return PanelText::tr("PROJ makes another projection of these parameters, or none.");
     case Reason::NamedFile:
         return PanelText::tr("The text names a file, which is not read: %1.");
+    case Reason::UnknownForm:
+        return PanelText::tr("No WKT, no PROJJSON, no PROJ definition and no code of a registry.");
+    case Reason::TooLong:
+        return PanelText::tr("Too long, or brackets too deep: up to %1 bytes are read.");
+    case Reason::UnknownCode:
+        return PanelText::tr("No registry has the system %1.");
+    case Reason::Syntax:
+        return PanelText::tr("PROJ can't read it: %1");
     }
     return QString();
 }

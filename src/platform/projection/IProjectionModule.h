@@ -2,6 +2,7 @@
 
 #include "platform/projection/IProjectedSystem.h"
 #include "platform/projection/ProjectionLibrary.h"
+#include "platform/projection/ReadDefinition.h"
 #include "platform/projection/WktDialect.h"
 #include "platform/projection/WktNames.h"
 #include "platform/projection/WktSystem.h"
@@ -29,6 +30,12 @@ public:
     /// Reads a coordinate system in WKT 1 (GDAL's and ESRI's dialects) or WKT 2: one system's text without a byte-order
     /// mark. Nothing is written to the terminal, whatever it holds.
     virtual WktSystem readWkt(const QByteArray& wkt) = 0;
+
+    /// Reads what a person may paste for a coordinate system: WKT as readWkt(), PROJJSON, a PROJ text, an identifier of
+    /// a registry in PROJ's database ("EPSG:25832", "25832", "ESRI:102003", OGC's URN and URL of it). Blanks, quotes
+    /// and a byte-order mark around it don't count. No file is opened, whatever the text names, and nothing is written
+    /// to the terminal.
+    virtual ReadDefinition readDefinition(const QByteArray& text) = 0;
 
     /// The definition as WKT, its parts named as given: letter for letter, but for blanks and what WKT 1 calls a datum
     /// of the registry ("D_WGS_1984"). Numbers have 15 digits. On one line, as files hold it, or `indented` on many for

@@ -30,7 +30,12 @@ struct Withheld {
         Ellipsoid,        ///< its axes are stated twice and differ, or are in no metres
         Twice,            ///< a part that there is once stands twice, or has a number too many
         Disagreement,     ///< readers of such texts make another projection of it, or none
-        NamedFile,        ///< a PROJ text names a file with more of it; the item
+        NamedFile,        ///< the text names a file with more of it; its item
+        // No definition
+        UnknownForm, ///< in none of the forms that are read
+        TooLong,     ///< or nested too deep; how many bytes are read at most
+        UnknownCode, ///< no registry has it; the code
+        Syntax,      ///< in PROJ's words, in English
     };
 
     Reason reason = Reason::None;

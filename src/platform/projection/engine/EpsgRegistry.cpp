@@ -1,6 +1,7 @@
 #include "platform/projection/engine/EpsgRegistry.h"
 
 #include "platform/projection/engine/proj/BoundSystem.h"
+#include "platform/projection/engine/proj/DatumName.h"
 #include "platform/projection/engine/proj/ProjContext.h"
 #include "platform/projection/engine/proj/RegistryEllipsoids.h"
 #include "platform/projection/engine/wkt/FaithfulDefinition.h"
@@ -52,30 +53,6 @@ std::optional<RegistryShift> shiftOf(PJ_CONTEXT* context, const PJ* operation) {
     shift.area = QByteArray(area);
     shift.accuracy = proj_coordoperation_get_accuracy(context, operation);
     return shift;
-}
-
-QByteArray withoutSuffix(QByteArray name, const QByteArray& suffix) {
-    if (name.endsWith(suffix))
-        name.chop(suffix.size());
-    return name;
-}
-
-/// What EPSG adds to the name of a datum whose longitudes count from elsewhere; empty for Greenwich.
-QByteArray meridianSuffix(PJ_CONTEXT* context, const PJ* datum) {
-    double longitude = 0.0;
-    const ProjObject meridian(proj_get_prime_meridian(context, datum));
-    const bool isElsewhere =
-        meridian && proj_prime_meridian_get_parameters(context, meridian.get(), &longitude, nullptr, nullptr) != 0 &&
-        longitude != 0.0;
-    return isElsewhere ? QByteArray(" (") + proj_get_name(meridian.get()) + ')' : QByteArray();
-}
-
-/// The name of a datum as WKT writes it, counted from Greenwich; empty where EPSG has none but "Not specified (based
-/// on Clarke 1866 ellipsoid)".
-QByteArray nameOf(PJ_CONTEXT* context, const PJ* datum) {
-    const QByteArray name =
-        withoutSuffix(withoutSuffix(proj_get_name(datum), " ensemble"), meridianSuffix(context, datum));
-    return name.startsWith("Not specified") ? QByteArray() : name;
 }
 
 /// Around a pole both axes point along meridians: the easting 90 degrees east of the northing around the south pole,
@@ -198,9 +175,9 @@ void EpsgRegistry::readDatums() {
     for (auto code = codes; code && *code; ++code) {
         const ProjObject datum(
             proj_create_from_database(context.get(), authority, *code, PJ_CATEGORY_DATUM, 0, nullptr));
-        if (!datum || !meridianSuffix(context.get(), datum.get()).isEmpty())
+        if (!datum || !DatumName::meridianSuffix(context.get(), datum.get()).isEmpty())
             continue;
-        const QByteArray name = nameOf(context.get(), datum.get());
+        const QByteArray name = DatumName::of(context.get(), datum.get());
         if (name.isEmpty() || datumCodes.contains(name))
             continue;
         datumCodes.insert(name, *code);
@@ -215,7 +192,7 @@ void EpsgRegistry::readDatums() {
 QByteArray EpsgRegistry::datumName(const QByteArray& code) {
     const ProjObject projected = system(code);
     const ProjObject datum(projected ? proj_crs_get_datum_forced(context.get(), projected.get()) : nullptr);
-    return datum ? nameOf(context.get(), datum.get()) : QByteArray();
+    return datum ? DatumName::of(context.get(), datum.get()) : QByteArray();
 }
 
 QByteArray EpsgRegistry::edition() {

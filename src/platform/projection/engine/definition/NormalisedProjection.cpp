@@ -9,7 +9,9 @@
 
 #include <QHash>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <optional>
 
 namespace {
@@ -36,6 +38,13 @@ public:
         , falseNorthing(items.number("y_0", 0)) {}
 
     QByteArray normalise();
+
+    struct Source {
+        const char* projName;
+        ProjectionMethod method;
+        void (Normaliser::*settle)();
+    };
+    static const Source sources[];
 
 private:
     void chooseMethod();
@@ -99,24 +108,20 @@ double Normaliser::value(const MethodParameter& parameter) const {
     return parameter.kind == Kind::Longitude ? longitude(parameter.projKey) : items.angle(parameter.projKey, 0);
 }
 
+const Normaliser::Source Normaliser::sources[] = {
+    {"tmerc", ProjectionMethod::TransverseMercatorScaled, nullptr},
+    {"utm", ProjectionMethod::TransverseMercatorScaled, &Normaliser::settleUtm},
+    {"merc", ProjectionMethod::Mercator, &Normaliser::settleMercator},
+    {"omerc", ProjectionMethod::ObliqueMercatorAzimuth, &Normaliser::settleObliqueMercator},
+    {"somerc", ProjectionMethod::ObliqueMercatorAzimuth, &Normaliser::settleSwissObliqueMercator},
+    {"stere", ProjectionMethod::Stereographic, &Normaliser::settleStereographic},
+    {"ups", ProjectionMethod::Stereographic, &Normaliser::settleUps},
+    {"sterea", ProjectionMethod::ObliqueStereographic, nullptr},
+    {"lcc", ProjectionMethod::LambertOneParallel, &Normaliser::settleLambert},
+    {"cass", ProjectionMethod::CassiniSoldner, nullptr},
+};
+
 void Normaliser::chooseMethod() {
-    struct Source {
-        const char* projName;
-        ProjectionMethod method;
-        void (Normaliser::*settle)();
-    };
-    static constexpr Source sources[] = {
-        {"tmerc", ProjectionMethod::TransverseMercatorScaled, nullptr},
-        {"utm", ProjectionMethod::TransverseMercatorScaled, &Normaliser::settleUtm},
-        {"merc", ProjectionMethod::Mercator, &Normaliser::settleMercator},
-        {"omerc", ProjectionMethod::ObliqueMercatorAzimuth, &Normaliser::settleObliqueMercator},
-        {"somerc", ProjectionMethod::ObliqueMercatorAzimuth, &Normaliser::settleSwissObliqueMercator},
-        {"stere", ProjectionMethod::Stereographic, &Normaliser::settleStereographic},
-        {"ups", ProjectionMethod::Stereographic, &Normaliser::settleUps},
-        {"sterea", ProjectionMethod::ObliqueStereographic, nullptr},
-        {"lcc", ProjectionMethod::LambertOneParallel, &Normaliser::settleLambert},
-        {"cass", ProjectionMethod::CassiniSoldner, nullptr},
-    };
     const QByteArray name = items.count("proj") == 1 ? items.text("proj") : QByteArray();
     for (const Source& source : sources) {
         if (name != source.projName)
@@ -226,6 +231,11 @@ const MethodParameter* parameterOf(const QByteArray& projKey) {
 
 QByteArray normalisedProjection(const ProjItems& items, const Ellipsoid& ellipsoid) {
     return Normaliser(items, ellipsoid).normalise();
+}
+
+bool isKnownProjection(const QByteArray& projName) {
+    return std::any_of(std::begin(Normaliser::sources), std::end(Normaliser::sources),
+                       [&projName](const Normaliser::Source& source) { return projName == source.projName; });
 }
 
 QByteArray parametersWithoutProjection(const ProjItems& items) {

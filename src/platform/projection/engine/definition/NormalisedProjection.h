@@ -21,5 +21,8 @@ class ProjItems;
 /// and 21 of the 25 that no method holds.
 QByteArray normalisedProjection(const ProjItems& items, const Ellipsoid& ellipsoid);
 
+/// Whether projections of that name in PROJ may be among the record's methods.
+bool isKnownProjection(const QByteArray& projName);
+
 /// The origin and the parallels of a definition without its projection and scale, longitudes from Greenwich.
 QByteArray parametersWithoutProjection(const ProjItems& items);

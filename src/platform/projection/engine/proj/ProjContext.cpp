@@ -1,6 +1,10 @@
 #include "platform/projection/engine/proj/ProjContext.h"
 
 ProjContext::ProjContext() : context(proj_context_create()) {
+    beQuiet();
+}
+
+void ProjContext::beQuiet() const {
     proj_log_func(context, nullptr, [](void*, int, const char*) {});
 }
 

@@ -11,6 +11,9 @@ public:
     ProjContext(const ProjContext&) = delete;
     ProjContext& operator=(const ProjContext&) = delete;
 
+    /// Nothing is written to the terminal from now on.
+    void beQuiet() const;
+
     PJ_CONTEXT* get() const { return context; }
 
 private:
