@@ -4,6 +4,7 @@
 #include "catalogue/DictionaryGuard.h"
 #include "catalogue/File.h"
 #include "import/WktToCoordParam.h"
+#include "panel/FromTextDialog.h"
 #include "panel/field/ChoiceBox.h"
 #include "panel/field/CopyButton.h"
 #include "panel/field/FieldEdit.h"
@@ -105,10 +106,11 @@ void DefinitionTab::build() {
     connect(copyWktButton, SIGNAL(clicked()), this, SLOT(_onCopyWkt()));
     connect(saveButton, SIGNAL(clicked()), this, SLOT(_onSave()));
     connect(registryButton, SIGNAL(clicked()), this, SLOT(_onFromRegistry()));
+    connect(textButton, SIGNAL(clicked()), this, SLOT(_onFromText()));
 }
 
 void DefinitionTab::buildNotes(QGridLayout* grid) {
-    const auto addNote = [&](int line, int columns, const QString& name, const char* key) {
+    const auto addNote = [&](int line, const QString& name, const char* key) {
         auto* edit = new FieldEdit;
         edit->setWide();
         if (isReadOnly())
@@ -117,17 +119,20 @@ void DefinitionTab::buildNotes(QGridLayout* grid) {
         label->setBuddy(edit);
         edit->setAccessibleName(name);
         grid->addWidget(label, line, 0);
-        grid->addWidget(edit, line, 1, 1, columns);
+        grid->addWidget(edit, line, 1);
         auto* field = new TextField(editor(), key, edit);
         connect(field, SIGNAL(edited()), this, SLOT(_onNoteEdited()));
         return field;
     };
     grid->setVerticalSpacing(3);
-    source = addNote(0, 1, PanelText::tr("Where from"), CoordParamKey::source);
+    source = addNote(0, PanelText::tr("Where from"), CoordParamKey::source);
     registryButton = new QPushButton(PanelText::tr("From registry..."));
-    registryButton->setEnabled(!isReadOnly());
     grid->addWidget(registryButton, 0, 2);
-    note = addNote(1, 2, PanelText::tr("Remark"), CoordParamKey::remark);
+    note = addNote(1, PanelText::tr("Remark"), CoordParamKey::remark);
+    textButton = new QPushButton(PanelText::tr("From text..."));
+    for (QPushButton* const button : {registryButton, textButton})
+        button->setEnabled(!isReadOnly());
+    grid->addWidget(textButton, 1, 2);
 }
 
 void DefinitionTab::showRecord() {
@@ -237,7 +242,17 @@ void DefinitionTab::_onFromRegistry() {
     };
     set(CoordParamKey::datumName, dialog.datumName());
     set(CoordParamKey::source, dialog.source());
-    editor().replaceValues(*chosen);
+    takeOver(*chosen);
+}
+
+void DefinitionTab::_onFromText() {
+    FromTextDialog dialog(QString::fromLocal8Bit(record().getValue(CoordParamKey::pastedText)), this);
+    if (dialog.exec() == QDialog::Accepted)
+        takeOver(dialog.values());
+}
+
+void DefinitionTab::takeOver(const IDictionary& values) {
+    editor().replaceValues(values);
     showRecord();
     recordChanged();
 }

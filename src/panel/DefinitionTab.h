@@ -14,7 +14,7 @@ class QPushButton;
 class TextField;
 
 /// The tab "Definition": the record as PROJ definition and as WKT, to copy and to save as a .prj file; which system of
-/// the registry it is; where it is from, and the way to take another definition over from the registry.
+/// the registry it is; where it is from, and the ways to take another definition over, from the registry or from a text.
 ///
 /// Nothing is built or computed before the tab is first shown.
 class DefinitionTab : public ParamTab {
@@ -36,11 +36,13 @@ private Q_SLOTS:
     void _onCopyWkt();
     void _onSave();
     void _onFromRegistry();
+    void _onFromText();
     void _onNoteEdited();
 
 private:
     void build();
     void buildNotes(QGridLayout* grid);
+    void takeOver(const IDictionary& values);
     QByteArray wkt(bool indented) const;
     QByteArray identifier() const;
     void showWkt();
@@ -61,4 +63,5 @@ private:
     TextField* source = nullptr;
     TextField* note = nullptr;
     QPushButton* registryButton = nullptr;
+    QPushButton* textButton = nullptr;
 };

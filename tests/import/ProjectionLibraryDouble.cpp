@@ -56,6 +56,10 @@ WktSystem ProjectionLibraryDouble::readWkt(const QByteArray& wkt) {
     return system;
 }
 
+ReadDefinition ProjectionLibraryDouble::readDefinition(const QByteArray&) {
+    qFatal("The import reads files only.");
+}
+
 QByteArray ProjectionLibraryDouble::exportWkt(const QByteArray&, const WktNames&, WktDialect, bool) {
     qFatal("The import writes no WKT.");
 }

@@ -31,6 +31,7 @@ public:
     ProjEllipsoid ellipsoid(ProjHandle handle) override;
     ProjTowgs84 towgs84(ProjHandle handle) override;
     WktSystem readWkt(const QByteArray& wkt) override;
+    ReadDefinition readDefinition(const QByteArray& text) override;
 
     QByteArray exportWkt(const QByteArray&, const WktNames&, WktDialect, bool) override;
     std::unique_ptr<IProjectedSystem> createSystem(const QByteArray&) override;

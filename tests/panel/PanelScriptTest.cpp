@@ -37,6 +37,23 @@ void shiftFromPoints(const PanelOnScreen& screen, const QString& lines, const QS
     QCOMPARE(ModalDriver::pending(), 0);
 }
 
+/// Pastes a text ("¶" is a new line) over the dialog's, and takes it over if it can be; what the dialog said, after the
+/// text that it began with.
+QString pasteDefinition(const PanelOnScreen& screen, QString text) {
+    QString said;
+    ModalDriver::onNextDialog([&](QDialog* dialog) {
+        const auto edits = dialog->findChildren<QPlainTextEdit*>();
+        said = edits[0]->toPlainText() + " -> ";
+        QApplication::clipboard()->setText(text.replace("¶", "\n"));
+        edits[0]->paste();
+        said += edits[1]->toPlainText().replace('\n', "; ");
+        auto* taken = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+        taken->isEnabled() ? taken->click() : dialog->reject();
+    });
+    screen.button("From text...")->click();
+    return said;
+}
+
 /// Saves the definition; the file name that was offered and what an import of the file lacks.
 QString saveDefinition(const PanelOnScreen& screen) {
     QTemporaryDir folder;
@@ -113,6 +130,9 @@ private Q_SLOTS:
         };
         screen.acts["search"] = [&](const QString&) { QTRY_VERIFY_WITH_TIMEOUT(!isSearching(), 60000); };
         screen.sights["searching"] = [&](const QString&) { return isSearching() ? "yes" : "no"; };
+        QString said;
+        screen.acts["paste"] = [&](const QString& text) { said = pasteDefinition(screen, text); };
+        screen.sights["dialog"] = [&](const QString&) { return said; };
         screen.sights["saved"] = [&](const QString&) { return saveDefinition(screen); };
         MessageBoxDouble::reset();
         screen.play();

@@ -304,6 +304,7 @@ void CoordParamEditor::replaceValues(const IDictionary& source) {
     const auto replace = [&](IDictionary& record) {
         if (source.getValue(Key::shiftType)) {
             record.remove(Key::datumName);
+            record.remove(Key::pastedText);
             for (const ParamField& field : DatumFields::shift())
                 record.remove(field.key);
         }

@@ -56,7 +56,8 @@ public:
     bool setText(const char* key, const QString& text);
 
     /// Takes over every key of `source`, with the numbers behind the texts; the record's other keys stay. When `source`
-    /// says which datum shift there is ("_7type"), shift keys and the datum's name, where it lacks them, are removed.
+    /// says which datum shift there is ("_7type"), shift keys, the datum's name and the text that the definition was
+    /// read from are removed where it lacks them.
     void replaceValues(const IDictionary& source);
 
     /// Whether the record differs from the one that was set.
