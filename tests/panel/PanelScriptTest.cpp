@@ -46,7 +46,7 @@ QString pasteDefinition(const PanelOnScreen& screen, QString text) {
         said = edits[0]->toPlainText() + " -> ";
         QApplication::clipboard()->setText(text.replace("¶", "\n"));
         edits[0]->paste();
-        said += edits[1]->toPlainText().replace('\n', "; ");
+        said += edits[1]->toPlainText().replace('\n', ", ");
         auto* taken = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
         taken->isEnabled() ? taken->click() : dialog->reject();
     });

@@ -118,7 +118,8 @@ PastedText::PastedText(const QByteArray& given) {
     // OGC 05-010 and 09-048, and what web pages and people write.
     static const QRegularExpression identifiers[] = {
         QRegularExpression(R"(^()(\d{4,6})$)"),
-        QRegularExpression(R"(^([A-Za-z][A-Za-z_0-9]*)\s*(?:::?|\s)\s*([A-Za-z0-9_.-]+)(\s*\+\s*\d+)?$)"),
+        QRegularExpression(R"(^([A-Za-z][A-Za-z_0-9]*)\s*::?\s*([A-Za-z0-9_.-]+)(\s*\+\s*\d+)?$)"),
+        QRegularExpression(R"(^([A-Za-z][A-Za-z_0-9]*)\s+(\d+)$)"),
         QRegularExpression(R"(^urn:(?:x-)?ogc:def:crs:(\w+):[^:]*:([A-Za-z0-9_.-]+)()$)",
                            QRegularExpression::CaseInsensitiveOption),
         QRegularExpression(R"(^https?://(?:www\.)?opengis\.net/def/crs/(\w+)/[^/]+/([A-Za-z0-9_.-]+?)/?$)",
