@@ -155,6 +155,15 @@ class Photographer:
         press("Return")
         self.tool.gone(title)
 
+    def text(self):
+        self.tool.tab("Definition")
+        self.tool.main.find("push button", "From text...").click()
+        self.tool.dialog("From text")
+        type_text("+proj=tmerc +lat_0=0 +lon_0=9 +x_0=3500000 +ellps=bessel +towgs84=598.1,73.7,418.2,0.202,0.045,-2.455,6.7")
+        self.take("from-text")
+        press("Escape")
+        self.tool.gone("From text")
+
     def commands(self):
         self.tool.scroll_to("Uruguay")  # so that there is room for the menu
         self.tool.menu_at(self.tool.item(COUNTRY))
@@ -206,8 +215,8 @@ def main():
             installed = tool.Tool(desktop, home, build)
             installed.start()
             photographer = Photographer(desktop, installed)
-            for step in (photographer.window, photographer.tabs, photographer.registry, photographer.shift,
-                         photographer.commands, photographer.dialogs, photographer.points):
+            for step in (photographer.window, photographer.tabs, photographer.registry, photographer.text,
+                         photographer.shift, photographer.commands, photographer.dialogs, photographer.points):
                 step()
             installed.close()
         finally:

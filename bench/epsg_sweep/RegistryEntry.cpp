@@ -21,6 +21,14 @@ QByteArray RegistryEntry::wkt(PJ_WKT_TYPE dialect) const {
     return proj_as_wkt(context, crs.get(), dialect, nullptr);
 }
 
+QByteArray RegistryEntry::projJson() const {
+    return proj_as_projjson(context, crs.get(), nullptr);
+}
+
+QByteArray RegistryEntry::projText() const {
+    return proj_as_proj_string(context, crs.get(), PJ_PROJ_4, nullptr);
+}
+
 RegistryEntry::Base RegistryEntry::base(const PJ* geodetic) const {
     Base result{};
     const ProjObject meridian(proj_get_prime_meridian(context, geodetic));

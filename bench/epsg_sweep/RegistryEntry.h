@@ -14,6 +14,8 @@ public:
 
     /// Empty when PROJ can't write the system in this dialect.
     QByteArray wkt(PJ_WKT_TYPE dialect) const;
+    QByteArray projJson() const;
+    QByteArray projText() const;
 
     /// A place on the system's own datum, degrees from Greenwich, and where it lies on the grid in metres.
     struct Sample {

@@ -1,3 +1,4 @@
+#include "PastedSweep.h"
 #include "Sweep.h"
 
 #include <QCommandLineParser>
@@ -6,7 +7,8 @@
 #include <cpl_error.h>
 
 /// Imports every projected system of the registries in PROJ's database as WKT and compares with PROJ. Ends with 1 when
-/// one comes out silently wrong: defined, and off by more than 1 mm.
+/// one comes out silently wrong: defined, and off by more than 1 mm. With --pasted, when a pasted notation gives
+/// another record than the import does.
 int main(int argc, char* argv[]) {
     QCoreApplication application(argc, argv);
     QCommandLineParser parser;
@@ -16,7 +18,8 @@ int main(int argc, char* argv[]) {
     const QCommandLineOption dialect("dialect", "Take only this dialect: gdal, esri or wkt2.", "name");
     parser.addHelpOption();
     const QCommandLineOption registry("registry", "Take only this registry: EPSG, ESRI or IGNF.", "name");
-    parser.addOptions({every, deprecated, verbose, dialect, registry});
+    const QCommandLineOption pasted("pasted", "Paste them in each notation instead, and compare with the import.");
+    parser.addOptions({every, deprecated, verbose, dialect, registry, pasted});
     parser.process(application);
 
     CPLSetErrorHandler(CPLQuietErrorHandler);
@@ -40,6 +43,11 @@ int main(int argc, char* argv[]) {
     };
     for (const char* const name : {"EPSG", "ESRI", "IGNF"}) {
         options.registry = name;
+        if (parser.isSet(pasted)) {
+            if (isTaken(registry, name))
+                ok = PastedSweep(context, options).run() && ok;
+            continue;
+        }
         for (const Dialect& taken : dialects) {
             if (isTaken(registry, name) && isTaken(dialect, taken.key))
                 ok = Sweep(context, taken.title, taken.type, options).run() && ok;

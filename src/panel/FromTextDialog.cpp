@@ -45,9 +45,9 @@ FromTextDialog::FromTextDialog(const QString& text, QWidget* parent)
     buttons->button(QDialogButtonBox::Ok)->setText(PanelText::tr("Take over"));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(inputLabel);
-    layout->addWidget(input, 1);
+    layout->addWidget(input, 2);
     layout->addWidget(resultLabel);
-    layout->addWidget(result, 1);
+    layout->addWidget(result, 3);
     layout->addWidget(buttons);
     resize(620, 560);
     connect(input, SIGNAL(textChanged()), this, SLOT(_onTextChanged()));

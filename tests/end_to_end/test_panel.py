@@ -233,8 +233,15 @@ class Panel(tool.ToolTest):
         press("Tab")
         wait_for(lambda: self.tool.tab("Definition").find("text", "Remark").focused, "the field behind the button")
         press("Tab")
+        wait_for(lambda: self.tool.button("From text...").focused, "the next button")
+        press("space")
+        self.tool.dialog("From text")
+        type_text("epsg:25833")
+        press("Tab", "Tab", "space")
+        self.tool.gone("From text")
+        press("Tab")
         wait_for(lambda: self.tool.button("Add").focused, "the window's buttons after the tab's last one")
-        self.assert_shown("Projection", {"False easting": 1000000})
+        self.assert_shown("Projection", {"Central meridian": 15, "False easting": 500000})
 
 
 if __name__ == "__main__":

@@ -172,7 +172,7 @@ private Q_SLOTS:
                 QCOMPARE(
                     way,
                     ", In the registry, Copy, PROJ definition, WKT dialect, Copy, Save as .prj, WKT, Where from, From "
-                    "registry..., Remark");
+                    "registry..., Remark, From text...");
             else
                 QVERIFY2(names.contains("Latitude") && names.contains("Show angles in"), way);
         }

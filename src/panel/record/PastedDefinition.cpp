@@ -107,9 +107,10 @@ QStringList PastedDefinition::understood() const {
         for (const ParamField& field : projection->fields)
             lines << lineOf(field, *record);
     }
-    lines << PanelText::tr("Ellipsoid: %1").arg(textOf(*record, Key::ellipsoidName));
-    for (const ParamField* const field : {&DatumFields::semiMajorAxis(), &DatumFields::inverseFlattening()})
-        lines << lineOf(*field, *record);
+    const auto shown = [this](const ParamField& field) { return field.shownText(*record, AngleText::notation()); };
+    lines << PanelText::tr("Ellipsoid: %1, a %2 m, 1/f %3")
+                 .arg(textOf(*record, Key::ellipsoidName), shown(DatumFields::semiMajorAxis()),
+                      shown(DatumFields::inverseFlattening()));
     const QString datum = textOf(*record, Key::datumName);
     lines << PanelText::tr("Datum: %1").arg(datum.isEmpty() ? PanelText::tr("not named") : datum);
     lines << shiftLine(*record) << notes << textOf(*record, Key::source);

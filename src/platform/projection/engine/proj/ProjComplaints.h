@@ -17,8 +17,14 @@ public:
     ProjComplaints(const ProjComplaints&) = delete;
     ProjComplaints& operator=(const ProjComplaints&) = delete;
 
-    /// The first one, in one line, in English; empty when there is none.
-    QByteArray first() const { return message; }
+    /// The first one, in one line, in English, without PROJ's number for it; empty when there is none.
+    QByteArray first() const {
+        const QByteArray head = "proj_create: ";
+        const int kind = message.indexOf("): ");
+        return message.startsWith(head + "Error") && kind > 0 ? message.mid(kind + 3)
+               : message.startsWith(head)                     ? message.mid(head.size())
+                                                              : message;
+    }
 
 private:
     void add(const char* text) {
