@@ -47,7 +47,7 @@ public:
 
 private:
     IEpsgRegistry& registry;
-    QStringList searchTexts; ///< by index in the registry's list
-    QVector<int> rows;       ///< the listed systems, as indexes in the registry's list
+    QStringList searchTexts;                    ///< by index in the registry's list
+    QVector<int> rows;                          ///< the listed systems, as indexes in the registry's list
     mutable QHash<QByteArray, QString> reasons; ///< by code, of those that were tried
 };

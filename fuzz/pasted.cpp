@@ -1,0 +1,16 @@
+// Any text as one that is pasted: it is held, with a record that defines a projection, or there is a reason in words.
+
+#include "catalogue/CoordParamKey.h"
+#include "import/CoordParamToProjDefine.h"
+#include "panel/record/PastedDefinition.h"
+#include "support/Support.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    const QString text = QString::fromUtf8(reinterpret_cast<const char*>(data), static_cast<int>(size));
+    const PastedDefinition pasted(text);
+    require(pasted.isHeld() == coordParamDefinesProjection(pasted.values()), "what is held defines a projection");
+    require(pasted.isHeld() != pasted.understood().isEmpty(), "what is held is told in words");
+    require(!pasted.isHeld() || pasted.reason().isEmpty(), "what is held has no reason against it");
+    require(pasted.place() <= text.size(), "a place in the text");
+    return 0;
+}
