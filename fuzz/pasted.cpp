@@ -11,6 +11,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     require(pasted.isHeld() == coordParamDefinesProjection(pasted.values()), "what is held defines a projection");
     require(pasted.isHeld() != pasted.understood().isEmpty(), "what is held is told in words");
     require(!pasted.isHeld() || pasted.reason().isEmpty(), "what is held has no reason against it");
+    require(pasted.isHeld() || text.isEmpty() || !text[0].isLetterOrNumber() || !pasted.reason().isEmpty(),
+            "what is not held has a reason");
     require(pasted.place() <= text.size(), "a place in the text");
     return 0;
 }

@@ -191,6 +191,9 @@ ReadDefinition DefinitionReader::read(const QByteArray& text) {
         result = readItems(pasted.text);
         break;
     }
+    // Of the kinds of systems that GDAL does not know, none is projected.
+    if (result.system.content == Content::Unreadable && result.system.withheld.reason == Reason::None)
+        return withheld(Content::NotProjected, Reason::OtherKind);
     if (result.position >= 0)
         result.position += pasted.start;
     return result;
