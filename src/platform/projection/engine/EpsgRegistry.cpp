@@ -223,7 +223,7 @@ RegistryDefinition EpsgRegistry::readDefinition(const QByteArray& code) const {
     const ProjectedWkt statement(proj_as_wkt(context.get(), crs.get(), PJ_WKT2_2019, nullptr));
     const QByteArray definition = statedDefinition(statement);
     const ProjObject datum(proj_crs_get_datum_forced(context.get(), crs.get()));
-    return {definition, datum ? nameOf(context.get(), datum.get()) : QByteArray(), isNorthingFirst(statement),
+    return {definition, datum ? DatumName::of(context.get(), datum.get()) : QByteArray(), isNorthingFirst(statement),
             definition.isEmpty() ? 0 : statement.gridUnits.first()};
 }
 
