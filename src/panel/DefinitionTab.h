@@ -14,7 +14,8 @@ class QPushButton;
 class TextField;
 
 /// The tab "Definition": the record as PROJ definition and as WKT, to copy and to save as a .prj file; which system of
-/// the registry it is; where it is from, and the ways to take another definition over, from the registry or from a text.
+/// the registry it is; where it is from, and the ways to take another definition over, from the registry or from a
+/// text.
 ///
 /// Nothing is built or computed before the tab is first shown.
 class DefinitionTab : public ParamTab {
