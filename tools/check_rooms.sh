@@ -29,9 +29,10 @@ declare -A allowed=(
     [panel/computing]='catalogue import panel/record platform/projection'
     [panel/field]='catalogue panel/record'
     [panel/registry]="catalogue import panel/record panel/computing panel/field $interfaces"
+    [panel/save]="catalogue panel/record panel/field $interfaces"
     [panel/shift]="catalogue panel/record panel/computing panel/field $interfaces"
     [panel/check]="catalogue panel/record panel/computing panel/field $interfaces"
-    [panel]="catalogue import panel/record panel/computing panel/field panel/registry panel/shift panel/check $interfaces"
+    [panel]="catalogue import panel/record panel/computing panel/field panel/registry panel/save panel/shift panel/check $interfaces"
     [tree]="catalogue import geodesy $interfaces"
     [app]="catalogue tree panel $interfaces"
 )

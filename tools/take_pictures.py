@@ -70,13 +70,25 @@ class Photographer:
         panel.find("page tab", "Distortion").click()
         self.take("check-distortion")
 
+    def group(self):
+        self.tool.tab("Definition").find("push button", "Save group...").click()
+        dialog = self.tool.dialog("Save group as .prj")
+        folder = os.path.join(self.tool.home, "For the GIS")
+        os.makedirs(folder)
+        type_text(folder)
+        press("Return")
+        wait_for(lambda: dialog.all("push button", "Close"), "the summary")
+        self.take_window("Save group as .prj", "save-group")
+        press("Escape")
+        self.tool.gone("Save group as .prj")
+
     def take_from_registry(self, words, code, picture=None):
         self.tool.tab("Definition").find("push button", "From registry...").click()
         dialog = self.tool.dialog("From registry")
         type_text(words)
         dialog.find("table cell", code).click()
         if picture:
-            self.take(picture)
+            self.take_window("From registry", picture)
         dialog.find("push button", "Take over").click()
         self.tool.gone("From registry")
 
@@ -84,6 +96,19 @@ class Photographer:
         self.take_from_registry("british national grid", "27700", "from-registry")
         self.tool.tab("Datum shift")
         self.take("datum-shift")
+
+    def coordinates(self):
+        self.tool.tab("Definition").find("push button", "From registry...").click()
+        dialog = self.tool.dialog("From registry")
+        dialog.find("page tab", "From coordinates").click()
+        for field, text in (("Latitude", "40.0"), ("Longitude", "-83"), ("First coordinate", "728350"),
+                            ("Second coordinate", "1827200")):
+            dialog.find("text", field + " of point 1").fill(text)
+        dialog.find("table cell", "3735")
+        press("Return")
+        self.take_window("From registry", "from-coordinates")
+        dialog.find("push button", "Cancel").click()
+        self.tool.gone("From registry")
 
     def shift(self):
         self.tool.scroll_to("Netherlands")
@@ -215,8 +240,9 @@ def main():
             installed = tool.Tool(desktop, home, build)
             installed.start()
             photographer = Photographer(desktop, installed)
-            for step in (photographer.window, photographer.tabs, photographer.registry, photographer.text,
-                         photographer.shift, photographer.commands, photographer.dialogs, photographer.points):
+            for step in (photographer.window, photographer.tabs, photographer.group, photographer.registry,
+                         photographer.coordinates, photographer.text, photographer.shift, photographer.commands,
+                         photographer.dialogs, photographer.points):
                 step()
             installed.close()
         finally:

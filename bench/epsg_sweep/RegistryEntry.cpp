@@ -104,6 +104,16 @@ void RegistryEntry::projectPolarVariantC(Sample& sample) const {
 }
 
 QVector<RegistryEntry::Sample> RegistryEntry::samples() const {
+    const Box area = areaOfUse();
+    QVector<Sample> places;
+    for (const double x : {0.02, 0.5, 0.98}) {
+        for (const double y : {0.02, 0.5, 0.98})
+            places.append({area.west + x * (area.east - area.west), area.south + y * (area.north - area.south), 0, 0});
+    }
+    return computed(places);
+}
+
+QVector<RegistryEntry::Sample> RegistryEntry::computed(const QVector<Sample>& places) const {
     const ProjObject geodetic(proj_crs_get_geodetic_crs(context, crs.get()));
     const ProjObject asStored(
         geodetic ? proj_create_crs_to_crs_from_pj(context, geodetic.get(), crs.get(), nullptr, nullptr) : nullptr);
@@ -111,25 +121,21 @@ QVector<RegistryEntry::Sample> RegistryEntry::samples() const {
     const bool isVariantC = method() == "Polar Stereographic (variant C)";
     if (!operation && !isVariantC)
         return {};
-    const Box area = areaOfUse();
     const Base from = base(geodetic.get());
     const double unit = metresPerUnit();
     QVector<Sample> result;
-    for (const double x : {0.02, 0.5, 0.98}) {
-        for (const double y : {0.02, 0.5, 0.98}) {
-            Sample sample{area.west + x * (area.east - area.west), area.south + y * (area.north - area.south), 0, 0};
-            const PJ_COORD grid = proj_trans(operation.get(), PJ_FWD,
-                                             proj_coord((sample.longitude - from.primeMeridian) / from.degreesPerUnit,
-                                                        sample.latitude / from.degreesPerUnit, 0, 0));
-            sample.easting = grid.xy.x * unit;
-            sample.northing = grid.xy.y * unit;
-            if (isVariantC)
-                projectPolarVariantC(sample);
-            else if (method() == "Lambert Conic Conformal (2SP Belgium)")
-                turnBelgian(sample);
-            if (std::isfinite(sample.easting) && std::isfinite(sample.northing))
-                result.append(sample);
-        }
+    for (Sample sample : places) {
+        const PJ_COORD grid = proj_trans(operation.get(), PJ_FWD,
+                                         proj_coord((sample.longitude - from.primeMeridian) / from.degreesPerUnit,
+                                                    sample.latitude / from.degreesPerUnit, 0, 0));
+        sample.easting = grid.xy.x * unit;
+        sample.northing = grid.xy.y * unit;
+        if (isVariantC)
+            projectPolarVariantC(sample);
+        else if (method() == "Lambert Conic Conformal (2SP Belgium)")
+            turnBelgian(sample);
+        if (std::isfinite(sample.easting) && std::isfinite(sample.northing))
+            result.append(sample);
     }
     return result;
 }

@@ -31,17 +31,23 @@ public:
     /// are left out; none is left when PROJ has no operation for the system.
     QVector<Sample> samples() const;
 
+    /// The same for these places, whose eastings and northings are not looked at.
+    QVector<Sample> computed(const QVector<Sample>& places) const;
+
+    struct Box {
+        double west, south, east, north; ///< degrees; west is below east
+    };
+    Box areaOfUse() const;
+
+    /// Of the system's own axes.
+    double metresPerUnit() const;
+
 private:
     struct Base {
         double primeMeridian; ///< degrees
         double degreesPerUnit;
     };
-    struct Box {
-        double west, south, east, north; ///< degrees; west is below east
-    };
     Base base(const PJ* geodetic) const;
-    Box areaOfUse() const;
-    double metresPerUnit() const;
     double parameter(const char* name) const;
     void turnBelgian(Sample& sample) const;
     void projectPolarVariantC(Sample& sample) const;

@@ -13,11 +13,11 @@
 #include "panel/record/CoordParamEditor.h"
 #include "panel/record/DefinitionState.h"
 #include "panel/record/PanelText.h"
-#include "panel/record/RecordDifferences.h"
 #include "panel/record/RecordWkt.h"
 #include "panel/record/SystemFileName.h"
 #include "panel/registry/IdentityLine.h"
 #include "panel/registry/RegistryDialog.h"
+#include "panel/save/SaveGroupDialog.h"
 #include "platform/desktop/VornMessageBox.h"
 #include "platform/projection/IProjectionModule.h"
 
@@ -45,8 +45,8 @@ QPlainTextEdit* newText(const QString& name) {
 
 } // namespace
 
-DefinitionTab::DefinitionTab(CoordParamEditor& editor, bool readOnly, QWidget* parent)
-    : ParamTab(editor, readOnly, parent) {
+DefinitionTab::DefinitionTab(ICoordSystem* catalogue, CoordParamEditor& editor, bool readOnly, QWidget* parent)
+    : ParamTab(editor, readOnly, parent), catalogue(catalogue) {
 }
 
 QString DefinitionTab::title() const {
@@ -69,6 +69,7 @@ void DefinitionTab::build() {
     identifierBox = new QCheckBox(PanelText::tr("With identifier"));
     copyWktButton = new CopyButton(PanelText::tr("Copy"));
     saveButton = new QPushButton(PanelText::tr("Save as .prj"));
+    saveGroupButton = new QPushButton(PanelText::tr("Save group..."));
     wktText = newText(PanelText::tr("WKT"));
     wktText->setLineWrapMode(QPlainTextEdit::NoWrap);
     wktText->setMinimumHeight(wktText->fontMetrics().lineSpacing() * 2 + 12);
@@ -84,6 +85,9 @@ void DefinitionTab::build() {
     wktRow->addStretch();
     wktRow->addWidget(copyWktButton);
     wktRow->addWidget(saveButton);
+    auto* remarkRow = new QHBoxLayout;
+    remarkRow->addWidget(remarkLine, 1);
+    remarkRow->addWidget(saveGroupButton);
     content = new QWidget;
     auto* texts = new QVBoxLayout(content);
     texts->setContentsMargins(0, 0, 0, 0);
@@ -91,7 +95,7 @@ void DefinitionTab::build() {
     texts->addWidget(definitionText);
     texts->addLayout(wktRow);
     texts->addWidget(wktText, 1);
-    texts->addWidget(remarkLine);
+    texts->addLayout(remarkRow);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(problemLine);
     layout->addWidget(identityLine);
@@ -105,6 +109,7 @@ void DefinitionTab::build() {
     connect(copyDefinitionButton, SIGNAL(clicked()), this, SLOT(_onCopyDefinition()));
     connect(copyWktButton, SIGNAL(clicked()), this, SLOT(_onCopyWkt()));
     connect(saveButton, SIGNAL(clicked()), this, SLOT(_onSave()));
+    connect(saveGroupButton, SIGNAL(clicked()), this, SLOT(_onSaveGroup()));
     connect(registryButton, SIGNAL(clicked()), this, SLOT(_onFromRegistry()));
     connect(textButton, SIGNAL(clicked()), this, SLOT(_onFromText()));
 }
@@ -144,7 +149,11 @@ void DefinitionTab::showRecord() {
     definition = state.definition;
     problemLine->setMessage(state.problem, MessageLine::Tone::Error);
     problemLine->setVisible(!state.problem.isEmpty());
-    content->setEnabled(!definition.isEmpty());
+    // Other systems of the group can be saved whatever this one lacks.
+    for (QWidget* each : content->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (each != identifierBox)
+            each->setEnabled(each == saveGroupButton ? catalogue != nullptr : !definition.isEmpty());
+    }
     definitionText->setPlainText(QString::fromUtf8(definition));
     identityLine->identify(record(), definition);
     identityLine->setVisible(!definition.isEmpty());
@@ -177,17 +186,7 @@ QString DefinitionTab::remark(const QByteArray& text) const {
     const QByteArray code = identifier();
     if (!code.isEmpty() && !text.contains(code + ']') && !text.contains(code + "\"]"))
         return PanelText::tr("This form can't carry the identifier.");
-    const DictionaryGuard imported;
-    if (!WktToCoordParam::write(text, imported.get()))
-        return PanelText::tr("This form can't be imported again.");
-    const QStringList lost = recordDifferences(record(), *imported);
-    if (!lost.isEmpty())
-        return PanelText::tr("Does not come back with an import of this form: %1.").arg(lost.join(", "));
-    // GDAL and PROJ read the method with false easting and northing at the projection centre.
-    if (dictionary_number(record(), CoordParamKey::projectType, 0.0) ==
-        double(ProjectionMethod::ObliqueMercatorTwoPoints))
-        return PanelText::tr("Other software may count easting and northing from the natural origin.");
-    return QString();
+    return wktRemark(record(), text);
 }
 
 void DefinitionTab::_onDialectChosen() {
@@ -227,21 +226,18 @@ void DefinitionTab::_onSave() {
                                        PanelText::tr("The file can't be written: %1").arg(error));
 }
 
+void DefinitionTab::_onSaveGroup() {
+    SaveGroupDialog(*catalogue, record(), *dialectBox, this).exec();
+}
+
 void DefinitionTab::_onFromRegistry() {
     IProjectionModule* const module = projectionModule();
     if (!module)
         return;
-    RegistryDialog dialog(module->registry(), this);
+    RegistryDialog dialog(*module, catalogue, this);
     const DictionaryGuard chosen;
-    if (dialog.exec() != QDialog::Accepted || !WktToCoordParam::write(dialog.wkt(), chosen.get()))
+    if (dialog.exec() != QDialog::Accepted || !dialog.write(chosen.get()))
         return;
-    chosen->remove(CoordParamKey::name);
-    const auto set = [&](const char* key, const QByteArray& text) {
-        if (!text.isEmpty())
-            chosen->setText(key, QString::fromUtf8(text).toLocal8Bit().constData());
-    };
-    set(CoordParamKey::datumName, dialog.datumName());
-    set(CoordParamKey::source, dialog.source());
     takeOver(*chosen);
 }
 

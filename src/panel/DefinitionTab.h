@@ -5,6 +5,7 @@
 enum class WktDialect;
 class ChoiceBox;
 class CopyButton;
+class ICoordSystem;
 class IdentityLine;
 class MessageLine;
 class QCheckBox;
@@ -22,7 +23,8 @@ class DefinitionTab : public ParamTab {
     Q_OBJECT
 
 public:
-    DefinitionTab(CoordParamEditor& editor, bool readOnly, QWidget* parent);
+    /// `catalogue`, which systems are looked for in and whole groups are saved from, outlives the tab.
+    DefinitionTab(ICoordSystem* catalogue, CoordParamEditor& editor, bool readOnly, QWidget* parent);
 
     QString title() const override;
 
@@ -36,6 +38,7 @@ private Q_SLOTS:
     void _onCopyDefinition();
     void _onCopyWkt();
     void _onSave();
+    void _onSaveGroup();
     void _onFromRegistry();
     void _onFromText();
     void _onNoteEdited();
@@ -49,6 +52,7 @@ private:
     void showWkt();
     QString remark(const QByteArray& text) const;
 
+    ICoordSystem* catalogue;
     QByteArray definition; ///< of the record; empty when it defines no projection
     MessageLine* problemLine = nullptr;
     IdentityLine* identityLine = nullptr;
@@ -60,6 +64,7 @@ private:
     QPlainTextEdit* wktText = nullptr;
     MessageLine* remarkLine = nullptr;
     QPushButton* saveButton = nullptr;
+    QPushButton* saveGroupButton = nullptr;
     CopyButton* copyWktButton = nullptr;
     TextField* source = nullptr;
     TextField* note = nullptr;

@@ -29,7 +29,7 @@ DlgCoordParam::DlgCoordParam(ICoordSystem* coordSystem, QWidget* parent, bool re
     addParamTab(new DatumShiftTab(editor, readOnly, nullptr));
     addParamTab(new HeightTab(coordSystem, editor, readOnly, nullptr));
     addParamTab(new CheckTab(editor, readOnly, nullptr));
-    addParamTab(new DefinitionTab(editor, readOnly, nullptr));
+    addParamTab(new DefinitionTab(coordSystem, editor, readOnly, nullptr));
     connect(this, SIGNAL(currentChanged(int)), this, SLOT(_onPageChanged()));
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(_onFocusChanged(QWidget*, QWidget*)));
     _onPageChanged();

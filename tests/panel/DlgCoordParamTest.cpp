@@ -169,10 +169,9 @@ private Q_SLOTS:
             const QByteArray way = names.join(", ").toUtf8();
             QVERIFY2(names.size() < 40, way);
             if (tab == PanelOnScreen::Definition)
-                QCOMPARE(
-                    way,
-                    ", In the registry, Copy, PROJ definition, WKT dialect, Copy, Save as .prj, WKT, Where from, From "
-                    "registry..., Remark, From text...");
+                QCOMPARE(way, ", In the registry, Copy, PROJ definition, WKT dialect, Copy, Save as .prj, WKT, Save "
+                              "group..., Where from, From "
+                              "registry..., Remark, From text...");
             else
                 QVERIFY2(names.contains("Latitude") && names.contains("Show angles in"), way);
         }

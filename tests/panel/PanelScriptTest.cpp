@@ -1,6 +1,7 @@
 #include "import/WktToCoordParam.h"
 #include "panel/record/RecordDifferences.h"
 #include "panel/registry/IdentityLine.h"
+#include "panel/registry/NameSearch.h"
 #include "support/Files.h"
 #include "support/MessageBoxDouble.h"
 #include "support/ModalDriver.h"
@@ -15,8 +16,8 @@ namespace {
 void takeFromRegistry(const PanelOnScreen& screen, const QString& code, QDialogButtonBox::StandardButton answer,
                       bool deprecatedToo) {
     ModalDriver::onNextDialog([=](QDialog* dialog) {
-        dialog->findChild<QCheckBox*>()->setChecked(deprecatedToo);
-        QTest::keyClicks(dialog->findChild<QLineEdit*>(), code);
+        dialog->findChild<NameSearch*>()->findChild<QCheckBox*>()->setChecked(deprecatedToo);
+        QTest::keyClicks(dialog->focusWidget(), code);
         dialog->findChild<QDialogButtonBox*>()->button(answer)->click();
     });
     screen.button("From registry...")->click();
@@ -69,6 +70,18 @@ QString saveDefinition(const PanelOnScreen& screen) {
     const DictionaryGuard imported;
     const bool isRead = WktToCoordParam::write(contentOf(folder.filePath("saved.prj")), imported.get());
     return offered + " lacks " + (isRead ? recordDifferences(screen.record(), *imported).join(", ") : "all");
+}
+
+/// What the dialog for a group begins with: the group and the dialect.
+QString groupToSave(const PanelOnScreen& screen) {
+    QStringList chosen;
+    ModalDriver::onNextDialog([&](QDialog* dialog) {
+        for (const auto* box : dialog->findChildren<QComboBox*>())
+            chosen << box->currentText();
+        dialog->reject();
+    });
+    screen.button("Save group...")->click();
+    return chosen.join(", ");
 }
 
 } // namespace
@@ -125,6 +138,8 @@ private Q_SLOTS:
         screen.acts["from points cancelled"] = [&](const QString& lines) {
             shiftFromPoints(screen, lines, "Three", QDialogButtonBox::Cancel);
         };
+        screen.acts["add group"] = [&](const QString& name) { screen.catalogue.addTestGroup(name); };
+        screen.sights["group to save"] = [&](const QString&) { return groupToSave(screen); };
         const auto isSearching = [&] { // in the registry
             return screen.panel.findChild<IdentityLine*>()->findChild<QTimer*>()->isActive();
         };

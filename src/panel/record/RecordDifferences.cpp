@@ -24,8 +24,9 @@ double tolerance(const ParamField& field) {
     case Quantity::ScaleFactor:
         return 1e-13;
     case Quantity::InverseFlattening:
-    case Quantity::ScaleDifference:
         return 1e-9;
+    case Quantity::ScaleDifference:
+        return 1e-8; // ppm; WKT 2 has it as a factor
     case Quantity::Latitude:
     case Quantity::Longitude:
     case Quantity::Azimuth:
@@ -37,7 +38,10 @@ double tolerance(const ParamField& field) {
 }
 
 bool isSame(double left, double right, const ParamField& field) {
-    return std::abs(left - right) <= tolerance(field);
+    // ESRI's dialect has azimuths of up to 180 degrees to either side.
+    const bool isDirection = field.quantity == Quantity::Azimuth || field.quantity == Quantity::Longitude;
+    const double difference = isDirection ? std::remainder(left - right, 360.0) : left - right;
+    return std::abs(difference) <= tolerance(field);
 }
 
 bool hasSameNumber(const IDictionary& left, const IDictionary& right, const ParamField& field) {

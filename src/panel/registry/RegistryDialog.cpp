@@ -1,37 +1,28 @@
 #include "panel/registry/RegistryDialog.h"
 
+#include "catalogue/CoordParamKey.h"
+#include "catalogue/Dictionary.h"
+#include "catalogue/ICoordSysGroup.h"
+#include "catalogue/ICoordSystem.h"
+#include "import/WktToCoordParam.h"
+#include "panel/computing/SystemSearch.h"
 #include "panel/field/ChoiceBox.h"
-#include "panel/field/FieldEdit.h"
-#include "panel/field/MessageLine.h"
-#include "panel/record/AngleText.h"
 #include "panel/record/PanelText.h"
+#include "panel/registry/FoundSystemsModel.h"
+#include "panel/registry/NameSearch.h"
+#include "panel/registry/PlaceSearch.h"
 #include "panel/registry/RegistryModel.h"
+#include "platform/projection/IProjectionModule.h"
 
-#include <QCheckBox>
 #include <QDate>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QTableView>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
-#include <cmath>
-
 namespace {
-
-/// The angle of `edit`, which is marked when its text is none; nothing for an empty text.
-std::optional<double> angle(FieldEdit* edit, AngleRole role, double limit, QString* reason) {
-    const QString text = edit->text().trimmed();
-    const AngleInput input = text.isEmpty() ? AngleInput() : AngleText::parse(text, role);
-    const bool valid = input.valid && std::abs(input.degrees) <= limit;
-    edit->setMarked(!text.isEmpty() && !valid);
-    if (!text.isEmpty() && !valid)
-        *reason = input.valid ? PanelText::tr("Allowed: %1 to %2.").arg(-limit).arg(limit) : input.reason;
-    return valid ? std::optional<double>(input.degrees) : std::nullopt;
-}
 
 QString shiftText(const RegistryShift& shift) {
     const QString name = QString::fromUtf8(shift.name);
@@ -40,71 +31,26 @@ QString shiftText(const RegistryShift& shift) {
 
 } // namespace
 
-RegistryDialog::RegistryDialog(IEpsgRegistry& registry, QWidget* parent)
-    : Dialog(parent), registry(registry), model(new RegistryModel(registry, this)) {
+RegistryDialog::RegistryDialog(IProjectionModule& module, ICoordSystem* catalogue, QWidget* parent)
+    : Dialog(parent), module(module), catalogue(catalogue), model(new RegistryModel(module.registry(), this)) {
     setWindowTitle(PanelText::tr("From registry"));
     auto* layout = new QVBoxLayout(this);
-    buildSearch(layout);
-    buildTable(layout);
+    pages = new QTabWidget;
+    nameSearch = new NameSearch(*model);
+    placeSearch = new PlaceSearch(module, catalogue, *model);
+    pages->addTab(nameSearch, PanelText::tr("By name or code"));
+    pages->addTab(placeSearch, PanelText::tr("From coordinates"));
+    layout->addWidget(pages, 1);
     buildDetails(layout);
-    resize(720, 560);
-    _onSearchChanged();
-    searchEdit->setFocus();
-}
-
-void RegistryDialog::buildSearch(QVBoxLayout* layout) {
-    searchEdit = new QLineEdit;
-    searchEdit->setClearButtonEnabled(true);
-    searchEdit->setPlaceholderText(PanelText::tr("EPSG code, words of the name or of the area"));
-    searchEdit->setAccessibleName(PanelText::tr("Search"));
-    latitudeEdit = new FieldEdit;
-    longitudeEdit = new FieldEdit;
-    latitudeEdit->setPlaceholderText(PanelText::tr("Latitude"));
-    longitudeEdit->setPlaceholderText(PanelText::tr("Longitude"));
-    latitudeEdit->setAccessibleName(latitudeEdit->placeholderText());
-    longitudeEdit->setAccessibleName(longitudeEdit->placeholderText());
-    deprecatedBox = new QCheckBox(PanelText::tr("Deprecated ones too"));
-    pointMessage = new MessageLine;
-    auto* pointLabel = new QLabel(PanelText::tr("Covers the point"));
-    pointLabel->setBuddy(latitudeEdit);
-    auto* row = new QHBoxLayout;
-    row->addWidget(pointLabel);
-    row->addWidget(latitudeEdit, 1);
-    row->addWidget(longitudeEdit, 1);
-    row->addSpacing(12);
-    row->addWidget(deprecatedBox);
-    layout->addWidget(searchEdit);
-    layout->addLayout(row);
-    layout->addWidget(pointMessage);
-    for (QLineEdit* edit : {searchEdit, static_cast<QLineEdit*>(latitudeEdit), static_cast<QLineEdit*>(longitudeEdit)})
-        connect(edit, SIGNAL(textChanged(QString)), this, SLOT(_onSearchChanged()));
-    connect(deprecatedBox, SIGNAL(toggled(bool)), this, SLOT(_onSearchChanged()));
-    for (FieldEdit* edit : {latitudeEdit, longitudeEdit})
-        connect(edit, SIGNAL(cancelled()), edit, SLOT(clear()));
-}
-
-void RegistryDialog::buildTable(QVBoxLayout* layout) {
-    table = new QTableView;
-    table->setModel(model);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setTabKeyNavigation(false);
-    table->setShowGrid(false);
-    table->setWordWrap(false);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
-    QHeaderView* const header = table->horizontalHeader();
-    header->setHighlightSections(false);
-    header->setStretchLastSection(true);
-    header->resizeSection(RegistryModel::Code, table->fontMetrics().horizontalAdvance("000000") + 16);
-    header->resizeSection(RegistryModel::Name, 300);
-    countLabel = new QLabel;
-    layout->addWidget(table, 1);
-    layout->addWidget(countLabel);
-    connect(table->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)), this,
-            SLOT(_onSelectionChanged()));
-    connect(table, SIGNAL(doubleClicked(QModelIndex)), this, SLOT(_onActivated()));
+    resize(800, 640);
+    for (QWidget* page : {static_cast<QWidget*>(nameSearch), static_cast<QWidget*>(placeSearch)}) {
+        connect(page, SIGNAL(selectionChanged()), this, SLOT(_onSelectionChanged()));
+        connect(page, SIGNAL(activated()), this, SLOT(_onActivated()));
+    }
+    connect(pages, SIGNAL(currentChanged(int)), this, SLOT(_onSelectionChanged()));
+    connect(shiftBox, SIGNAL(currentIndexChanged(int)), this, SLOT(_onShiftChanged()));
+    _onSelectionChanged();
+    nameSearch->setFocus();
 }
 
 void RegistryDialog::buildDetails(QVBoxLayout* layout) {
@@ -128,82 +74,108 @@ void RegistryDialog::buildDetails(QVBoxLayout* layout) {
     connect(buttons, SIGNAL(rejected()), this, SLOT(reject()));
 }
 
-QByteArray RegistryDialog::wkt() const {
-    const RegistrySystem* const system = selected();
-    if (!system)
-        return {};
-    const int shift = shiftBox->currentIndex() - 1;
-    return registry.wkt(system->code, shift < 0 ? nullptr : &shifts[std::size_t(shift)]);
+const FoundSystem* RegistryDialog::found() const {
+    return pages->currentWidget() == placeSearch ? placeSearch->selected() : nullptr;
 }
 
-QByteArray RegistryDialog::datumName() const {
-    const RegistrySystem* const system = selected();
-    return system ? registry.datumName(system->code) : QByteArray();
+const RegistrySystem* RegistryDialog::registered() const {
+    if (pages->currentWidget() == nameSearch)
+        return nameSearch->selected();
+    const FoundSystem* const system = found();
+    return system ? system->registered : nullptr;
 }
 
-QByteArray RegistryDialog::source() const {
-    const RegistrySystem* const system = selected();
+const RegistryShift* RegistryDialog::chosenShift() const {
+    const int index = shiftBox->currentIndex() - 1;
+    return index < 0 || index >= int(shifts.size()) ? nullptr : &shifts[std::size_t(index)];
+}
+
+bool RegistryDialog::write(IDictionary* record) const {
+    const RegistrySystem* const system = registered();
+    if (system)
+        return writeRegistered(*system, record);
+    return found() && writeOwn(*found(), record);
+}
+
+bool RegistryDialog::writeRegistered(const RegistrySystem& system, IDictionary* record) const {
+    if (!WktToCoordParam::write(module.registry().wkt(system.code, chosenShift()), record))
+        return false;
+    record->remove(CoordParamKey::name);
+    const auto set = [&](const char* key, const QByteArray& text) {
+        if (!text.isEmpty())
+            record->setText(key, QString::fromUtf8(text).toLocal8Bit().constData());
+    };
+    set(CoordParamKey::datumName, module.registry().datumName(system.code));
+    set(CoordParamKey::source, source(system));
+    return true;
+}
+
+/// Where the system is from, for people to read: "EPSG:25832, EPSG v10.076, 2026-11-25" with the registry's edition and
+/// today's date.
+QByteArray RegistryDialog::source(const RegistrySystem& system) const {
     const QByteArray today = QDate::currentDate().toString(Qt::ISODate).toUtf8();
-    return system ? "EPSG:" + system->code + ", " + registry.edition() + ", " + today : QByteArray();
+    return "EPSG:" + system.code + ", " + module.registry().edition() + ", " + today;
 }
 
-const RegistrySystem* RegistryDialog::selected() const {
-    const QModelIndexList rows = table->selectionModel()->selectedRows();
-    return rows.isEmpty() ? nullptr : &model->system(rows.first().row());
-}
-
-void RegistryDialog::_onSearchChanged() {
-    QString reason;
-    RegistryModel::Search search;
-    search.text = searchEdit->text();
-    search.latitude = angle(latitudeEdit, AngleRole::Latitude, 90.0, &reason);
-    search.longitude = angle(longitudeEdit, AngleRole::Longitude, 360.0, &reason);
-    search.deprecatedToo = deprecatedBox->isChecked();
-    pointMessage->setMessage(reason, MessageLine::Tone::Error);
-    const QByteArray code = shownCode;
-    model->setSearch(search);
-    countLabel->setText(PanelText::tr("Systems found: %1").arg(model->rowCount()));
-    // What was selected stays so while it is listed; what alone is left is what was looked for.
-    const int row = model->rowCount() == 1 ? 0 : model->rowOf(code);
-    if (row >= 0)
-        table->selectRow(row);
-    _onSelectionChanged();
+bool RegistryDialog::writeOwn(const FoundSystem& system, IDictionary* record) const {
+    ICoordSysGroup* const group = catalogue->getGroup(system.group.constData());
+    const IDictionary* const own = group ? group->getCoordSystem(system.name.constData()) : nullptr;
+    if (!own)
+        return false;
+    dictionary_assign(record, own);
+    record->remove(CoordParamKey::name);
+    record->remove(CoordParamKey::remark);
+    if (!own->getValue(CoordParamKey::source))
+        record->setText(CoordParamKey::source, (system.group + " / " + system.name).constData());
+    return true;
 }
 
 void RegistryDialog::_onSelectionChanged() {
-    const RegistrySystem* const system = selected();
-    const QByteArray code = system ? system->code : QByteArray();
-    if (code == shownCode && !code.isEmpty())
-        return;
-    shownCode = code;
-    showDetails();
+    const RegistrySystem* const system = registered();
+    const QString reason = system ? model->reason(*system) : QString();
+    showShifts(system && reason.isEmpty() ? system : nullptr);
+    QPushButton* const takeOver = buttons->button(QDialogButtonBox::Ok);
+    takeOver->setEnabled((system || found()) && reason.isEmpty());
+    takeOver->setToolTip(found() && !system
+                             ? PanelText::tr("Copies this system's ellipsoid, projection, datum shift and "
+                                             "geoid model; name and remark stay.")
+                             : QString());
+    _onShiftChanged();
 }
 
-void RegistryDialog::showDetails() {
-    const RegistrySystem* const system = selected();
-    const QString reason = system ? model->reason(*system) : QString();
-    shifts = system && reason.isEmpty() ? registry.datumShifts(system->code) : std::vector<RegistryShift>();
+void RegistryDialog::showShifts(const RegistrySystem* system) {
+    shifts = system ? module.registry().datumShifts(system->code) : std::vector<RegistryShift>();
+    const QSignalBlocker blocker(shiftBox);
     shiftBox->clear();
-    shiftBox->addItem(PanelText::tr("None"));
+    shiftBox->addItem(found() && !found()->registered ? PanelText::tr("As in the catalogue") : PanelText::tr("None"));
     for (const RegistryShift& shift : shifts) {
         shiftBox->addItem(shiftText(shift));
         shiftBox->setItemData(shiftBox->count() - 1, QString::fromUtf8(shift.area), Qt::ToolTipRole);
     }
     shiftBox->setCurrentIndex(shifts.empty() ? 0 : 1);
     shiftBox->setEnabled(!shifts.empty());
-    buttons->button(QDialogButtonBox::Ok)->setEnabled(system && reason.isEmpty());
-    if (!system) {
-        detailsLabel->clear();
-        return;
-    }
-    QStringList lines{QString::fromUtf8(system->method) + (reason.isEmpty() ? QString() : QStringLiteral(" \u2013 ")) +
+}
+
+void RegistryDialog::_onShiftChanged() {
+    QStringList lines;
+    if (found())
+        lines.append(placeSearch->description(chosenShift()));
+    if (const RegistrySystem* const system = registered())
+        lines.append(detailLines(*system, model->reason(*system)));
+    else if (found())
+        lines.append(PanelText::tr("Of the own catalogue: %1").arg(FoundSystemsModel::nameOf(*found())));
+    detailsLabel->setText(lines.join('\n'));
+    detailsLabel->setToolTip(lines.isEmpty() ? QString() : lines.last());
+}
+
+QStringList RegistryDialog::detailLines(const RegistrySystem& system, const QString& reason) const {
+    QStringList lines{QString::fromUtf8(system.method) + (reason.isEmpty() ? QString() : QStringLiteral(" \u2013 ")) +
                       reason};
-    const QString unit = QString::fromUtf8(registry.unitName(system->code));
+    const QString unit = QString::fromUtf8(module.registry().unitName(system.code));
     if (unit != "metre")
         lines.append(PanelText::tr("The registry counts in %1, the record in metres.").arg(unit));
-    lines.append(QString::fromUtf8(system->area));
-    detailsLabel->setText(lines.join('\n'));
-    detailsLabel->setToolTip(lines.last());
+    lines.append(QString::fromUtf8(system.area));
+    return lines;
 }
 
 void RegistryDialog::_onActivated() {

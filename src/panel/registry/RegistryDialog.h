@@ -6,58 +6,55 @@
 #include <vector>
 
 class ChoiceBox;
-class FieldEdit;
-class MessageLine;
-class QCheckBox;
+class ICoordSystem;
+class IDictionary;
+class IProjectionModule;
+class NameSearch;
+class PlaceSearch;
 class QDialogButtonBox;
 class QLabel;
-class QLineEdit;
-class QTableView;
+class QTabWidget;
 class QVBoxLayout;
 class RegistryModel;
+struct FoundSystem;
 
-/// Chooses a projected system of the EPSG registry, and one of the registry's shifts from its datum to WGS 84.
+/// Chooses a projected system of the EPSG registry, and one of the registry's shifts from its datum to WGS 84. Where a
+/// system is looked for by coordinates, one of the catalogue's own can be the answer.
 class RegistryDialog : public Dialog {
     Q_OBJECT
 
 public:
-    /// `registry` outlives the dialog.
-    RegistryDialog(IEpsgRegistry& registry, QWidget* parent);
+    /// Module and catalogue outlive the dialog; `catalogue` may be null.
+    RegistryDialog(IProjectionModule& module, ICoordSystem* catalogue, QWidget* parent);
 
-    /// The chosen system with the chosen shift, as WKT 2 in UTF-8; empty before one is chosen.
-    QByteArray wkt() const;
-
-    /// The name of the chosen system's datum, in UTF-8; empty where the registry leaves the datum open.
-    QByteArray datumName() const;
-
-    /// Where the chosen system is from, for people to read: "EPSG:25832, EPSG v10.076, 2026-11-25" with the registry's
-    /// edition and today's date.
-    QByteArray source() const;
+    /// Writes the chosen system with the chosen shift into `record`, and where it is from, but no name. False when none
+    /// is chosen.
+    bool write(IDictionary* record) const;
 
 private Q_SLOTS:
-    void _onSearchChanged();
     void _onSelectionChanged();
+    void _onShiftChanged();
     void _onActivated();
 
 private:
-    void buildSearch(QVBoxLayout* layout);
-    void buildTable(QVBoxLayout* layout);
     void buildDetails(QVBoxLayout* layout);
-    const RegistrySystem* selected() const;
-    void showDetails();
+    const FoundSystem* found() const;
+    const RegistrySystem* registered() const;
+    const RegistryShift* chosenShift() const;
+    QStringList detailLines(const RegistrySystem& system, const QString& reason) const;
+    void showShifts(const RegistrySystem* system);
+    QByteArray source(const RegistrySystem& system) const;
+    bool writeRegistered(const RegistrySystem& system, IDictionary* record) const;
+    bool writeOwn(const FoundSystem& system, IDictionary* record) const;
 
-    IEpsgRegistry& registry;
+    IProjectionModule& module;
+    ICoordSystem* catalogue;
     RegistryModel* model;
-    QLineEdit* searchEdit;
-    FieldEdit* latitudeEdit;
-    FieldEdit* longitudeEdit;
-    MessageLine* pointMessage;
-    QCheckBox* deprecatedBox;
-    QTableView* table;
-    QLabel* countLabel;
+    QTabWidget* pages;
+    NameSearch* nameSearch;
+    PlaceSearch* placeSearch;
     QLabel* detailsLabel;
     ChoiceBox* shiftBox;
     QDialogButtonBox* buttons;
-    QByteArray shownCode;
     std::vector<RegistryShift> shifts; ///< of the selected system, as in `shiftBox` after its first entry
 };

@@ -43,7 +43,7 @@ struct RegistryDefinition {
     QByteArray definition;
     QByteArray datum;   ///< as IEpsgRegistry::datumName()
     bool northingFirst; ///< the registry's first axis is the northing; both point east and north, or are a polar grid's
-    double unit;        ///< metres in one unit of the axes; 0 when `definition` is empty
+    double unit;        ///< metres in one unit of the axes; 0 for an unknown code
 };
 
 /// The EPSG registry in PROJ's database.
@@ -81,6 +81,11 @@ public:
     /// What an import of the system's WKT makes of it, without its name. Read when it is first asked for (0.1 ms; of
     /// all 5,500 0.6 s), and kept as long as the registry. Empty for an unknown code.
     virtual const RegistryDefinition& definition(const QByteArray& code) = 0;
+
+    /// The system `code` as createSystem() takes it to compute with, where no method holds it and definition() has
+    /// none: as PROJ says it, in metres, an axis that points west or south included (+axis). Empty where PROJ can't say
+    /// it.
+    virtual QByteArray withheldDefinition(const QByteArray& code) = 0;
 
     /// The unit of the system's axes as EPSG names it ("metre", "US survey foot"); empty for an unknown code.
     virtual QByteArray unitName(const QByteArray& code) = 0;

@@ -54,6 +54,12 @@ private Q_SLOTS:
                 SampleRecord::named("UTM").with("_7type", "2").with("_7dx", "-87").with("_7dz", "0.5");
             translated.title = "shift of three";
             add(translated, isEsri ? QStringList{"the datum shift"} : QStringList());
+            SampleRecord westward = SampleRecord::named("Oblique Mercator").with("p_r", "323.130102361111");
+            westward.title = "azimuth to the west";
+            add(westward, {});
+            SampleRecord finest = SampleRecord::named("British grid").with("_7ppm", "0.252906278");
+            finest.title = "scale difference of nine decimals";
+            add(finest, isEsri ? QStringList{"the datum shift"} : QStringList());
             // A datum's name makes no reader look up a shift, or another ellipsoid: the registry has one shift for
             // RT90.
             SampleRecord named = SampleRecord::named("Gauss-Kruger").with("ellipsoid_name", "Bessel 1841");

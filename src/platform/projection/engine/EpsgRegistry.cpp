@@ -1,5 +1,7 @@
 #include "platform/projection/engine/EpsgRegistry.h"
 
+#include "platform/projection/ProjNumber.h"
+#include "platform/projection/engine/definition/ProjItems.h"
 #include "platform/projection/engine/proj/BoundSystem.h"
 #include "platform/projection/engine/proj/DatumName.h"
 #include "platform/projection/engine/proj/ProjContext.h"
@@ -65,6 +67,23 @@ bool isNorthingFirst(const ProjectedWkt& statement) {
     const bool isAtSouthPole = startsNorth;
     const bool isEastOfSecond = std::remainder(meridians[0] - meridians[1], 360) > 0;
     return isEastOfSecond != isAtSouthPole;
+}
+
+/// "+axis=wsu " where an axis points west or south, which PROJ's own text does not always say; the one that points east
+/// or west comes first. Empty for any others.
+QByteArray turnedAxes(PJ_CONTEXT* context, const PJ* crs) {
+    const ProjObject axes(proj_crs_get_coordinate_system(context, crs));
+    QByteArray letters;
+    for (int i = 0; axes && i < 2; ++i) {
+        const char* direction = nullptr;
+        proj_cs_get_axis_info(context, axes.get(), i, nullptr, nullptr, &direction, nullptr, nullptr, nullptr, nullptr);
+        letters += QByteArray(direction).left(1);
+    }
+    for (const char* const turned : {"ws", "wn", "es"}) {
+        if (letters.contains(turned[0]) && letters.contains(turned[1]))
+            return QByteArray("+axis=") + turned + "u ";
+    }
+    return {};
 }
 
 /// The seven numbers of `shift` joined by ",", each with all its digits.
@@ -224,7 +243,27 @@ RegistryDefinition EpsgRegistry::readDefinition(const QByteArray& code) const {
     const QByteArray definition = statedDefinition(statement);
     const ProjObject datum(proj_crs_get_datum_forced(context.get(), crs.get()));
     return {definition, datum ? DatumName::of(context.get(), datum.get()) : QByteArray(), isNorthingFirst(statement),
-            definition.isEmpty() ? 0 : statement.gridUnits.first()};
+            statement.gridUnits.isEmpty() ? 0 : statement.gridUnits.first()};
+}
+
+QByteArray EpsgRegistry::withheldDefinition(const QByteArray& code) {
+    const ProjObject crs = system(code);
+    const ProjObject ellipsoid(crs ? proj_get_ellipsoid(context.get(), crs.get()) : nullptr);
+    double a = 0.0, b = 0.0;
+    if (!ellipsoid || proj_ellipsoid_get_parameters(context.get(), ellipsoid.get(), &a, &b, nullptr, nullptr) == 0)
+        return {};
+    // Without its datum, which would bring a shift along, and its unit; lengths are in metres in any case.
+    const QByteArrayList dropped{"datum",    "ellps",   "a",        "b",       "rf",   "R",   "units",
+                                 "to_meter", "towgs84", "nadgrids", "no_defs", "type", "axis"};
+    const ProjItems items(proj_as_proj_string(context.get(), crs.get(), PJ_PROJ_4, nullptr));
+    QByteArray definition;
+    for (const ProjItems::Item& item : items.all()) {
+        if (!dropped.contains(item.key))
+            definition += '+' + item.key + (item.value.isEmpty() ? QByteArray() : '=' + item.value) + ' ';
+    }
+    return definition.startsWith("+proj=") ? definition + turnedAxes(context.get(), crs.get()) + "+a=" + projNumber(a) +
+                                                 " +b=" + projNumber(b) + " +units=m +no_defs"
+                                           : QByteArray();
 }
 
 QByteArray EpsgRegistry::unitName(const QByteArray& code) {

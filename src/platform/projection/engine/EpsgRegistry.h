@@ -24,6 +24,7 @@ public:
     QByteArray edition() override;
     QByteArray wkt(const QByteArray& code, const RegistryShift* shift) override;
     const RegistryDefinition& definition(const QByteArray& code) override;
+    QByteArray withheldDefinition(const QByteArray& code) override;
     QByteArray unitName(const QByteArray& code) override;
     std::vector<RegistryEllipsoid> ellipsoids() override;
 

@@ -98,8 +98,8 @@ private Q_SLOTS:
             QByteArray("+proj=stere +lat_0=-90 +lon_0=0 +lat_ts=-71 +k_0=1 +x_0=0 +y_0=0 +a=6378137 +rf=298.257223563 "
                        "+units=m +no_defs"),
             false, 1.0);
-        row("to the west and south", "2065", "", false, 0.0);
-        row("another method", "3035", "", true, 0.0);
+        row("to the west and south", "2065", "", false, 1.0);
+        row("another method", "3035", "", true, 1.0);
         row("unknown code", "1", "", false, 0.0);
     }
     void definition() {
@@ -112,6 +112,21 @@ private Q_SLOTS:
         QCOMPARE(read.datum, registry().datumName(code));
         QCOMPARE(read.northingFirst, northingFirst);
         QCOMPARE(read.unit, unit);
+    }
+
+    void withheld_data() {
+        const Rows<QByteArray, QByteArray> row({"code", "definition"});
+        row("another method", "3035",
+            "+proj=laea +lat_0=52 +lon_0=10 +x_0=4321000 +y_0=3210000 +a=6378137 +b=6356752.314140356 +units=m "
+            "+no_defs");
+        row("to the south and west, from Ferro", "2065",
+            "+proj=krovak +lat_0=49.5 +lon_0=42.5 +alpha=30.2881397527778 +k=0.9999 +x_0=0 +y_0=0 "
+            "+pm=ferro +axis=wsu +a=6377397.155 +b=6356078.962818189 +units=m +no_defs");
+        row("unknown code", "1", "");
+    }
+    void withheld() {
+        QFETCH(QByteArray, code);
+        QTEST(registry().withheldDefinition(code), "definition");
     }
 
     void edition() { QVERIFY(registry().edition().startsWith("EPSG v")); }
