@@ -23,7 +23,7 @@ public:
         add("Mine", "A/B", "UTM");
         add("Mine", "a:b", "Mercator");
         add("Mine", "British grid", "British grid");
-        add("Mine", "No method", "UTM, project_type=5");
+        add("Mine", "No method", "Lambert two parallels, parallel_1_lat=30, parallel_2_lat=-30");
         dialects.addItem("WKT 1 (GDAL)", int(WktDialect::Wkt1Gdal));
         dialects.addItem("WKT 1 (ESRI)", int(WktDialect::Wkt1Esri));
         dialog = std::make_unique<SaveGroupDialog>(catalogue, *shown, dialects, nullptr);
