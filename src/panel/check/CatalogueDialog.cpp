@@ -91,7 +91,8 @@ QString CatalogueDialog::chosen(Column column) const {
 }
 
 QString CatalogueDialog::systemName() const {
-    return chosen(Name).isEmpty() ? QString() : QString(chosen(Group) + " / " + chosen(Name));
+    const QString name = chosen(Name);
+    return name.isEmpty() ? name : PanelText::tr("%1, in %2").arg(name, chosen(Group));
 }
 
 bool CatalogueDialog::write(IDictionary* record) const {

@@ -21,7 +21,7 @@ public:
     /// Makes `record` a copy of the chosen system's. False when none is chosen or the catalogue has it no more.
     bool write(IDictionary* record) const;
 
-    /// Group and name of the chosen system, as the user reads them; empty when none is chosen.
+    /// "UTM zone 32N, in WGS 84": the chosen system, the name first where space is short; empty when none is chosen.
     QString systemName() const;
 
 protected:
