@@ -65,8 +65,16 @@ void PointReader::addStart() {
 }
 
 void PointReader::addDecoded(const QByteArray& bytes) {
-    const QByteArray text = decoder ? decoder->toUnicode(bytes).toUtf8() : bytes;
-    addText({text.constData(), std::size_t(text.size())});
+    if (!decoder)
+        return addText({bytes.constData(), std::size_t(bytes.size())});
+    QString text = half + decoder->toUnicode(bytes);
+    half.clear();
+    if (!text.isEmpty() && text.at(text.size() - 1).isHighSurrogate()) {
+        half = text.right(1);
+        text.chop(1);
+    }
+    const QByteArray decoded = text.toUtf8();
+    addText({decoded.constData(), std::size_t(decoded.size())});
 }
 
 void PointReader::addText(std::string_view text) {
@@ -97,6 +105,7 @@ void PointReader::endLine() {
 void PointReader::finish() {
     if (isStart)
         addStart();
+    addText(half.toUtf8().toStdString());
     endLine();
 }
 

@@ -41,6 +41,7 @@ private:
     double metresPerUnit;
     PointTable& table;
     std::unique_ptr<QTextDecoder> decoder; ///< of UTF-16
+    QString half;                          ///< of a letter of two words, whose second is still to come
     bool isStart = true;
     QByteArray start; ///< too short to tell a byte-order mark
     bool isHeadingNext;
