@@ -3,6 +3,7 @@
 #include "catalogue/Dictionary.h"
 #include "catalogue/ICoordSysGroup.h"
 #include "catalogue/ICoordSystem.h"
+#include "panel/field/RowTable.h"
 #include "panel/record/PanelText.h"
 
 #include <QDialogButtonBox>
@@ -32,7 +33,7 @@ CatalogueDialog::CatalogueDialog(ICoordSystem& catalogue, QWidget* parent)
     , systems(new QStandardItemModel(0, ColumnCount, this))
     , found(new QSortFilterProxyModel(this))
     , searchEdit(new QLineEdit)
-    , table(new QTableView)
+    , table(rowTable(*found))
     , buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel)) {
     setWindowTitle(PanelText::tr("From catalogue"));
     searchEdit->setClearButtonEnabled(true);
@@ -42,19 +43,8 @@ CatalogueDialog::CatalogueDialog(ICoordSystem& catalogue, QWidget* parent)
     listSystems();
     found->setSourceModel(systems);
     found->setFilterRole(searchedRole);
-    table->setModel(found);
     table->setAccessibleName(PanelText::tr("Systems"));
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setTabKeyNavigation(false);
-    table->setShowGrid(false);
-    table->setWordWrap(false);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
-    table->horizontalHeader()->setHighlightSections(false);
-    table->horizontalHeader()->setStretchLastSection(true);
     table->horizontalHeader()->resizeSection(Group, 180);
     buttons->button(QDialogButtonBox::Ok)->setText(PanelText::tr("Compare"));
     auto* layout = new QVBoxLayout(this);

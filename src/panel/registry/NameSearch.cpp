@@ -2,10 +2,10 @@
 
 #include "panel/field/FieldEdit.h"
 #include "panel/field/MessageLine.h"
+#include "panel/field/RowTable.h"
 #include "panel/record/AngleText.h"
 #include "panel/record/PanelText.h"
 #include "panel/registry/RegistryModel.h"
-#include "panel/registry/SystemsTable.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -72,7 +72,7 @@ void NameSearch::buildSearch(QVBoxLayout* layout) {
 }
 
 void NameSearch::buildTable(QVBoxLayout* layout) {
-    table = systemsTable(model);
+    table = rowTable(model);
     QHeaderView* const header = table->horizontalHeader();
     header->resizeSection(RegistryModel::Code, table->fontMetrics().horizontalAdvance("000000") + 16);
     header->resizeSection(RegistryModel::Name, 300);

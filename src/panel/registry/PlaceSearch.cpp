@@ -1,10 +1,10 @@
 #include "panel/registry/PlaceSearch.h"
 
 #include "panel/field/MessageLine.h"
+#include "panel/field/RowTable.h"
 #include "panel/record/PanelText.h"
 #include "panel/registry/FoundSystemsModel.h"
 #include "panel/registry/PlaceTable.h"
-#include "panel/registry/SystemsTable.h"
 #include "platform/projection/IEpsgRegistry.h"
 #include "platform/projection/IProjectionModule.h"
 #include "platform/projection/ProjNumber.h"
@@ -75,7 +75,7 @@ void PlaceSearch::buildPlaces(QVBoxLayout* layout) {
 }
 
 void PlaceSearch::buildResults(QVBoxLayout* layout) {
-    table = systemsTable(*model);
+    table = rowTable(*model);
     QHeaderView* const header = table->horizontalHeader();
     const int digit = table->fontMetrics().horizontalAdvance('0');
     header->resizeSection(FoundSystemsModel::Distance, 10 * digit);

@@ -3,6 +3,7 @@
 #include "panel/field/ChoiceBox.h"
 #include "panel/field/CopyButton.h"
 #include "panel/field/MessageLine.h"
+#include "panel/field/RowTable.h"
 #include "panel/record/PanelText.h"
 #include "panel/save/GroupFiles.h"
 #include "platform/projection/WktDialect.h"
@@ -85,19 +86,9 @@ void SaveGroupDialog::buildChoices(QBoxLayout* layout, const QComboBox& dialects
 }
 
 void SaveGroupDialog::buildTable(QBoxLayout* layout) {
-    table = new QTableView;
+    table = rowTable(*files);
     table->setAccessibleName(PanelText::tr("Files"));
-    table->setModel(files);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setTabKeyNavigation(false);
-    table->setShowGrid(false);
-    table->setWordWrap(false);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
     QHeaderView* const header = table->horizontalHeader();
-    header->setHighlightSections(false);
-    header->setStretchLastSection(true);
     header->resizeSection(GroupFiles::System, 210);
     header->resizeSection(GroupFiles::File, 230);
     messageLine = new MessageLine;

@@ -1,11 +1,11 @@
-#include "panel/registry/SystemsTable.h"
+#include "panel/field/RowTable.h"
 
 #include <QHeaderView>
 #include <QTableView>
 
-QTableView* systemsTable(QAbstractItemModel& systems) {
+QTableView* rowTable(QAbstractItemModel& rows) {
     auto* table = new QTableView;
-    table->setModel(&systems);
+    table->setModel(&rows);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->setTabKeyNavigation(false);
