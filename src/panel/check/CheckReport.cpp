@@ -188,11 +188,9 @@ QString CheckReport::verdict() const {
     if (counted.count == 0)
         return PanelText::tr("No point in use has both pairs of coordinates: nothing could be compared.");
     if (counted.beyond == 0)
-        return PanelText::tr("All %1 compared points are within the tolerance of %2.")
-            .arg(counted.count)
+        return PanelText::tr("All %n compared point(s) are within the tolerance of %1.", nullptr, int(counted.count))
             .arg(tolerance);
-    return PanelText::tr("%1 of %2 compared points are beyond the tolerance of %3.")
-        .arg(counted.beyond)
+    return PanelText::tr("%n of %1 compared points are beyond the tolerance of %2.", nullptr, int(counted.beyond))
         .arg(counted.count)
         .arg(tolerance);
 }
@@ -222,7 +220,7 @@ QString CheckReport::resultPart() const {
     }
     std::copy_if(unused.begin(), unused.end(), std::back_inserter(leftOut),
                  [this](std::size_t row) { return !std::isnan(check.points->difference(row).easting); });
-    add(size, PanelText::tr("points in the list"));
+    add(size, PanelText::tr("point(s) in the list", nullptr, int(size)));
     add(counted.count, PanelText::tr("compared: in use, with both pairs of coordinates"));
     add(counted.beyond, PanelText::tr("of these beyond the tolerance, the farthest first"),
         names(beyond, counted.beyond));
@@ -307,13 +305,14 @@ QString CheckReport::pointsPart() const {
     rows.clear();
     for (const Distance& distance : farthest)
         rows.push_back(distance.row);
-    text += heading(
-        PanelText::tr("The %1 points that are farthest off, of %2 compared").arg(rows.size()).arg(counted.count));
+    text += heading(PanelText::tr("The %n point(s) that are farthest off, of %1 compared", nullptr, int(rows.size()))
+                        .arg(counted.count));
     text += pointTable(rows);
     if (unused.empty())
         return text;
-    text += heading(
-        PanelText::tr("Points left out or without a result: the first %1 of %2").arg(unused.size()).arg(unusedCount));
+    text +=
+        heading(PanelText::tr("Points left out or without a result: the first %n of %1", nullptr, int(unused.size()))
+                    .arg(unusedCount));
     return text + pointTable(unused);
 }
 

@@ -100,7 +100,7 @@ ComparePane::ComparePane(QWidget* parent)
 }
 
 void ComparePane::addResults(QGridLayout* grid) {
-    const std::array<QString, ColumnCount> headings = {PanelText::tr("\u0394E"), PanelText::tr("\u0394N"),
+    const std::array<QString, ColumnCount> headings = {PanelText::tr("ΔE"), PanelText::tr("ΔN"),
                                                        PanelText::tr("Distance")};
     const std::array<QString, RowCount> names = {PanelText::tr("At the mouse"), PanelText::tr("Checked point"),
                                                  PanelText::tr("Mean"), PanelText::tr("Apart from it")};

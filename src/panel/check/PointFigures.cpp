@@ -42,10 +42,9 @@ void PointFigures::setStatistics(const PointStatistics& statistics, std::size_t 
                                                                 : QStringLiteral("–"));
     }
     const std::size_t pairs = statistics.count + statistics.leftOut;
-    QStringList texts{rows == 1 ? PanelText::tr("1 point, %1 with both pairs").arg(pairs)
-                                : PanelText::tr("%1 points, %2 with both pairs").arg(rows).arg(pairs)};
+    QStringList texts{PanelText::tr("%n point(s), %1 with both pairs", nullptr, int(rows)).arg(pairs)};
     if (statistics.leftOut > 0)
-        texts << PanelText::tr("%1 left out").arg(statistics.leftOut);
+        texts << PanelText::tr("%n left out", nullptr, int(statistics.leftOut));
     if (statistics.beyond > 0)
         texts << PanelText::tr("%1 beyond the tolerance").arg(statistics.beyond);
     if (statistics.problems > 0)

@@ -46,10 +46,6 @@ constexpr std::size_t rowsPerPiece = 1000;
 constexpr std::size_t rowsAtOnce = 2000; ///< so many are computed before the window is seen again
 constexpr std::size_t mostCopied = 200000;
 
-QString rowsText(std::size_t count) {
-    return count == 1 ? PanelText::tr("1 row") : PanelText::tr("%1 rows").arg(count);
-}
-
 /// Leaves what is being typed alone when the table behind it is computed anew.
 class TypingDelegate : public QStyledItemDelegate {
 public:
@@ -354,7 +350,7 @@ void PointsPane::read(std::unique_ptr<QIODevice> source, const QString& name) {
             return say(PanelText::tr("%1 has too many points; nothing of it is taken.").arg(name), true);
         const QString error = reading->error();
         if (error.isEmpty())
-            say(PanelText::tr("%1: %2 read.").arg(name, rowsText(reading->table.size())));
+            say(PanelText::tr("%1: %n row(s) read.", nullptr, int(reading->table.size())).arg(name));
         else
             say(PanelText::tr("%1 can't be read to its end: %2").arg(name, error), true);
         join(std::shared_ptr<PointTable>(reading, &reading->table));
@@ -597,7 +593,7 @@ void PointsPane::_onCopy() {
             if (copying->isCut)
                 say(PanelText::tr("Only the first %1 rows are copied. Save all as CSV.").arg(copying->count), true);
             else
-                say(PanelText::tr("%1 copied.").arg(rowsText(copying->count)));
+                say(PanelText::tr("%n row(s) copied.", nullptr, int(copying->count)));
         });
 }
 
@@ -621,7 +617,7 @@ void PointsPane::save(const QString& path, bool isFull) {
             const QString name = QFileInfo(path).fileName();
             saving.reset();
             if (!current->hasFailed())
-                say(PanelText::tr("%1: %2 saved.").arg(name, rowsText(points().size())));
+                say(PanelText::tr("%1: %n row(s) saved.", nullptr, int(points().size())).arg(name));
             else
                 say(PanelText::tr("%1 can't be saved: %2").arg(name, current->error()), true);
         });
@@ -656,7 +652,7 @@ void PointsPane::_onDelete() {
     // The keyboard stays where it was, for the next one.
     const int row = std::min(current.row(), int(points().size()));
     table->selectionModel()->setCurrentIndex(model->index(row, current.column()), QItemSelectionModel::NoUpdate);
-    say(PanelText::tr("%1 deleted; Ctrl+Z undoes that.").arg(rowsText(before - points().size())));
+    say(PanelText::tr("%n row(s) deleted; Ctrl+Z undoes that.", nullptr, int(before - points().size())));
     findDuplicates();
 }
 
@@ -674,8 +670,9 @@ void PointsPane::_onUndo() {
 }
 
 void PointsPane::_onClear() {
-    if (!VornMessageBox::information(this, PanelText::tr("Clear"),
-                                     PanelText::tr("Remove all %1 points from the table?").arg(points().size())))
+    if (!VornMessageBox::information(
+            this, PanelText::tr("Clear"),
+            PanelText::tr("Remove all %n point(s) from the table?", nullptr, int(points().size()))))
         return;
     work->cancel();
     model->clear();

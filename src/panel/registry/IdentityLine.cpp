@@ -42,10 +42,6 @@ QByteArray codeOf(const QByteArray& source) {
     return form.match(QString::fromUtf8(source)).captured(1).toUtf8();
 }
 
-QString inSentence(QString label) {
-    return label.isEmpty() ? label : label.replace(0, 1, label[0].toLower());
-}
-
 /// The other systems of the list, by their codes.
 QString otherCodes(const std::vector<RegistryMatch>& matches) {
     constexpr std::size_t most = 3;
@@ -54,7 +50,7 @@ QString otherCodes(const std::vector<RegistryMatch>& matches) {
         codes.append("EPSG:" + QString(matches[i].system->code));
     const int more = int(matches.size()) - 1 - codes.size();
     const QString text = codes.join(", ");
-    return more > 0 ? PanelText::tr("%1 and %2 more").arg(text).arg(more) : text;
+    return more > 0 ? PanelText::tr("%1 and %n more", nullptr, more).arg(text) : text;
 }
 
 } // namespace
@@ -196,7 +192,7 @@ QString IdentityLine::nearestText() const {
     QStringList differences;
     for (const RegistryMatch::Difference& difference : nearest.front().differences)
         differences.append(differenceText(difference));
-    return PanelText::tr("As %1, but %2").arg(systemText(*nearest.front().system), differences.join(", "));
+    return PanelText::tr("As %1, but: %2").arg(systemText(*nearest.front().system), differences.join(", "));
 }
 
 QString IdentityLine::differenceText(const RegistryMatch::Difference& difference) const {
@@ -210,6 +206,6 @@ QString IdentityLine::differenceText(const RegistryMatch::Difference& difference
         }
     }
     return PanelText::tr("%1 %2 (there %3)")
-        .arg(field ? inSentence(field->labelText()) : QString(difference.item), numberText(difference.here),
+        .arg(field ? field->labelText() : QString(difference.item), numberText(difference.here),
              numberText(difference.there));
 }

@@ -161,7 +161,8 @@ QString PlaceSearch::summary(bool isDone) const {
     const QString distances =
         PanelText::tr("Distances are without datum shift, which can move a place by some hundred metres.");
     if (model->system(0).fit.distance > SystemSearch::nearby)
-        return PanelText::tr("No system gives these coordinates within 50 km of the place. The nearest %1:").arg(count);
+        return PanelText::tr("No system gives these coordinates within 50 km of the place. The nearest %n:", nullptr,
+                             count);
     return PanelText::tr("Systems found: %1").arg(count) + ". " + distances;
 }
 

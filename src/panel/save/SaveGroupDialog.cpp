@@ -148,13 +148,14 @@ void SaveGroupDialog::showState() {
     const bool isRight = isFolder(folderEdit->text());
     const bool isWrong = !isRight && !folderEdit->text().isEmpty();
     const int there = step == Step::Asking ? files->existing() : 0;
-    messageLine->setMessage(step == Step::Asking
-                                ? PanelText::tr("There already: %1 of %2 files. Overwrite them?").arg(there).arg(count)
-                            : isWrong ? PanelText::tr("There is no such folder.")
-                                      : PanelText::tr("Systems: %1").arg(count),
-                            step == Step::Asking ? MessageLine::Tone::Warning
-                            : isWrong            ? MessageLine::Tone::Error
-                                                 : MessageLine::Tone::Hint);
+    messageLine->setMessage(
+        step == Step::Asking
+            ? PanelText::tr("There already: %n of %1 files. Overwrite them?", nullptr, there).arg(count)
+        : isWrong ? PanelText::tr("There is no such folder.")
+                  : PanelText::tr("Systems: %1").arg(count),
+        step == Step::Asking ? MessageLine::Tone::Warning
+        : isWrong            ? MessageLine::Tone::Error
+                             : MessageLine::Tone::Hint);
     choices->setEnabled(isChoosing);
     progressBar->setVisible(isWorking);
     summaryText->setVisible(step == Step::Done);

@@ -1,5 +1,7 @@
 #include "platform/desktop/Applicationx.h"
 
+#include "catalogue/Path.h"
+
 #include <QFileInfo>
 #include <QIcon>
 #include <QLibraryInfo>
@@ -33,6 +35,26 @@ void useEncodingThatCarriesAnyName() {
 #endif
 }
 
+/// Loads <name>_<language>.qm of the folder for the texts of the application; false when there is no such file.
+bool installTranslation(QTranslator* translator, const QLocale& locale, const char* name, const QString& folder) {
+    return translator->load(locale, QLatin1String(name), QStringLiteral("_"), folder) &&
+           QCoreApplication::installTranslator(translator);
+}
+
+/// The tool's texts in the first of the user's languages that they are translated to, or in English; then Qt's own
+/// texts in the same language.
+void installTranslations(QObject* parent) {
+    char folder[1000];
+    process_resolve_path(folder, sizeof folder, "$(APP_DIR)/../etc/Vornhalde/data/translations");
+    auto* texts = new QTranslator(parent);
+    for (const QLocale& locale : {QLocale::system(), QLocale(QLocale::English)}) {
+        if (installTranslation(texts, locale, "coordsystem_manager", QString::fromLocal8Bit(folder)))
+            break;
+    }
+    installTranslation(new QTranslator(parent), QLocale(texts->language()), "qtbase",
+                       QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+}
+
 } // namespace
 
 Applicationx::Applicationx(int& argc, char** argv, const char* applicationName, const char* toolPath)
@@ -50,8 +72,5 @@ Applicationx::Applicationx(int& argc, char** argv, const char* applicationName, 
         icon.addFile(QStringLiteral(":/desktop/coordsystem_manager_%1.png").arg(QLatin1String(size)));
     setWindowIcon(icon);
 
-    auto* translator = new QTranslator(this);
-    if (translator->load(QLocale::system(), QStringLiteral("qtbase"), QStringLiteral("_"),
-                         QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
-        installTranslator(translator);
+    installTranslations(this);
 }

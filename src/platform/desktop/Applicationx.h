@@ -3,8 +3,8 @@
 #include <QApplication>
 
 /// The process's application object. Before QApplication starts it switches on High-DPI scaling; then it sets the
-/// application's name and icon, makes sure that the local 8-bit encoding carries any name, and installs Qt's own
-/// translations for the system's language.
+/// application's name and icon, makes sure that the local 8-bit encoding carries any name, and installs the
+/// translations for the user's languages: the tool's own and Qt's.
 class Applicationx : public QApplication {
     Q_OBJECT
 

@@ -1,0 +1,2559 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>DlgCoordParam</name>
+    <message>
+        <source>Origin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard parallels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checked point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Designed area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the map is around.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width of the area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Side of the square area; the map shows all of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Central meridian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard parallel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outline of the area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Easting, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Northing, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From catalogue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Words of the group or of the name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Systems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, in %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ellipsoidal height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>along the meridian %1
+along the parallel %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy as text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The system&apos;s own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WGS 84</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Easting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Northing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grid scale factor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Convergence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Combined factor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Closing error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A true azimuth is the grid bearing plus the convergence. Where the projection is not conformal, this holds along the meridian only.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grid scale factor times R / (R + height): from a distance at that height to the grid.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How far the point is off when it is computed there and back: through the projection, and through the datum shift.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the same: the system&apos;s datum is WGS 84</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown: the system defines no datum shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The registry&apos;s shifts move this point by %1 m.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The registry&apos;s shifts move this point by %1 to %2 m.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On WGS 84</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On the own datum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The projection gives no result for this point.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>along the meridian %1
+in other directions off by up to %2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, datum shift %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The projection is not reliable here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The datum shift is not reliable here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lengths of points in international feet (ft, 0.3048 m); the system&apos;s parameters in metres.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lengths of points in US survey feet (ftUS, 1200/3937 m); the system&apos;s parameters in metres.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lengths in metres (m).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check of a coordinate system against control points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No point in use has both pairs of coordinates: nothing could be compared.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n compared point(s) are within the tolerance of %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of %1 compared points are beyond the tolerance of %2.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Computed minus given</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RMS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>largest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>point(s) in the list</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>compared: in use, with both pairs of coordinates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of these beyond the tolerance, the farthest first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with both pairs left out of the figures by hand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with one pair only, the other computed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not computed, as that was cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>without a result; the list says why</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with a name that another has</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latitudes, longitudes and heights of the points are on the system&apos;s own datum.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latitudes, longitudes and heights of the points are on WGS 84, and brought to the system&apos;s datum by its shift.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No. %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points and residuals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vectors lead from the given place to the computed one, longer than life by the factor beside the scale bar. Red: beyond the tolerance. Grey: left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linear distortion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On the map: %1 to %2 ppm (mm in a kilometre). Red: longer in the grid than on the ground; blue: shorter. Black rectangle: the area of the points.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At the points&apos; mean height of %1 above the ellipsoid.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At the height 0, as the points have none: what the projection alone does.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ΔE, ΔN: computed from latitude and longitude, minus given. *: beyond the tolerance. Slanted: computed from the other pair.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list has %1 points, too many for a report; here are those that matter most. &quot;Save...&quot; writes all of them as CSV.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n point(s) that are farthest off, of %1 compared</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Points left out or without a result: the first %n of %1</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out of the figures.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From catalogue...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From registry...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With datum shifts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apart from the mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture of the difference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The same place for both systems: through WGS 84 with both datum shifts, or else the same latitude and longitude.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The map shows what is left of the difference without its mean over the area, as after another false easting and northing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The difference is easting and northing of the shown system minus those of the other one, at the same place on the ground.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a system to compare with</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ΔE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ΔN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At the mouse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apart from it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The point of the page &quot;Point&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Over the black square.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is left of the difference without its mean is no larger in the black square.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>minus %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Easting and northing of the shown system minus those of %1, as it was when it was chosen, at the same place on the ground.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One of the projections gives no result in this area.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Neither system defines a datum shift: both count as on WGS 84.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No datum shift is defined by %1: it counts as on WGS 84.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For this area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For the point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Least distortion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the largest distortion at that height is to be smallest: in the square on the map, or at the checked point.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Design</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the meridian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the parallel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is nothing to propose here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This system has no scale factor to choose.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The system is as good as it can be here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distortion in ppm: %1 → %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture of the linear distortion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean ellipsoidal height of the ground; 0 shows the grid&apos;s own distortion.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ppm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ppm   %2, %3
+E %4 %6  N %5 %6</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Point at the map for the distortion there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What would meet the points best; what is not ticked is held.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>after ± standard deviation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scale factor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>False easting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>False northing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RMS, largest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Misfit before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Misfit after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remainder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Diagnosis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Against the ground remain a rotation of %1 ± %2%3 and a scale of %4 ± %5 ppm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(not used)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decimal comma</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First line is a heading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semicolon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blanks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns parted by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>metres</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>international feet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>US survey feet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lengths in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Column %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns of one kind belong together: degrees, minutes and seconds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Say which columns are latitude and longitude, or easting and northing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n point(s), %1 with both pairs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left out</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 beyond the tolerance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 without a result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 with a name that another has</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste, open or type points.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Out of range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fitted ΔE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fitted ΔN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A point without a check mark is left out of the statistics.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ellipsoidal height; 0 where there is none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slanted: computed from the other pair.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the fit would leave.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Computed from latitude and longitude, minus given.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next marked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The next point beyond the tolerance, or row with a remark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes the check as a document to file with the job.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tolerance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points that are farther off are marked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Datum of latitude, longitude and height: the system&apos;s own, or WGS 84</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which false origin and scale factor would meet the points best.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All is written: that can&apos;t be cancelled any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancelled: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has too many points; nothing of it is taken.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n row(s) read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read to its end: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Computing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comparing names</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Counting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Point at the picture for a point&apos;s name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Row %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copying</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only the first %1 rows are copied. Save all as CSV.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>CSV as shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV with all digits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n row(s) saved.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be saved: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: report saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No row is selected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) deleted; Ctrl+Z undoes that.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undone: the points are as they were before.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %n point(s) from the table?</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All points are removed; Ctrl+Z undoes that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All is within the tolerance and without a remark.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture of the points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HTML, one file with its pictures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no document could be made</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distortion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show angles in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A fit needs points with latitude, longitude, easting and northing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A fit takes %1 points at most: leave some out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The projection gives no result at one of the points.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The points do not determine these values: hold one of them, or add points.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>east</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>north</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>west</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>south</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Easting and northing are swapped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The given eastings count %1, the northings %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The given eastings and northings are in feet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The given eastings and northings are metres that were taken for feet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The given grid is turned by %1° against the computed one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The points are of another zone: its central meridian is %1°.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, as by a central meridian of %2°.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is nothing in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is no text. Save a table as CSV first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>latitude</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>longitude</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>easting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>northing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The line is too long for a point; its beginning is kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Can&apos;t be read: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Out of range: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no coordinates.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missing: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The system defines no datum shift.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name occurs more than once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seven parameters need three points or more on both datums.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Three parameters need one point or more on both datums.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; are the same point: leave one of them out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The points lie on a line, around which they leave the rotation open. Add a point beside the line, or take three parameters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No datum shift is as large as these points would have it. Are both places of each the same point, on the right datum?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The area is too small to tell the translations from rotations and scale (correlation %1): the values mean nothing one by one, and hold within the area only. Three parameters are recommended if what they leave will do: a standard deviation of %2 m, against %3 m of seven.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No projection: these values make none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotations in the position-vector convention (EPSG 9606, PROJ towgs84). Figures published in the coordinate-frame convention (EPSG 9607): type them as they are, then reverse their signs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reverse rotation signs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From points...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stands in exported definitions; nothing is computed from it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shift to WGS 84</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seven parameters (three: the rest 0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Estimates the shift from points known on both datums.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Datum shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without a shift, coordinates on WGS 84 are unknown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This kind of shift is unknown here; it is kept as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The signs of all three rotations are reversed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Definition</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PROJ definition</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WKT dialect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WKT 1 (GDAL)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WKT 1 (ESRI)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WKT 2:2019</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With identifier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as .prj</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save group...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WKT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From text...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This form can&apos;t express the system.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This form can&apos;t carry the identifier.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file can&apos;t be written: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No coordinate system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 – choose a coordinate system in the tree</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward to the edited values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back to the values before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ellipsoid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semi-minor axis b</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eccentricity e</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose an ellipsoid.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not in the list of ellipsoids.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The figures differ from the list&apos;s ellipsoid of this name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decimal degrees</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Degrees, minutes, seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Metre</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>International foot, 0.3048 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>US survey foot, 1200/3937 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lengths in metres (m), international feet (ft) or US survey feet (ftUS)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste or type WKT, a PROJ definition, PROJJSON, or a code as EPSG:25832.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Understood</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Understood:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geoid model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model ellipsoid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not in the list of geoid models.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The model refers to another ellipsoid than the system.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Projection method</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the method</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Projection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Still to choose.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A latitude goes with N or S.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A longitude goes with E or W.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An azimuth goes without a letter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use a decimal point, not a comma.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not an angle. Examples: 7.5, 7 30 00, 7°30&apos;00&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only the last part may have decimals.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minutes must be less than 60.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds must be less than 60.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give either a sign or a letter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semi-major axis a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inverse flattening 1/f</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Translation X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Translation Y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Translation Z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation Y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation Z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scale difference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A sphere.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unusual for the Earth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unusually large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing can be computed: the projection module is not installed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These parameters give no projection that can be computed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The model names no file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not in the folder of geoid models.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder of geoid models has &quot;%1&quot; instead.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not a file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not a length in %1 with a decimal point.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Allowed: 0 (sphere), or more than 1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Allowed: between %1 and %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Allowed: ±%1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Allowed: %1 to %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A value is needed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only digits and a decimal point.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Datum shift to WGS 84: none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Datum shift to WGS 84: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pasted text, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The text counts in %1, the record in metres.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its datum shift is by grids, or of another kind, and is left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its heights are left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The registry has withdrawn it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(line %1, column %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ellipsoid: %1, a %2 m, 1/f %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Datum: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not named</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No projection: latitudes of the points equal, or the first 0.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No projection: the standard parallels cancel out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No projection yet: the system has no ellipsoid.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No projection yet: choose the method.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No projection: the method &quot;%1&quot; is unknown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No projection: the definition fits none of the methods.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No projection: &quot;%1&quot; is missing or wrong.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No projection: a standard parallel needs the scale factor 1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No projection: the scale factor is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Must be 1: the standard parallel sets the scale.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unusual: scale factors lie close to 1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without effect: the origin is no pole.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With 0° this is the plain Mercator projection.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usually equal to the latitude of origin.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The standard parallels nearly cancel out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives the line of %1°. For the line of this azimuth, type %2°.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zone %1 of UTM has the central meridian %2°.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does not fit zone %1 of the false easting.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latitude of origin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latitude of centre</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longitude of origin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longitude of centre</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latitude of point 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longitude of point 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latitude of point 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longitude of point 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Azimuth of the line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard parallel 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard parallel 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Easting at centre</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Northing at centre</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gauss-Krüger (scale factor 1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transverse Mercator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mercator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mercator (standard parallel)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Oblique Mercator (azimuth)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stereographic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Oblique Stereographic (double)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lambert Conic Conformal (1SP)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lambert Conic Conformal (2SP)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Oblique Mercator (two points)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cassini-Soldner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the ellipsoid&apos;s name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the projection method</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the datum shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This form can&apos;t be imported again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does not come back with an import of this form: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other software may count easting and northing from the natural origin.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position-vector convention (EPSG 9606, PROJ towgs84)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of an unknown kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A geographic system: latitude and longitude, without a projection.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A geocentric system: X, Y and Z, without a projection.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A system of heights, without a projection.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A local system, without a place on the Earth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No system that is projected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of the methods holds this projection exactly: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The axes do not point east and north, but: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The grid is turned by %1°, not by the azimuth of the line, %2°.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With the azimuth 90° easting and northing can&apos;t count from the natural origin.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The standard parallel, %1°, is not the latitude of origin, %2°, as this method has it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A polar projection that names no pole, or does not say its scale in one way.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A parameter is missing: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A parameter is unknown: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A parameter does not belong to the method: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A parameter has two values: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A value is no number, or out of range: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A unit is missing, or not what its name says: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The prime meridian&apos;s longitude is not that of its name: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The ellipsoid is unknown, or its axes leave a doubt.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Twice, or with a number too many (a decimal comma?): %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PROJ makes another projection of these parameters, or none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The text names a file, which is not read: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No WKT, no PROJJSON, no PROJ definition and no code of a registry.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too long, or brackets too deep: up to %1 bytes are read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No registry has the system %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PROJ can&apos;t read it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (deprecated)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>northing comes first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in US survey feet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in international feet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is missing before the easting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 before the easting is the zone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>if %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the same</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With the system&apos;s datum shift, the place being on WGS 84</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From the place to where the system has the coordinates; of several points the root mean square</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is left of the distances without what all points have in common, as a datum shift: the smaller, the better the system fits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spread</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EPSG</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EPSG:%1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>In the registry</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The record is no system of the registry.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Says that this is %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Says that this is %1, on the datum %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The registry leaves the datum open.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The registry&apos;s datum is %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The registry counts in %1, the record in metres.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The registry&apos;s figures differ a little.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looking through the EPSG registry...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the same to %2 mm over its area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Also %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No system of the EPSG registry is like it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As %1, but: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 (there %3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EPSG code, words of the name or of the area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deprecated ones too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Covers the point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Systems found: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A place, roughly, and the coordinates that it has in the unknown system; more points narrow it down.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lines of latitude, longitude, first and second coordinate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Systems found so far: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No system that is used there can have these coordinates.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distances are without datum shift, which can move a place by some hundred metres.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>No system gives these coordinates within 50 km of the place. The nearest %n:</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 from the place, with the system&apos;s datum shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 from the place, without datum shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, %1 with the one below</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing to paste: lines of latitude, longitude and two coordinates.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First coordinate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Second coordinate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of point %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Point %1, %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, accuracy %2 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From registry</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By name or code</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From coordinates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Datum shift to WGS 84</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copies this system&apos;s ellipsoid, projection, datum shift and geoid model; name and remark stay.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As in the catalogue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the own catalogue: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is there already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file there is an older one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out. %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved. %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save group as .prj</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy summary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep existing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>There already: %n of %1 files. Overwrite them?</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no such folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Systems: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shift from points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Own datum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latitude, longitude, height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Easting, northing, height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geocentric X, Y, Z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seven</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Three</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points are typed, or pasted as lines: name and three numbers on either datum.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Just enough points: nothing is left over to tell how good the shift is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard deviation of a coordinate: %1 m (redundancy %2).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 with %2 %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest correlations: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lines that can&apos;t be used: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The projection gives no result here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This place is not on the Earth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The other points speak against this one: check it, or leave it out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Easting, m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Northing, m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height, m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WGS 84 X, m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WGS 84 latitude</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WGS 84 Y, m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WGS 84 longitude</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WGS 84 Z, m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WGS 84 height, m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Before, m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>East, mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>North, mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up, mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DlgCoordSysGroups</name>
+    <message>
+        <source>CoordSysGroup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AddSysGroup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ImportCoordSys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AddCoordSys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EditSysGroup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DelSysGroup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EditSys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DelSys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>are you sure delete coord system group %1 ?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>are you sure delete coord system %1 ?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selecte WKT file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import file failed!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import file isn&apos;t projection coordinates!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Imported projection coordinates already exist in the group!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DlgInputName</name>
+    <message>
+        <source>please input name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>please input valid content!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has same as coord group name!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has same as coord system name!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>information</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QFile</name>
+    <message>
+        <source>Filename refers to a directory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>information</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to exit program?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>please input correct param!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete ellipsoid [%1]?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has same name as system, whether cover?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new add ellipsoid name can&apos;t same as system!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit Ellipsoid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ellipsoid Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ellipsoid a(m)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ellipsoid f</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete geoid [%1]?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has same file name, whether or not covered?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new geoid name can&apos;t same with system name!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New Geoid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geoid Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File Path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Browser</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>selete file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geiod File(*.ggf *.vgf)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AddGeoid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>VornCoordSysMainWindow</name>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data is changed!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Coordinate System Manager</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>
