@@ -1,6 +1,7 @@
 #include "platform/desktop/Applicationx.h"
 
 #include "support/RoomTest.h"
+#include "support/TextTable.h"
 
 #include <QFont>
 #include <QIcon>
@@ -35,6 +36,27 @@ private Q_SLOTS:
         QProcess test;
         test.setProcessEnvironment(environment);
         test.start(QCoreApplication::applicationFilePath(), {"ApplicationxTest", "preparesTheProcess"});
+        QVERIFY(test.waitForFinished());
+        QVERIFY2(test.exitCode() == 0, test.readAllStandardOutput());
+    }
+
+    void usesTheLanguage() {
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), qEnvironmentVariable("WANTED", "Cancel"));
+    }
+
+    /// Qt's own texts follow the tool's, whose catalogues are fewer.
+    void language_data() { textRows("languages.txt"); }
+    void language() {
+        const auto row = textRow<4>();
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove("LC_ALL");
+        environment.remove("LC_MESSAGES");
+        environment.insert("LANG", row[1]);
+        environment.insert("LANGUAGE", row[2]);
+        environment.insert("WANTED", row[3]);
+        QProcess test;
+        test.setProcessEnvironment(environment);
+        test.start(QCoreApplication::applicationFilePath(), {"ApplicationxTest", "usesTheLanguage"});
         QVERIFY(test.waitForFinished());
         QVERIFY2(test.exitCode() == 0, test.readAllStandardOutput());
     }
