@@ -36,7 +36,8 @@ class Tool:
 
     def launch(self):
         """Starts a process of the tool, whether or not one runs."""
-        environment = {name: value for name, value in os.environ.items() if not name.startswith(("XDG_", "LC_", "LANGUAGE"))}
+        environment = {name: value for name, value in os.environ.items()
+                       if not name.startswith(("XDG_", "LC_", "LANGUAGE"))}
         environment.update(HOME=self.home, TMPDIR=self.scratch, LANG="C.UTF-8",
                            XDG_RUNTIME_DIR=os.environ["XDG_RUNTIME_DIR"],
                            # The tool draws nothing with OpenGL, and Mesa's software driver leaks when it is unloaded.
