@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QColor>
 #include <QFont>
+#include <QPalette>
 #include <QRegularExpression>
 
 #include <algorithm>

@@ -9,6 +9,8 @@
 #include "panel/record/PanelText.h"
 
 #include <QApplication>
+#include <QFont>
+#include <QPalette>
 #include <QRegularExpression>
 
 #include <algorithm>
