@@ -4,6 +4,7 @@
 #include "catalogue/Dictionary.h"
 #include "panel/computing/ShownSystem.h"
 #include "panel/field/ChoiceBox.h"
+#include "panel/field/Colours.h"
 #include "panel/field/FieldRow.h"
 #include "panel/field/MessageLine.h"
 #include "panel/field/SearchBox.h"
@@ -48,6 +49,7 @@ DatumShiftTab::DatumShiftTab(CoordParamEditor& editor, bool readOnly, QWidget* p
     datumBox->setAccessibleName(datumLabel->text());
     datumBox->setToolTip(PanelText::tr("Stands in exported definitions; nothing is computed from it."));
     datumBox->lineEdit()->setPlaceholderText(PanelText::tr("unknown"));
+    Colours::setReadablePlaceholder(datumBox->lineEdit());
     datumBox->setReadOnly(readOnly);
     grid->addWidget(datumLabel, 0, 0);
     grid->addWidget(datumBox, 0, 1, 1, 3);

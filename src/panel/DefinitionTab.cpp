@@ -58,7 +58,7 @@ void DefinitionTab::build() {
     identityLine = new IdentityLine;
     definitionText = newText(PanelText::tr("PROJ definition"));
     definitionText->setFixedHeight(definitionText->fontMetrics().lineSpacing() * 5 + 12);
-    copyDefinitionButton = new CopyButton(PanelText::tr("Copy"));
+    copyDefinitionButton = new CopyButton(PanelText::tr("Copy"), PanelText::tr("Copy the PROJ definition"));
     dialectBox = new ChoiceBox;
     dialectBox->setAccessibleName(PanelText::tr("WKT dialect"));
     dialectBox->addItem(PanelText::tr("WKT 1 (GDAL)"), int(WktDialect::Wkt1Gdal));
@@ -67,7 +67,7 @@ void DefinitionTab::build() {
     // What most programs expect in a .prj file.
     dialectBox->setCurrentIndex(dialectBox->findData(int(WktDialect::Wkt1Esri)));
     identifierBox = new QCheckBox(PanelText::tr("With identifier"));
-    copyWktButton = new CopyButton(PanelText::tr("Copy"));
+    copyWktButton = new CopyButton(PanelText::tr("Copy"), PanelText::tr("Copy the WKT"));
     saveButton = new QPushButton(PanelText::tr("Save as .prj"));
     saveGroupButton = new QPushButton(PanelText::tr("Save group..."));
     wktText = newText(PanelText::tr("WKT"));
@@ -76,7 +76,9 @@ void DefinitionTab::build() {
     remarkLine = new MessageLine;
 
     auto* definitionRow = new QHBoxLayout;
-    definitionRow->addWidget(new QLabel(PanelText::tr("PROJ definition")));
+    auto* definitionLabel = new QLabel(definitionText->accessibleName());
+    definitionLabel->setBuddy(definitionText);
+    definitionRow->addWidget(definitionLabel);
     definitionRow->addStretch();
     definitionRow->addWidget(copyDefinitionButton);
     auto* wktRow = new QHBoxLayout;

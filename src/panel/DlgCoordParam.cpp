@@ -8,6 +8,7 @@
 #include "panel/HeightTab.h"
 #include "panel/ParamTab.h"
 #include "panel/ProjectionTab.h"
+#include "panel/field/ScreenReader.h"
 #include "panel/field/SystemNameLine.h"
 
 #include <QApplication>
@@ -23,6 +24,7 @@
 
 DlgCoordParam::DlgCoordParam(ICoordSystem* coordSystem, QWidget* parent, bool readOnly)
     : QTabWidget(parent), readOnly(readOnly) {
+    ScreenReader::introduceWidgets();
     addHeader();
     addParamTab(new EllipsoidTab(coordSystem, editor, readOnly, nullptr));
     addParamTab(new ProjectionTab(editor, readOnly, nullptr));

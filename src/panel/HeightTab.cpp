@@ -5,6 +5,7 @@
 #include "catalogue/Dictionary.h"
 #include "catalogue/ICoordSystem.h"
 #include "panel/field/MessageLine.h"
+#include "panel/field/ResultLabel.h"
 #include "panel/field/SearchBox.h"
 #include "panel/record/CoordParamEditor.h"
 #include "panel/record/GeoidFile.h"
@@ -13,14 +14,27 @@
 #include <QGridLayout>
 #include <QLabel>
 
+namespace {
+
+/// A value that the record does not hold, below the name that it has.
+void addShownValue(QGridLayout* grid, int line, QLabel* value) {
+    auto* label = new QLabel(value->accessibleName());
+    label->setBuddy(value);
+    value->setFocusPolicy(Qt::StrongFocus);
+    grid->addWidget(label, line, 0);
+    grid->addWidget(value, line, 1);
+}
+
+} // namespace
+
 HeightTab::HeightTab(ICoordSystem* coordSystem, CoordParamEditor& editor, bool readOnly, QWidget* parent)
     : ParamTab(editor, readOnly, parent)
     , coordSystem(coordSystem)
     , geoidBox(new SearchBox)
     , message(new MessageLine)
-    , file(new QLabel)
+    , file(new ResultLabel(PanelText::tr("Model file")))
     , fileMessage(new MessageLine)
-    , ellipsoid(new QLabel) {
+    , ellipsoid(new ResultLabel(PanelText::tr("Model ellipsoid"))) {
     auto* grid = new QGridLayout(this);
     grid->setVerticalSpacing(3);
     auto* label = new QLabel(PanelText::tr("Geoid model"));
@@ -31,16 +45,12 @@ HeightTab::HeightTab(ICoordSystem* coordSystem, CoordParamEditor& editor, bool r
     grid->addWidget(geoidBox, 0, 1);
     message->setField(geoidBox);
     grid->addWidget(message, 1, 0, 1, 2);
-    grid->addWidget(new QLabel(PanelText::tr("Model file")), 2, 0);
-    grid->addWidget(file, 2, 1);
+    addShownValue(grid, 2, file);
     fileMessage->setField(file);
     grid->addWidget(fileMessage, 3, 0, 1, 2);
-    grid->addWidget(new QLabel(PanelText::tr("Model ellipsoid")), 4, 0);
-    grid->addWidget(ellipsoid, 4, 1);
+    addShownValue(grid, 4, ellipsoid);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(5, 1);
-    for (QLabel* value : {file, ellipsoid})
-        value->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
     connect(geoidBox, SIGNAL(listNeeded()), this, SLOT(_onListNeeded()));
     connect(geoidBox, SIGNAL(chosen(QString)), this, SLOT(_onChosen(QString)));

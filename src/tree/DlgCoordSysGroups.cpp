@@ -11,6 +11,7 @@
 #include "platform/desktop/VornMessageBox.h"
 #include "tree/DlgInputName.h"
 #include "tree/ImportProgress.h"
+#include "tree/KeyboardMenu.h"
 #include "tree/PlainToolTipDelegate.h"
 
 #include <QAction>
@@ -25,7 +26,9 @@ DlgCoordSysGroups::DlgCoordSysGroups(ICoordSystem* coordSystem, QWidget* parent)
     setAnimated(true);
     setHeaderHidden(true);
     setContextMenuPolicy(Qt::CustomContextMenu);
+    setAccessibleName(tr("CoordSysGroup"));
     setItemDelegate(new PlainToolTipDelegate(this));
+    new KeyboardMenu(this);
     connect(this, SIGNAL(customContextMenuRequested(const QPoint&)), this, SLOT(_onItemRightClicked(const QPoint&)));
     connect(this, SIGNAL(itemClicked(QTreeWidgetItem*, int)), this, SLOT(_onItemClicked(QTreeWidgetItem*, int)));
     loadTree();

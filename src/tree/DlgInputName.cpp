@@ -14,6 +14,7 @@
 DlgInputName::DlgInputName(QWidget* parent, ICoordSystem* coordSystem)
     : Dialog(parent), nameEdit(new QLineEdit(this)), coordSystem(coordSystem) {
     setWindowTitle(tr("please input name"));
+    nameEdit->setAccessibleName(windowTitle());
 
     auto* buttonBox = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     buttonBox->button(QDialogButtonBox::Ok)->setText(QObject::tr("Ok"));

@@ -3,6 +3,7 @@
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QLabel>
+#include <QProgressBar>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTimer>
@@ -73,6 +74,7 @@ void ImportProgress::show(const QString& path) {
         dialog->setWindowModality(Qt::WindowModal);
         dialog->setMinimumDuration(0);
         dialog->setMinimumWidth(360); // so that it keeps its size while names of all lengths pass
+        dialog->findChild<QProgressBar*>()->setAccessibleName(tr("ImportCoordSys"));
         auto* label = new QLabel;
         label->setTextFormat(Qt::PlainText);
         label->setAlignment(Qt::AlignCenter);

@@ -149,8 +149,8 @@ protected:
             inputOf(keyboard)->selectAll();
             inputOf(keyboard)->paste();
         } else if (text.isNull() && turnTo(word)) {
-        } else if (auto* spin = find<QSpinBox>(word)) {
-            spin->setValue(text.toInt());
+        } else if (auto* spin = find<QDoubleSpinBox>(word)) {
+            spin->setValue(text.toDouble());
         } else if (box && box->findText(text) >= 0) {
             choose(word, box->findText(text));
         } else if (auto* pressed = find<QAbstractButton>(word)) {

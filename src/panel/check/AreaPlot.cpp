@@ -1,8 +1,11 @@
 #include "panel/check/AreaPlot.h"
 
+#include "panel/field/Colours.h"
 #include "panel/record/LengthUnit.h"
+#include "panel/record/NumberText.h"
 #include "panel/record/PanelText.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <qwt_color_map.h>
 #include <qwt_matrix_raster_data.h>
@@ -23,6 +26,7 @@ namespace {
 constexpr int pixelsPerNode = 4;
 constexpr int contourCount = 8;
 constexpr int parallelCount = 2;
+constexpr int keySteps = 20; ///< of the arrow keys, across the map
 constexpr int axes[] = {QwtPlot::xBottom, QwtPlot::yLeft, QwtPlot::yRight};
 
 /// Numbers without the grouping of the system's language: northings have no room for it.
@@ -32,11 +36,12 @@ public:
 };
 
 /// Blue for negative, white for 0, red for positive values: ColorBrewer's diverging scheme RdBu, which the colour-blind
-/// tell apart, with white for its grey middle (Brewer, Hatchard and Harrower 2003, "ColorBrewer in print", Cartography
+/// tell apart, with white for its grey middle and without its darkest, on which no line
+/// is seen (Brewer, Hatchard and Harrower 2003, "ColorBrewer in print", Cartography
 /// and Geographic Information Science 30(1)).
 class AreaColours : public QwtLinearColorMap {
 public:
-    AreaColours() : QwtLinearColorMap(QColor(0x2166ac), QColor(0xb2182b)) {
+    AreaColours() : QwtLinearColorMap(QColor(0x4393c3), QColor(0xd6604d)) {
         addColorStop(0.25, QColor(0x92c5de));
         addColorStop(0.5, QColor(0xffffff));
         addColorStop(0.75, QColor(0xf4a582));
@@ -87,7 +92,7 @@ AreaPlot::AreaPlot(const QString& accessibleName, QWidget* parent)
     setAccessibleName(accessibleName);
     setUpAxes();
     spectrogram->setDisplayMode(QwtPlotSpectrogram::ContourMode, true);
-    spectrogram->setDefaultContourPen(QColor(0x50, 0x50, 0x50), 0.0);
+    spectrogram->setDefaultContourPen(Colours::line, 0.0);
     spectrogram->setConrecFlag(QwtRasterData::IgnoreAllVerticesOnLevel, false);
     spectrogram->setRenderThreadCount(0); // as many as the machine has
     spectrogram->attach(this);
@@ -102,7 +107,13 @@ AreaPlot::AreaPlot(const QString& accessibleName, QWidget* parent)
         new QwtSymbol(QwtSymbol::Ellipse, QBrush(Qt::yellow), QPen(Qt::black, 2.0), QSize(10, 10)));
     checkedMarker->setZ(40.0);
     checkedMarker->attach(this);
+    keyMark = new QwtPlotMarker;
+    keyMark->setLineStyle(QwtPlotMarker::Cross);
+    keyMark->setLinePen(Qt::black, 1.0);
+    keyMark->setZ(50.0);
+    keyMark->attach(this);
 
+    setCanvasBackground(Qt::white);
     auto* frame = qobject_cast<QwtPlotCanvas*>(canvas());
     frame->setFrameShape(QFrame::Box);
     frame->setFrameShadow(QFrame::Plain);
@@ -136,7 +147,7 @@ void AreaPlot::showTitles(const QString& unit) {
 
 QwtPlotCurve* AreaPlot::newLine(const QString& title, Qt::PenStyle style) {
     auto* curve = new QwtPlotCurve(title);
-    curve->setPen(QColor(0x10, 0x50, 0x10), 2.0, style);
+    curve->setPen(Colours::gridLine, 2.0, style);
     curve->setRenderHint(QwtPlotItem::RenderAntialiased);
     curve->attach(this);
     return curve;
@@ -187,6 +198,32 @@ void AreaPlot::showValues(const AreaValues& values, const GridArea& area, const 
     updateAxes();
     updateLayout(); // not before the next event otherwise, and the labels need the final canvas
     showLabels(levels);
+    describe(values, area, unit.symbol);
+    setFocusPolicy(Qt::TabFocus);
+}
+
+/// What is seen at a glance, for who does not see it.
+void AreaPlot::describe(const AreaValues& values, const GridArea& area, const QString& unit) {
+    const auto text = [](double number) { return NumberText::rounded(number, 3); };
+    const QVector<GridPoint> nodes = AreaValues::nodes(area, values.columnCount(), values.rowCount());
+    const auto extreme = [&](const QString& sentence, double value) {
+        const QPointF place = onAxes(nodes[values.values().indexOf(value)]);
+        return sentence.arg(text(value), unit, text(place.x()), text(place.y()));
+    };
+    const QwtInterval easting = interval(area.centre.easting, area.width);
+    const QwtInterval northing = interval(area.centre.northing, area.height);
+    summary = QStringList{extreme(PanelText::tr("Smallest value: %1 %2 at easting %3, northing %4."), values.smallest()),
+                          extreme(PanelText::tr("Largest value: %1 %2 at easting %3, northing %4."), values.largest()),
+                          PanelText::tr("The picture: easting %1 to %2, northing %3 to %4, in %5.")
+                              .arg(text(easting.minValue()), text(easting.maxValue()), text(northing.minValue()),
+                                   text(northing.maxValue()), axisUnitText()),
+                          PanelText::tr("The arrow keys move a mark over it.")}
+                  .join(' ');
+    setAccessibleDescription(summary);
+}
+
+void AreaPlot::describePlace(const QString& text) {
+    setAccessibleDescription(text.isEmpty() ? summary : text + ". " + summary);
 }
 
 void AreaPlot::setColours(const AreaValues& values, double noise) {
@@ -286,12 +323,28 @@ void AreaPlot::clear() {
     for (QwtPlotItem* item : itemList())
         item->setVisible(false);
     enableAxes(false);
+    summary = PanelText::tr("The picture is empty.");
+    setAccessibleDescription(summary);
+    setFocusPolicy(Qt::NoFocus);
     replot();
     pointAgain();
 }
 
-/// Tells what is under the mouse, if it is over a map.
+void AreaPlot::point(const std::optional<QPoint>& pixel, bool byKeys) {
+    const bool wasByKeys = keyMark->isVisible();
+    mouse = pixel;
+    keyMark->setVisible(byKeys && pixel && spectrogram->isVisible());
+    if (wasByKeys && !keyMark->isVisible())
+        replot();
+    pointAgain();
+}
+
+/// Tells what is under the mouse or the mark, if it is over a map.
 void AreaPlot::pointAgain() {
+    if (keyMark->isVisible()) {
+        keyMark->setValue(invTransform(xBottom, mouse->x()), invTransform(yLeft, mouse->y()));
+        replot();
+    }
     if (mouse && spectrogram->isVisible())
         Q_EMIT pointed(invTransform(xBottom, mouse->x()) * axisUnit(), invTransform(yLeft, mouse->y()) * axisUnit());
     else
@@ -300,10 +353,9 @@ void AreaPlot::pointAgain() {
 
 bool AreaPlot::eventFilter(QObject* object, QEvent* event) {
     if (object == canvas() && (event->type() == QEvent::MouseMove || event->type() == QEvent::Leave)) {
-        mouse.reset();
-        if (event->type() == QEvent::MouseMove)
-            mouse = static_cast<QMouseEvent*>(event)->pos();
-        pointAgain();
+        point(event->type() == QEvent::MouseMove ? std::optional<QPoint>(static_cast<QMouseEvent*>(event)->pos())
+                                                 : std::nullopt,
+              false);
     }
     return QwtPlot::eventFilter(object, event);
 }
@@ -311,4 +363,40 @@ bool AreaPlot::eventFilter(QObject* object, QEvent* event) {
 void AreaPlot::resizeEvent(QResizeEvent* event) {
     QwtPlot::resizeEvent(event);
     Q_EMIT resized();
+}
+
+void AreaPlot::keyPressEvent(QKeyEvent* event) {
+    const QRect room = canvas()->contentsRect();
+    const bool isFine = (event->modifiers() & Qt::ShiftModifier) != 0; // a pixel
+    const int step = isFine ? 1 : std::max(1, room.width() / keySteps);
+    QPoint way;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        way.rx() = -step;
+        break;
+    case Qt::Key_Right:
+        way.rx() = step;
+        break;
+    case Qt::Key_Up:
+        way.ry() = -step;
+        break;
+    case Qt::Key_Down:
+        way.ry() = step;
+        break;
+    default:
+        QwtPlot::keyPressEvent(event);
+        return;
+    }
+    const QPoint to = mouse.value_or(room.center()) + way;
+    point(QPoint(qBound(room.left(), to.x(), room.right()), qBound(room.top(), to.y(), room.bottom())), true);
+}
+
+void AreaPlot::focusInEvent(QFocusEvent* event) {
+    QwtPlot::focusInEvent(event);
+    point(canvas()->contentsRect().center(), true);
+}
+
+void AreaPlot::focusOutEvent(QFocusEvent* event) {
+    QwtPlot::focusOutEvent(event);
+    point(std::nullopt, false);
 }

@@ -13,7 +13,8 @@ class QwtPlotSpectrogram;
 
 /// The picture of values over an area of a system's grid: a coloured map with labelled contours, axes in kilometres or
 /// thousands of feet, the central meridian, standard parallels, origin, checked point and an outline. White is 0, blue
-/// below it, red above.
+/// below it, red above. Where the mouse points, the arrow keys lead to as well; a screen reader is told in words what
+/// there is to see.
 class AreaPlot : public QwtPlot {
     Q_OBJECT
 
@@ -44,8 +45,11 @@ public:
     /// No picture and no scales.
     void clear();
 
+    /// What is under the mouse or the arrow keys' mark, in words.
+    void describePlace(const QString& text);
+
 Q_SIGNALS:
-    /// The mouse is over this place of the grid (metres), or the map under it has changed.
+    /// The mouse, or the arrow keys' mark, is over this place of the grid (metres), or the map under it has changed.
     void pointed(double easting, double northing);
     void left();
 
@@ -55,12 +59,17 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void setUpAxes();
     void showTitles(const QString& unit);
     void enableAxes(bool enable);
+    void point(const std::optional<QPoint>& pixel, bool byKeys);
     void pointAgain();
+    void describe(const AreaValues& values, const GridArea& area, const QString& unit);
     void showLabels(const QList<double>& levels);
     void setColours(const AreaValues& values, double noise);
     void addLabel(double level, const QPointF& place);
@@ -73,6 +82,8 @@ private:
     QwtPlotMarker* originMarker;
     QwtPlotMarker* checkedMarker;
     QwtPlotCurve* areaOutline;
-    std::optional<QPoint> mouse; ///< over the canvas
+    QwtPlotMarker* keyMark;      ///< where the arrow keys have led
+    std::optional<QPoint> mouse; ///< over the canvas, or the mark
+    QString summary;             ///< of the map, in words
     QVector<QwtPlotMarker*> labels;
 };

@@ -3,6 +3,7 @@
 #include "catalogue/Dictionary.h"
 #include "catalogue/ICoordSysGroup.h"
 #include "catalogue/ICoordSystem.h"
+#include "panel/field/Colours.h"
 #include "panel/field/RowTable.h"
 #include "panel/record/PanelText.h"
 
@@ -38,6 +39,7 @@ CatalogueDialog::CatalogueDialog(ICoordSystem& catalogue, QWidget* parent)
     setWindowTitle(PanelText::tr("From catalogue"));
     searchEdit->setClearButtonEnabled(true);
     searchEdit->setPlaceholderText(PanelText::tr("Words of the group or of the name"));
+    Colours::setReadablePlaceholder(searchEdit);
     searchEdit->setAccessibleName(PanelText::tr("Search"));
     systems->setHorizontalHeaderLabels({PanelText::tr("Group"), PanelText::tr("Name")});
     listSystems();

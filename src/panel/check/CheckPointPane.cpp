@@ -8,6 +8,7 @@
 #include "panel/field/ChoiceBox.h"
 #include "panel/field/CopyButton.h"
 #include "panel/field/MessageLine.h"
+#include "panel/field/ResultLabel.h"
 #include "panel/record/LengthUnit.h"
 #include "panel/record/PanelText.h"
 #include "platform/projection/IProjectionModule.h"
@@ -116,9 +117,10 @@ void CheckPointPane::addResults(QGridLayout* grid) {
                                                     PanelText::tr("Closing error")};
     for (std::size_t i = 0; i < ResultCount; ++i) {
         labels[i] = new QLabel(names[i]);
-        results[i] = new QLabel;
+        results[i] = new ResultLabel(names[i]);
         results[i]->setWordWrap(true);
-        results[i]->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        results[i]->setFocusPolicy(Qt::StrongFocus);
+        labels[i]->setBuddy(results[i]);
         grid->addWidget(labels[i], 8 + int(i), 0, Qt::AlignTop);
         grid->addWidget(results[i], 8 + int(i), 1, 1, 3);
     }
@@ -245,6 +247,7 @@ void CheckPointPane::showResults() {
     // Chosen all the same, it gives no result.
     qobject_cast<QStandardItemModel*>(datumBox->model())->item(int(CheckPoint::Datum::Wgs84))->setEnabled(isShiftKnown);
     labels[OtherDatum]->setText(ownShown ? PanelText::tr("On WGS 84") : PanelText::tr("On the own datum"));
+    results[OtherDatum]->setAccessibleName(labels[OtherDatum]->text());
     copyButton->setEnabled(point.has_value());
     for (QLabel* result : results)
         result->setText(QStringLiteral("–"));

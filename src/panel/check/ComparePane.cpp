@@ -4,6 +4,7 @@
 #include "panel/check/AreaPlot.h"
 #include "panel/computing/ShownSystem.h"
 #include "panel/field/MessageLine.h"
+#include "panel/field/ResultLabel.h"
 #include "panel/field/SystemNameLine.h"
 #include "panel/record/LengthUnit.h"
 #include "panel/record/PanelText.h"
@@ -117,9 +118,8 @@ void ComparePane::addResults(QGridLayout* grid) {
         name->setToolTip(explained[std::size_t(row)]);
         grid->addWidget(name, row + 1, 0);
         for (int column = 0; column < ColumnCount; ++column) {
-            auto* result = new QLabel(QStringLiteral("–"));
-            result->setTextInteractionFlags(Qt::TextSelectableByMouse);
-            result->setAccessibleName(names[std::size_t(row)] + ", " + headings[std::size_t(column)]);
+            auto* result = new ResultLabel(names[std::size_t(row)] + ", " + headings[std::size_t(column)]);
+            result->setText(QStringLiteral("–"));
             result->setAlignment(Qt::AlignRight);
             grid->addWidget(result, row + 1, column + 1);
             results[std::size_t(row)][std::size_t(column)] = result;
@@ -259,8 +259,13 @@ void ComparePane::showLengths(Row row, const std::array<double, ColumnCount>& me
 void ComparePane::_onPointed(double easting, double northing) {
     const auto compared = difference();
     showOffset(Mouse, compared ? compared->atGrid({easting, northing}) : std::nullopt);
+    QStringList texts;
+    for (const QLabel* result : results[Mouse])
+        texts << result->accessibleName() + ": " + result->text();
+    plot->describePlace(texts.join(", "));
 }
 
 void ComparePane::_onLeft() {
     showOffset(Mouse, std::nullopt);
+    plot->describePlace(QString());
 }

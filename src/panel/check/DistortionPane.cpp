@@ -5,13 +5,13 @@
 #include "panel/check/DesignBox.h"
 #include "panel/computing/ShownSystem.h"
 #include "panel/field/CheckField.h"
+#include "panel/field/NumberBox.h"
 #include "panel/record/LengthUnit.h"
 #include "panel/record/PanelText.h"
 #include "platform/projection/IProjectionModule.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QSpinBox>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -31,10 +31,11 @@ bool isSamePlace(const GeographicPoint& left, const GeographicPoint& right) {
 DistortionPane::DistortionPane(bool readOnly, QWidget* parent)
     : QWidget(parent)
     , areaBox(new AreaBox)
-    , heightBox(new QSpinBox)
+    , heightBox(new NumberBox)
     , plot(new AreaPlot(PanelText::tr("Picture of the linear distortion")))
     , readout(new QLabel)
     , design(new DesignBox(readOnly)) {
+    heightBox->setDecimals(0);
     heightBox->setRange(-1000, 9000);
     heightBox->setSingleStep(50);
     heightBox->setSuffix(" m");
@@ -56,7 +57,7 @@ DistortionPane::DistortionPane(bool readOnly, QWidget* parent)
     layout->addWidget(readout);
     layout->addWidget(design);
     connect(areaBox, SIGNAL(areaChanged()), this, SLOT(_onSettingsChanged()));
-    connect(heightBox, SIGNAL(valueChanged(int)), this, SLOT(_onSettingsChanged()));
+    connect(heightBox, SIGNAL(valueChanged(double)), this, SLOT(_onSettingsChanged()));
     connect(plot, SIGNAL(pointed(double, double)), this, SLOT(_onPointed(double, double)));
     connect(plot, SIGNAL(left()), this, SLOT(_onLeft()));
     connect(plot, SIGNAL(resized()), this, SLOT(_onPlotResized()));
@@ -137,9 +138,9 @@ void DistortionPane::showUnits() {
     const QSignalBlocker blocker(heightBox);
     const double height = meanHeight();
     shownUnit = LengthUnit::metres();
-    heightBox->setRange(int(std::round(-1000.0 / shownUnit)), int(std::round(9000.0 / shownUnit)));
+    heightBox->setRange(std::round(-1000.0 / shownUnit), std::round(9000.0 / shownUnit));
     heightBox->setSuffix(' ' + LengthUnit::symbol());
-    heightBox->setValue(int(std::round(height / shownUnit)));
+    heightBox->setValue(std::round(height / shownUnit));
     _onSettingsChanged();
 }
 
@@ -188,10 +189,12 @@ void DistortionPane::_onPointed(double easting, double northing) {
             .arg(isMetric ? easting / 1000.0 : easting / LengthUnit::metres(), 0, 'f', isMetric ? 3 : 0)
             .arg(isMetric ? northing / 1000.0 : northing / LengthUnit::metres(), 0, 'f', isMetric ? 3 : 0)
             .arg(isMetric ? QStringLiteral("km") : LengthUnit::symbol()));
+    plot->describePlace(readout->text());
 }
 
 void DistortionPane::_onLeft() {
     readout->setText(PanelText::tr("Point at the map for the distortion there.") + '\n');
+    plot->describePlace(QString());
 }
 
 /// The area stays where it is on the ground, though what it is around may move.

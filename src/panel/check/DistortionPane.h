@@ -9,8 +9,8 @@
 class AreaBox;
 class AreaPlot;
 class DesignBox;
+class NumberBox;
 class QLabel;
-class QSpinBox;
 class ShownSystem;
 
 /// The linear distortion of the system over an area at a mean height: the picture, the value under the mouse, and the
@@ -59,7 +59,7 @@ private:
     std::optional<DesignProposal> designProposal;
 
     AreaBox* areaBox;
-    QSpinBox* heightBox;
+    NumberBox* heightBox;
     double shownUnit = 1.0; ///< metres in one of the height's
     AreaPlot* plot;
     QLabel* readout;

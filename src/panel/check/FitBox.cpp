@@ -4,7 +4,8 @@
 #include "catalogue/Dictionary.h"
 #include "panel/computing/DesignProposal.h"
 #include "panel/computing/ShownSystem.h"
-#include "panel/field/MessageLine.h"
+#include "panel/field/Colours.h"
+#include "panel/field/ResultLabel.h"
 #include "panel/record/LengthUnit.h"
 #include "panel/record/NumberText.h"
 #include "panel/record/PanelText.h"
@@ -69,11 +70,11 @@ QString misfitText(const QVector<GridPoint>& residuals) {
 FitBox::FitBox(bool readOnly, QWidget* parent)
     : QWidget(parent)
     , readOnly(readOnly)
-    , misfitBefore(new QLabel)
-    , misfitAfter(new QLabel)
-    , problemLabel(new QLabel)
-    , remainderLabel(new QLabel)
-    , diagnosisLabel(new QLabel)
+    , misfitBefore(new ResultLabel(PanelText::tr("Misfit before")))
+    , misfitAfter(new ResultLabel(PanelText::tr("Misfit after")))
+    , problemLabel(new ResultLabel(PanelText::tr("Problem")))
+    , remainderLabel(new ResultLabel(PanelText::tr("Remainder")))
+    , diagnosisLabel(new ResultLabel(PanelText::tr("Diagnosis")))
     , acceptButton(new QPushButton(PanelText::tr("Take over"))) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -101,15 +102,6 @@ FitBox::FitBox(bool readOnly, QWidget* parent)
     grid->addWidget(misfitBefore, row, 1, Qt::AlignRight);
     grid->addWidget(misfitAfter, row, 2);
     misfitAfter->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    misfitBefore->setAccessibleName(PanelText::tr("Misfit before"));
-    misfitAfter->setAccessibleName(PanelText::tr("Misfit after"));
-    problemLabel->setAccessibleName(PanelText::tr("Problem"));
-    remainderLabel->setAccessibleName(PanelText::tr("Remainder"));
-    diagnosisLabel->setAccessibleName(PanelText::tr("Diagnosis"));
-    QPalette colours = palette();
-    colours.setColor(QPalette::WindowText, MessageLine::textColor(*this, MessageLine::Tone::Warning));
-    for (QLabel* label : {problemLabel, diagnosisLabel})
-        label->setPalette(colours);
     auto* texts = new QVBoxLayout;
     for (QLabel* label : {problemLabel, remainderLabel, diagnosisLabel}) {
         label->setWordWrap(true);
@@ -124,7 +116,7 @@ FitBox::FitBox(bool readOnly, QWidget* parent)
 
 void FitBox::buildRow(QGridLayout* grid, Value value, const QString& title) {
     Row& row = values[value];
-    row = {new QCheckBox(title), new QLabel, new QLabel};
+    row = {new QCheckBox(title), new ResultLabel, new ResultLabel};
     row.box->setChecked(true);
     row.after->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     grid->addWidget(row.box, value + 1, 0);
@@ -155,6 +147,10 @@ std::vector<GridPoint> FitBox::residuals(std::size_t rows) const {
 }
 
 void FitBox::showFit() {
+    QPalette colours;
+    colours.setColor(QPalette::WindowText, Colours::warning(colours));
+    for (QLabel* label : {problemLabel, diagnosisLabel})
+        label->setPalette(colours);
     const bool isSystem = system && system->projection();
     setEnabled(isSystem);
     result = isSystem ? FitToPoints::solve(system->record(), *projectionModule(), points,
@@ -198,6 +194,7 @@ void FitBox::showValues() {
             widget->setVisible(field != nullptr);
         if (!field)
             continue;
+        row.before->setAccessibleName(PanelText::tr("%1 before").arg(row.box->text()));
         row.after->setAccessibleName(PanelText::tr("%1 after").arg(row.box->text()));
         row.before->setText(valueText(*field, dictionary_number(record, field->key, 0.0)));
         setText(row.after, QString());

@@ -61,6 +61,7 @@ PointColumnsDialog::PointColumnsDialog(const QByteArray& head, QWidget* parent)
     settings->addWidget(commaBox);
     settings->addWidget(headingBox);
     settings->addStretch();
+    table->setAccessibleName(PanelText::tr("First lines"));
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionMode(QAbstractItemView::NoSelection);
     table->setFocusPolicy(Qt::NoFocus);

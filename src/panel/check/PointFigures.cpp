@@ -1,6 +1,7 @@
 #include "panel/check/PointFigures.h"
 
 #include "panel/computing/PointStatistics.h"
+#include "panel/field/ResultLabel.h"
 #include "panel/record/LengthUnit.h"
 #include "panel/record/PanelText.h"
 
@@ -19,9 +20,7 @@ PointFigures::PointFigures(QWidget* parent) : QWidget(parent), counts(new QLabel
     for (int line = 0; line < LineCount; ++line) {
         grid->addWidget(new QLabel(lines[line]), line + 1, 0);
         for (int column = 0; column < ColumnCount; ++column) {
-            auto* label = new QLabel;
-            label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-            label->setAccessibleName(lines[line] + ' ' + columns[column]);
+            auto* label = new ResultLabel(lines[line] + ' ' + columns[column]);
             grid->addWidget(label, line + 1, column + 1, Qt::AlignRight);
             figures[std::size_t(line)][std::size_t(column)] = label;
         }

@@ -1,6 +1,7 @@
 #include "panel/check/PointsModel.h"
 
 #include "panel/computing/PointLayout.h"
+#include "panel/field/Colours.h"
 #include "panel/record/AngleText.h"
 #include "panel/record/LengthUnit.h"
 #include "panel/record/PanelText.h"
@@ -8,6 +9,7 @@
 #include <QApplication>
 #include <QColor>
 #include <QFont>
+#include <QPalette>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -51,7 +53,7 @@ std::optional<double> typedNumber(const QString& text, PointColumn column, QStri
     double value = 0.0;
     if (column == PointColumn::Latitude || column == PointColumn::Longitude) {
         const AngleInput input =
-            AngleText::parse(text, column == PointColumn::Latitude ? AngleRole::Latitude : AngleRole::Longitude);
+            AngleText::parseTyped(text, column == PointColumn::Latitude ? AngleRole::Latitude : AngleRole::Longitude);
         *reason = input.reason;
         value = input.degrees;
     } else if (!LengthUnit::parse(text, &value)) {
@@ -173,6 +175,11 @@ bool PointsModel::isBeyond(std::size_t row) const {
     return std::hypot(difference.easting, difference.northing) > toleranceMetres;
 }
 
+/// Whether it is a figure that is beyond the tolerance.
+bool PointsModel::isOff(std::size_t row, Column column) const {
+    return column >= DifferenceEast && column <= Distance && table.isUsed(row) && isBeyond(row);
+}
+
 QString PointsModel::text(std::size_t row, Column column) const {
     const GridPoint difference = table.difference(row);
     switch (column) {
@@ -223,21 +230,21 @@ QVariant PointsModel::data(const QModelIndex& index, int role) const {
     case Qt::CheckStateRole:
         return column == Name ? QVariant(table.isUsed(row) ? Qt::Checked : Qt::Unchecked) : QVariant();
     case Qt::FontRole:
-        if (isComputed(row, column)) {
-            QFont slanted = QApplication::font();
-            slanted.setItalic(true);
-            return slanted;
+        if (isComputed(row, column) || isOff(row, column)) {
+            QFont font = QApplication::font();
+            font.setItalic(isComputed(row, column));
+            font.setBold(isOff(row, column));
+            return font;
         }
         return {};
     case Qt::BackgroundRole:
-        return table.hasProblem(row) ? QVariant(QColor(0xb2, 0x18, 0x2b, 45)) : QVariant();
+        return table.hasProblem(row) ? QVariant(Colours::refused(QApplication::palette())) : QVariant();
     case Qt::ForegroundRole:
         if (column == Remark && table.hasProblem(row))
-            return QColor(0xb2182b);
+            return Colours::error(QApplication::palette());
         if (!table.isUsed(row))
-            return QColor(Qt::gray);
-        return column >= DifferenceEast && column <= Distance && isBeyond(row) ? QVariant(QColor(0xb2182b))
-                                                                               : QVariant();
+            return Colours::hint(QApplication::palette());
+        return isOff(row, column) ? QVariant(Colours::error(QApplication::palette())) : QVariant();
     default:
         return {};
     }

@@ -93,6 +93,7 @@ private:
     void remember(Step&& step);
     bool isComputed(std::size_t row, Column column) const;
     bool isBeyond(std::size_t row) const;
+    bool isOff(std::size_t row, Column column) const;
     QString text(std::size_t row, Column column) const;
     bool setText(std::size_t row, Column column, const QString& typed);
     std::size_t writableRow(int row);

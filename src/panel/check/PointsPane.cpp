@@ -15,13 +15,13 @@
 #include "panel/computing/ShownSystem.h"
 #include "panel/field/ChoiceBox.h"
 #include "panel/field/MessageLine.h"
+#include "panel/field/NumberBox.h"
 #include "panel/record/LengthUnit.h"
 #include "panel/record/PanelText.h"
 #include "platform/desktop/VornMessageBox.h"
 
 #include <QBuffer>
 #include <QClipboard>
-#include <QDoubleSpinBox>
 #include <QFile>
 #include <QFileDialog>
 #include <QGridLayout>
@@ -67,7 +67,7 @@ PointsPane::PointsPane(bool readOnly, QWidget* parent)
     , table(new QTableView)
     , plot(new PointsPlot)
     , datumBox(new ChoiceBox)
-    , toleranceBox(new QDoubleSpinBox)
+    , toleranceBox(new NumberBox)
     , figures(new PointFigures)
     , readout(new QLabel)
     , message(new MessageLine)
@@ -102,6 +102,7 @@ PointsPane::PointsPane(bool readOnly, QWidget* parent)
     splitter->setStretchFactor(1, 2);
     auto* working = new QHBoxLayout;
     progress->setRange(0, 1000);
+    progress->setAccessibleName(PanelText::tr("Progress"));
     working->addWidget(progress, 1);
     working->addWidget(cancelButton);
     readout->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);

@@ -1,5 +1,6 @@
 #include "panel/check/PointsPlot.h"
 
+#include "panel/field/Colours.h"
 #include "panel/record/LengthUnit.h"
 #include "panel/record/PanelText.h"
 
@@ -21,9 +22,6 @@ namespace {
 constexpr int pixelsPerCell = 4;     ///< of points in one cell, one is drawn
 constexpr double vectorShare = 0.15; ///< of the canvas that the longest vector of a sound point takes
 constexpr int reach = 8;             ///< pixels around a point that count as it
-const QColor sound(0x21, 0x66, 0xac);
-const QColor beyond(0xb2, 0x18, 0x2b);
-const QColor leftOut(0x99, 0x99, 0x99);
 
 class PlainScaleDraw : public QwtScaleDraw {
 public:
@@ -83,7 +81,7 @@ void ResidualItem::draw(QPainter* painter, const QwtScaleMap& xMap, const QwtSca
     const double pixelsPerMetre = xMap.pDist() / xMap.sDist() / LengthUnit::metres();
     for (const PointsPlot::Mark& mark : marks) {
         const QPointF at = pixel(mark.place, xMap, yMap);
-        const QColor colour = !mark.isUsed ? leftOut : mark.isBeyond ? beyond : sound;
+        const QColor colour = !mark.isUsed ? Colours::leftOut : mark.isBeyond ? Colours::beyond : Colours::sound;
         if (factor > 0.0 && !std::isnan(mark.difference.easting)) {
             painter->setPen(QPen(colour, 1.5));
             const double scale = pixelsPerMetre * factor;
@@ -91,9 +89,13 @@ void ResidualItem::draw(QPainter* painter, const QwtScaleMap& xMap, const QwtSca
             const double shrink = std::min(1.0, 5000.0 / (length(mark.difference) * scale + 1e-300));
             painter->drawLine(at, at + scale * shrink * QPointF(mark.difference.easting, -mark.difference.northing));
         }
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(colour);
-        painter->drawEllipse(at, 2.5, 2.5);
+        painter->setPen(mark.isUsed ? QPen(Qt::NoPen) : QPen(colour, 1.0));
+        painter->setBrush(mark.isUsed ? QBrush(colour) : QBrush(Qt::NoBrush));
+        // A shape for each colour.
+        if (mark.isUsed && mark.isBeyond)
+            painter->drawRect(QRectF(at - QPointF(3.0, 3.0), QSizeF(6.0, 6.0)));
+        else
+            painter->drawEllipse(at, 2.5, 2.5);
     }
     if (selected) {
         painter->setBrush(Qt::NoBrush);
@@ -229,12 +231,36 @@ void PointsPlot::finish() {
         setAxisTitle(axis, small);
     }
     replot();
+    describe();
     // The axes' numbers may need another width than before. Once more is enough: two shapes could make each other
     // needed.
     updateLayout();
     isSecond = !isSecond && !cells.empty() && canvas()->contentsRect().size() != size;
     if (isSecond)
         QMetaObject::invokeMethod(this, "resized", Qt::QueuedConnection);
+}
+
+/// What is seen at a glance, for who does not see it.
+void PointsPlot::describe() {
+    if (item->marks.isEmpty()) {
+        setAccessibleDescription(PanelText::tr("The picture is empty."));
+        return;
+    }
+    const auto count = [this](auto condition) {
+        return QString::number(std::count_if(item->marks.begin(), item->marks.end(), condition));
+    };
+    const auto text = [](double number) { return QString::number(number, 'f', 0); };
+    QStringList sentences{
+        PanelText::tr("Points drawn: %1, beyond the tolerance: %2, left out: %3.")
+            .arg(count([](const Mark&) { return true; }), count([](const Mark& mark) { return mark.isBeyond; }),
+                 count([](const Mark& mark) { return !mark.isUsed; })),
+        PanelText::tr("The picture: easting %1 to %2, northing %3 to %4, in %5.")
+            .arg(text(axisInterval(xBottom).minValue()), text(axisInterval(xBottom).maxValue()),
+                 text(axisInterval(yLeft).minValue()), text(axisInterval(yLeft).maxValue()), LengthUnit::symbol())};
+    if (item->factor > 0.0)
+        sentences << PanelText::tr("Largest difference: %1 %2; differences are drawn %3.")
+                         .arg(LengthUnit::text(longest), LengthUnit::symbol(), factorText(item->factor));
+    setAccessibleDescription(sentences.join(' '));
 }
 
 void PointsPlot::setSelected(const GridPoint& place) {

@@ -10,8 +10,8 @@
 class ResidualItem;
 
 /// The picture of a table of points: where they lie on the grid, with the vector from each given place towards the
-/// computed one, made longer by a round factor that a scale bar tells. Points beyond the tolerance are red, those left
-/// out grey. Of points closer together than a few pixels only the one that is off most is drawn, so that a million cost
+/// computed one, made longer by a round factor that a scale bar tells. Points beyond the tolerance are red
+/// squares, those left out grey rings. Of points closer together than a few pixels only the one that is off most is drawn, so that a million cost
 /// no more than some thousands.
 class PointsPlot : public QwtPlot {
     Q_OBJECT
@@ -61,6 +61,7 @@ protected:
 
 private:
     int rowAt(const QPoint& pixel) const;
+    void describe();
 
     ResidualItem* item;
     bool isSecond = false; ///< the next picture is drawn for a canvas that the one before has changed

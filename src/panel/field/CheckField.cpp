@@ -112,5 +112,6 @@ void CheckField::restore() {
 void CheckField::setError(const QString& reason) {
     edit->setMarked(!reason.isEmpty());
     edit->setToolTip(reason);
+    edit->setAccessibleDescription(reason);
     message->setMessage(reason, MessageLine::Tone::Error);
 }

@@ -7,8 +7,8 @@ class CopyButton : public QPushButton {
     Q_OBJECT
 
 public:
-    /// `text` is what stands on the button.
-    explicit CopyButton(const QString& text, QWidget* parent = nullptr);
+    /// `text` is what stands on the button; `name` says what it copies, where the text does not.
+    explicit CopyButton(const QString& text, const QString& name = QString(), QWidget* parent = nullptr);
 
     /// Puts `copied` on the clipboard.
     void copy(const QString& copied);

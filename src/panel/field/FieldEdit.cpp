@@ -1,17 +1,19 @@
 #include "panel/field/FieldEdit.h"
 
+#include "panel/field/Colours.h"
+
 #include <QKeyEvent>
 
 FieldEdit::FieldEdit(QWidget* parent) : QLineEdit(parent) {
     constexpr int frame = 24;
+    showColours();
     setFixedWidth(fontMetrics().horizontalAdvance("-179°59'59.12345678\"") + frame);
 }
 
 void FieldEdit::setShownOnly() {
     setReadOnly(true);
-    QPalette colors;
-    colors.setColor(QPalette::Base, colors.color(QPalette::Window));
-    setPalette(colors);
+    shownOnly = true;
+    showColours();
 }
 
 void FieldEdit::setWide() {
@@ -23,14 +25,19 @@ void FieldEdit::setMarked(bool mark) {
     if (mark == marked)
         return;
     marked = mark;
-    QPalette colors;
-    if (mark) {
-        const bool dark = colors.color(QPalette::Base).lightness() < 128;
-        const QColor red = dark ? QColor(0x5a, 0x1e, 0x22) : QColor(0xff, 0xe3, 0xe3);
+    showColours();
+}
+
+void FieldEdit::showColours() {
+    QPalette colours; // the application's as it is now
+    if (shownOnly)
+        colours.setColor(QPalette::Base, colours.color(QPalette::Window));
+    if (marked) {
         for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
-            colors.setColor(group, QPalette::Base, red);
+            colours.setColor(group, QPalette::Base, Colours::refused(colours));
     }
-    setPalette(colors);
+    colours.setColor(QPalette::PlaceholderText, Colours::hint(colours));
+    setPalette(colours);
 }
 
 bool FieldEdit::event(QEvent* event) {
@@ -39,6 +46,8 @@ bool FieldEdit::event(QEvent* event) {
         event->accept();
         return true;
     }
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        showColours();
     return QLineEdit::event(event);
 }
 

@@ -37,5 +37,8 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void showColours();
+
     bool marked = false;
+    bool shownOnly = false;
 };

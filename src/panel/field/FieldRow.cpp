@@ -3,6 +3,7 @@
 #include "panel/field/FieldEdit.h"
 #include "panel/field/MessageLine.h"
 #include "panel/record/CoordParamEditor.h"
+#include "panel/record/NumberText.h"
 #include "panel/record/PanelText.h"
 #include "panel/record/ParamField.h"
 
@@ -58,7 +59,11 @@ void FieldRow::showValue() {
 
 /// What is wrong with the value that the record holds.
 QString FieldRow::recordError() const {
-    return shownField->isSound(editor.record()) ? QString() : shownField->parse(valueText).reason;
+    if (shownField->isSound(editor.record()))
+        return QString();
+    const QString reason = shownField->parse(valueText).reason;
+    // A comma that is understood where it is typed is no decimal mark of a record.
+    return reason.isEmpty() ? shownField->rangeText() + ' ' + NumberText::refusal(valueText) : reason;
 }
 
 void FieldRow::setWarning(const QString& text) {

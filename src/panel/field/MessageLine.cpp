@@ -1,5 +1,7 @@
 #include "panel/field/MessageLine.h"
 
+#include "panel/field/Colours.h"
+
 #include <QPainter>
 #include <QPalette>
 #include <QStyle>
@@ -22,16 +24,10 @@ void MessageLine::setMessage(const QString& text, Tone tone) {
 }
 
 QColor MessageLine::textColor(const QWidget& widget, Tone tone) {
-    const bool dark = widget.palette().color(QPalette::Window).lightness() < 128;
-    switch (tone) {
-    case Tone::Error:
-        return dark ? QColor(0xff, 0x8a, 0x80) : QColor(0xb0, 0x00, 0x20);
-    case Tone::Warning:
-        return dark ? QColor(0xff, 0xc0, 0x4d) : QColor(0x8a, 0x55, 0x00);
-    case Tone::Hint:
-        break;
-    }
-    return dark ? QColor(0xb0, 0xb0, 0xb0) : QColor(0x60, 0x60, 0x60);
+    const QPalette& palette = widget.palette();
+    return tone == Tone::Error     ? Colours::error(palette)
+           : tone == Tone::Warning ? Colours::warning(palette)
+                                   : Colours::hint(palette);
 }
 
 QSize MessageLine::sizeHint() const {

@@ -94,6 +94,12 @@ AngleInput AngleText::parse(const QString& text, AngleRole role) {
     return parseUnified(unified(text), role);
 }
 
+AngleInput AngleText::parseTyped(const QString& text, AngleRole role) {
+    static const QRegularExpression within("(?<=[0-9]),(?! )|(?<![0-9 ]),(?=[0-9])");
+    const bool isDecimal = text.count(',') == 1 && !text.contains('.');
+    return parse(isDecimal ? QString(text).replace(within, ".") : text, role);
+}
+
 QString AngleText::format(double degrees, AngleNotation notation) {
     // Beyond a few turns it is no angle, and its units would not fit the integer below.
     if (!(std::fabs(degrees) < 1e4))

@@ -17,7 +17,7 @@ bool LengthUnit::parse(const QString& text, double* metres) {
     if (number.endsWith(symbol(), Qt::CaseInsensitive))
         number.chop(symbol().size());
     double value = 0.0;
-    if (!NumberText::parse(number, &value, &plain))
+    if (!NumberText::parseTyped(number, &value, &plain))
         return false;
     *metres = value * LengthUnit::metres();
     return true;

@@ -25,7 +25,7 @@ public:
     static double metres() { return metres(chosenUnit); }
     static QString symbol() { return symbol(chosenUnit); }
 
-    /// Reads a number as NumberText::parse() does, in the chosen unit, whose symbol may follow; gives metres. False
+    /// Reads a number as NumberText::parseTyped() does, in the chosen unit, whose symbol may follow; gives metres. False
     /// for any other text, also one with another unit; `metres` is untouched then.
     static bool parse(const QString& text, double* metres);
 

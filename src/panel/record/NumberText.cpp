@@ -21,11 +21,46 @@ QString withoutGroups(const QString& text) {
     return comma.match(text).hasMatch() ? QString(text).remove(',') : text;
 }
 
+/// Whether its comma could part thousands as well as decimals.
+bool isAmbiguous(const QString& text) {
+    static const QRegularExpression form("^[+-]?[1-9][0-9]{0,2},[0-9]{3}(?:[eE][+-]?[0-9]+)?$");
+    return form.match(text).hasMatch();
+}
+
+/// With a decimal point in place of a decimal comma; unchanged where there is none.
+QString withDecimalPoint(const QString& text) {
+    static const QRegularExpression form(
+        "^(?<whole>[+-]?(?:[0-9]*|[0-9]{1,3}(?<mark>[ .'\\x{00A0}\\x{2007}\\x{2009}\\x{202F}\\x{2019}])[0-9]{3}"
+        "(?:\\k<mark>[0-9]{3})*)),(?<rest>[0-9]*(?:[eE][+-]?[0-9]+)?)$");
+    const QRegularExpressionMatch match = form.match(text);
+    if (!match.hasMatch() || isAmbiguous(text))
+        return text;
+    QString whole = match.captured("whole");
+    if (!match.captured("mark").isEmpty())
+        whole.remove(match.captured("mark"));
+    return whole + '.' + match.captured("rest");
+}
+
+/// With a minus sign that C++ knows, too.
+QString trimmed(const QString& text) {
+    return text.trimmed().replace(QChar(0x2212), '-');
+}
+
 } // namespace
+
+bool NumberText::parseTyped(const QString& text, double* number, QString* plain) {
+    return parse(withDecimalPoint(trimmed(text)), number, plain);
+}
+
+QString NumberText::refusal(const QString& text) {
+    if (isAmbiguous(trimmed(text)))
+        return tr("This comma could part thousands: use a decimal point.");
+    return text.contains(',') ? tr("Use a decimal point, not a comma.") : tr("Only digits and a decimal point.");
+}
 
 bool NumberText::parse(const QString& text, double* number, QString* plain) {
     static const QRegularExpression form("^[+-]?([0-9]+\\.?[0-9]*|\\.[0-9]+)([eE][+-]?[0-9]+)?$");
-    QString candidate = withoutGroups(text.trimmed().replace(QChar(0x2212), '-')); // the typographic minus sign
+    QString candidate = withoutGroups(trimmed(text));
     bool isNumber = form.match(candidate).hasMatch();
     const double value = isNumber ? candidate.toDouble(&isNumber) : 0.0;
     if (!isNumber || !std::isfinite(value))

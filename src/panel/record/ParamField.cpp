@@ -89,17 +89,16 @@ FieldInput ParamField::parse(const QString& text) const {
     }
     QString plain;
     if (isAngle()) {
-        const AngleInput angle = AngleText::parse(text, role(quantity));
+        const AngleInput angle = AngleText::parseTyped(text, role(quantity));
         input.valid = angle.valid;
         input.value = angle.degrees;
         input.reason = angle.reason;
         plain = angle.decimal;
     } else {
-        input.valid =
-            NumberText::parse(withoutUnit(text, unitText(AngleNotation::DecimalDegrees)), &input.value, &plain);
+        const QString number = withoutUnit(text, unitText(AngleNotation::DecimalDegrees));
+        input.valid = NumberText::parseTyped(number, &input.value, &plain);
         if (!input.valid)
-            input.reason =
-                text.contains(',') ? tr("Use a decimal point, not a comma.") : tr("Only digits and a decimal point.");
+            input.reason = NumberText::refusal(number);
     }
     if (input.valid && !accepts(input.value))
         input.valid = false;

@@ -1,5 +1,6 @@
 #include "panel/registry/FoundSystemsModel.h"
 
+#include "panel/field/Colours.h"
 #include "panel/record/LengthUnit.h"
 #include "panel/record/PanelText.h"
 #include "panel/registry/RegistryModel.h"
@@ -102,7 +103,7 @@ QVariant FoundSystemsModel::data(const QModelIndex& index, int role) const {
     }
     case Qt::ForegroundRole:
         if (!reason(shown).isEmpty() || (index.column() == Distance && shown.isSame))
-            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+            return Colours::hint(QGuiApplication::palette());
         return {};
     default:
         return {};

@@ -55,10 +55,9 @@ QString otherCodes(const std::vector<RegistryMatch>& matches) {
 
 } // namespace
 
-IdentityLine::IdentityLine(QWidget* parent) : QLabel(parent), timer(new QTimer(this)) {
-    setAccessibleName(PanelText::tr("In the registry"));
+IdentityLine::IdentityLine(QWidget* parent)
+    : ResultLabel(PanelText::tr("In the registry"), parent), timer(new QTimer(this)) {
     setTextFormat(Qt::PlainText);
-    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setFocusPolicy(Qt::StrongFocus);
     setWordWrap(true);
     setAlignment(Qt::AlignTop | Qt::AlignLeft);
@@ -85,13 +84,13 @@ void IdentityLine::identify(const IDictionary& record, const QByteArray& definit
 }
 
 void IdentityLine::showEvent(QShowEvent* event) {
-    QLabel::showEvent(event);
+    ResultLabel::showEvent(event);
     timer->start(0);
 }
 
 void IdentityLine::hideEvent(QHideEvent* event) {
     timer->stop();
-    QLabel::hideEvent(event);
+    ResultLabel::hideEvent(event);
 }
 
 void IdentityLine::_onTimeout() {
@@ -167,7 +166,6 @@ void IdentityLine::showResult() {
     setToolTip(systems.isEmpty() ? QString()
                                  : "<p>" + text().toHtmlEscaped() + "</p><p>" +
                                        systems.join('\n').toHtmlEscaped().replace('\n', "<br>") + "</p>");
-    setAccessibleDescription(text());
     Q_EMIT identified();
 }
 

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "panel/computing/Identification.h"
-
-#include <QLabel>
+#include "panel/field/ResultLabel.h"
 
 #include <memory>
 
@@ -12,7 +11,7 @@ struct ProjectionFields;
 
 /// Says which system of the EPSG registry the record is, or like which one but for what. It computes while it is
 /// visible and nothing else is to be done, some milliseconds at a time.
-class IdentityLine : public QLabel {
+class IdentityLine : public ResultLabel {
     Q_OBJECT
 
 public:

@@ -1,5 +1,6 @@
 #include "panel/registry/NameSearch.h"
 
+#include "panel/field/Colours.h"
 #include "panel/field/FieldEdit.h"
 #include "panel/field/MessageLine.h"
 #include "panel/field/RowTable.h"
@@ -22,11 +23,12 @@ namespace {
 /// The angle of `edit`, which is marked when its text is none; nothing for an empty text.
 std::optional<double> angle(FieldEdit* edit, AngleRole role, double limit, QString* reason) {
     const QString text = edit->text().trimmed();
-    const AngleInput input = text.isEmpty() ? AngleInput() : AngleText::parse(text, role);
+    const AngleInput input = text.isEmpty() ? AngleInput() : AngleText::parseTyped(text, role);
     const bool valid = input.valid && std::abs(input.degrees) <= limit;
     edit->setMarked(!text.isEmpty() && !valid);
     if (!text.isEmpty() && !valid)
         *reason = input.valid ? PanelText::tr("Allowed: %1 to %2.").arg(-limit).arg(limit) : input.reason;
+    edit->setAccessibleDescription(edit->isMarked() ? *reason : QString());
     return valid ? std::optional<double>(input.degrees) : std::nullopt;
 }
 
@@ -44,6 +46,7 @@ void NameSearch::buildSearch(QVBoxLayout* layout) {
     searchEdit = new QLineEdit;
     searchEdit->setClearButtonEnabled(true);
     searchEdit->setPlaceholderText(PanelText::tr("EPSG code, words of the name or of the area"));
+    Colours::setReadablePlaceholder(searchEdit);
     searchEdit->setAccessibleName(PanelText::tr("Search"));
     latitudeEdit = new FieldEdit;
     longitudeEdit = new FieldEdit;
@@ -73,6 +76,7 @@ void NameSearch::buildSearch(QVBoxLayout* layout) {
 
 void NameSearch::buildTable(QVBoxLayout* layout) {
     table = rowTable(model);
+    table->setAccessibleName(PanelText::tr("Systems"));
     QHeaderView* const header = table->horizontalHeader();
     header->resizeSection(RegistryModel::Code, table->fontMetrics().horizontalAdvance("000000") + 16);
     header->resizeSection(RegistryModel::Name, 300);

@@ -76,6 +76,7 @@ void PlaceSearch::buildPlaces(QVBoxLayout* layout) {
 
 void PlaceSearch::buildResults(QVBoxLayout* layout) {
     table = rowTable(*model);
+    table->setAccessibleName(PanelText::tr("Systems"));
     QHeaderView* const header = table->horizontalHeader();
     const int digit = table->fontMetrics().horizontalAdvance('0');
     header->resizeSection(FoundSystemsModel::Distance, 10 * digit);

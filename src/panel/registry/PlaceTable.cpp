@@ -151,6 +151,8 @@ void PlaceTable::_onEdited() {
 }
 
 bool PlaceTable::paste(const QString& text, int row, int column) {
+    if (fieldOf(column).parse(text).valid)
+        return false; // one figure, though commas or blanks are in it
     const QVector<QStringList> pasted = rowsOf(text);
     if (pasted.isEmpty() || (pasted.size() == 1 && pasted.first().size() == 1))
         return false;

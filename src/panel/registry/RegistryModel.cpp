@@ -1,6 +1,7 @@
 #include "panel/registry/RegistryModel.h"
 
 #include "import/WktToCoordParam.h"
+#include "panel/field/Colours.h"
 #include "panel/record/PanelText.h"
 #include "panel/record/WithheldText.h"
 
@@ -90,7 +91,7 @@ QVariant RegistryModel::data(const QModelIndex& index, int role) const {
     }
     case Qt::ForegroundRole:
         if (!reason(shown).isEmpty())
-            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+            return Colours::hint(QGuiApplication::palette());
         return {};
     default:
         return {};

@@ -94,6 +94,7 @@ void SaveGroupDialog::buildTable(QBoxLayout* layout) {
     messageLine = new MessageLine;
     progressBar = new QProgressBar;
     progressBar->setRange(0, wholeBar);
+    progressBar->setAccessibleName(PanelText::tr("Progress"));
     summaryText = new QPlainTextEdit;
     summaryText->setAccessibleName(PanelText::tr("Summary"));
     summaryText->setReadOnly(true);

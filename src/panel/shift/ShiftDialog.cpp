@@ -1,7 +1,8 @@
 #include "panel/shift/ShiftDialog.h"
 
 #include "panel/field/ChoiceBox.h"
-#include "panel/field/MessageLine.h"
+#include "panel/field/Colours.h"
+#include "panel/field/ResultLabel.h"
 #include "panel/record/DatumFields.h"
 #include "panel/record/NumberText.h"
 #include "panel/record/PanelText.h"
@@ -119,17 +120,13 @@ void ShiftDialog::buildResult(QVBoxLayout* layout) {
     for (int i = 0; i < int(values.size()); ++i) {
         auto* label = new QLabel(fields[std::size_t(i)].labelText());
         QLabel*& value = values[std::size_t(i)];
-        value = new QLabel;
-        value->setAccessibleName(label->text());
-        value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        value = new ResultLabel(label->text());
         value->setMinimumWidth(value->fontMetrics().horizontalAdvance("-0000.00000 ± 000.00000 ppm"));
         grid->addWidget(label, i, 0);
         grid->addWidget(value, i, 1);
     }
-    summaryLabel = new QLabel;
-    summaryLabel->setAccessibleName(PanelText::tr("Summary"));
-    adviceLabel = new QLabel;
-    adviceLabel->setAccessibleName(PanelText::tr("Advice"));
+    summaryLabel = new ResultLabel(PanelText::tr("Summary"));
+    adviceLabel = new ResultLabel(PanelText::tr("Advice"));
     auto* texts = new QVBoxLayout;
     for (QLabel* label : {summaryLabel, adviceLabel}) {
         label->setWordWrap(true);
@@ -172,8 +169,8 @@ void ShiftDialog::showResult() {
     }
     summaryLabel->setText(summary());
     adviceLabel->setText(isSolved ? solution.advice() : solution.problem());
-    QPalette colours = palette();
-    colours.setColor(QPalette::WindowText, MessageLine::textColor(*this, MessageLine::Tone::Warning));
+    QPalette colours;
+    colours.setColor(QPalette::WindowText, Colours::warning(colours));
     adviceLabel->setPalette(colours);
     buttons->button(QDialogButtonBox::Ok)->setEnabled(isSolved);
 }

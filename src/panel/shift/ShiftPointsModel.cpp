@@ -2,12 +2,15 @@
 
 #include "panel/computing/PointLayout.h"
 #include "panel/computing/ShownSystem.h"
+#include "panel/field/Colours.h"
 #include "panel/record/AngleText.h"
 #include "panel/record/DatumFields.h"
 #include "panel/record/NumberText.h"
 #include "panel/record/PanelText.h"
 
-#include <QColor>
+#include <QApplication>
+#include <QFont>
+#include <QPalette>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -43,15 +46,14 @@ std::optional<EllipsoidAxes> ellipsoid(const IDictionary& record) {
 std::optional<double> number(const QString& text, QString* reason) {
     double value;
     QString plain;
-    if (NumberText::parse(text, &value, &plain))
+    if (NumberText::parseTyped(text, &value, &plain))
         return value;
-    *reason = text.contains(',') ? PanelText::tr("Use a decimal point, not a comma.")
-                                 : PanelText::tr("Only digits and a decimal point.");
+    *reason = NumberText::refusal(text);
     return std::nullopt;
 }
 
 std::optional<double> angle(const QString& text, AngleRole role, QString* reason) {
-    const AngleInput input = AngleText::parse(text, role);
+    const AngleInput input = AngleText::parseTyped(text, role);
     const double limit = role == AngleRole::Latitude ? 90.0 : 360.0;
     if (input.valid && std::abs(input.degrees) <= limit)
         return input.degrees;
@@ -291,6 +293,7 @@ QVariant ShiftPointsModel::data(const QModelIndex& index, int role) const {
     const Row& row = rows[index.row()];
     const int column = index.column();
     const bool isTyped = column < typedColumns;
+    const bool isWrong = isTyped ? !row.reasons[std::size_t(column)].isEmpty() : row.isOutlier && column > Before;
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
@@ -304,9 +307,16 @@ QVariant ShiftPointsModel::data(const QModelIndex& index, int role) const {
     case Qt::TextAlignmentRole:
         return int(Qt::AlignVCenter | (column == Name ? Qt::AlignLeft : Qt::AlignRight));
     case Qt::ForegroundRole:
-        if (isTyped ? !row.reasons[std::size_t(column)].isEmpty() : row.isOutlier && column > Before)
-            return QColor(0xb2182b);
-        return row.isUsed ? QVariant() : QColor(Qt::gray);
+        if (isWrong)
+            return Colours::error(QApplication::palette());
+        return row.isUsed ? QVariant() : Colours::hint(QApplication::palette());
+    case Qt::FontRole:
+        if (isWrong) {
+            QFont bold = QApplication::font();
+            bold.setBold(true);
+            return bold;
+        }
+        return QVariant();
     case Qt::ToolTipRole:
         return isTyped         ? row.reasons[std::size_t(column)]
                : row.isOutlier ? PanelText::tr("The other points speak against this one: check it, or leave it out.")

@@ -54,6 +54,27 @@ private Q_SLOTS:
         QVERIFY(!input.reason.isEmpty());
     }
 
+    void readsTyped_data() {
+        const Rows<double> row({"degrees"}); // 1000: refused
+        row("117,5", 117.5);
+        row("45,500", 45.5);
+        row(",5", 0.5);
+        row("-7 30,5", -(7 + 30.5 / 60));
+        row("117°30'00,5\"", 117 + 1800.5 / 3600);
+        row("S 45 30,5", -(45 + 30.5 / 60));
+        row("7.5", 7.5);
+        for (const char* typed : {"52.1,13.2", "52, 13", "52 ,13", "52,13,10", "52,5 13", ","})
+            row(typed, 1000);
+    }
+
+    void readsTyped() {
+        QFETCH(double, degrees);
+        const AngleInput input = AngleText::parseTyped(QString::fromUtf8(QTest::currentDataTag()), AngleRole::Latitude);
+        QCOMPARE(input.valid, degrees < 1000);
+        QVERIFY(!input.valid || qAbs(input.degrees - degrees) <= 1e-13);
+        QCOMPARE(input.reason.isEmpty(), input.valid);
+    }
+
     void formats_data() {
         const Rows<double, QString, QString> row({"degrees", "decimal", "expected"});
         row("half", 117.5, "117.5", "117°30'00\"");

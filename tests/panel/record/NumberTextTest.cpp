@@ -41,6 +41,37 @@ private Q_SLOTS:
         QCOMPARE(plain, stored);
         QCOMPARE(number, stored.toDouble());
     }
+
+    void readsTyped_data() {
+        // stored: empty: refused
+        const Rows<QString> row({"stored"});
+        row("500,5", "500.5");
+        row("-45,5", "-45.5");
+        row("0,999", "0.999");
+        row("500000,123", "500000.123");
+        row("1.234,567", "1234.567");
+        row("1.234.567,8", "1234567.8");
+        row("651 409,903", "651409.903");
+        row("1'000,5", "1000.5");
+        row("45,", "45.");
+        row(",5", ".5");
+        row("1,5e3", "1.5e3");
+        row("1,000,000", "1000000");
+        row("1,000.5", "1000.5");
+        row("45.500", "45.500");
+        for (const char* typed : {"45,500", "1,000", "500,000", "-7,125", "7,125e3", "1,5,0", "1.5,5", "12.34,5", ",", "1 5,5"})
+            row(typed, "");
+    }
+
+    void readsTyped() {
+        QFETCH(QString, stored);
+        const QString typed = QString::fromUtf8(QTest::currentDataTag());
+        double number = 0;
+        QString plain;
+        QCOMPARE(NumberText::parseTyped(typed, &number, &plain), !stored.isEmpty());
+        QCOMPARE(plain, stored);
+        QCOMPARE(number, stored.toDouble());
+    }
 };
 
 ROOM_TEST(NumberTextTest)

@@ -1,0 +1,238 @@
+#pragma once
+
+#include "app/VornCoordSysMainWindow.h"
+#include "catalogue/CatalogueRecordKey.h"
+#include "catalogue/DictionaryGuard.h"
+#include "catalogue/ICoordSystem.h"
+#include "catalogue/Sdk.h"
+#include "platform/desktop/VornMessageBox.h"
+#include "support/ModalDriver.h"
+#include "tree/DlgCoordSysGroups.h"
+#include "tree/ImportProgress.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <functional>
+#include <memory>
+
+/// Leads through the whole tool: every tab, page and dialog is opened as a user opens it, filled with something to see,
+/// and looked at.
+class Tour {
+public:
+    /// `page` is what the user would call it; `root` is all of it that is to be looked at.
+    using Look = std::function<void(const QString& page, QWidget& root)>;
+
+    explicit Tour(const Look& look) : look(look) {}
+
+    void go() {
+        addOwnEntries();
+        window = std::make_unique<VornCoordSysMainWindow>(nullptr);
+        tree = window->findChild<DlgCoordSysGroups*>();
+        tree->setAnimated(false);
+        window->resize(1000, 700);
+        window->show();
+        QApplication::setActiveWindow(window.get());
+        choose("Amersfoort / RD New");
+        tabs();
+        checks();
+        panelDialogs();
+        treeDialogs();
+        messages();
+        window.reset();
+    }
+
+private:
+    // What the user does
+
+    void settle(int milliseconds = 30) const {
+        QTest::qWait(milliseconds);
+        QApplication::setActiveWindow(window.get());
+    }
+
+    /// Of the window, or of a dialog in front of it.
+    template <typename Widget> QList<Widget*> all(const QWidget* root) const {
+        QList<Widget*> visible;
+        for (Widget* widget : root->findChildren<Widget*>()) {
+            if (widget->isVisible())
+                visible << widget;
+        }
+        return visible;
+    }
+
+    QAbstractButton* button(const QString& text, const QWidget* root = nullptr) const {
+        for (QAbstractButton* each : all<QAbstractButton>(root ? root : window.get())) {
+            if (each->text().remove('&') == text)
+                return each;
+        }
+        qFatal("No button %s", qPrintable(text));
+    }
+
+    template <typename Widget> Widget* named(const QString& name, const QWidget* root = nullptr) const {
+        for (Widget* each : all<Widget>(root ? root : window.get())) {
+            const QAccessibleInterface* const seen = QAccessible::queryAccessibleInterface(each);
+            if (each->accessibleName() == name || seen->text(QAccessible::Name) == name)
+                return each;
+        }
+        qFatal("Nothing is named %s", qPrintable(name));
+    }
+
+    void turnTo(const QString& tab, const QWidget* root = nullptr) const {
+        for (QTabBar* bar : all<QTabBar>(root ? root : window.get())) {
+            for (int i = 0; i < bar->count(); ++i) {
+                if (bar->tabText(i) == tab) {
+                    bar->setCurrentIndex(i);
+                    return settle();
+                }
+            }
+        }
+        qFatal("No tab %s", qPrintable(tab));
+    }
+
+    void choose(const QString& system) const {
+        const auto items = tree->findItems(system, Qt::MatchExactly | Qt::MatchRecursive);
+        QVERIFY2(!items.isEmpty(), qPrintable(system));
+        tree->setCurrentItem(items.first());
+        Q_EMIT tree->itemClicked(items.first(), 0);
+        settle();
+    }
+
+    void type(const QString& name, const QString& text, const QWidget* root = nullptr) const {
+        auto* edit = named<QLineEdit>(name, root);
+        edit->setFocus();
+        edit->selectAll();
+        QTest::keyClicks(edit, text);
+        settle();
+    }
+
+    /// What opens is looked at and left again.
+    void dialog(const QString& page, const std::function<void()>& open,
+                const std::function<void(QDialog*)>& act = [](QDialog*) {}) {
+        bool isSeen = false;
+        ModalDriver::onNextDialog([&](QDialog* opened) {
+            QTest::qWait(30);
+            look(page, *opened);
+            isSeen = true;
+            act(opened);
+            opened->done(QDialog::Rejected);
+        });
+        open();
+        QVERIFY2(isSeen, qPrintable(page));
+        settle();
+    }
+
+    void dialog(const QString& page, const QString& opener,
+                const std::function<void(QDialog*)>& act = [](QDialog*) {}) {
+        dialog(
+            page, [&] { button(opener)->click(); }, act);
+    }
+
+    void command(const QString& entry) const {
+        for (QAction* action : tree->findChildren<QAction*>()) {
+            if (action->text() == entry)
+                return action->trigger();
+        }
+        qFatal("No command %s", qPrintable(entry));
+    }
+
+    // Where it leads
+
+    void addOwnEntries() {
+        ICoordSystem* const catalogue = get_instance_ICoordSystem("", 0);
+        const auto add = [&](bool (ICoordSystem::*function)(const IDictionary*), std::initializer_list<const char*> texts) {
+            const DictionaryGuard record;
+            for (auto text = texts.begin(); text != texts.end(); text += 2)
+                record->setText(text[0], text[1]);
+            (catalogue->*function)(record.get());
+        };
+        Q_UNUSED(add)
+    }
+
+    void tabs() {
+        for (const char* tab : {"Ellipsoid", "Projection", "Datum shift", "Height", "Definition"}) {
+            turnTo(tab);
+            if (QByteArray(tab) == "Definition")
+                settle(1500);
+            look(tab, *window);
+        }
+        turnTo("Projection");
+        type("Scale factor", "2x");
+        look("Projection, refused", *window);
+        type("Scale factor", "1.5");
+        look("Projection, warned", *window);
+        button("Back to the values before")->click();
+        turnTo("Datum shift");
+    }
+
+    void checks() {
+        turnTo("Check");
+        look("Check, Point", *window);
+        turnTo("Distortion");
+        look("Check, Distortion", *window);
+        turnTo("Points");
+        look("Check, Points, none", *window);
+        QApplication::clipboard()->setText("Point;x;y;Latitude;Longitude;Height\n"
+                                           "Texel;117380.1200;575040.3400;53.160753042;4.824761912;42.8614\n"
+                                           "Amersfoort;155000.0000;463000.0000;52.155172897;5.387203657;43.2551\n"
+                                           "Zeeuws;16460.9100;377308.2300;51.368607152;3.397588595;47.4024\n"
+                                           "Zeeuws;16470.9100;377480.2300;91.368607152;3.397588595;47.4024\n"
+                                           "Zuid-Limburg;182260.4500;311480.6700;50.792584916;5.773795548;245.9478\n");
+        dialog("Columns", "Paste", [](QDialog* columns) { columns->accept(); });
+        settle(100);
+        look("Check, Points", *window);
+        button("Fit")->click();
+        settle(100);
+        look("Check, Points, Fit", *window);
+        button("Fit")->click();
+        turnTo("Compare");
+        dialog("From catalogue", "From catalogue...", [](QDialog* catalogue) { catalogue->accept(); });
+        settle(100);
+        look("Check, Compare", *window);
+    }
+
+    void panelDialogs() {
+        turnTo("Datum shift");
+        dialog("Shift from points", "From points...");
+        turnTo("Definition");
+        dialog("From registry, by name", "From registry...", [this](QDialog* registry) {
+            turnTo("From coordinates", registry);
+            type("Latitude of point 1", "52.2", registry);
+            type("Longitude of point 1", "5.4", registry);
+            type("First coordinate of point 1", "155000", registry);
+            type("Second coordinate of point 1", "463000", registry);
+            QTest::qWait(3000);
+            look("From registry, from coordinates", *registry);
+        });
+        dialog("From text", "From text...");
+        dialog("Save group", "Save group...");
+    }
+
+    void treeDialogs() {
+        dialog("Name of a group", [this] { command("AddSysGroup"); });
+        dialog("Ellipsoids", [this] { command("Edit Ellipsoid"); }, [this](QDialog* list) {
+            dialog("New ellipsoid", [&] { button("Add", list)->click(); });
+        });
+        dialog("Geoids", [this] { command("AddGeoid"); }, [this](QDialog* list) {
+            dialog("New geoid", [&] { button("Add", list)->click(); });
+        });
+        ImportProgress progress(window.get(), 10);
+        for (int i = 0; i < 3; ++i)
+            progress.showMessage([] {});
+        progress.beginFile("somewhere/system.prj");
+        QTest::qWait(30);
+        auto* shown = window->findChild<QProgressDialog*>();
+        QVERIFY(shown && shown->isVisible());
+        look("Import progress", *shown);
+    }
+
+    void messages() {
+        const auto first = tree->findItems("Amersfoort / RD New", Qt::MatchExactly | Qt::MatchRecursive).first();
+        tree->setCurrentItem(first);
+        dialog("Question", [this] { command("DelSys"); });
+        dialog("Notice", [this] { VornMessageBox::information_ok(window.get(), "information", "please input valid content!"); });
+    }
+
+    Look look;
+    std::unique_ptr<VornCoordSysMainWindow> window;
+    DlgCoordSysGroups* tree = nullptr;
+};
