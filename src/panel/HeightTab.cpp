@@ -14,19 +14,25 @@
 #include <QLabel>
 
 HeightTab::HeightTab(ICoordSystem* coordSystem, CoordParamEditor& editor, bool readOnly, QWidget* parent)
-    : ParamTab(editor, readOnly, parent)
-    , coordSystem(coordSystem)
-    , geoidBox(new SearchBox)
-    , message(new MessageLine)
-    , file(new QLabel)
-    , fileMessage(new MessageLine)
-    , ellipsoid(new QLabel) {
+    : ParamTab(editor, readOnly, parent), coordSystem(coordSystem) {
+}
+
+QString HeightTab::title() const {
+    return PanelText::tr("Height");
+}
+
+void HeightTab::build() {
+    geoidBox = new SearchBox;
+    message = new MessageLine;
+    file = new QLabel;
+    fileMessage = new MessageLine;
+    ellipsoid = new QLabel;
     auto* grid = new QGridLayout(this);
     grid->setVerticalSpacing(3);
     auto* label = new QLabel(PanelText::tr("Geoid model"));
     label->setBuddy(geoidBox);
     geoidBox->setAccessibleName(label->text());
-    geoidBox->setReadOnly(readOnly);
+    geoidBox->setReadOnly(isReadOnly());
     grid->addWidget(label, 0, 0);
     grid->addWidget(geoidBox, 0, 1);
     message->setField(geoidBox);
@@ -44,10 +50,6 @@ HeightTab::HeightTab(ICoordSystem* coordSystem, CoordParamEditor& editor, bool r
 
     connect(geoidBox, SIGNAL(listNeeded()), this, SLOT(_onListNeeded()));
     connect(geoidBox, SIGNAL(chosen(QString)), this, SLOT(_onChosen(QString)));
-}
-
-QString HeightTab::title() const {
-    return PanelText::tr("Height");
 }
 
 void HeightTab::showRecord() {
