@@ -2339,6 +2339,58 @@ E %4 %6  N %5 %6</source>
         <source>Up, mm</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Smallest value: %1 %2 at easting %3, northing %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest value: %1 %2 at easting %3, northing %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture: easting %1 to %2, northing %3 to %4, in %5.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The arrow keys move a mark over it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points drawn: %1, beyond the tolerance: %2, left out: %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest difference: %1 %2; differences are drawn %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the PROJ definition</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the WKT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This comma could part thousands: use a decimal point.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DlgCoordSysGroups</name>
