@@ -5,723 +5,726 @@
     <name>DlgCoordParam</name>
     <message>
         <source>Origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Ursprung</translation>
     </message>
     <message>
         <source>Standard parallels</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardparallelen</translation>
     </message>
     <message>
         <source>Checked point</source>
-        <translation type="unfinished"></translation>
+        <translation>Geprüfter Punkt</translation>
     </message>
     <message>
         <source>Designed area</source>
-        <translation type="unfinished"></translation>
+        <translation>Entwurfsgebiet</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Gebiet</translation>
     </message>
     <message>
         <source>What the map is around.</source>
-        <translation type="unfinished"></translation>
+        <translation>Worum die Karte liegt.</translation>
     </message>
     <message>
         <source>Width of the area</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite des Gebiets</translation>
     </message>
     <message>
         <source>Side of the square area; the map shows all of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite des quadratischen Gebiets; die Karte zeigt es ganz.</translation>
     </message>
     <message>
         <source>Central meridian</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittelmeridian</translation>
     </message>
     <message>
         <source>Standard parallel</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardparallele</translation>
     </message>
     <message>
         <source>Outline of the area</source>
-        <translation type="unfinished"></translation>
+        <translation>Umriss des Gebiets</translation>
     </message>
     <message>
         <source>Easting, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostwert, %1</translation>
     </message>
     <message>
         <source>Northing, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nordwert, %1</translation>
     </message>
     <message>
         <source>From catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Katalog</translation>
     </message>
     <message>
         <source>Words of the group or of the name</source>
-        <translation type="unfinished"></translation>
+        <translation>Wörter der Gruppe oder des Namens</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Systems</source>
-        <translation type="unfinished"></translation>
+        <translation>Systeme</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleichen</translation>
     </message>
     <message>
         <source>%1, in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, in %2</translation>
     </message>
     <message>
         <source>Latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite</translation>
     </message>
     <message>
         <source>Longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge</translation>
     </message>
     <message>
         <source>Ellipsoidal height</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipsoidische Höhe</translation>
     </message>
     <message>
         <source>along the meridian %1
 along the parallel %2</source>
-        <translation type="unfinished"></translation>
+        <translation>entlang des Meridians %1
+entlang des Parallelkreises %2</translation>
     </message>
     <message>
         <source>Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Text kopieren</translation>
     </message>
     <message>
         <source>The system&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>Das des Systems</translation>
     </message>
     <message>
         <source>WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84</translation>
     </message>
     <message>
         <source>Datum</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Easting</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostwert</translation>
     </message>
     <message>
         <source>Northing</source>
-        <translation type="unfinished"></translation>
+        <translation>Nordwert</translation>
     </message>
     <message>
         <source>Grid scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektionsmaßstab</translation>
     </message>
     <message>
         <source>Convergence</source>
-        <translation type="unfinished"></translation>
+        <translation>Meridiankonvergenz</translation>
     </message>
     <message>
         <source>Combined factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Kombinierter Faktor</translation>
     </message>
     <message>
         <source>Closing error</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlussfehler</translation>
     </message>
     <message>
         <source>A true azimuth is the grid bearing plus the convergence. Where the projection is not conformal, this holds along the meridian only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das wahre Azimut ist der Richtungswinkel im Gitter plus die Meridiankonvergenz. Wo die Projektion nicht konform ist, gilt das nur entlang des Meridians.</translation>
     </message>
     <message>
         <source>Grid scale factor times R / (R + height): from a distance at that height to the grid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektionsmaßstab mal R / (R + Höhe): von einer Strecke in dieser Höhe ins Gitter.</translation>
     </message>
     <message>
         <source>How far the point is off when it is computed there and back: through the projection, and through the datum shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>Um wie viel der Punkt nach Hin- und Rückrechnung abweicht: durch die Projektion und durch den Datumsübergang.</translation>
     </message>
     <message>
         <source>the same: the system&apos;s datum is WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>gleich: das Datum des Systems ist WGS 84</translation>
     </message>
     <message>
         <source>unknown: the system defines no datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekannt: das System definiert keinen Datumsübergang</translation>
     </message>
     <message>
         <source>The registry&apos;s shifts move this point by %1 m.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datumsübergänge des Registers versetzen diesen Punkt um %1 m.</translation>
     </message>
     <message>
         <source>The registry&apos;s shifts move this point by %1 to %2 m.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datumsübergänge des Registers versetzen diesen Punkt um %1 bis %2 m.</translation>
     </message>
     <message>
         <source>On WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>In WGS 84</translation>
     </message>
     <message>
         <source>On the own datum</source>
-        <translation type="unfinished"></translation>
+        <translation>Im eigenen Datum</translation>
     </message>
     <message>
         <source>The projection gives no result for this point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Projektion liefert für diesen Punkt kein Ergebnis.</translation>
     </message>
     <message>
         <source>along the meridian %1
 in other directions off by up to %2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>entlang des Meridians %1
+in anderen Richtungen bis zu %2&quot; Abweichung</translation>
     </message>
     <message>
         <source>%1, datum shift %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Datumsübergang %2</translation>
     </message>
     <message>
         <source>The projection is not reliable here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Projektion ist hier nicht zuverlässig.</translation>
     </message>
     <message>
         <source>The datum shift is not reliable here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datumsübergang ist hier nicht zuverlässig.</translation>
     </message>
     <message>
         <source>Lengths of points in international feet (ft, 0.3048 m); the system&apos;s parameters in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Längenmaße der Punkte in internationalen Fuß (ft, 0.3048 m); die Parameter des Systems in Metern.</translation>
     </message>
     <message>
         <source>Lengths of points in US survey feet (ftUS, 1200/3937 m); the system&apos;s parameters in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Längenmaße der Punkte in US-Vermessungsfuß (ftUS, 1200/3937 m); die Parameter des Systems in Metern.</translation>
     </message>
     <message>
         <source>Lengths in metres (m).</source>
-        <translation type="unfinished"></translation>
+        <translation>Längenmaße in Metern (m).</translation>
     </message>
     <message>
         <source>Check of a coordinate system against control points</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfung eines Koordinatensystems an Passpunkten</translation>
     </message>
     <message>
         <source>No point in use has both pairs of coordinates: nothing could be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein verwendeter Punkt hat beide Koordinatenpaare: nichts zu vergleichen.</translation>
     </message>
     <message numerus="yes">
         <source>All %n compared point(s) are within the tolerance of %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Der verglichene Punkt liegt innerhalb der Toleranz von %1.</numerusform>
+            <numerusform>Alle %n verglichenen Punkte liegen innerhalb der Toleranz von %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n of %1 compared points are beyond the tolerance of %2.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n von %1 verglichenen Punkten liegt außerhalb der Toleranz von %2.</numerusform>
+            <numerusform>%n von %1 verglichenen Punkten liegen außerhalb der Toleranz von %2.</numerusform>
         </translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis</translation>
     </message>
     <message>
         <source>Computed minus given</source>
-        <translation type="unfinished"></translation>
+        <translation>Berechnet minus gegeben</translation>
     </message>
     <message>
         <source>mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittel</translation>
     </message>
     <message>
         <source>RMS</source>
-        <translation type="unfinished"></translation>
+        <translation>RMS</translation>
     </message>
     <message>
         <source>largest</source>
-        <translation type="unfinished"></translation>
+        <translation>größte</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand</translation>
     </message>
     <message numerus="yes">
         <source>point(s) in the list</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Punkt in der Liste</numerusform>
+            <numerusform>Punkte in der Liste</numerusform>
         </translation>
     </message>
     <message>
         <source>compared: in use, with both pairs of coordinates</source>
-        <translation type="unfinished"></translation>
+        <translation>verglichen: verwendet und mit beiden Koordinatenpaaren</translation>
     </message>
     <message>
         <source>of these beyond the tolerance, the farthest first</source>
-        <translation type="unfinished"></translation>
+        <translation>davon außerhalb der Toleranz, die größte Abweichung zuerst</translation>
     </message>
     <message>
         <source>with both pairs left out of the figures by hand</source>
-        <translation type="unfinished"></translation>
+        <translation>mit beiden Paaren, von Hand aus der Statistik ausgeschlossen</translation>
     </message>
     <message>
         <source>with one pair only, the other computed</source>
-        <translation type="unfinished"></translation>
+        <translation>mit nur einem Paar, das andere berechnet</translation>
     </message>
     <message>
         <source>not computed, as that was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht berechnet, da abgebrochen</translation>
     </message>
     <message>
         <source>without a result; the list says why</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Ergebnis; die Liste sagt, warum</translation>
     </message>
     <message>
         <source>with a name that another has</source>
-        <translation type="unfinished"></translation>
+        <translation>mit einem mehrfach vergebenen Namen</translation>
     </message>
     <message>
         <source>Latitudes, longitudes and heights of the points are on the system&apos;s own datum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Breiten, Längen und Höhen der Punkte beziehen sich auf das eigene Datum des Systems.</translation>
     </message>
     <message>
         <source>Latitudes, longitudes and heights of the points are on WGS 84, and brought to the system&apos;s datum by its shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>Breiten, Längen und Höhen der Punkte beziehen sich auf WGS 84 und sind durch den Datumsübergang des Systems in dessen Datum überführt.</translation>
     </message>
     <message>
         <source>No. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nr. %1</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>System</translation>
     </message>
     <message>
         <source>Points and residuals</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte und Restklaffungen</translation>
     </message>
     <message>
         <source>Vectors lead from the given place to the computed one, longer than life by the factor beside the scale bar. Red: beyond the tolerance. Grey: left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Vektoren führen vom gegebenen zum berechneten Ort, überhöht um den Faktor neben dem Maßstabsbalken. Rot: außerhalb der Toleranz. Grau: ausgeschlossen.</translation>
     </message>
     <message>
         <source>Linear distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>Streckenverzerrung</translation>
     </message>
     <message>
         <source>On the map: %1 to %2 ppm (mm in a kilometre). Red: longer in the grid than on the ground; blue: shorter. Black rectangle: the area of the points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf der Karte: %1 bis %2 ppm (mm je Kilometer). Rot: im Gitter länger als am Boden; blau: kürzer. Schwarzes Rechteck: das Gebiet der Punkte.</translation>
     </message>
     <message>
         <source>At the points&apos; mean height of %1 above the ellipsoid.</source>
-        <translation type="unfinished"></translation>
+        <translation>In der mittleren Höhe der Punkte von %1 über dem Ellipsoid.</translation>
     </message>
     <message>
         <source>At the height 0, as the points have none: what the projection alone does.</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Höhe 0, da die Punkte keine haben: was die Projektion allein bewirkt.</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte</translation>
     </message>
     <message>
         <source>ΔE, ΔN: computed from latitude and longitude, minus given. *: beyond the tolerance. Slanted: computed from the other pair.</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔE, ΔN: berechnet aus Breite und Länge, minus gegeben. *: außerhalb der Toleranz. Kursiv: aus dem anderen Paar berechnet.</translation>
     </message>
     <message>
         <source>The list has %1 points, too many for a report; here are those that matter most. &quot;Save...&quot; writes all of them as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste hat %1 Punkte, zu viele für einen Bericht; hier stehen die wichtigsten. „Speichern...“ schreibt alle als CSV.</translation>
     </message>
     <message numerus="yes">
         <source>The %n point(s) that are farthest off, of %1 compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Der am weitesten abweichende Punkt von %1 verglichenen</numerusform>
+            <numerusform>Die %n am weitesten abweichenden Punkte von %1 verglichenen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Points left out or without a result: the first %n of %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ausgeschlossene Punkte und Punkte ohne Ergebnis: der erste von %1</numerusform>
+            <numerusform>Ausgeschlossene Punkte und Punkte ohne Ergebnis: die ersten %n von %1</numerusform>
         </translation>
     </message>
     <message>
         <source>No.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nr.</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe</translation>
     </message>
     <message>
         <source>Left out of the figures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus der Statistik ausgeschlossen.</translation>
     </message>
     <message>
         <source>From catalogue...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Katalog...</translation>
     </message>
     <message>
         <source>From registry...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Register...</translation>
     </message>
     <message>
         <source>With datum shifts</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Datumsübergängen</translation>
     </message>
     <message>
         <source>Apart from the mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne das Mittel</translation>
     </message>
     <message>
         <source>Picture of the difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild der Differenz</translation>
     </message>
     <message>
         <source>The same place for both systems: through WGS 84 with both datum shifts, or else the same latitude and longitude.</source>
-        <translation type="unfinished"></translation>
+        <translation>Derselbe Ort für beide Systeme: über WGS 84 mit beiden Datumsübergängen, sonst gleiche Breite und Länge.</translation>
     </message>
     <message>
         <source>The map shows what is left of the difference without its mean over the area, as after another false easting and northing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Karte zeigt, was von der Differenz ohne ihr Mittel über das Gebiet bleibt, wie nach anderen Additionskonstanten.</translation>
     </message>
     <message>
         <source>The difference is easting and northing of the shown system minus those of the other one, at the same place on the ground.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Differenz ist Ost- und Nordwert des gezeigten Systems minus die des anderen, am selben Ort im Gelände.</translation>
     </message>
     <message>
         <source>Choose a system to compare with</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein System zum Vergleichen wählen</translation>
     </message>
     <message>
         <source>ΔE</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔE</translation>
     </message>
     <message>
         <source>ΔN</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔN</translation>
     </message>
     <message>
         <source>At the mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>An der Maus</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittel</translation>
     </message>
     <message>
         <source>Apart from it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne dieses</translation>
     </message>
     <message>
         <source>The point of the page &quot;Point&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Punkt der Seite „Punkt“.</translation>
     </message>
     <message>
         <source>Over the black square.</source>
-        <translation type="unfinished"></translation>
+        <translation>Über das schwarze Quadrat.</translation>
     </message>
     <message>
         <source>What is left of the difference without its mean is no larger in the black square.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was von der Differenz ohne ihr Mittel bleibt, ist im schwarzen Quadrat nicht größer.</translation>
     </message>
     <message>
         <source>minus %1</source>
-        <translation type="unfinished"></translation>
+        <translation>minus %1</translation>
     </message>
     <message>
         <source>Easting and northing of the shown system minus those of %1, as it was when it was chosen, at the same place on the ground.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ost- und Nordwert des gezeigten Systems minus die von %1, wie es bei der Wahl war, am selben Ort im Gelände.</translation>
     </message>
     <message>
         <source>One of the projections gives no result in this area.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine der Projektionen liefert in diesem Gebiet kein Ergebnis.</translation>
     </message>
     <message>
         <source>Neither system defines a datum shift: both count as on WGS 84.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keines der Systeme definiert einen Datumsübergang: beide gelten als in WGS 84.</translation>
     </message>
     <message>
         <source>No datum shift is defined by %1: it counts as on WGS 84.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 definiert keinen Datumsübergang: es gilt als in WGS 84.</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2</translation>
     </message>
     <message>
         <source>Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernehmen</translation>
     </message>
     <message>
         <source>For this area</source>
-        <translation type="unfinished"></translation>
+        <translation>Für dieses Gebiet</translation>
     </message>
     <message>
         <source>For the point</source>
-        <translation type="unfinished"></translation>
+        <translation>Für den Punkt</translation>
     </message>
     <message>
         <source>Least distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinste Verzerrung</translation>
     </message>
     <message>
         <source>Where the largest distortion at that height is to be smallest: in the square on the map, or at the checked point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo die größte Verzerrung in dieser Höhe am kleinsten sein soll: im Quadrat auf der Karte oder am geprüften Punkt.</translation>
     </message>
     <message>
         <source>Design</source>
-        <translation type="unfinished"></translation>
+        <translation>Entwurf</translation>
     </message>
     <message>
         <source>Move the meridian</source>
-        <translation type="unfinished"></translation>
+        <translation>Meridian verschieben</translation>
     </message>
     <message>
         <source>Move the parallel</source>
-        <translation type="unfinished"></translation>
+        <translation>Parallele verschieben</translation>
     </message>
     <message>
         <source>There is nothing to propose here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier gibt es nichts vorzuschlagen.</translation>
     </message>
     <message>
         <source>This system has no scale factor to choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses System hat keinen wählbaren Maßstabsfaktor.</translation>
     </message>
     <message>
         <source>The system is as good as it can be here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das System ist hier so gut wie möglich.</translation>
     </message>
     <message>
         <source>Distortion in ppm: %1 → %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Verzerrung in ppm: %1 → %2</translation>
     </message>
     <message>
         <source>Picture of the linear distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild der Streckenverzerrung</translation>
     </message>
     <message>
         <source>Mean ellipsoidal height of the ground; 0 shows the grid&apos;s own distortion.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittlere ellipsoidische Geländehöhe; 0 zeigt die Verzerrung durch die Projektion allein.</translation>
     </message>
     <message>
         <source>ppm</source>
-        <translation type="unfinished"></translation>
+        <translation>ppm</translation>
     </message>
     <message>
         <source>%1 ppm   %2, %3
 E %4 %6  N %5 %6</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ppm   %2, %3
+E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Point at the map for the distortion there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf die Karte zeigen, um die Verzerrung dort zu sehen.</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Einpassung</translation>
     </message>
     <message>
         <source>What would meet the points best; what is not ticked is held.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was am besten zu den Punkten passen würde; was nicht angehakt ist, bleibt fest.</translation>
     </message>
     <message>
         <source>before</source>
-        <translation type="unfinished"></translation>
+        <translation>vorher</translation>
     </message>
     <message>
         <source>after ± standard deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>nachher ± Standardabweichung</translation>
     </message>
     <message>
         <source>Scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Maßstabsfaktor</translation>
     </message>
     <message>
         <source>False easting</source>
-        <translation type="unfinished"></translation>
+        <translation>Additionskonstante Ost</translation>
     </message>
     <message>
         <source>False northing</source>
-        <translation type="unfinished"></translation>
+        <translation>Additionskonstante Nord</translation>
     </message>
     <message>
         <source>RMS, largest</source>
-        <translation type="unfinished"></translation>
+        <translation>RMS, größte</translation>
     </message>
     <message>
         <source>Misfit before</source>
-        <translation type="unfinished"></translation>
+        <translation>Abweichung vorher</translation>
     </message>
     <message>
         <source>Misfit after</source>
-        <translation type="unfinished"></translation>
+        <translation>Abweichung nachher</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Problem</translation>
     </message>
     <message>
         <source>Remainder</source>
-        <translation type="unfinished"></translation>
+        <translation>Rest</translation>
     </message>
     <message>
         <source>Diagnosis</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagnose</translation>
     </message>
     <message>
         <source>%1 after</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nachher</translation>
     </message>
     <message>
         <source>Against the ground remain a rotation of %1 ± %2%3 and a scale of %4 ± %5 ppm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gegenüber dem Gelände bleiben eine Rotation von %1 ± %2%3 und ein Maßstab von %4 ± %5 ppm.</translation>
     </message>
     <message>
         <source>(not used)</source>
-        <translation type="unfinished"></translation>
+        <translation>(nicht verwendet)</translation>
     </message>
     <message>
         <source>Decimal comma</source>
-        <translation type="unfinished"></translation>
+        <translation>Dezimalkomma</translation>
     </message>
     <message>
         <source>First line is a heading</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Zeile ist Überschrift</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulator</translation>
     </message>
     <message>
         <source>Comma</source>
-        <translation type="unfinished"></translation>
+        <translation>Komma</translation>
     </message>
     <message>
         <source>Semicolon</source>
-        <translation type="unfinished"></translation>
+        <translation>Semikolon</translation>
     </message>
     <message>
         <source>Blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>Leerzeichen</translation>
     </message>
     <message>
         <source>Columns parted by</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten getrennt durch</translation>
     </message>
     <message>
         <source>metres</source>
-        <translation type="unfinished"></translation>
+        <translation>Meter</translation>
     </message>
     <message>
         <source>international feet</source>
-        <translation type="unfinished"></translation>
+        <translation>internationale Fuß</translation>
     </message>
     <message>
         <source>US survey feet</source>
-        <translation type="unfinished"></translation>
+        <translation>US-Vermessungsfuß</translation>
     </message>
     <message>
         <source>Lengths in</source>
-        <translation type="unfinished"></translation>
+        <translation>Längenmaße in</translation>
     </message>
     <message>
         <source>Column %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalte %1</translation>
     </message>
     <message>
         <source>Columns of one kind belong together: degrees, minutes and seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten einer Art gehören zusammen: Grad, Minuten und Sekunden.</translation>
     </message>
     <message>
         <source>Say which columns are latitude and longitude, or easting and northing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Angeben, welche Spalten Breite und Länge oder Ost- und Nordwert sind.</translation>
     </message>
     <message numerus="yes">
         <source>%n point(s), %1 with both pairs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Punkt, %1 mit beiden Paaren</numerusform>
+            <numerusform>%n Punkte, %1 mit beiden Paaren</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n left out</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ausgeschlossen</numerusform>
+            <numerusform>%n ausgeschlossen</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 beyond the tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 außerhalb der Toleranz</translation>
     </message>
     <message>
         <source>%1 without a result</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ohne Ergebnis</translation>
     </message>
     <message>
         <source>%1 with a name that another has</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mit mehrfach vergebenem Namen</translation>
     </message>
     <message>
         <source>Paste, open or type points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte einfügen, öffnen oder eingeben.</translation>
     </message>
     <message>
         <source>Out of range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Außerhalb des Bereichs.</translation>
     </message>
     <message>
         <source>Fitted ΔE</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔE eingepasst</translation>
     </message>
     <message>
         <source>Fitted ΔN</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔN eingepasst</translation>
     </message>
     <message>
         <source>Remark</source>
-        <translation type="unfinished"></translation>
+        <translation>Bemerkung</translation>
     </message>
     <message>
         <source>A point without a check mark is left out of the statistics.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Punkt ohne Häkchen bleibt aus der Statistik ausgeschlossen.</translation>
     </message>
     <message>
         <source>Ellipsoidal height; 0 where there is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipsoidische Höhe; 0, wo keine angegeben ist.</translation>
     </message>
     <message>
         <source>Slanted: computed from the other pair.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kursiv: aus dem anderen Paar berechnet.</translation>
     </message>
     <message>
         <source>What the fit would leave.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was die Einpassung übrig ließe.</translation>
     </message>
     <message>
         <source>Computed from latitude and longitude, minus given.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Breite und Länge berechnet, minus gegeben.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -729,246 +732,246 @@ E %4 %6  N %5 %6</source>
     </message>
     <message>
         <source>Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen...</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfügen</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Save...</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern...</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>Next marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste Markierung</translation>
     </message>
     <message>
         <source>The next point beyond the tolerance, or row with a remark</source>
-        <translation type="unfinished"></translation>
+        <translation>Der nächste Punkt außerhalb der Toleranz oder die nächste Zeile mit Bemerkung</translation>
     </message>
     <message>
         <source>Report...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht...</translation>
     </message>
     <message>
         <source>Writes the check as a document to file with the job.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die Prüfung als Dokument für die Akten des Auftrags.</translation>
     </message>
     <message>
         <source>Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Toleranz</translation>
     </message>
     <message>
         <source>Points that are farther off are marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte, die weiter abweichen, werden markiert.</translation>
     </message>
     <message>
         <source>Own</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenes</translation>
     </message>
     <message>
         <source>Datum of latitude, longitude and height: the system&apos;s own, or WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum von Breite, Länge und Höhe: das des Systems oder WGS 84</translation>
     </message>
     <message>
         <source>Which false origin and scale factor would meet the points best.</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche Additionskonstanten und welcher Maßstabsfaktor am besten zu den Punkten passen würden.</translation>
     </message>
     <message>
         <source>All is written: that can&apos;t be cancelled any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles ist geschrieben: Abbrechen geht nicht mehr.</translation>
     </message>
     <message>
         <source>Cancelled: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgebrochen: %1</translation>
     </message>
     <message>
         <source>Open points</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte öffnen</translation>
     </message>
     <message>
         <source>All files</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien</translation>
     </message>
     <message>
         <source>%1 can&apos;t be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>The clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zwischenablage</translation>
     </message>
     <message>
         <source>%1 has too many points; nothing of it is taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat zu viele Punkte; nichts davon wurde übernommen.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n row(s) read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n Zeile gelesen.</numerusform>
+            <numerusform>%1: %n Zeilen gelesen.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 can&apos;t be read to its end: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht bis zum Ende gelesen werden: %2</translation>
     </message>
     <message>
         <source>Reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen</translation>
     </message>
     <message>
         <source>Computing</source>
-        <translation type="unfinished"></translation>
+        <translation>Berechnen</translation>
     </message>
     <message>
         <source>Comparing names</source>
-        <translation type="unfinished"></translation>
+        <translation>Namen vergleichen</translation>
     </message>
     <message>
         <source>Drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnen</translation>
     </message>
     <message>
         <source>Counting</source>
-        <translation type="unfinished"></translation>
+        <translation>Zählen</translation>
     </message>
     <message>
         <source>Point at the picture for a point&apos;s name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für den Namen eines Punkts auf ihn im Bild zeigen.</translation>
     </message>
     <message>
         <source>Row %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1</translation>
     </message>
     <message>
         <source>Copying</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Only the first %1 rows are copied. Save all as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur die ersten %1 Zeilen sind kopiert. Alle als CSV speichern.</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s) copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Zeile kopiert.</numerusform>
+            <numerusform>%n Zeilen kopiert.</numerusform>
         </translation>
     </message>
     <message>
         <source>CSV as shown</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV wie angezeigt</translation>
     </message>
     <message>
         <source>CSV with all digits</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV mit allen Stellen</translation>
     </message>
     <message>
         <source>Save points</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte speichern</translation>
     </message>
     <message>
         <source>Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n row(s) saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n Zeile gespeichert.</numerusform>
+            <numerusform>%1: %n Zeilen gespeichert.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 can&apos;t be saved: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht gespeichert werden: %2</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht</translation>
     </message>
     <message>
         <source>%1: report saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Bericht gespeichert.</translation>
     </message>
     <message>
         <source>No row is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zeile ist ausgewählt.</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s) deleted; Ctrl+Z undoes that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Zeile gelöscht; Strg+Z macht es rückgängig.</numerusform>
+            <numerusform>%n Zeilen gelöscht; Strg+Z macht es rückgängig.</numerusform>
         </translation>
     </message>
     <message>
         <source>There is nothing to undo.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nichts rückgängig zu machen.</translation>
     </message>
     <message>
         <source>Undone: the points are as they were before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig gemacht: die Punkte sind wie zuvor.</translation>
     </message>
     <message numerus="yes">
         <source>Remove all %n point(s) from the table?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Den %n Punkt aus der Tabelle entfernen?</numerusform>
+            <numerusform>Alle %n Punkte aus der Tabelle entfernen?</numerusform>
         </translation>
     </message>
     <message>
         <source>All points are removed; Ctrl+Z undoes that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Punkte sind entfernt; Strg+Z macht es rückgängig.</translation>
     </message>
     <message>
         <source>All is within the tolerance and without a remark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles ist innerhalb der Toleranz und ohne Bemerkung.</translation>
     </message>
     <message>
         <source>Picture of the points</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild der Punkte</translation>
     </message>
     <message>
         <source>HTML, one file with its pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>HTML, eine Datei samt Bildern</translation>
     </message>
     <message>
         <source>Save report</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht speichern</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1 von %2</translation>
     </message>
     <message>
         <source>no document could be made</source>
-        <translation type="unfinished"></translation>
+        <translation>es konnte kein Dokument erzeugt werden</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfung</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkt</translation>
     </message>
     <message>
         <source>Distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>Verzerrung</translation>
     </message>
     <message>
         <source>Show angles in</source>
@@ -2465,7 +2468,7 @@ E %4 %6  N %5 %6</source>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>please input correct param!</source>

@@ -5,723 +5,726 @@
     <name>DlgCoordParam</name>
     <message>
         <source>Origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Origine</translation>
     </message>
     <message>
         <source>Standard parallels</source>
-        <translation type="unfinished"></translation>
+        <translation>Parallèles standard</translation>
     </message>
     <message>
         <source>Checked point</source>
-        <translation type="unfinished"></translation>
+        <translation>Point contrôlé</translation>
     </message>
     <message>
         <source>Designed area</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone du projet</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone</translation>
     </message>
     <message>
         <source>What the map is around.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qu’entoure la carte.</translation>
     </message>
     <message>
         <source>Width of the area</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur de la zone</translation>
     </message>
     <message>
         <source>Side of the square area; the map shows all of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Côté de la zone carrée ; la carte la montre entière.</translation>
     </message>
     <message>
         <source>Central meridian</source>
-        <translation type="unfinished"></translation>
+        <translation>Méridien central</translation>
     </message>
     <message>
         <source>Standard parallel</source>
-        <translation type="unfinished"></translation>
+        <translation>Parallèle standard</translation>
     </message>
     <message>
         <source>Outline of the area</source>
-        <translation type="unfinished"></translation>
+        <translation>Contour de la zone</translation>
     </message>
     <message>
         <source>Easting, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Est, %1</translation>
     </message>
     <message>
         <source>Northing, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nord, %1</translation>
     </message>
     <message>
         <source>From catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Du catalogue</translation>
     </message>
     <message>
         <source>Words of the group or of the name</source>
-        <translation type="unfinished"></translation>
+        <translation>Mots du groupe ou du nom</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Systems</source>
-        <translation type="unfinished"></translation>
+        <translation>Systèmes</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparer</translation>
     </message>
     <message>
         <source>%1, in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, dans %2</translation>
     </message>
     <message>
         <source>Latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitude</translation>
     </message>
     <message>
         <source>Longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitude</translation>
     </message>
     <message>
         <source>Ellipsoidal height</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur ellipsoïdale</translation>
     </message>
     <message>
         <source>along the meridian %1
 along the parallel %2</source>
-        <translation type="unfinished"></translation>
+        <translation>le long du méridien %1
+le long du parallèle %2</translation>
     </message>
     <message>
         <source>Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier en texte</translation>
     </message>
     <message>
         <source>The system&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>Celui du système</translation>
     </message>
     <message>
         <source>WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84</translation>
     </message>
     <message>
         <source>Datum</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Easting</source>
-        <translation type="unfinished"></translation>
+        <translation>Est</translation>
     </message>
     <message>
         <source>Northing</source>
-        <translation type="unfinished"></translation>
+        <translation>Nord</translation>
     </message>
     <message>
         <source>Grid scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Module linéaire</translation>
     </message>
     <message>
         <source>Convergence</source>
-        <translation type="unfinished"></translation>
+        <translation>Convergence des méridiens</translation>
     </message>
     <message>
         <source>Combined factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Facteur combiné</translation>
     </message>
     <message>
         <source>Closing error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur de fermeture</translation>
     </message>
     <message>
         <source>A true azimuth is the grid bearing plus the convergence. Where the projection is not conformal, this holds along the meridian only.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’azimut géographique est le gisement plus la convergence des méridiens. Là où la projection n’est pas conforme, cela ne vaut que le long du méridien.</translation>
     </message>
     <message>
         <source>Grid scale factor times R / (R + height): from a distance at that height to the grid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Module linéaire fois R / (R + hauteur) : d’une distance à cette hauteur vers le plan de projection.</translation>
     </message>
     <message>
         <source>How far the point is off when it is computed there and back: through the projection, and through the datum shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien le point s’écarte après un calcul aller et retour : par la projection et par le changement de datum.</translation>
     </message>
     <message>
         <source>the same: the system&apos;s datum is WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>le même : le datum du système est WGS 84</translation>
     </message>
     <message>
         <source>unknown: the system defines no datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>inconnu : le système ne définit aucun changement de datum</translation>
     </message>
     <message>
         <source>The registry&apos;s shifts move this point by %1 m.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les changements de datum du registre déplacent ce point de %1 m.</translation>
     </message>
     <message>
         <source>The registry&apos;s shifts move this point by %1 to %2 m.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les changements de datum du registre déplacent ce point de %1 à %2 m.</translation>
     </message>
     <message>
         <source>On WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>En WGS 84</translation>
     </message>
     <message>
         <source>On the own datum</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans le datum propre</translation>
     </message>
     <message>
         <source>The projection gives no result for this point.</source>
-        <translation type="unfinished"></translation>
+        <translation>La projection ne donne aucun résultat pour ce point.</translation>
     </message>
     <message>
         <source>along the meridian %1
 in other directions off by up to %2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>le long du méridien %1
+dans d’autres directions, écart jusqu’à %2&quot;</translation>
     </message>
     <message>
         <source>%1, datum shift %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, changement de datum %2</translation>
     </message>
     <message>
         <source>The projection is not reliable here.</source>
-        <translation type="unfinished"></translation>
+        <translation>La projection n’est pas fiable ici.</translation>
     </message>
     <message>
         <source>The datum shift is not reliable here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le changement de datum n’est pas fiable ici.</translation>
     </message>
     <message>
         <source>Lengths of points in international feet (ft, 0.3048 m); the system&apos;s parameters in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueurs des points en pieds internationaux (ft, 0.3048 m) ; paramètres du système en mètres.</translation>
     </message>
     <message>
         <source>Lengths of points in US survey feet (ftUS, 1200/3937 m); the system&apos;s parameters in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueurs des points en pieds d’arpentage US (ftUS, 1200/3937 m) ; paramètres du système en mètres.</translation>
     </message>
     <message>
         <source>Lengths in metres (m).</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueurs en mètres (m).</translation>
     </message>
     <message>
         <source>Check of a coordinate system against control points</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrôle d’un système de coordonnées sur des points d’appui</translation>
     </message>
     <message>
         <source>No point in use has both pairs of coordinates: nothing could be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun point utilisé n’a les deux couples de coordonnées : rien n’a pu être comparé.</translation>
     </message>
     <message numerus="yes">
         <source>All %n compared point(s) are within the tolerance of %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n point comparé, dans la tolérance de %1.</numerusform>
+            <numerusform>Les %n points comparés sont tous dans la tolérance de %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n of %1 compared points are beyond the tolerance of %2.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n point comparé sur %1 est hors de la tolérance de %2.</numerusform>
+            <numerusform>%n points comparés sur %1 sont hors de la tolérance de %2.</numerusform>
         </translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultat</translation>
     </message>
     <message>
         <source>Computed minus given</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculé moins donné</translation>
     </message>
     <message>
         <source>mean</source>
-        <translation type="unfinished"></translation>
+        <translation>moyenne</translation>
     </message>
     <message>
         <source>RMS</source>
-        <translation type="unfinished"></translation>
+        <translation>EMQ</translation>
     </message>
     <message>
         <source>largest</source>
-        <translation type="unfinished"></translation>
+        <translation>maximum</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance</translation>
     </message>
     <message numerus="yes">
         <source>point(s) in the list</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>point dans la liste</numerusform>
+            <numerusform>points dans la liste</numerusform>
         </translation>
     </message>
     <message>
         <source>compared: in use, with both pairs of coordinates</source>
-        <translation type="unfinished"></translation>
+        <translation>comparés : utilisés et avec les deux couples de coordonnées</translation>
     </message>
     <message>
         <source>of these beyond the tolerance, the farthest first</source>
-        <translation type="unfinished"></translation>
+        <translation>dont hors tolérance, le plus éloigné d’abord</translation>
     </message>
     <message>
         <source>with both pairs left out of the figures by hand</source>
-        <translation type="unfinished"></translation>
+        <translation>avec les deux couples, exclus des statistiques à la main</translation>
     </message>
     <message>
         <source>with one pair only, the other computed</source>
-        <translation type="unfinished"></translation>
+        <translation>avec un seul couple, l’autre calculé</translation>
     </message>
     <message>
         <source>not computed, as that was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>non calculés, car le calcul a été annulé</translation>
     </message>
     <message>
         <source>without a result; the list says why</source>
-        <translation type="unfinished"></translation>
+        <translation>sans résultat ; la liste dit pourquoi</translation>
     </message>
     <message>
         <source>with a name that another has</source>
-        <translation type="unfinished"></translation>
+        <translation>au nom porté par un autre</translation>
     </message>
     <message>
         <source>Latitudes, longitudes and heights of the points are on the system&apos;s own datum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitudes, longitudes et hauteurs des points sont dans le datum propre au système.</translation>
     </message>
     <message>
         <source>Latitudes, longitudes and heights of the points are on WGS 84, and brought to the system&apos;s datum by its shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitudes, longitudes et hauteurs des points sont en WGS 84, et amenées au datum du système par son changement de datum.</translation>
     </message>
     <message>
         <source>No. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>N° %1</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Système</translation>
     </message>
     <message>
         <source>Points and residuals</source>
-        <translation type="unfinished"></translation>
+        <translation>Points et résidus</translation>
     </message>
     <message>
         <source>Vectors lead from the given place to the computed one, longer than life by the factor beside the scale bar. Red: beyond the tolerance. Grey: left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les vecteurs mènent du lieu donné au lieu calculé, agrandis du facteur indiqué près de la barre d’échelle. Rouge : hors tolérance. Gris : exclu.</translation>
     </message>
     <message>
         <source>Linear distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>Altération linéaire</translation>
     </message>
     <message>
         <source>On the map: %1 to %2 ppm (mm in a kilometre). Red: longer in the grid than on the ground; blue: shorter. Black rectangle: the area of the points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur la carte : %1 à %2 ppm (mm par kilomètre). Rouge : plus long en projection qu’au sol ; bleu : plus court. Rectangle noir : la zone des points.</translation>
     </message>
     <message>
         <source>At the points&apos; mean height of %1 above the ellipsoid.</source>
-        <translation type="unfinished"></translation>
+        <translation>À la hauteur moyenne des points, %1 au-dessus de l’ellipsoïde.</translation>
     </message>
     <message>
         <source>At the height 0, as the points have none: what the projection alone does.</source>
-        <translation type="unfinished"></translation>
+        <translation>À la hauteur 0, les points n’en ayant pas : l’effet de la projection seule.</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Points</translation>
     </message>
     <message>
         <source>ΔE, ΔN: computed from latitude and longitude, minus given. *: beyond the tolerance. Slanted: computed from the other pair.</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔE, ΔN : calculé d’après la latitude et la longitude, moins donné. * : hors tolérance. Italique : calculé d’après l’autre couple.</translation>
     </message>
     <message>
         <source>The list has %1 points, too many for a report; here are those that matter most. &quot;Save...&quot; writes all of them as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste a %1 points, trop pour un rapport ; voici ceux qui importent le plus. « Enregistrer... » les écrit tous en CSV.</translation>
     </message>
     <message numerus="yes">
         <source>The %n point(s) that are farthest off, of %1 compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n point le plus éloigné, sur %1 comparés</numerusform>
+            <numerusform>Les %n points les plus éloignés, sur %1 comparés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Points left out or without a result: the first %n of %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Points exclus ou sans résultat : le premier (%n) sur %1</numerusform>
+            <numerusform>Points exclus ou sans résultat : les %n premiers sur %1</numerusform>
         </translation>
     </message>
     <message>
         <source>No.</source>
-        <translation type="unfinished"></translation>
+        <translation>N°</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur</translation>
     </message>
     <message>
         <source>Left out of the figures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Exclu des statistiques.</translation>
     </message>
     <message>
         <source>From catalogue...</source>
-        <translation type="unfinished"></translation>
+        <translation>Du catalogue...</translation>
     </message>
     <message>
         <source>From registry...</source>
-        <translation type="unfinished"></translation>
+        <translation>Du registre...</translation>
     </message>
     <message>
         <source>With datum shifts</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec changements de datum</translation>
     </message>
     <message>
         <source>Apart from the mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Hors moyenne</translation>
     </message>
     <message>
         <source>Picture of the difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Image de la différence</translation>
     </message>
     <message>
         <source>The same place for both systems: through WGS 84 with both datum shifts, or else the same latitude and longitude.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le même lieu pour les deux systèmes : par WGS 84 avec les deux changements de datum, sinon même latitude et même longitude.</translation>
     </message>
     <message>
         <source>The map shows what is left of the difference without its mean over the area, as after another false easting and northing.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte montre ce qui reste de la différence sans sa moyenne sur la zone, comme avec d’autres Est et Nord fictifs.</translation>
     </message>
     <message>
         <source>The difference is easting and northing of the shown system minus those of the other one, at the same place on the ground.</source>
-        <translation type="unfinished"></translation>
+        <translation>La différence est l’Est et le Nord du système affiché moins ceux de l’autre, au même endroit sur le terrain.</translation>
     </message>
     <message>
         <source>Choose a system to compare with</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un système à comparer</translation>
     </message>
     <message>
         <source>ΔE</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔE</translation>
     </message>
     <message>
         <source>ΔN</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔN</translation>
     </message>
     <message>
         <source>At the mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Sous la souris</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne</translation>
     </message>
     <message>
         <source>Apart from it</source>
-        <translation type="unfinished"></translation>
+        <translation>Hors celle-ci</translation>
     </message>
     <message>
         <source>The point of the page &quot;Point&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le point de la page « Point ».</translation>
     </message>
     <message>
         <source>Over the black square.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur le carré noir.</translation>
     </message>
     <message>
         <source>What is left of the difference without its mean is no larger in the black square.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui reste de la différence sans sa moyenne n’est pas plus grand dans le carré noir.</translation>
     </message>
     <message>
         <source>minus %1</source>
-        <translation type="unfinished"></translation>
+        <translation>moins %1</translation>
     </message>
     <message>
         <source>Easting and northing of the shown system minus those of %1, as it was when it was chosen, at the same place on the ground.</source>
-        <translation type="unfinished"></translation>
+        <translation>Est et Nord du système affiché moins ceux de %1, tel qu’il était lors du choix, au même endroit sur le terrain.</translation>
     </message>
     <message>
         <source>One of the projections gives no result in this area.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’une des projections ne donne aucun résultat dans cette zone.</translation>
     </message>
     <message>
         <source>Neither system defines a datum shift: both count as on WGS 84.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun des systèmes ne définit de changement de datum : tous deux comptent comme en WGS 84.</translation>
     </message>
     <message>
         <source>No datum shift is defined by %1: it counts as on WGS 84.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne définit aucun changement de datum : il compte comme en WGS 84.</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à %2</translation>
     </message>
     <message>
         <source>Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer</translation>
     </message>
     <message>
         <source>For this area</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour cette zone</translation>
     </message>
     <message>
         <source>For the point</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour le point</translation>
     </message>
     <message>
         <source>Least distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>Altération minimale</translation>
     </message>
     <message>
         <source>Where the largest distortion at that height is to be smallest: in the square on the map, or at the checked point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où l’altération maximale à cette hauteur doit être la plus petite : dans le carré sur la carte ou au point contrôlé.</translation>
     </message>
     <message>
         <source>Design</source>
-        <translation type="unfinished"></translation>
+        <translation>Conception</translation>
     </message>
     <message>
         <source>Move the meridian</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer le méridien</translation>
     </message>
     <message>
         <source>Move the parallel</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer le parallèle</translation>
     </message>
     <message>
         <source>There is nothing to propose here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a rien à proposer ici.</translation>
     </message>
     <message>
         <source>This system has no scale factor to choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce système n’a pas de facteur d’échelle à choisir.</translation>
     </message>
     <message>
         <source>The system is as good as it can be here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le système ne peut être meilleur ici.</translation>
     </message>
     <message>
         <source>Distortion in ppm: %1 → %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Altération en ppm : %1 → %2</translation>
     </message>
     <message>
         <source>Picture of the linear distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>Image de l’altération linéaire</translation>
     </message>
     <message>
         <source>Mean ellipsoidal height of the ground; 0 shows the grid&apos;s own distortion.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur ellipsoïdale moyenne du terrain ; 0 montre l’altération due à la projection seule.</translation>
     </message>
     <message>
         <source>ppm</source>
-        <translation type="unfinished"></translation>
+        <translation>ppm</translation>
     </message>
     <message>
         <source>%1 ppm   %2, %3
 E %4 %6  N %5 %6</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ppm   %2, %3
+E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Point at the map for the distortion there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pointer sur la carte pour y lire l’altération.</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustement</translation>
     </message>
     <message>
         <source>What would meet the points best; what is not ticked is held.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui conviendrait le mieux aux points ; ce qui n’est pas coché reste fixe.</translation>
     </message>
     <message>
         <source>before</source>
-        <translation type="unfinished"></translation>
+        <translation>avant</translation>
     </message>
     <message>
         <source>after ± standard deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>après ± écart-type</translation>
     </message>
     <message>
         <source>Scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Facteur d’échelle</translation>
     </message>
     <message>
         <source>False easting</source>
-        <translation type="unfinished"></translation>
+        <translation>Est fictif</translation>
     </message>
     <message>
         <source>False northing</source>
-        <translation type="unfinished"></translation>
+        <translation>Nord fictif</translation>
     </message>
     <message>
         <source>RMS, largest</source>
-        <translation type="unfinished"></translation>
+        <translation>EMQ, maximum</translation>
     </message>
     <message>
         <source>Misfit before</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart avant</translation>
     </message>
     <message>
         <source>Misfit after</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart après</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Problème</translation>
     </message>
     <message>
         <source>Remainder</source>
-        <translation type="unfinished"></translation>
+        <translation>Reste</translation>
     </message>
     <message>
         <source>Diagnosis</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagnostic</translation>
     </message>
     <message>
         <source>%1 after</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 après</translation>
     </message>
     <message>
         <source>Against the ground remain a rotation of %1 ± %2%3 and a scale of %4 ± %5 ppm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Par rapport au terrain restent une rotation de %1 ± %2%3 et une échelle de %4 ± %5 ppm.</translation>
     </message>
     <message>
         <source>(not used)</source>
-        <translation type="unfinished"></translation>
+        <translation>(non utilisée)</translation>
     </message>
     <message>
         <source>Decimal comma</source>
-        <translation type="unfinished"></translation>
+        <translation>Virgule décimale</translation>
     </message>
     <message>
         <source>First line is a heading</source>
-        <translation type="unfinished"></translation>
+        <translation>Première ligne = en-têtes</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonnes</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulation</translation>
     </message>
     <message>
         <source>Comma</source>
-        <translation type="unfinished"></translation>
+        <translation>Virgule</translation>
     </message>
     <message>
         <source>Semicolon</source>
-        <translation type="unfinished"></translation>
+        <translation>Point-virgule</translation>
     </message>
     <message>
         <source>Blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>Espaces</translation>
     </message>
     <message>
         <source>Columns parted by</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonnes séparées par</translation>
     </message>
     <message>
         <source>metres</source>
-        <translation type="unfinished"></translation>
+        <translation>mètres</translation>
     </message>
     <message>
         <source>international feet</source>
-        <translation type="unfinished"></translation>
+        <translation>pieds internationaux</translation>
     </message>
     <message>
         <source>US survey feet</source>
-        <translation type="unfinished"></translation>
+        <translation>pieds d’arpentage US</translation>
     </message>
     <message>
         <source>Lengths in</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueurs en</translation>
     </message>
     <message>
         <source>Column %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonne %1</translation>
     </message>
     <message>
         <source>Columns of one kind belong together: degrees, minutes and seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les colonnes d’un même type vont ensemble : degrés, minutes et secondes.</translation>
     </message>
     <message>
         <source>Say which columns are latitude and longitude, or easting and northing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indiquer quelles colonnes sont latitude et longitude, ou Est et Nord.</translation>
     </message>
     <message numerus="yes">
         <source>%n point(s), %1 with both pairs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n point, %1 avec les deux couples</numerusform>
+            <numerusform>%n points, %1 avec les deux couples</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n left out</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n exclu</numerusform>
+            <numerusform>%n exclus</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 beyond the tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hors tolérance</translation>
     </message>
     <message>
         <source>%1 without a result</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sans résultat</translation>
     </message>
     <message>
         <source>%1 with a name that another has</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 au nom porté par un autre</translation>
     </message>
     <message>
         <source>Paste, open or type points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller, ouvrir ou saisir des points.</translation>
     </message>
     <message>
         <source>Out of range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hors limites.</translation>
     </message>
     <message>
         <source>Fitted ΔE</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔE ajusté</translation>
     </message>
     <message>
         <source>Fitted ΔN</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔN ajusté</translation>
     </message>
     <message>
         <source>Remark</source>
-        <translation type="unfinished"></translation>
+        <translation>Remarque</translation>
     </message>
     <message>
         <source>A point without a check mark is left out of the statistics.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un point non coché est exclu des statistiques.</translation>
     </message>
     <message>
         <source>Ellipsoidal height; 0 where there is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur ellipsoïdale ; 0 s’il n’y en a pas.</translation>
     </message>
     <message>
         <source>Slanted: computed from the other pair.</source>
-        <translation type="unfinished"></translation>
+        <translation>Italique : calculé d’après l’autre couple.</translation>
     </message>
     <message>
         <source>What the fit would leave.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que laisserait l’ajustement.</translation>
     </message>
     <message>
         <source>Computed from latitude and longitude, minus given.</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculé d’après la latitude et la longitude, moins donné.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -729,246 +732,246 @@ E %4 %6  N %5 %6</source>
     </message>
     <message>
         <source>Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir...</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Save...</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer...</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Vider</translation>
     </message>
     <message>
         <source>Next marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Marque suivante</translation>
     </message>
     <message>
         <source>The next point beyond the tolerance, or row with a remark</source>
-        <translation type="unfinished"></translation>
+        <translation>Le prochain point hors tolérance, ou la prochaine ligne avec remarque</translation>
     </message>
     <message>
         <source>Report...</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport...</translation>
     </message>
     <message>
         <source>Writes the check as a document to file with the job.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit le contrôle sous forme de document à classer avec le dossier.</translation>
     </message>
     <message>
         <source>Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolérance</translation>
     </message>
     <message>
         <source>Points that are farther off are marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les points plus éloignés sont marqués.</translation>
     </message>
     <message>
         <source>Own</source>
-        <translation type="unfinished"></translation>
+        <translation>Propre</translation>
     </message>
     <message>
         <source>Datum of latitude, longitude and height: the system&apos;s own, or WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum de la latitude, de la longitude et de la hauteur : celui du système, ou WGS 84</translation>
     </message>
     <message>
         <source>Which false origin and scale factor would meet the points best.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quels origine fictive et facteur d’échelle conviendraient le mieux aux points.</translation>
     </message>
     <message>
         <source>All is written: that can&apos;t be cancelled any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout est écrit : il n’est plus possible d’annuler.</translation>
     </message>
     <message>
         <source>Cancelled: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulé : %1</translation>
     </message>
     <message>
         <source>Open points</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir des points</translation>
     </message>
     <message>
         <source>All files</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers</translation>
     </message>
     <message>
         <source>%1 can&apos;t be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut être lu : %2</translation>
     </message>
     <message>
         <source>The clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Le presse-papiers</translation>
     </message>
     <message>
         <source>%1 has too many points; nothing of it is taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 contient trop de points ; rien n’en est repris.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n row(s) read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 : %n ligne lue.</numerusform>
+            <numerusform>%1 : %n lignes lues.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 can&apos;t be read to its end: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut être lu jusqu’à la fin : %2</translation>
     </message>
     <message>
         <source>Reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture</translation>
     </message>
     <message>
         <source>Computing</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcul</translation>
     </message>
     <message>
         <source>Comparing names</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparaison des noms</translation>
     </message>
     <message>
         <source>Drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessin</translation>
     </message>
     <message>
         <source>Counting</source>
-        <translation type="unfinished"></translation>
+        <translation>Comptage</translation>
     </message>
     <message>
         <source>Point at the picture for a point&apos;s name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pointer sur l’image pour lire le nom d’un point.</translation>
     </message>
     <message>
         <source>Row %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1</translation>
     </message>
     <message>
         <source>Copying</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie</translation>
     </message>
     <message>
         <source>Only the first %1 rows are copied. Save all as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seules les %1 premières lignes sont copiées. Pour tout avoir, enregistrer en CSV.</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s) copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ligne copiée.</numerusform>
+            <numerusform>%n lignes copiées.</numerusform>
         </translation>
     </message>
     <message>
         <source>CSV as shown</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV tel qu’affiché</translation>
     </message>
     <message>
         <source>CSV with all digits</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV avec tous les chiffres</translation>
     </message>
     <message>
         <source>Save points</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les points</translation>
     </message>
     <message>
         <source>Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n row(s) saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 : %n ligne enregistrée.</numerusform>
+            <numerusform>%1 : %n lignes enregistrées.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 can&apos;t be saved: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut être enregistré : %2</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport</translation>
     </message>
     <message>
         <source>%1: report saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : rapport enregistré.</translation>
     </message>
     <message>
         <source>No row is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune ligne n’est sélectionnée.</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s) deleted; Ctrl+Z undoes that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ligne supprimée ; Ctrl+Z l’annule.</numerusform>
+            <numerusform>%n lignes supprimées ; Ctrl+Z l’annule.</numerusform>
         </translation>
     </message>
     <message>
         <source>There is nothing to undo.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a rien à annuler.</translation>
     </message>
     <message>
         <source>Undone: the points are as they were before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulé : les points sont comme avant.</translation>
     </message>
     <message numerus="yes">
         <source>Remove all %n point(s) from the table?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Retirer le point (%n) du tableau ?</numerusform>
+            <numerusform>Retirer les %n points du tableau ?</numerusform>
         </translation>
     </message>
     <message>
         <source>All points are removed; Ctrl+Z undoes that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les points sont retirés ; Ctrl+Z l’annule.</translation>
     </message>
     <message>
         <source>All is within the tolerance and without a remark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout est dans la tolérance et sans remarque.</translation>
     </message>
     <message>
         <source>Picture of the points</source>
-        <translation type="unfinished"></translation>
+        <translation>Image des points</translation>
     </message>
     <message>
         <source>HTML, one file with its pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>HTML, un fichier avec ses images</translation>
     </message>
     <message>
         <source>Save report</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le rapport</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Page %1 sur %2</translation>
     </message>
     <message>
         <source>no document could be made</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun document n’a pu être produit</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrôle</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Point</translation>
     </message>
     <message>
         <source>Distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>Altération</translation>
     </message>
     <message>
         <source>Show angles in</source>
@@ -2465,7 +2468,7 @@ E %4 %6  N %5 %6</source>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>please input correct param!</source>
