@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>Width of the area</source>
-        <translation>Breite des Gebiets</translation>
+        <translation>Seitenlänge des Gebiets</translation>
     </message>
     <message>
         <source>Side of the square area; the map shows all of it.</source>
@@ -975,903 +975,903 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Show angles in</source>
-        <translation type="unfinished"></translation>
+        <translation>Winkel anzeigen in</translation>
     </message>
     <message>
         <source>A fit needs points with latitude, longitude, easting and northing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Einpassung braucht Punkte mit Breite, Länge, Ostwert und Nordwert.</translation>
     </message>
     <message>
         <source>A fit takes %1 points at most: leave some out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Einpassung nimmt höchstens %1 Punkte: einige ausschließen.</translation>
     </message>
     <message>
         <source>The projection gives no result at one of the points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Projektion liefert für einen der Punkte kein Ergebnis.</translation>
     </message>
     <message>
         <source>The points do not determine these values: hold one of them, or add points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Punkte bestimmen diese Werte nicht: einen davon festhalten oder Punkte hinzufügen.</translation>
     </message>
     <message>
         <source>east</source>
-        <translation type="unfinished"></translation>
+        <translation>Osten</translation>
     </message>
     <message>
         <source>north</source>
-        <translation type="unfinished"></translation>
+        <translation>Norden</translation>
     </message>
     <message>
         <source>west</source>
-        <translation type="unfinished"></translation>
+        <translation>Westen</translation>
     </message>
     <message>
         <source>south</source>
-        <translation type="unfinished"></translation>
+        <translation>Süden</translation>
     </message>
     <message>
         <source>Easting and northing are swapped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ost- und Nordwert sind vertauscht.</translation>
     </message>
     <message>
         <source>The given eastings count %1, the northings %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gegebenen Ostwerte zählen nach %1, die Nordwerte nach %2.</translation>
     </message>
     <message>
         <source>The given eastings and northings are in feet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gegebenen Ost- und Nordwerte sind in Fuß.</translation>
     </message>
     <message>
         <source>The given eastings and northings are metres that were taken for feet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gegebenen Ost- und Nordwerte sind Meter, die für Fuß gehalten wurden.</translation>
     </message>
     <message>
         <source>The given grid is turned by %1° against the computed one</source>
-        <translation type="unfinished"></translation>
+        <translation>Das gegebene Gitter ist gegenüber dem berechneten um %1° gedreht</translation>
     </message>
     <message>
         <source>The points are of another zone: its central meridian is %1°.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Punkte gehören zu einer anderen Zone: deren Mittelmeridian ist %1°.</translation>
     </message>
     <message>
         <source>%1, as by a central meridian of %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, wie durch einen Mittelmeridian von %2°.</translation>
     </message>
     <message>
         <source>There is nothing in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist nichts darin.</translation>
     </message>
     <message>
         <source>It is no text. Save a table as CSV first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist kein Text. Tabellen zuerst als CSV speichern.</translation>
     </message>
     <message>
         <source>latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite</translation>
     </message>
     <message>
         <source>longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge</translation>
     </message>
     <message>
         <source>height</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe</translation>
     </message>
     <message>
         <source>easting</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostwert</translation>
     </message>
     <message>
         <source>northing</source>
-        <translation type="unfinished"></translation>
+        <translation>Nordwert</translation>
     </message>
     <message>
         <source>The line is too long for a point; its beginning is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeile ist zu lang für einen Punkt; ihr Anfang bleibt erhalten.</translation>
     </message>
     <message>
         <source>Can&apos;t be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht lesbar: %1.</translation>
     </message>
     <message>
         <source>Out of range: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Außerhalb des Bereichs: %1.</translation>
     </message>
     <message>
         <source>There are no coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es sind keine Koordinaten da.</translation>
     </message>
     <message>
         <source>Missing: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es fehlt: %1.</translation>
     </message>
     <message>
         <source>The system defines no datum shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das System definiert keinen Datumsübergang.</translation>
     </message>
     <message>
         <source>The name occurs more than once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name kommt mehrmals vor.</translation>
     </message>
     <message>
         <source>Line: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile: %1</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwendet</translation>
     </message>
     <message>
         <source>Seven parameters need three points or more on both datums.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sieben Parameter brauchen mindestens drei Punkte in beiden Datums.</translation>
     </message>
     <message>
         <source>Three parameters need one point or more on both datums.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drei Parameter brauchen mindestens einen Punkt in beiden Datums.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; and &quot;%2&quot; are the same point: leave one of them out.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ und „%2“ sind derselbe Punkt: einen davon ausschließen.</translation>
     </message>
     <message>
         <source>The points lie on a line, around which they leave the rotation open. Add a point beside the line, or take three parameters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Punkte liegen auf einer Geraden und lassen die Rotation um sie offen. Einen Punkt abseits der Geraden hinzufügen oder drei Parameter nehmen.</translation>
     </message>
     <message>
         <source>No datum shift is as large as these points would have it. Are both places of each the same point, on the right datum?</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Datumsübergang ist so groß, wie diese Punkte ihn verlangen. Sind beide Orte jeweils derselbe Punkt, im richtigen Datum?</translation>
     </message>
     <message>
         <source>The area is too small to tell the translations from rotations and scale (correlation %1): the values mean nothing one by one, and hold within the area only. Three parameters are recommended if what they leave will do: a standard deviation of %2 m, against %3 m of seven.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gebiet ist zu klein, um die Translationen von Rotationen und Maßstab zu trennen (Korrelation %1): die Werte bedeuten einzeln nichts und gelten nur innerhalb des Gebiets. Drei Parameter sind zu empfehlen, wenn genügt, was sie übrig lassen: eine Standardabweichung von %2 m gegenüber %3 m bei sieben.</translation>
     </message>
     <message>
         <source>No projection: these values make none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Projektion: diese Werte ergeben keine.</translation>
     </message>
     <message>
         <source>Rotations in the position-vector convention (EPSG 9606, PROJ towgs84). Figures published in the coordinate-frame convention (EPSG 9607): type them as they are, then reverse their signs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotationen in der Positionsvektor-Konvention (EPSG 9606, PROJ towgs84). In der Koordinatenrahmen-Konvention (EPSG 9607) veröffentlichte Werte wie angegeben eintippen, dann ihre Vorzeichen umkehren.</translation>
     </message>
     <message>
         <source>Reverse rotation signs</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorzeichen der Rotationen umkehren</translation>
     </message>
     <message>
         <source>From points...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Punkten...</translation>
     </message>
     <message>
         <source>Stands in exported definitions; nothing is computed from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Steht in exportierten Definitionen; gerechnet wird damit nicht.</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekannt</translation>
     </message>
     <message>
         <source>Shift to WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>Übergang zu WGS 84</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keiner</translation>
     </message>
     <message>
         <source>Seven parameters (three: the rest 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sieben Parameter (drei: die übrigen 0)</translation>
     </message>
     <message>
         <source>Estimates the shift from points known on both datums.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schätzt den Übergang aus Punkten, die in beiden Datums bekannt sind.</translation>
     </message>
     <message>
         <source>Datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Datumsübergang</translation>
     </message>
     <message>
         <source>Without a shift, coordinates on WGS 84 are unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Übergang sind Koordinaten in WGS 84 unbekannt.</translation>
     </message>
     <message>
         <source>This kind of shift is unknown here; it is kept as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Art von Übergang ist hier unbekannt; sie bleibt, wie sie ist.</translation>
     </message>
     <message>
         <source>The signs of all three rotations are reversed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Vorzeichen aller drei Rotationen sind umgekehrt.</translation>
     </message>
     <message>
         <source>Definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Definition</translation>
     </message>
     <message>
         <source>PROJ definition</source>
-        <translation type="unfinished"></translation>
+        <translation>PROJ-Definition</translation>
     </message>
     <message>
         <source>WKT dialect</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT-Dialekt</translation>
     </message>
     <message>
         <source>WKT 1 (GDAL)</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT 1 (GDAL)</translation>
     </message>
     <message>
         <source>WKT 1 (ESRI)</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT 1 (ESRI)</translation>
     </message>
     <message>
         <source>WKT 2:2019</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT 2:2019</translation>
     </message>
     <message>
         <source>With identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Kennung</translation>
     </message>
     <message>
         <source>Save as .prj</source>
-        <translation type="unfinished"></translation>
+        <translation>Als .prj speichern</translation>
     </message>
     <message>
         <source>Save group...</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe speichern...</translation>
     </message>
     <message>
         <source>WKT</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT</translation>
     </message>
     <message>
         <source>Where from</source>
-        <translation type="unfinished"></translation>
+        <translation>Herkunft</translation>
     </message>
     <message>
         <source>From text...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Text...</translation>
     </message>
     <message>
         <source>This form can&apos;t express the system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Form kann das System nicht ausdrücken.</translation>
     </message>
     <message>
         <source>This form can&apos;t carry the identifier.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Form kann die Kennung nicht aufnehmen.</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <source>The file can&apos;t be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei kann nicht geschrieben werden: %1</translation>
     </message>
     <message>
         <source>No coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Koordinatensystem</translation>
     </message>
     <message>
         <source>%1 – choose a coordinate system in the tree</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – ein Koordinatensystem im Baum wählen</translation>
     </message>
     <message>
         <source>Forward to the edited values</source>
-        <translation type="unfinished"></translation>
+        <translation>Vor zu den bearbeiteten Werten</translation>
     </message>
     <message>
         <source>Back to the values before</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück zu den Werten davor</translation>
     </message>
     <message>
         <source>Ellipsoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipsoid</translation>
     </message>
     <message>
         <source>Semi-minor axis b</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleine Halbachse b</translation>
     </message>
     <message>
         <source>Eccentricity e</source>
-        <translation type="unfinished"></translation>
+        <translation>Exzentrizität e</translation>
     </message>
     <message>
         <source>Choose an ellipsoid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Ellipsoid wählen.</translation>
     </message>
     <message>
         <source>Not in the list of ellipsoids.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht in der Liste der Ellipsoide.</translation>
     </message>
     <message>
         <source>The figures differ from the list&apos;s ellipsoid of this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Werte weichen vom Ellipsoid dieses Namens in der Liste ab.</translation>
     </message>
     <message>
         <source>Decimal degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Dezimalgrad</translation>
     </message>
     <message>
         <source>Degrees, minutes, seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Grad, Minuten, Sekunden</translation>
     </message>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert</translation>
     </message>
     <message>
         <source>Metre</source>
-        <translation type="unfinished"></translation>
+        <translation>Meter</translation>
     </message>
     <message>
         <source>International foot, 0.3048 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Internationaler Fuß, 0.3048 m</translation>
     </message>
     <message>
         <source>US survey foot, 1200/3937 m</source>
-        <translation type="unfinished"></translation>
+        <translation>US-Vermessungsfuß, 1200/3937 m</translation>
     </message>
     <message>
         <source>Lengths in metres (m), international feet (ft) or US survey feet (ftUS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Längenmaße in Metern (m), internationalen Fuß (ft) oder US-Vermessungsfuß (ftUS)</translation>
     </message>
     <message>
         <source>From text</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Text</translation>
     </message>
     <message>
         <source>Paste or type WKT, a PROJ definition, PROJJSON, or a code as EPSG:25832.</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT, eine PROJ-Definition, PROJJSON oder einen Code wie EPSG:25832 einfügen oder eingeben.</translation>
     </message>
     <message>
         <source>Understood</source>
-        <translation type="unfinished"></translation>
+        <translation>Verstanden</translation>
     </message>
     <message>
         <source>Understood:</source>
-        <translation type="unfinished"></translation>
+        <translation>Verstanden:</translation>
     </message>
     <message>
         <source>Geoid model</source>
-        <translation type="unfinished"></translation>
+        <translation>Geoidmodell</translation>
     </message>
     <message>
         <source>Model file</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelldatei</translation>
     </message>
     <message>
         <source>Model ellipsoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipsoid des Modells</translation>
     </message>
     <message>
         <source>(none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(keines)</translation>
     </message>
     <message>
         <source>Not in the list of geoid models.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht in der Liste der Geoidmodelle.</translation>
     </message>
     <message>
         <source>The model refers to another ellipsoid than the system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modell bezieht sich auf ein anderes Ellipsoid als das System.</translation>
     </message>
     <message>
         <source>Method</source>
-        <translation type="unfinished"></translation>
+        <translation>Methode</translation>
     </message>
     <message>
         <source>Projection method</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektionsmethode</translation>
     </message>
     <message>
         <source>Choose the method</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Methode wählen</translation>
     </message>
     <message>
         <source>Projection</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektion</translation>
     </message>
     <message>
         <source>Still to choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch zu wählen.</translation>
     </message>
     <message>
         <source>A latitude goes with N or S.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu einer Breite gehört N oder S.</translation>
     </message>
     <message>
         <source>A longitude goes with E or W.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu einer Länge gehört E oder W.</translation>
     </message>
     <message>
         <source>An azimuth goes without a letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu einem Azimut gehört kein Buchstabe.</translation>
     </message>
     <message>
         <source>Use a decimal point, not a comma.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dezimalpunkt statt Komma verwenden.</translation>
     </message>
     <message>
         <source>Not an angle. Examples: 7.5, 7 30 00, 7°30&apos;00&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Winkel. Beispiele: 7.5, 7 30 00, 7°30&apos;00&quot;.</translation>
     </message>
     <message>
         <source>Only the last part may have decimals.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur der letzte Teil darf Dezimalen haben.</translation>
     </message>
     <message>
         <source>Minutes must be less than 60.</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuten müssen kleiner als 60 sein.</translation>
     </message>
     <message>
         <source>Seconds must be less than 60.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden müssen kleiner als 60 sein.</translation>
     </message>
     <message>
         <source>Give either a sign or a letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entweder Vorzeichen oder Buchstabe angeben.</translation>
     </message>
     <message>
         <source>Semi-major axis a</source>
-        <translation type="unfinished"></translation>
+        <translation>Große Halbachse a</translation>
     </message>
     <message>
         <source>Inverse flattening 1/f</source>
-        <translation type="unfinished"></translation>
+        <translation>Reziproke Abplattung 1/f</translation>
     </message>
     <message>
         <source>Translation X</source>
-        <translation type="unfinished"></translation>
+        <translation>Translation X</translation>
     </message>
     <message>
         <source>Translation Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Translation Y</translation>
     </message>
     <message>
         <source>Translation Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Translation Z</translation>
     </message>
     <message>
         <source>Rotation X</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation X</translation>
     </message>
     <message>
         <source>Rotation Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation Y</translation>
     </message>
     <message>
         <source>Rotation Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation Z</translation>
     </message>
     <message>
         <source>Scale difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Maßstabsdifferenz</translation>
     </message>
     <message>
         <source>A sphere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Kugel.</translation>
     </message>
     <message>
         <source>Unusual for the Earth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für die Erde ungewöhnlich.</translation>
     </message>
     <message>
         <source>Unusually large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungewöhnlich groß.</translation>
     </message>
     <message>
         <source>Nothing can be computed: the projection module is not installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts kann berechnet werden: das Projektionsmodul ist nicht installiert.</translation>
     </message>
     <message>
         <source>These parameters give no projection that can be computed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Parameter ergeben keine berechenbare Projektion.</translation>
     </message>
     <message>
         <source>The model names no file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modell nennt keine Datei.</translation>
     </message>
     <message>
         <source>Not in the folder of geoid models.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht im Ordner der Geoidmodelle.</translation>
     </message>
     <message>
         <source>The folder of geoid models has &quot;%1&quot; instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Ordner der Geoidmodelle liegt stattdessen „%1“.</translation>
     </message>
     <message>
         <source>Not a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Datei.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist leer.</translation>
     </message>
     <message>
         <source>Not a length in %1 with a decimal point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Länge in %1 mit Dezimalpunkt.</translation>
     </message>
     <message>
         <source>Allowed: 0 (sphere), or more than 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erlaubt: 0 (Kugel) oder mehr als 1.</translation>
     </message>
     <message>
         <source>Allowed: between %1 and %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erlaubt: zwischen %1 und %2.</translation>
     </message>
     <message>
         <source>Allowed: ±%1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erlaubt: ±%1.</translation>
     </message>
     <message>
         <source>Allowed: %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erlaubt: %1 bis %2.</translation>
     </message>
     <message>
         <source>A value is needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Wert wird gebraucht.</translation>
     </message>
     <message>
         <source>Only digits and a decimal point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Ziffern und ein Dezimalpunkt.</translation>
     </message>
     <message>
         <source>Datum shift to WGS 84: none</source>
-        <translation type="unfinished"></translation>
+        <translation>Datumsübergang zu WGS 84: keiner</translation>
     </message>
     <message>
         <source>Datum shift to WGS 84: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datumsübergang zu WGS 84: %1</translation>
     </message>
     <message>
         <source>Pasted text, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingefügter Text, %1</translation>
     </message>
     <message>
         <source>The text counts in %1, the record in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text rechnet in %1, der Datensatz in Metern.</translation>
     </message>
     <message>
         <source>Its datum shift is by grids, or of another kind, and is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datumsübergang ist durch Gitterdateien oder anderer Art und wird ausgelassen.</translation>
     </message>
     <message>
         <source>Its heights are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Höhen werden ausgelassen.</translation>
     </message>
     <message>
         <source>The registry has withdrawn it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Register hat es zurückgezogen.</translation>
     </message>
     <message>
         <source>(line %1, column %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Zeile %1, Spalte %2)</translation>
     </message>
     <message>
         <source>Ellipsoid: %1, a %2 m, 1/f %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipsoid: %1, a %2 m, 1/f %3</translation>
     </message>
     <message>
         <source>Datum: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum: %1</translation>
     </message>
     <message>
         <source>not named</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht benannt</translation>
     </message>
     <message>
         <source>No projection: latitudes of the points equal, or the first 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Projektion: Breiten der Punkte gleich, oder die erste 0.</translation>
     </message>
     <message>
         <source>No projection: the standard parallels cancel out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Projektion: die Standardparallelen heben sich auf.</translation>
     </message>
     <message>
         <source>No projection yet: the system has no ellipsoid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Projektion: das System hat kein Ellipsoid.</translation>
     </message>
     <message>
         <source>No projection yet: choose the method.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Projektion: die Methode wählen.</translation>
     </message>
     <message>
         <source>No projection: the method &quot;%1&quot; is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Projektion: die Methode „%1“ ist unbekannt.</translation>
     </message>
     <message>
         <source>No projection: the definition fits none of the methods.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Projektion: die Definition passt zu keiner der Methoden.</translation>
     </message>
     <message>
         <source>No projection: &quot;%1&quot; is missing or wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Projektion: „%1“ fehlt oder ist falsch.</translation>
     </message>
     <message>
         <source>No projection: a standard parallel needs the scale factor 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Projektion: eine Standardparallele verlangt den Maßstabsfaktor 1.</translation>
     </message>
     <message>
         <source>No projection: the scale factor is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Projektion: der Maßstabsfaktor fehlt.</translation>
     </message>
     <message>
         <source>Must be 1: the standard parallel sets the scale.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muss 1 sein: die Standardparallele legt den Maßstab fest.</translation>
     </message>
     <message>
         <source>Unusual: scale factors lie close to 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungewöhnlich: Maßstabsfaktoren liegen nahe bei 1.</translation>
     </message>
     <message>
         <source>Without effect: the origin is no pole.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Wirkung: der Ursprung ist kein Pol.</translation>
     </message>
     <message>
         <source>With 0° this is the plain Mercator projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit 0° ist dies die einfache Mercatorprojektion.</translation>
     </message>
     <message>
         <source>Usually equal to the latitude of origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Meist gleich der Breite des Ursprungs.</translation>
     </message>
     <message>
         <source>The standard parallels nearly cancel out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Standardparallelen heben sich fast auf.</translation>
     </message>
     <message>
         <source>Gives the line of %1°. For the line of this azimuth, type %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergibt die Linie von %1°. Für die Linie mit diesem Azimut %2° eingeben.</translation>
     </message>
     <message>
         <source>Zone %1 of UTM has the central meridian %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die UTM-Zone %1 hat den Mittelmeridian %2°.</translation>
     </message>
     <message>
         <source>Does not fit zone %1 of the false easting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Passt nicht zur Zone %1 der Additionskonstante Ost.</translation>
     </message>
     <message>
         <source>Latitude of origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite des Ursprungs</translation>
     </message>
     <message>
         <source>Latitude of centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite des Zentrums</translation>
     </message>
     <message>
         <source>Longitude of origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge des Ursprungs</translation>
     </message>
     <message>
         <source>Longitude of centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge des Zentrums</translation>
     </message>
     <message>
         <source>Latitude of point 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite von Punkt 1</translation>
     </message>
     <message>
         <source>Longitude of point 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge von Punkt 1</translation>
     </message>
     <message>
         <source>Latitude of point 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite von Punkt 2</translation>
     </message>
     <message>
         <source>Longitude of point 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge von Punkt 2</translation>
     </message>
     <message>
         <source>Azimuth of the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Azimut der Linie</translation>
     </message>
     <message>
         <source>Standard parallel 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardparallele 1</translation>
     </message>
     <message>
         <source>Standard parallel 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardparallele 2</translation>
     </message>
     <message>
         <source>Easting at centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostwert im Zentrum</translation>
     </message>
     <message>
         <source>Northing at centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Nordwert im Zentrum</translation>
     </message>
     <message>
         <source>Gauss-Krüger (scale factor 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauß-Krüger (Maßstabsfaktor 1)</translation>
     </message>
     <message>
         <source>Transverse Mercator</source>
-        <translation type="unfinished"></translation>
+        <translation>Transversale Mercatorprojektion</translation>
     </message>
     <message>
         <source>Mercator</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercatorprojektion</translation>
     </message>
     <message>
         <source>Mercator (standard parallel)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercatorprojektion (Standardparallele)</translation>
     </message>
     <message>
         <source>Oblique Mercator (azimuth)</source>
-        <translation type="unfinished"></translation>
+        <translation>Schiefachsige Mercatorprojektion (Azimut)</translation>
     </message>
     <message>
         <source>Stereographic</source>
-        <translation type="unfinished"></translation>
+        <translation>Stereografische Projektion</translation>
     </message>
     <message>
         <source>Oblique Stereographic (double)</source>
-        <translation type="unfinished"></translation>
+        <translation>Schiefachsige stereografische Projektion (doppelt)</translation>
     </message>
     <message>
         <source>Lambert Conic Conformal (1SP)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lambertsche konforme Kegelprojektion (1SP)</translation>
     </message>
     <message>
         <source>Lambert Conic Conformal (2SP)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lambertsche konforme Kegelprojektion (2SP)</translation>
     </message>
     <message>
         <source>Oblique Mercator (two points)</source>
-        <translation type="unfinished"></translation>
+        <translation>Schiefachsige Mercatorprojektion (zwei Punkte)</translation>
     </message>
     <message>
         <source>Cassini-Soldner</source>
-        <translation type="unfinished"></translation>
+        <translation>Cassini-Soldner</translation>
     </message>
     <message>
         <source>the name</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name</translation>
     </message>
     <message>
         <source>the ellipsoid&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name des Ellipsoids</translation>
     </message>
     <message>
         <source>the projection method</source>
-        <translation type="unfinished"></translation>
+        <translation>die Projektionsmethode</translation>
     </message>
     <message>
         <source>the datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>der Datumsübergang</translation>
     </message>
     <message>
         <source>This form can&apos;t be imported again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Form lässt sich nicht wieder importieren.</translation>
     </message>
     <message>
         <source>Does not come back with an import of this form: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommt beim Import dieser Form nicht zurück: %1.</translation>
     </message>
     <message>
         <source>Other software may count easting and northing from the natural origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Software zählt Ost- und Nordwert vielleicht vom natürlichen Ursprung.</translation>
     </message>
     <message>
         <source>Position-vector convention (EPSG 9606, PROJ towgs84)</source>
-        <translation type="unfinished"></translation>
+        <translation>Positionsvektor-Konvention (EPSG 9606, PROJ towgs84)</translation>
     </message>
     <message>
         <source>of an unknown kind</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekannter Art</translation>
     </message>
     <message>
         <source>A geographic system: latitude and longitude, without a projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein geografisches System: Breite und Länge, ohne Projektion.</translation>
     </message>
     <message>
         <source>A geocentric system: X, Y and Z, without a projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein geozentrisches System: X, Y und Z, ohne Projektion.</translation>
     </message>
     <message>
         <source>A system of heights, without a projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Höhensystem, ohne Projektion.</translation>
     </message>
     <message>
         <source>A local system, without a place on the Earth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein lokales System, ohne Ort auf der Erde.</translation>
     </message>
     <message>
         <source>No system that is projected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein projiziertes System.</translation>
     </message>
     <message>
         <source>None of the methods holds this projection exactly: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine der Methoden gibt diese Projektion genau wieder: %1.</translation>
     </message>
     <message>
         <source>The axes do not point east and north, but: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Achsen zeigen nicht nach Osten und Norden, sondern: %1.</translation>
     </message>
     <message>
         <source>The grid is turned by %1°, not by the azimuth of the line, %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gitter ist um %1° gedreht, nicht um das Azimut der Linie, %2°.</translation>
     </message>
     <message>
         <source>With the azimuth 90° easting and northing can&apos;t count from the natural origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Azimut 90° können Ost- und Nordwert nicht vom natürlichen Ursprung zählen.</translation>
     </message>
     <message>
         <source>The standard parallel, %1°, is not the latitude of origin, %2°, as this method has it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Standardparallele, %1°, ist nicht die Breite des Ursprungs, %2°, wie es diese Methode vorsieht.</translation>
     </message>
     <message>
         <source>A polar projection that names no pole, or does not say its scale in one way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine polare Projektion, die keinen Pol nennt oder ihren Maßstab nicht eindeutig angibt.</translation>
     </message>
     <message>
         <source>A parameter is missing: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Parameter fehlt: %1.</translation>
     </message>
     <message>
         <source>A parameter is unknown: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Parameter ist unbekannt: %1.</translation>
     </message>
     <message>
         <source>A parameter does not belong to the method: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Parameter gehört nicht zur Methode: %1.</translation>
     </message>
     <message>
         <source>A parameter has two values: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Parameter hat zwei Werte: %1.</translation>
     </message>
     <message>
         <source>A value is no number, or out of range: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Wert ist keine Zahl oder außerhalb des Bereichs: %1.</translation>
     </message>
     <message>
         <source>A unit is missing, or not what its name says: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Einheit fehlt oder ist nicht, was ihr Name sagt: %1.</translation>
     </message>
     <message>
         <source>The prime meridian&apos;s longitude is not that of its name: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Länge des Nullmeridians ist nicht die seines Namens: %1.</translation>
     </message>
     <message>
         <source>The ellipsoid is unknown, or its axes leave a doubt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ellipsoid ist unbekannt, oder seine Achsen lassen Zweifel.</translation>
     </message>
     <message>
         <source>Twice, or with a number too many (a decimal comma?): %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Doppelt oder mit einer Zahl zu viel (ein Dezimalkomma?): %1.</translation>
     </message>
     <message>
         <source>PROJ makes another projection of these parameters, or none.</source>
-        <translation type="unfinished"></translation>
+        <translation>PROJ macht aus diesen Parametern eine andere Projektion oder keine.</translation>
     </message>
     <message>
         <source>The text names a file, which is not read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text nennt eine Datei, die nicht gelesen wird: %1.</translation>
     </message>
     <message>
         <source>No WKT, no PROJJSON, no PROJ definition and no code of a registry.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein WKT, kein PROJJSON, keine PROJ-Definition und kein Code eines Registers.</translation>
     </message>
     <message>
         <source>Too long, or brackets too deep: up to %1 bytes are read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu lang oder zu tief geklammert: bis zu %1 Bytes werden gelesen.</translation>
     </message>
     <message>
         <source>No registry has the system %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Register hat das System %1.</translation>
     </message>
     <message>
         <source>PROJ can&apos;t read it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>PROJ kann es nicht lesen: %1</translation>
     </message>
     <message>
         <source>%1 (deprecated)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (veraltet)</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 m</translation>
     </message>
     <message>
         <source>northing comes first</source>
@@ -2403,7 +2403,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2448,7 +2448,7 @@ E %4 %6  N %5 %6</translation>
     <name>QObject</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <source>information</source>

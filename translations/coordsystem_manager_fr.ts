@@ -975,903 +975,903 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Show angles in</source>
-        <translation type="unfinished"></translation>
+        <translation>Angles affichés en</translation>
     </message>
     <message>
         <source>A fit needs points with latitude, longitude, easting and northing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un ajustement demande des points avec latitude, longitude, Est et Nord.</translation>
     </message>
     <message>
         <source>A fit takes %1 points at most: leave some out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un ajustement prend au plus %1 points : en exclure.</translation>
     </message>
     <message>
         <source>The projection gives no result at one of the points.</source>
-        <translation type="unfinished"></translation>
+        <translation>La projection ne donne aucun résultat pour l’un des points.</translation>
     </message>
     <message>
         <source>The points do not determine these values: hold one of them, or add points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les points ne déterminent pas ces valeurs : en fixer une, ou ajouter des points.</translation>
     </message>
     <message>
         <source>east</source>
-        <translation type="unfinished"></translation>
+        <translation>l’est</translation>
     </message>
     <message>
         <source>north</source>
-        <translation type="unfinished"></translation>
+        <translation>le nord</translation>
     </message>
     <message>
         <source>west</source>
-        <translation type="unfinished"></translation>
+        <translation>l’ouest</translation>
     </message>
     <message>
         <source>south</source>
-        <translation type="unfinished"></translation>
+        <translation>le sud</translation>
     </message>
     <message>
         <source>Easting and northing are swapped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Est et Nord sont intervertis.</translation>
     </message>
     <message>
         <source>The given eastings count %1, the northings %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs Est données comptent vers %1, les valeurs Nord vers %2.</translation>
     </message>
     <message>
         <source>The given eastings and northings are in feet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs Est et Nord données sont en pieds.</translation>
     </message>
     <message>
         <source>The given eastings and northings are metres that were taken for feet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs Est et Nord données sont des mètres pris pour des pieds.</translation>
     </message>
     <message>
         <source>The given grid is turned by %1° against the computed one</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carroyage donné est tourné de %1° par rapport à celui calculé</translation>
     </message>
     <message>
         <source>The points are of another zone: its central meridian is %1°.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les points sont d’une autre zone : son méridien central est %1°.</translation>
     </message>
     <message>
         <source>%1, as by a central meridian of %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, comme par un méridien central de %2°.</translation>
     </message>
     <message>
         <source>There is nothing in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a rien dedans.</translation>
     </message>
     <message>
         <source>It is no text. Save a table as CSV first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas du texte. Enregistrer d’abord le tableau en CSV.</translation>
     </message>
     <message>
         <source>latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>latitude</translation>
     </message>
     <message>
         <source>longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>longitude</translation>
     </message>
     <message>
         <source>height</source>
-        <translation type="unfinished"></translation>
+        <translation>hauteur</translation>
     </message>
     <message>
         <source>easting</source>
-        <translation type="unfinished"></translation>
+        <translation>Est</translation>
     </message>
     <message>
         <source>northing</source>
-        <translation type="unfinished"></translation>
+        <translation>Nord</translation>
     </message>
     <message>
         <source>The line is too long for a point; its beginning is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>La ligne est trop longue pour un point ; son début est conservé.</translation>
     </message>
     <message>
         <source>Can&apos;t be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Illisible : %1.</translation>
     </message>
     <message>
         <source>Out of range: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hors limites : %1.</translation>
     </message>
     <message>
         <source>There are no coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de coordonnées.</translation>
     </message>
     <message>
         <source>Missing: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manque : %1.</translation>
     </message>
     <message>
         <source>The system defines no datum shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le système ne définit aucun changement de datum.</translation>
     </message>
     <message>
         <source>The name occurs more than once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom apparaît plus d’une fois.</translation>
     </message>
     <message>
         <source>Line: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne : %1</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisé</translation>
     </message>
     <message>
         <source>Seven parameters need three points or more on both datums.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sept paramètres demandent au moins trois points dans les deux datums.</translation>
     </message>
     <message>
         <source>Three parameters need one point or more on both datums.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trois paramètres demandent au moins un point dans les deux datums.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; and &quot;%2&quot; are the same point: leave one of them out.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » et « %2 » sont le même point : exclure l’un des deux.</translation>
     </message>
     <message>
         <source>The points lie on a line, around which they leave the rotation open. Add a point beside the line, or take three parameters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les points sont alignés et laissent indéterminée la rotation autour de leur droite. Ajouter un point à l’écart, ou prendre trois paramètres.</translation>
     </message>
     <message>
         <source>No datum shift is as large as these points would have it. Are both places of each the same point, on the right datum?</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun changement de datum n’est aussi grand que ces points le voudraient. Les deux lieux de chacun sont-ils le même point, dans le bon datum ?</translation>
     </message>
     <message>
         <source>The area is too small to tell the translations from rotations and scale (correlation %1): the values mean nothing one by one, and hold within the area only. Three parameters are recommended if what they leave will do: a standard deviation of %2 m, against %3 m of seven.</source>
-        <translation type="unfinished"></translation>
+        <translation>La zone est trop petite pour distinguer les translations des rotations et de l’échelle (corrélation %1) : prises une à une, les valeurs ne signifient rien, et ne valent que dans la zone. Trois paramètres sont à préférer si ce qu’ils laissent suffit : un écart-type de %2 m, contre %3 m avec sept.</translation>
     </message>
     <message>
         <source>No projection: these values make none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de projection : ces valeurs n’en donnent aucune.</translation>
     </message>
     <message>
         <source>Rotations in the position-vector convention (EPSG 9606, PROJ towgs84). Figures published in the coordinate-frame convention (EPSG 9607): type them as they are, then reverse their signs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotations selon la convention « position vector » (EPSG 9606, PROJ towgs84). Valeurs publiées selon la convention « coordinate frame » (EPSG 9607) : les saisir telles quelles, puis inverser leurs signes.</translation>
     </message>
     <message>
         <source>Reverse rotation signs</source>
-        <translation type="unfinished"></translation>
+        <translation>Inverser le signe des rotations</translation>
     </message>
     <message>
         <source>From points...</source>
-        <translation type="unfinished"></translation>
+        <translation>De points...</translation>
     </message>
     <message>
         <source>Stands in exported definitions; nothing is computed from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Figure dans les définitions exportées ; rien n’en est calculé.</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>inconnu</translation>
     </message>
     <message>
         <source>Shift to WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>Passage à WGS 84</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>Seven parameters (three: the rest 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sept paramètres (trois : les autres à 0)</translation>
     </message>
     <message>
         <source>Estimates the shift from points known on both datums.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estime le passage d’après des points connus dans les deux datums.</translation>
     </message>
     <message>
         <source>Datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Changement de datum</translation>
     </message>
     <message>
         <source>Without a shift, coordinates on WGS 84 are unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans passage, les coordonnées en WGS 84 sont inconnues.</translation>
     </message>
     <message>
         <source>This kind of shift is unknown here; it is kept as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce type de passage est inconnu ici ; il est conservé tel quel.</translation>
     </message>
     <message>
         <source>The signs of all three rotations are reversed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les signes des trois rotations sont inversés.</translation>
     </message>
     <message>
         <source>Definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Définition</translation>
     </message>
     <message>
         <source>PROJ definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Définition PROJ</translation>
     </message>
     <message>
         <source>WKT dialect</source>
-        <translation type="unfinished"></translation>
+        <translation>Dialecte WKT</translation>
     </message>
     <message>
         <source>WKT 1 (GDAL)</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT 1 (GDAL)</translation>
     </message>
     <message>
         <source>WKT 1 (ESRI)</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT 1 (ESRI)</translation>
     </message>
     <message>
         <source>WKT 2:2019</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT 2:2019</translation>
     </message>
     <message>
         <source>With identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec identifiant</translation>
     </message>
     <message>
         <source>Save as .prj</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer en .prj</translation>
     </message>
     <message>
         <source>Save group...</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le groupe...</translation>
     </message>
     <message>
         <source>WKT</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT</translation>
     </message>
     <message>
         <source>Where from</source>
-        <translation type="unfinished"></translation>
+        <translation>Provenance</translation>
     </message>
     <message>
         <source>From text...</source>
-        <translation type="unfinished"></translation>
+        <translation>D’un texte...</translation>
     </message>
     <message>
         <source>This form can&apos;t express the system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette forme ne peut exprimer le système.</translation>
     </message>
     <message>
         <source>This form can&apos;t carry the identifier.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette forme ne peut porter l’identifiant.</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissement</translation>
     </message>
     <message>
         <source>The file can&apos;t be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier ne peut être écrit : %1</translation>
     </message>
     <message>
         <source>No coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun système de coordonnées</translation>
     </message>
     <message>
         <source>%1 – choose a coordinate system in the tree</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – choisir un système de coordonnées dans l’arbre</translation>
     </message>
     <message>
         <source>Forward to the edited values</source>
-        <translation type="unfinished"></translation>
+        <translation>Revenir aux valeurs modifiées</translation>
     </message>
     <message>
         <source>Back to the values before</source>
-        <translation type="unfinished"></translation>
+        <translation>Revenir aux valeurs d’avant</translation>
     </message>
     <message>
         <source>Ellipsoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipsoïde</translation>
     </message>
     <message>
         <source>Semi-minor axis b</source>
-        <translation type="unfinished"></translation>
+        <translation>Demi-petit axe b</translation>
     </message>
     <message>
         <source>Eccentricity e</source>
-        <translation type="unfinished"></translation>
+        <translation>Excentricité e</translation>
     </message>
     <message>
         <source>Choose an ellipsoid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un ellipsoïde.</translation>
     </message>
     <message>
         <source>Not in the list of ellipsoids.</source>
-        <translation type="unfinished"></translation>
+        <translation>Absent de la liste des ellipsoïdes.</translation>
     </message>
     <message>
         <source>The figures differ from the list&apos;s ellipsoid of this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs diffèrent de l’ellipsoïde de ce nom dans la liste.</translation>
     </message>
     <message>
         <source>Decimal degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Degrés décimaux</translation>
     </message>
     <message>
         <source>Degrees, minutes, seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Degrés, minutes, secondes</translation>
     </message>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Copié</translation>
     </message>
     <message>
         <source>Metre</source>
-        <translation type="unfinished"></translation>
+        <translation>Mètre</translation>
     </message>
     <message>
         <source>International foot, 0.3048 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Pied international, 0.3048 m</translation>
     </message>
     <message>
         <source>US survey foot, 1200/3937 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Pied d’arpentage US, 1200/3937 m</translation>
     </message>
     <message>
         <source>Lengths in metres (m), international feet (ft) or US survey feet (ftUS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueurs en mètres (m), pieds internationaux (ft) ou pieds d’arpentage US (ftUS)</translation>
     </message>
     <message>
         <source>From text</source>
-        <translation type="unfinished"></translation>
+        <translation>D’un texte</translation>
     </message>
     <message>
         <source>Paste or type WKT, a PROJ definition, PROJJSON, or a code as EPSG:25832.</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller ou saisir du WKT, une définition PROJ, du PROJJSON, ou un code comme EPSG:25832.</translation>
     </message>
     <message>
         <source>Understood</source>
-        <translation type="unfinished"></translation>
+        <translation>Compris</translation>
     </message>
     <message>
         <source>Understood:</source>
-        <translation type="unfinished"></translation>
+        <translation>Compris :</translation>
     </message>
     <message>
         <source>Geoid model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle de géoïde</translation>
     </message>
     <message>
         <source>Model file</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier du modèle</translation>
     </message>
     <message>
         <source>Model ellipsoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipsoïde du modèle</translation>
     </message>
     <message>
         <source>(none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(aucun)</translation>
     </message>
     <message>
         <source>Not in the list of geoid models.</source>
-        <translation type="unfinished"></translation>
+        <translation>Absent de la liste des modèles de géoïde.</translation>
     </message>
     <message>
         <source>The model refers to another ellipsoid than the system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le modèle se rapporte à un autre ellipsoïde que le système.</translation>
     </message>
     <message>
         <source>Method</source>
-        <translation type="unfinished"></translation>
+        <translation>Méthode</translation>
     </message>
     <message>
         <source>Projection method</source>
-        <translation type="unfinished"></translation>
+        <translation>Méthode de projection</translation>
     </message>
     <message>
         <source>Choose the method</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir la méthode</translation>
     </message>
     <message>
         <source>Projection</source>
-        <translation type="unfinished"></translation>
+        <translation>Projection</translation>
     </message>
     <message>
         <source>Still to choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reste à choisir.</translation>
     </message>
     <message>
         <source>A latitude goes with N or S.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une latitude va avec N ou S.</translation>
     </message>
     <message>
         <source>A longitude goes with E or W.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une longitude va avec E ou W.</translation>
     </message>
     <message>
         <source>An azimuth goes without a letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un azimut va sans lettre.</translation>
     </message>
     <message>
         <source>Use a decimal point, not a comma.</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser un point décimal, pas une virgule.</translation>
     </message>
     <message>
         <source>Not an angle. Examples: 7.5, 7 30 00, 7°30&apos;00&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas un angle. Exemples : 7.5, 7 30 00, 7°30&apos;00&quot;.</translation>
     </message>
     <message>
         <source>Only the last part may have decimals.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seule la dernière partie peut avoir des décimales.</translation>
     </message>
     <message>
         <source>Minutes must be less than 60.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les minutes doivent être inférieures à 60.</translation>
     </message>
     <message>
         <source>Seconds must be less than 60.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les secondes doivent être inférieures à 60.</translation>
     </message>
     <message>
         <source>Give either a sign or a letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Donner soit un signe, soit une lettre.</translation>
     </message>
     <message>
         <source>Semi-major axis a</source>
-        <translation type="unfinished"></translation>
+        <translation>Demi-grand axe a</translation>
     </message>
     <message>
         <source>Inverse flattening 1/f</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplatissement inverse 1/f</translation>
     </message>
     <message>
         <source>Translation X</source>
-        <translation type="unfinished"></translation>
+        <translation>Translation X</translation>
     </message>
     <message>
         <source>Translation Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Translation Y</translation>
     </message>
     <message>
         <source>Translation Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Translation Z</translation>
     </message>
     <message>
         <source>Rotation X</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation X</translation>
     </message>
     <message>
         <source>Rotation Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation Y</translation>
     </message>
     <message>
         <source>Rotation Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation Z</translation>
     </message>
     <message>
         <source>Scale difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart d’échelle</translation>
     </message>
     <message>
         <source>A sphere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une sphère.</translation>
     </message>
     <message>
         <source>Unusual for the Earth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhabituel pour la Terre.</translation>
     </message>
     <message>
         <source>Unusually large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhabituellement grand.</translation>
     </message>
     <message>
         <source>Nothing can be computed: the projection module is not installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne peut être calculé : le module de projection n’est pas installé.</translation>
     </message>
     <message>
         <source>These parameters give no projection that can be computed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces paramètres ne donnent aucune projection calculable.</translation>
     </message>
     <message>
         <source>The model names no file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le modèle ne nomme aucun fichier.</translation>
     </message>
     <message>
         <source>Not in the folder of geoid models.</source>
-        <translation type="unfinished"></translation>
+        <translation>Absent du dossier des modèles de géoïde.</translation>
     </message>
     <message>
         <source>The folder of geoid models has &quot;%1&quot; instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier des modèles de géoïde contient « %1 » à la place.</translation>
     </message>
     <message>
         <source>Not a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas un fichier.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est vide.</translation>
     </message>
     <message>
         <source>Not a length in %1 with a decimal point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas une longueur en %1 avec point décimal.</translation>
     </message>
     <message>
         <source>Allowed: 0 (sphere), or more than 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Admis : 0 (sphère), ou plus de 1.</translation>
     </message>
     <message>
         <source>Allowed: between %1 and %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Admis : entre %1 et %2.</translation>
     </message>
     <message>
         <source>Allowed: ±%1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Admis : ±%1.</translation>
     </message>
     <message>
         <source>Allowed: %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Admis : %1 à %2.</translation>
     </message>
     <message>
         <source>A value is needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il faut une valeur.</translation>
     </message>
     <message>
         <source>Only digits and a decimal point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Uniquement des chiffres et un point décimal.</translation>
     </message>
     <message>
         <source>Datum shift to WGS 84: none</source>
-        <translation type="unfinished"></translation>
+        <translation>Changement de datum vers WGS 84 : aucun</translation>
     </message>
     <message>
         <source>Datum shift to WGS 84: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Changement de datum vers WGS 84 : %1</translation>
     </message>
     <message>
         <source>Pasted text, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte collé, %1</translation>
     </message>
     <message>
         <source>The text counts in %1, the record in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte compte en %1, la fiche en mètres.</translation>
     </message>
     <message>
         <source>Its datum shift is by grids, or of another kind, and is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Son changement de datum est par grilles, ou d’un autre type, et est omis.</translation>
     </message>
     <message>
         <source>Its heights are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ses hauteurs sont omises.</translation>
     </message>
     <message>
         <source>The registry has withdrawn it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le registre l’a retiré.</translation>
     </message>
     <message>
         <source>(line %1, column %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>(ligne %1, colonne %2)</translation>
     </message>
     <message>
         <source>Ellipsoid: %1, a %2 m, 1/f %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipsoïde : %1, a %2 m, 1/f %3</translation>
     </message>
     <message>
         <source>Datum: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum : %1</translation>
     </message>
     <message>
         <source>not named</source>
-        <translation type="unfinished"></translation>
+        <translation>non nommé</translation>
     </message>
     <message>
         <source>No projection: latitudes of the points equal, or the first 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de projection : latitudes des points égales, ou la première nulle.</translation>
     </message>
     <message>
         <source>No projection: the standard parallels cancel out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de projection : les parallèles standard s’annulent.</translation>
     </message>
     <message>
         <source>No projection yet: the system has no ellipsoid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore de projection : le système n’a pas d’ellipsoïde.</translation>
     </message>
     <message>
         <source>No projection yet: choose the method.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore de projection : choisir la méthode.</translation>
     </message>
     <message>
         <source>No projection: the method &quot;%1&quot; is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de projection : la méthode « %1 » est inconnue.</translation>
     </message>
     <message>
         <source>No projection: the definition fits none of the methods.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de projection : la définition ne convient à aucune des méthodes.</translation>
     </message>
     <message>
         <source>No projection: &quot;%1&quot; is missing or wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de projection : « %1 » manque ou est faux.</translation>
     </message>
     <message>
         <source>No projection: a standard parallel needs the scale factor 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de projection : un parallèle standard exige le facteur d’échelle 1.</translation>
     </message>
     <message>
         <source>No projection: the scale factor is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de projection : le facteur d’échelle manque.</translation>
     </message>
     <message>
         <source>Must be 1: the standard parallel sets the scale.</source>
-        <translation type="unfinished"></translation>
+        <translation>Doit être 1 : le parallèle standard fixe l’échelle.</translation>
     </message>
     <message>
         <source>Unusual: scale factors lie close to 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhabituel : les facteurs d’échelle sont proches de 1.</translation>
     </message>
     <message>
         <source>Without effect: the origin is no pole.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans effet : l’origine n’est pas un pôle.</translation>
     </message>
     <message>
         <source>With 0° this is the plain Mercator projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec 0°, c’est la projection de Mercator simple.</translation>
     </message>
     <message>
         <source>Usually equal to the latitude of origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Généralement égal à la latitude d’origine.</translation>
     </message>
     <message>
         <source>The standard parallels nearly cancel out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les parallèles standard s’annulent presque.</translation>
     </message>
     <message>
         <source>Gives the line of %1°. For the line of this azimuth, type %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>Donne la ligne de %1°. Pour la ligne de cet azimut, saisir %2°.</translation>
     </message>
     <message>
         <source>Zone %1 of UTM has the central meridian %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>La zone UTM %1 a pour méridien central %2°.</translation>
     </message>
     <message>
         <source>Does not fit zone %1 of the false easting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne correspond pas à la zone %1 de l’Est fictif.</translation>
     </message>
     <message>
         <source>Latitude of origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitude d’origine</translation>
     </message>
     <message>
         <source>Latitude of centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitude du centre</translation>
     </message>
     <message>
         <source>Longitude of origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitude d’origine</translation>
     </message>
     <message>
         <source>Longitude of centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitude du centre</translation>
     </message>
     <message>
         <source>Latitude of point 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitude du point 1</translation>
     </message>
     <message>
         <source>Longitude of point 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitude du point 1</translation>
     </message>
     <message>
         <source>Latitude of point 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitude du point 2</translation>
     </message>
     <message>
         <source>Longitude of point 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitude du point 2</translation>
     </message>
     <message>
         <source>Azimuth of the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Azimut de la ligne</translation>
     </message>
     <message>
         <source>Standard parallel 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Parallèle standard 1</translation>
     </message>
     <message>
         <source>Standard parallel 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Parallèle standard 2</translation>
     </message>
     <message>
         <source>Easting at centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Est au centre</translation>
     </message>
     <message>
         <source>Northing at centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Nord au centre</translation>
     </message>
     <message>
         <source>Gauss-Krüger (scale factor 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauss-Krüger (facteur d’échelle 1)</translation>
     </message>
     <message>
         <source>Transverse Mercator</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercator transverse</translation>
     </message>
     <message>
         <source>Mercator</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercator</translation>
     </message>
     <message>
         <source>Mercator (standard parallel)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercator (parallèle standard)</translation>
     </message>
     <message>
         <source>Oblique Mercator (azimuth)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercator oblique (azimut)</translation>
     </message>
     <message>
         <source>Stereographic</source>
-        <translation type="unfinished"></translation>
+        <translation>Stéréographique</translation>
     </message>
     <message>
         <source>Oblique Stereographic (double)</source>
-        <translation type="unfinished"></translation>
+        <translation>Stéréographique oblique (double)</translation>
     </message>
     <message>
         <source>Lambert Conic Conformal (1SP)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lambert conique conforme (1SP)</translation>
     </message>
     <message>
         <source>Lambert Conic Conformal (2SP)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lambert conique conforme (2SP)</translation>
     </message>
     <message>
         <source>Oblique Mercator (two points)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercator oblique (deux points)</translation>
     </message>
     <message>
         <source>Cassini-Soldner</source>
-        <translation type="unfinished"></translation>
+        <translation>Cassini-Soldner</translation>
     </message>
     <message>
         <source>the name</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom</translation>
     </message>
     <message>
         <source>the ellipsoid&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom de l’ellipsoïde</translation>
     </message>
     <message>
         <source>the projection method</source>
-        <translation type="unfinished"></translation>
+        <translation>la méthode de projection</translation>
     </message>
     <message>
         <source>the datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>le changement de datum</translation>
     </message>
     <message>
         <source>This form can&apos;t be imported again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette forme ne peut être réimportée.</translation>
     </message>
     <message>
         <source>Does not come back with an import of this form: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne revient pas à l’import de cette forme : %1.</translation>
     </message>
     <message>
         <source>Other software may count easting and northing from the natural origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>D’autres logiciels peuvent compter Est et Nord depuis l’origine naturelle.</translation>
     </message>
     <message>
         <source>Position-vector convention (EPSG 9606, PROJ towgs84)</source>
-        <translation type="unfinished"></translation>
+        <translation>Convention « position vector » (EPSG 9606, PROJ towgs84)</translation>
     </message>
     <message>
         <source>of an unknown kind</source>
-        <translation type="unfinished"></translation>
+        <translation>d’un type inconnu</translation>
     </message>
     <message>
         <source>A geographic system: latitude and longitude, without a projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un système géographique : latitude et longitude, sans projection.</translation>
     </message>
     <message>
         <source>A geocentric system: X, Y and Z, without a projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un système géocentrique : X, Y et Z, sans projection.</translation>
     </message>
     <message>
         <source>A system of heights, without a projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un système d’altitudes, sans projection.</translation>
     </message>
     <message>
         <source>A local system, without a place on the Earth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un système local, sans lieu sur la Terre.</translation>
     </message>
     <message>
         <source>No system that is projected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas un système projeté.</translation>
     </message>
     <message>
         <source>None of the methods holds this projection exactly: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune des méthodes ne rend exactement cette projection : %1.</translation>
     </message>
     <message>
         <source>The axes do not point east and north, but: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les axes ne pointent pas vers l’est et le nord, mais : %1.</translation>
     </message>
     <message>
         <source>The grid is turned by %1°, not by the azimuth of the line, %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carroyage est tourné de %1°, non de l’azimut de la ligne, %2°.</translation>
     </message>
     <message>
         <source>With the azimuth 90° easting and northing can&apos;t count from the natural origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec l’azimut 90°, Est et Nord ne peuvent compter depuis l’origine naturelle.</translation>
     </message>
     <message>
         <source>The standard parallel, %1°, is not the latitude of origin, %2°, as this method has it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le parallèle standard, %1°, n’est pas la latitude d’origine, %2°, comme le veut cette méthode.</translation>
     </message>
     <message>
         <source>A polar projection that names no pole, or does not say its scale in one way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une projection polaire qui ne nomme aucun pôle, ou ne dit pas son échelle d’une seule façon.</translation>
     </message>
     <message>
         <source>A parameter is missing: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un paramètre manque : %1.</translation>
     </message>
     <message>
         <source>A parameter is unknown: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un paramètre est inconnu : %1.</translation>
     </message>
     <message>
         <source>A parameter does not belong to the method: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un paramètre n’appartient pas à la méthode : %1.</translation>
     </message>
     <message>
         <source>A parameter has two values: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un paramètre a deux valeurs : %1.</translation>
     </message>
     <message>
         <source>A value is no number, or out of range: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une valeur n’est pas un nombre, ou est hors limites : %1.</translation>
     </message>
     <message>
         <source>A unit is missing, or not what its name says: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une unité manque, ou n’est pas ce que dit son nom : %1.</translation>
     </message>
     <message>
         <source>The prime meridian&apos;s longitude is not that of its name: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La longitude du méridien origine n’est pas celle de son nom : %1.</translation>
     </message>
     <message>
         <source>The ellipsoid is unknown, or its axes leave a doubt.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’ellipsoïde est inconnu, ou ses axes laissent un doute.</translation>
     </message>
     <message>
         <source>Twice, or with a number too many (a decimal comma?): %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>En double, ou avec un nombre de trop (une virgule décimale ?) : %1.</translation>
     </message>
     <message>
         <source>PROJ makes another projection of these parameters, or none.</source>
-        <translation type="unfinished"></translation>
+        <translation>PROJ fait de ces paramètres une autre projection, ou aucune.</translation>
     </message>
     <message>
         <source>The text names a file, which is not read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte nomme un fichier, qui n’est pas lu : %1.</translation>
     </message>
     <message>
         <source>No WKT, no PROJJSON, no PROJ definition and no code of a registry.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ni WKT, ni PROJJSON, ni définition PROJ, ni code d’un registre.</translation>
     </message>
     <message>
         <source>Too long, or brackets too deep: up to %1 bytes are read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop long, ou parenthèses trop profondes : %1 octets au plus sont lus.</translation>
     </message>
     <message>
         <source>No registry has the system %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun registre n’a le système %1.</translation>
     </message>
     <message>
         <source>PROJ can&apos;t read it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>PROJ ne peut le lire : %1</translation>
     </message>
     <message>
         <source>%1 (deprecated)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (obsolète)</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 m</translation>
     </message>
     <message>
         <source>northing comes first</source>
@@ -2403,7 +2403,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissement</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2448,7 +2448,7 @@ E %4 %6  N %5 %6</translation>
     <name>QObject</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissement</translation>
     </message>
     <message>
         <source>information</source>
