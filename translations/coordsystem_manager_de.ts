@@ -1103,11 +1103,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Seven parameters need three points or more on both datums.</source>
-        <translation>Sieben Parameter brauchen mindestens drei Punkte in beiden Datums.</translation>
+        <translation>Sieben Parameter brauchen mindestens drei Punkte im eigenen Datum und in WGS 84.</translation>
     </message>
     <message>
         <source>Three parameters need one point or more on both datums.</source>
-        <translation>Drei Parameter brauchen mindestens einen Punkt in beiden Datums.</translation>
+        <translation>Drei Parameter brauchen mindestens einen Punkt im eigenen Datum und in WGS 84.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; and &quot;%2&quot; are the same point: leave one of them out.</source>
@@ -1163,7 +1163,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Estimates the shift from points known on both datums.</source>
-        <translation>Schätzt den Übergang aus Punkten, die in beiden Datums bekannt sind.</translation>
+        <translation>Schätzt den Übergang aus Punkten, die im eigenen Datum und in WGS 84 bekannt sind.</translation>
     </message>
     <message>
         <source>Datum shift</source>
@@ -1875,531 +1875,531 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>northing comes first</source>
-        <translation type="unfinished"></translation>
+        <translation>zuerst der Nordwert kommt</translation>
     </message>
     <message>
         <source>in US survey feet</source>
-        <translation type="unfinished"></translation>
+        <translation>in US-Vermessungsfuß</translation>
     </message>
     <message>
         <source>in international feet</source>
-        <translation type="unfinished"></translation>
+        <translation>in internationalen Fuß</translation>
     </message>
     <message>
         <source>in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>in %1</translation>
     </message>
     <message>
         <source>%1 is missing before the easting</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 vor dem Ostwert fehlt</translation>
     </message>
     <message>
         <source>%1 before the easting is the zone</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 vor dem Ostwert die Zone ist</translation>
     </message>
     <message>
         <source>if %1</source>
-        <translation type="unfinished"></translation>
+        <translation>falls %1</translation>
     </message>
     <message>
         <source>the same</source>
-        <translation type="unfinished"></translation>
+        <translation>dasselbe</translation>
     </message>
     <message>
         <source>own</source>
-        <translation type="unfinished"></translation>
+        <translation>eigenes</translation>
     </message>
     <message>
         <source>With the system&apos;s datum shift, the place being on WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit dem Datumsübergang des Systems, der Ort in WGS 84</translation>
     </message>
     <message>
         <source>From the place to where the system has the coordinates; of several points the root mean square</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Ort bis dahin, wo das System die Koordinaten hat; bei mehreren Punkten das quadratische Mittel</translation>
     </message>
     <message>
         <source>What is left of the distances without what all points have in common, as a datum shift: the smaller, the better the system fits</source>
-        <translation type="unfinished"></translation>
+        <translation>Was von den Abständen bleibt ohne das, was allen Punkten gemeinsam ist, wie ein Datumsübergang: je kleiner, desto besser passt das System</translation>
     </message>
     <message>
         <source>Spread</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuung</translation>
     </message>
     <message>
         <source>EPSG</source>
-        <translation type="unfinished"></translation>
+        <translation>EPSG</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedingung</translation>
     </message>
     <message>
         <source>EPSG:%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>EPSG:%1, %2</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>fehlt</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 und %n weiteres</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
         </translation>
     </message>
     <message>
         <source>In the registry</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Register</translation>
     </message>
     <message>
         <source>The record is no system of the registry.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datensatz ist kein System des Registers.</translation>
     </message>
     <message>
         <source>Says that this is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sagt aus, dass dies %1 ist.</translation>
     </message>
     <message>
         <source>Says that this is %1, on the datum %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sagt aus, dass dies %1 ist, im Datum %2.</translation>
     </message>
     <message>
         <source>The registry leaves the datum open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Register lässt das Datum offen.</translation>
     </message>
     <message>
         <source>The registry&apos;s datum is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Datum im Register ist %1.</translation>
     </message>
     <message>
         <source>The registry counts in %1, the record in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Register rechnet in %1, der Datensatz in Metern.</translation>
     </message>
     <message>
         <source>The registry&apos;s figures differ a little.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Werte des Registers weichen ein wenig ab.</translation>
     </message>
     <message>
         <source>Looking through the EPSG registry...</source>
-        <translation type="unfinished"></translation>
+        <translation>Das EPSG-Register wird durchsucht...</translation>
     </message>
     <message>
         <source>%1: the same to %2 mm over its area</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: bis auf %2 mm gleich im ganzen Gebiet</translation>
     </message>
     <message>
         <source>Also %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch %1</translation>
     </message>
     <message>
         <source>No system of the EPSG registry is like it</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein System des EPSG-Registers gleicht ihm</translation>
     </message>
     <message>
         <source>As %1, but: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie %1, aber: %2</translation>
     </message>
     <message>
         <source>%1 %2 (there %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 (dort %3)</translation>
     </message>
     <message>
         <source>EPSG code, words of the name or of the area</source>
-        <translation type="unfinished"></translation>
+        <translation>EPSG-Code, Wörter des Namens oder des Gebiets</translation>
     </message>
     <message>
         <source>Deprecated ones too</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch veraltete</translation>
     </message>
     <message>
         <source>Covers the point</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckt den Punkt ab</translation>
     </message>
     <message>
         <source>Systems found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefundene Systeme: %1</translation>
     </message>
     <message>
         <source>A place, roughly, and the coordinates that it has in the unknown system; more points narrow it down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein ungefährer Ort und die Koordinaten, die er im unbekannten System hat; weitere Punkte grenzen es ein.</translation>
     </message>
     <message>
         <source>Paste rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen einfügen</translation>
     </message>
     <message>
         <source>Lines of latitude, longitude, first and second coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen mit Breite, Länge, erster und zweiter Koordinate</translation>
     </message>
     <message>
         <source>Searching...</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche läuft...</translation>
     </message>
     <message>
         <source>Systems found so far: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bisher gefundene Systeme: %1</translation>
     </message>
     <message>
         <source>No system that is used there can have these coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein dort verwendetes System kann diese Koordinaten haben.</translation>
     </message>
     <message>
         <source>Distances are without datum shift, which can move a place by some hundred metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstände sind ohne Datumsübergang, der einen Ort um einige hundert Meter versetzen kann.</translation>
     </message>
     <message numerus="yes">
         <source>No system gives these coordinates within 50 km of the place. The nearest %n:</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Kein System liefert diese Koordinaten innerhalb von 50 km um den Ort. Das nächste:</numerusform>
+            <numerusform>Kein System liefert diese Koordinaten innerhalb von 50 km um den Ort. Die nächsten %n:</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 from the place, with the system&apos;s datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 vom Ort, mit dem Datumsübergang des Systems</translation>
     </message>
     <message>
         <source>%1 from the place, without datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 vom Ort, ohne Datumsübergang</translation>
     </message>
     <message>
         <source>, %1 with the one below</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 mit dem unten</translation>
     </message>
     <message>
         <source>Nothing to paste: lines of latitude, longitude and two coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts einzufügen: Zeilen mit Breite, Länge und zwei Koordinaten.</translation>
     </message>
     <message>
         <source>First coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Koordinate</translation>
     </message>
     <message>
         <source>Second coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweite Koordinate</translation>
     </message>
     <message>
         <source>%1 of point %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von Punkt %2</translation>
     </message>
     <message>
         <source>Point %1, %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkt %1, %2: %3</translation>
     </message>
     <message>
         <source>%1, accuracy %2 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Genauigkeit %2 m</translation>
     </message>
     <message>
         <source>From registry</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Register</translation>
     </message>
     <message>
         <source>By name or code</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Name oder Code</translation>
     </message>
     <message>
         <source>From coordinates</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Koordinaten</translation>
     </message>
     <message>
         <source>Datum shift to WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>Datumsübergang zu WGS 84</translation>
     </message>
     <message>
         <source>Copies this system&apos;s ellipsoid, projection, datum shift and geoid model; name and remark stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert Ellipsoid, Projektion, Datumsübergang und Geoidmodell dieses Systems; Name und Bemerkung bleiben.</translation>
     </message>
     <message>
         <source>As in the catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie im Katalog</translation>
     </message>
     <message>
         <source>Of the own catalogue: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus dem eigenen Katalog: %1</translation>
     </message>
     <message>
         <source>The file is there already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist schon da.</translation>
     </message>
     <message>
         <source>The file there is an older one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei dort ist eine ältere.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgebrochen.</translation>
     </message>
     <message>
         <source>Left out. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgelassen. %1</translation>
     </message>
     <message>
         <source>There already</source>
-        <translation type="unfinished"></translation>
+        <translation>Schon vorhanden</translation>
     </message>
     <message>
         <source>Saved. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert. %1</translation>
     </message>
     <message>
         <source>Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert</translation>
     </message>
     <message>
         <source>Saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert: %1</translation>
     </message>
     <message>
         <source>Left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgelassen: %1</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Save group as .prj</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe als .prj speichern</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchsuchen...</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusammenfassung</translation>
     </message>
     <message>
         <source>Copy summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusammenfassung kopieren</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>Überschreiben</translation>
     </message>
     <message>
         <source>Keep existing</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorhandene behalten</translation>
     </message>
     <message numerus="yes">
         <source>There already: %n of %1 files. Overwrite them?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Schon vorhanden: %n von %1 Dateien. Überschreiben?</numerusform>
+            <numerusform>Schon vorhanden: %n von %1 Dateien. Überschreiben?</numerusform>
         </translation>
     </message>
     <message>
         <source>There is no such folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen solchen Ordner.</translation>
     </message>
     <message>
         <source>Systems: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Systeme: %1</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Shift from points</source>
-        <translation type="unfinished"></translation>
+        <translation>Übergang aus Punkten</translation>
     </message>
     <message>
         <source>Own datum</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenes Datum</translation>
     </message>
     <message>
         <source>Latitude, longitude, height</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite, Länge, Höhe</translation>
     </message>
     <message>
         <source>Easting, northing, height</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostwert, Nordwert, Höhe</translation>
     </message>
     <message>
         <source>Geocentric X, Y, Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Geozentrisch X, Y, Z</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parameter</translation>
     </message>
     <message>
         <source>Seven</source>
-        <translation type="unfinished"></translation>
+        <translation>Sieben</translation>
     </message>
     <message>
         <source>Three</source>
-        <translation type="unfinished"></translation>
+        <translation>Drei</translation>
     </message>
     <message>
         <source>Points are typed, or pasted as lines: name and three numbers on either datum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte eingeben oder als Zeilen einfügen: Name und drei Zahlen im einen oder anderen Datum.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Advice</source>
-        <translation type="unfinished"></translation>
+        <translation>Rat</translation>
     </message>
     <message>
         <source>Just enough points: nothing is left over to tell how good the shift is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerade genug Punkte: nichts bleibt übrig, woran die Güte des Übergangs zu erkennen wäre.</translation>
     </message>
     <message>
         <source>Standard deviation of a coordinate: %1 m (redundancy %2).</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardabweichung einer Koordinate: %1 m (Redundanz %2).</translation>
     </message>
     <message>
         <source>%1 with %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mit %2 %3</translation>
     </message>
     <message>
         <source>Largest correlations: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte Korrelationen: %1.</translation>
     </message>
     <message>
         <source>Lines that can&apos;t be used: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verwendbare Zeilen: %1.</translation>
     </message>
     <message>
         <source>The projection gives no result here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Projektion liefert hier kein Ergebnis.</translation>
     </message>
     <message>
         <source>This place is not on the Earth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Ort liegt nicht auf der Erde.</translation>
     </message>
     <message>
         <source>The other points speak against this one: check it, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die anderen Punkte sprechen gegen diesen: prüfen oder ausschließen.</translation>
     </message>
     <message>
         <source>Easting, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostwert, m</translation>
     </message>
     <message>
         <source>Northing, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Nordwert, m</translation>
     </message>
     <message>
         <source>Height, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe, m</translation>
     </message>
     <message>
         <source>WGS 84 X, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 X, m</translation>
     </message>
     <message>
         <source>WGS 84 latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 Breite</translation>
     </message>
     <message>
         <source>WGS 84 Y, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 Y, m</translation>
     </message>
     <message>
         <source>WGS 84 longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 Länge</translation>
     </message>
     <message>
         <source>WGS 84 Z, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 Z, m</translation>
     </message>
     <message>
         <source>WGS 84 height, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 Höhe, m</translation>
     </message>
     <message>
         <source>Before, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorher, m</translation>
     </message>
     <message>
         <source>East, mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Ost, mm</translation>
     </message>
     <message>
         <source>North, mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Nord, mm</translation>
     </message>
     <message>
         <source>Up, mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoch, mm</translation>
     </message>
 </context>
 <context>
     <name>DlgCoordSysGroups</name>
     <message>
         <source>CoordSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>Koordinatensysteme</translation>
     </message>
     <message>
         <source>AddSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe hinzufügen</translation>
     </message>
     <message>
         <source>ImportCoordSys</source>
-        <translation type="unfinished"></translation>
+        <translation>Systeme importieren</translation>
     </message>
     <message>
         <source>AddCoordSys</source>
-        <translation type="unfinished"></translation>
+        <translation>System hinzufügen</translation>
     </message>
     <message>
         <source>EditSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe umbenennen</translation>
     </message>
     <message>
         <source>DelSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe löschen</translation>
     </message>
     <message>
         <source>EditSys</source>
-        <translation type="unfinished"></translation>
+        <translation>System umbenennen</translation>
     </message>
     <message>
         <source>DelSys</source>
-        <translation type="unfinished"></translation>
+        <translation>System löschen</translation>
     </message>
     <message>
         <source>are you sure delete coord system group %1 ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe %1 wirklich löschen?</translation>
     </message>
     <message>
         <source>are you sure delete coord system %1 ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Koordinatensystem %1 wirklich löschen?</translation>
     </message>
     <message>
         <source>Selecte WKT file</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT-Dateien wählen</translation>
     </message>
     <message>
         <source>Import file failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Import der Datei ist fehlgeschlagen!</translation>
     </message>
     <message>
         <source>Import file isn&apos;t projection coordinates!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die importierte Datei enthält kein projiziertes Koordinatensystem!</translation>
     </message>
     <message>
         <source>The Imported projection coordinates already exist in the group!</source>
-        <translation type="unfinished"></translation>
+        <translation>Das importierte projizierte Koordinatensystem ist in der Gruppe schon vorhanden!</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -2414,34 +2414,34 @@ E %4 %6  N %5 %6</translation>
     <name>DlgInputName</name>
     <message>
         <source>please input name</source>
-        <translation type="unfinished"></translation>
+        <translation>Namen eingeben</translation>
     </message>
     <message>
         <source>please input valid content!</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte einen gültigen Namen eingeben!</translation>
     </message>
     <message>
         <source>has same as coord group name!</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Gruppe dieses Namens gibt es schon!</translation>
     </message>
     <message>
         <source>has same as coord system name!</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein System dieses Namens gibt es schon!</translation>
     </message>
     <message>
         <source>information</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis</translation>
     </message>
 </context>
 <context>
     <name>QFile</name>
     <message>
         <source>Filename refers to a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Dateiname bezeichnet einen Ordner</translation>
     </message>
     <message>
         <source>Unknown error</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannter Fehler</translation>
     </message>
 </context>
 <context>
@@ -2452,19 +2452,19 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>information</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis</translation>
     </message>
     <message>
         <source>Do you want to exit program?</source>
-        <translation type="unfinished"></translation>
+        <translation>Programm beenden?</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -2472,79 +2472,79 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>please input correct param!</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte gültige Parameter eingeben!</translation>
     </message>
     <message>
         <source>Are you sure you want to delete ellipsoid [%1]?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipsoid [%1] wirklich löschen?</translation>
     </message>
     <message>
         <source>has same name as system, whether cover?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein eigenes Ellipsoid dieses Namens gibt es schon. Ersetzen?</translation>
     </message>
     <message>
         <source>new add ellipsoid name can&apos;t same as system!</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Namen trägt schon ein mitgeliefertes Ellipsoid!</translation>
     </message>
     <message>
         <source>Edit Ellipsoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipsoide bearbeiten</translation>
     </message>
     <message>
         <source>Ellipsoid Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name des Ellipsoids</translation>
     </message>
     <message>
         <source>ellipsoid a(m)</source>
-        <translation type="unfinished"></translation>
+        <translation>Große Halbachse a (m)</translation>
     </message>
     <message>
         <source>ellipsoid f</source>
-        <translation type="unfinished"></translation>
+        <translation>Reziproke Abplattung 1/f</translation>
     </message>
     <message>
         <source>Are you sure you want to delete geoid [%1]?</source>
-        <translation type="unfinished"></translation>
+        <translation>Geoidmodell [%1] wirklich löschen?</translation>
     </message>
     <message>
         <source>has same file name, whether or not covered?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein eigenes Geoidmodell dieses Namens gibt es schon. Ersetzen?</translation>
     </message>
     <message>
         <source>new geoid name can&apos;t same with system name!</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Namen trägt schon ein mitgeliefertes Geoidmodell!</translation>
     </message>
     <message>
         <source>New Geoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Geoidmodelle</translation>
     </message>
     <message>
         <source>Geoid Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name des Geoidmodells</translation>
     </message>
     <message>
         <source>File Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateipfad</translation>
     </message>
     <message>
         <source>Browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchsuchen</translation>
     </message>
     <message>
         <source>selete file</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei wählen</translation>
     </message>
     <message>
         <source>Geiod File(*.ggf *.vgf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Geoiddatei (*.ggf *.vgf)</translation>
     </message>
     <message>
         <source>AddGeoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Geoidmodelle bearbeiten</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2555,23 +2555,23 @@ E %4 %6  N %5 %6</translation>
     <name>VornCoordSysMainWindow</name>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>Data is changed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Daten wurden geändert!</translation>
     </message>
     <message>
         <source>Coordinate System Manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Koordinatensystem-Verwaltung</translation>
     </message>
 </context>
 </TS>

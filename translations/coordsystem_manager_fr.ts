@@ -1875,531 +1875,531 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>northing comes first</source>
-        <translation type="unfinished"></translation>
+        <translation>le Nord vient en premier</translation>
     </message>
     <message>
         <source>in US survey feet</source>
-        <translation type="unfinished"></translation>
+        <translation>en pieds d’arpentage US</translation>
     </message>
     <message>
         <source>in international feet</source>
-        <translation type="unfinished"></translation>
+        <translation>en pieds internationaux</translation>
     </message>
     <message>
         <source>in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>en %1</translation>
     </message>
     <message>
         <source>%1 is missing before the easting</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 manque devant l’Est</translation>
     </message>
     <message>
         <source>%1 before the easting is the zone</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 devant l’Est est la zone</translation>
     </message>
     <message>
         <source>if %1</source>
-        <translation type="unfinished"></translation>
+        <translation>si %1</translation>
     </message>
     <message>
         <source>the same</source>
-        <translation type="unfinished"></translation>
+        <translation>le même</translation>
     </message>
     <message>
         <source>own</source>
-        <translation type="unfinished"></translation>
+        <translation>propre</translation>
     </message>
     <message>
         <source>With the system&apos;s datum shift, the place being on WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec le changement de datum du système, le lieu étant en WGS 84</translation>
     </message>
     <message>
         <source>From the place to where the system has the coordinates; of several points the root mean square</source>
-        <translation type="unfinished"></translation>
+        <translation>Du lieu à l’endroit où le système a ces coordonnées ; pour plusieurs points, la moyenne quadratique</translation>
     </message>
     <message>
         <source>What is left of the distances without what all points have in common, as a datum shift: the smaller, the better the system fits</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui reste des distances sans ce que tous les points ont en commun, comme un changement de datum : plus c’est petit, mieux le système convient</translation>
     </message>
     <message>
         <source>Spread</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispersion</translation>
     </message>
     <message>
         <source>EPSG</source>
-        <translation type="unfinished"></translation>
+        <translation>EPSG</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Condition</translation>
     </message>
     <message>
         <source>EPSG:%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>EPSG:%1, %2</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>absent</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 et %n autre</numerusform>
+            <numerusform>%1 et %n autres</numerusform>
         </translation>
     </message>
     <message>
         <source>In the registry</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans le registre</translation>
     </message>
     <message>
         <source>The record is no system of the registry.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fiche n’est pas un système du registre.</translation>
     </message>
     <message>
         <source>Says that this is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affirme qu’il s’agit de %1.</translation>
     </message>
     <message>
         <source>Says that this is %1, on the datum %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affirme qu’il s’agit de %1, dans le datum %2.</translation>
     </message>
     <message>
         <source>The registry leaves the datum open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le registre laisse le datum ouvert.</translation>
     </message>
     <message>
         <source>The registry&apos;s datum is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le datum du registre est %1.</translation>
     </message>
     <message>
         <source>The registry counts in %1, the record in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le registre compte en %1, la fiche en mètres.</translation>
     </message>
     <message>
         <source>The registry&apos;s figures differ a little.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs du registre diffèrent un peu.</translation>
     </message>
     <message>
         <source>Looking through the EPSG registry...</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche dans le registre EPSG...</translation>
     </message>
     <message>
         <source>%1: the same to %2 mm over its area</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : identique à %2 mm près sur sa zone</translation>
     </message>
     <message>
         <source>Also %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussi %1</translation>
     </message>
     <message>
         <source>No system of the EPSG registry is like it</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun système du registre EPSG ne lui ressemble</translation>
     </message>
     <message>
         <source>As %1, but: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme %1, mais : %2</translation>
     </message>
     <message>
         <source>%1 %2 (there %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 (là %3)</translation>
     </message>
     <message>
         <source>EPSG code, words of the name or of the area</source>
-        <translation type="unfinished"></translation>
+        <translation>Code EPSG, mots du nom ou de la zone</translation>
     </message>
     <message>
         <source>Deprecated ones too</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussi les obsolètes</translation>
     </message>
     <message>
         <source>Covers the point</source>
-        <translation type="unfinished"></translation>
+        <translation>Couvre le point</translation>
     </message>
     <message>
         <source>Systems found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Systèmes trouvés : %1</translation>
     </message>
     <message>
         <source>A place, roughly, and the coordinates that it has in the unknown system; more points narrow it down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un lieu approximatif et les coordonnées qu’il a dans le système inconnu ; d’autres points restreignent le choix.</translation>
     </message>
     <message>
         <source>Paste rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller des lignes</translation>
     </message>
     <message>
         <source>Lines of latitude, longitude, first and second coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes de latitude, longitude, première et deuxième coordonnée</translation>
     </message>
     <message>
         <source>Searching...</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche...</translation>
     </message>
     <message>
         <source>Systems found so far: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Systèmes trouvés jusqu’ici : %1</translation>
     </message>
     <message>
         <source>No system that is used there can have these coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun système en usage à cet endroit ne peut avoir ces coordonnées.</translation>
     </message>
     <message>
         <source>Distances are without datum shift, which can move a place by some hundred metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les distances sont sans changement de datum, qui peut déplacer un lieu de quelques centaines de mètres.</translation>
     </message>
     <message numerus="yes">
         <source>No system gives these coordinates within 50 km of the place. The nearest %n:</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Aucun système ne donne ces coordonnées à moins de 50 km du lieu. Le plus proche (%n) :</numerusform>
+            <numerusform>Aucun système ne donne ces coordonnées à moins de 50 km du lieu. Les %n plus proches :</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 from the place, with the system&apos;s datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>à %1 du lieu, avec le changement de datum du système</translation>
     </message>
     <message>
         <source>%1 from the place, without datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>à %1 du lieu, sans changement de datum</translation>
     </message>
     <message>
         <source>, %1 with the one below</source>
-        <translation type="unfinished"></translation>
+        <translation>, à %1 avec celui ci-dessous</translation>
     </message>
     <message>
         <source>Nothing to paste: lines of latitude, longitude and two coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien à coller : des lignes de latitude, longitude et deux coordonnées.</translation>
     </message>
     <message>
         <source>First coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>Première coordonnée</translation>
     </message>
     <message>
         <source>Second coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>Deuxième coordonnée</translation>
     </message>
     <message>
         <source>%1 of point %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 du point %2</translation>
     </message>
     <message>
         <source>Point %1, %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Point %1, %2 : %3</translation>
     </message>
     <message>
         <source>%1, accuracy %2 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, précision %2 m</translation>
     </message>
     <message>
         <source>From registry</source>
-        <translation type="unfinished"></translation>
+        <translation>Du registre</translation>
     </message>
     <message>
         <source>By name or code</source>
-        <translation type="unfinished"></translation>
+        <translation>Par nom ou code</translation>
     </message>
     <message>
         <source>From coordinates</source>
-        <translation type="unfinished"></translation>
+        <translation>D’après des coordonnées</translation>
     </message>
     <message>
         <source>Datum shift to WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>Changement de datum vers WGS 84</translation>
     </message>
     <message>
         <source>Copies this system&apos;s ellipsoid, projection, datum shift and geoid model; name and remark stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie l’ellipsoïde, la projection, le changement de datum et le modèle de géoïde de ce système ; nom et remarque restent.</translation>
     </message>
     <message>
         <source>As in the catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme dans le catalogue</translation>
     </message>
     <message>
         <source>Of the own catalogue: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Du catalogue propre : %1</translation>
     </message>
     <message>
         <source>The file is there already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier existe déjà.</translation>
     </message>
     <message>
         <source>The file there is an older one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier présent est plus ancien.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulé.</translation>
     </message>
     <message>
         <source>Left out. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Omis. %1</translation>
     </message>
     <message>
         <source>There already</source>
-        <translation type="unfinished"></translation>
+        <translation>Déjà présent</translation>
     </message>
     <message>
         <source>Saved. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistré. %1</translation>
     </message>
     <message>
         <source>Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistré</translation>
     </message>
     <message>
         <source>Saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrés : %1</translation>
     </message>
     <message>
         <source>Left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Omis : %1</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>Save group as .prj</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le groupe en .prj</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier</translation>
     </message>
     <message>
         <source>Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcourir...</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Résumé</translation>
     </message>
     <message>
         <source>Copy summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier le résumé</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer</translation>
     </message>
     <message>
         <source>Keep existing</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder l’existant</translation>
     </message>
     <message numerus="yes">
         <source>There already: %n of %1 files. Overwrite them?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Déjà présent : %n fichier sur %1. Le remplacer ?</numerusform>
+            <numerusform>Déjà présents : %n fichiers sur %1. Les remplacer ?</numerusform>
         </translation>
     </message>
     <message>
         <source>There is no such folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce dossier n’existe pas.</translation>
     </message>
     <message>
         <source>Systems: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Systèmes : %1</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Shift from points</source>
-        <translation type="unfinished"></translation>
+        <translation>Passage d’après des points</translation>
     </message>
     <message>
         <source>Own datum</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum propre</translation>
     </message>
     <message>
         <source>Latitude, longitude, height</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitude, longitude, hauteur</translation>
     </message>
     <message>
         <source>Easting, northing, height</source>
-        <translation type="unfinished"></translation>
+        <translation>Est, Nord, hauteur</translation>
     </message>
     <message>
         <source>Geocentric X, Y, Z</source>
-        <translation type="unfinished"></translation>
+        <translation>X, Y, Z géocentriques</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>Seven</source>
-        <translation type="unfinished"></translation>
+        <translation>Sept</translation>
     </message>
     <message>
         <source>Three</source>
-        <translation type="unfinished"></translation>
+        <translation>Trois</translation>
     </message>
     <message>
         <source>Points are typed, or pasted as lines: name and three numbers on either datum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Points à saisir, ou à coller en lignes : nom et trois nombres dans l’un ou l’autre datum.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Advice</source>
-        <translation type="unfinished"></translation>
+        <translation>Conseil</translation>
     </message>
     <message>
         <source>Just enough points: nothing is left over to tell how good the shift is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Juste assez de points : rien ne reste pour juger de la qualité du passage.</translation>
     </message>
     <message>
         <source>Standard deviation of a coordinate: %1 m (redundancy %2).</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart-type d’une coordonnée : %1 m (redondance %2).</translation>
     </message>
     <message>
         <source>%1 with %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 avec %2 %3</translation>
     </message>
     <message>
         <source>Largest correlations: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus fortes corrélations : %1.</translation>
     </message>
     <message>
         <source>Lines that can&apos;t be used: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes inutilisables : %1.</translation>
     </message>
     <message>
         <source>The projection gives no result here.</source>
-        <translation type="unfinished"></translation>
+        <translation>La projection ne donne aucun résultat ici.</translation>
     </message>
     <message>
         <source>This place is not on the Earth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce lieu n’est pas sur la Terre.</translation>
     </message>
     <message>
         <source>The other points speak against this one: check it, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les autres points contredisent celui-ci : le vérifier, ou l’exclure.</translation>
     </message>
     <message>
         <source>Easting, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Est, m</translation>
     </message>
     <message>
         <source>Northing, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Nord, m</translation>
     </message>
     <message>
         <source>Height, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur, m</translation>
     </message>
     <message>
         <source>WGS 84 X, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 X, m</translation>
     </message>
     <message>
         <source>WGS 84 latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitude WGS 84</translation>
     </message>
     <message>
         <source>WGS 84 Y, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 Y, m</translation>
     </message>
     <message>
         <source>WGS 84 longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitude WGS 84</translation>
     </message>
     <message>
         <source>WGS 84 Z, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 Z, m</translation>
     </message>
     <message>
         <source>WGS 84 height, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Haut. WGS 84, m</translation>
     </message>
     <message>
         <source>Before, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Avant, m</translation>
     </message>
     <message>
         <source>East, mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Est, mm</translation>
     </message>
     <message>
         <source>North, mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Nord, mm</translation>
     </message>
     <message>
         <source>Up, mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Haut, mm</translation>
     </message>
 </context>
 <context>
     <name>DlgCoordSysGroups</name>
     <message>
         <source>CoordSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>Systèmes de coordonnées</translation>
     </message>
     <message>
         <source>AddSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un groupe</translation>
     </message>
     <message>
         <source>ImportCoordSys</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer des systèmes</translation>
     </message>
     <message>
         <source>AddCoordSys</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un système</translation>
     </message>
     <message>
         <source>EditSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer le groupe</translation>
     </message>
     <message>
         <source>DelSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le groupe</translation>
     </message>
     <message>
         <source>EditSys</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer le système</translation>
     </message>
     <message>
         <source>DelSys</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le système</translation>
     </message>
     <message>
         <source>are you sure delete coord system group %1 ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer vraiment le groupe %1 ?</translation>
     </message>
     <message>
         <source>are you sure delete coord system %1 ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer vraiment le système de coordonnées %1 ?</translation>
     </message>
     <message>
         <source>Selecte WKT file</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir des fichiers WKT</translation>
     </message>
     <message>
         <source>Import file failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>L’import du fichier a échoué !</translation>
     </message>
     <message>
         <source>Import file isn&apos;t projection coordinates!</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier importé ne contient pas de système de coordonnées projeté !</translation>
     </message>
     <message>
         <source>The Imported projection coordinates already exist in the group!</source>
-        <translation type="unfinished"></translation>
+        <translation>Le système de coordonnées projeté importé existe déjà dans le groupe !</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -2414,34 +2414,34 @@ E %4 %6  N %5 %6</translation>
     <name>DlgInputName</name>
     <message>
         <source>please input name</source>
-        <translation type="unfinished"></translation>
+        <translation>saisir un nom</translation>
     </message>
     <message>
         <source>please input valid content!</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisir un nom valable !</translation>
     </message>
     <message>
         <source>has same as coord group name!</source>
-        <translation type="unfinished"></translation>
+        <translation>Un groupe porte déjà ce nom !</translation>
     </message>
     <message>
         <source>has same as coord system name!</source>
-        <translation type="unfinished"></translation>
+        <translation>Un système porte déjà ce nom !</translation>
     </message>
     <message>
         <source>information</source>
-        <translation type="unfinished"></translation>
+        <translation>Information</translation>
     </message>
 </context>
 <context>
     <name>QFile</name>
     <message>
         <source>Filename refers to a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom de fichier désigne un dossier</translation>
     </message>
     <message>
         <source>Unknown error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur inconnue</translation>
     </message>
 </context>
 <context>
@@ -2452,19 +2452,19 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>information</source>
-        <translation type="unfinished"></translation>
+        <translation>Information</translation>
     </message>
     <message>
         <source>Do you want to exit program?</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter le programme ?</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -2472,79 +2472,79 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>please input correct param!</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisir des paramètres valables !</translation>
     </message>
     <message>
         <source>Are you sure you want to delete ellipsoid [%1]?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer vraiment l’ellipsoïde [%1] ?</translation>
     </message>
     <message>
         <source>has same name as system, whether cover?</source>
-        <translation type="unfinished"></translation>
+        <translation>Un ellipsoïde personnel porte déjà ce nom. Le remplacer ?</translation>
     </message>
     <message>
         <source>new add ellipsoid name can&apos;t same as system!</source>
-        <translation type="unfinished"></translation>
+        <translation>Un ellipsoïde fourni porte déjà ce nom !</translation>
     </message>
     <message>
         <source>Edit Ellipsoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier les ellipsoïdes</translation>
     </message>
     <message>
         <source>Ellipsoid Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de l’ellipsoïde</translation>
     </message>
     <message>
         <source>ellipsoid a(m)</source>
-        <translation type="unfinished"></translation>
+        <translation>Demi-grand axe a (m)</translation>
     </message>
     <message>
         <source>ellipsoid f</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplatissement inverse 1/f</translation>
     </message>
     <message>
         <source>Are you sure you want to delete geoid [%1]?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer vraiment le modèle de géoïde [%1] ?</translation>
     </message>
     <message>
         <source>has same file name, whether or not covered?</source>
-        <translation type="unfinished"></translation>
+        <translation>Un modèle de géoïde personnel porte déjà ce nom. Le remplacer ?</translation>
     </message>
     <message>
         <source>new geoid name can&apos;t same with system name!</source>
-        <translation type="unfinished"></translation>
+        <translation>Un modèle de géoïde fourni porte déjà ce nom !</translation>
     </message>
     <message>
         <source>New Geoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèles de géoïde</translation>
     </message>
     <message>
         <source>Geoid Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du modèle de géoïde</translation>
     </message>
     <message>
         <source>File Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Chemin du fichier</translation>
     </message>
     <message>
         <source>Browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcourir</translation>
     </message>
     <message>
         <source>selete file</source>
-        <translation type="unfinished"></translation>
+        <translation>choisir un fichier</translation>
     </message>
     <message>
         <source>Geiod File(*.ggf *.vgf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier de géoïde (*.ggf *.vgf)</translation>
     </message>
     <message>
         <source>AddGeoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier les modèles de géoïde</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2555,23 +2555,23 @@ E %4 %6  N %5 %6</translation>
     <name>VornCoordSysMainWindow</name>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Data is changed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Les données ont été modifiées !</translation>
     </message>
     <message>
         <source>Coordinate System Manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestionnaire de systèmes de coordonnées</translation>
     </message>
 </context>
 </TS>
