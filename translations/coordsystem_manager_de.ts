@@ -2567,7 +2567,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Data is changed!</source>
-        <translation>Die Daten wurden geändert!</translation>
+        <translation>Änderungen speichern?</translation>
     </message>
     <message>
         <source>Coordinate System Manager</source>

@@ -2414,7 +2414,7 @@ E %4 %6  N %5 %6</translation>
     <name>DlgInputName</name>
     <message>
         <source>please input name</source>
-        <translation>saisir un nom</translation>
+        <translation>Saisir un nom</translation>
     </message>
     <message>
         <source>please input valid content!</source>
@@ -2532,7 +2532,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>selete file</source>
-        <translation>choisir un fichier</translation>
+        <translation>Choisir un fichier</translation>
     </message>
     <message>
         <source>Geiod File(*.ggf *.vgf)</source>
@@ -2567,7 +2567,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Data is changed!</source>
-        <translation>Les données ont été modifiées !</translation>
+        <translation>Enregistrer les modifications ?</translation>
     </message>
     <message>
         <source>Coordinate System Manager</source>
