@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>What the map is around.</source>
-        <translation>Worum die Karte liegt.</translation>
+        <translation>Was in der Mitte der Karte liegt.</translation>
     </message>
     <message>
         <source>Width of the area</source>
@@ -255,7 +255,7 @@ in anderen Richtungen bis zu %2&quot; Abweichung</translation>
     </message>
     <message>
         <source>largest</source>
-        <translation>größte</translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Distance</source>
@@ -318,7 +318,7 @@ in anderen Richtungen bis zu %2&quot; Abweichung</translation>
     </message>
     <message>
         <source>Vectors lead from the given place to the computed one, longer than life by the factor beside the scale bar. Red: beyond the tolerance. Grey: left out.</source>
-        <translation>Die Vektoren führen vom gegebenen zum berechneten Ort, überhöht um den Faktor neben dem Maßstabsbalken. Rot: außerhalb der Toleranz. Grau: ausgeschlossen.</translation>
+        <translation>Die Vektoren führen vom gegebenen zum berechneten Ort, vergrößert um den Faktor neben dem Maßstabsbalken. Rot: außerhalb der Toleranz. Grau: ausgeschlossen.</translation>
     </message>
     <message>
         <source>Linear distortion</source>
@@ -330,7 +330,7 @@ in anderen Richtungen bis zu %2&quot; Abweichung</translation>
     </message>
     <message>
         <source>At the points&apos; mean height of %1 above the ellipsoid.</source>
-        <translation>In der mittleren Höhe der Punkte von %1 über dem Ellipsoid.</translation>
+        <translation>In der mittleren Höhe der Punkte, %1 über dem Ellipsoid.</translation>
     </message>
     <message>
         <source>At the height 0, as the points have none: what the projection alone does.</source>
@@ -420,7 +420,7 @@ in anderen Richtungen bis zu %2&quot; Abweichung</translation>
     </message>
     <message>
         <source>At the mouse</source>
-        <translation>An der Maus</translation>
+        <translation>Am Mauszeiger</translation>
     </message>
     <message>
         <source>Mean</source>
@@ -566,7 +566,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>RMS, largest</source>
-        <translation>RMS, größte</translation>
+        <translation>RMS, Maximum</translation>
     </message>
     <message>
         <source>Misfit before</source>
@@ -606,7 +606,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>First line is a heading</source>
-        <translation>Erste Zeile ist Überschrift</translation>
+        <translation>Erste Zeile ist Kopfzeile</translation>
     </message>
     <message>
         <source>Columns</source>
@@ -863,7 +863,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Only the first %1 rows are copied. Save all as CSV.</source>
-        <translation>Nur die ersten %1 Zeilen sind kopiert. Alle als CSV speichern.</translation>
+        <translation>Nur die ersten %1 Zeilen sind kopiert. Um alle zu erhalten, als CSV speichern.</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s) copied.</source>
@@ -929,7 +929,7 @@ E %4 %6  N %5 %6</translation>
     <message numerus="yes">
         <source>Remove all %n point(s) from the table?</source>
         <translation>
-            <numerusform>Den %n Punkt aus der Tabelle entfernen?</numerusform>
+            <numerusform>Den Punkt aus der Tabelle entfernen?</numerusform>
             <numerusform>Alle %n Punkte aus der Tabelle entfernen?</numerusform>
         </translation>
     </message>
@@ -1135,7 +1135,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Reverse rotation signs</source>
-        <translation>Vorzeichen der Rotationen umkehren</translation>
+        <translation>Rotationsvorzeichen umkehren</translation>
     </message>
     <message>
         <source>From points...</source>
@@ -1259,7 +1259,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Back to the values before</source>
-        <translation>Zurück zu den Werten davor</translation>
+        <translation>Zurück zu den vorherigen Werten</translation>
     </message>
     <message>
         <source>Ellipsoid</source>
@@ -1531,7 +1531,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Its datum shift is by grids, or of another kind, and is left out.</source>
-        <translation>Der Datumsübergang ist durch Gitterdateien oder anderer Art und wird ausgelassen.</translation>
+        <translation>Der Datumsübergang beruht auf Gittern oder ist anderer Art und wird ausgelassen.</translation>
     </message>
     <message>
         <source>Its heights are left out.</source>
@@ -1835,7 +1835,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>The ellipsoid is unknown, or its axes leave a doubt.</source>
-        <translation>Das Ellipsoid ist unbekannt, oder seine Achsen lassen Zweifel.</translation>
+        <translation>Das Ellipsoid ist unbekannt, oder seine Achsen sind nicht eindeutig.</translation>
     </message>
     <message>
         <source>Twice, or with a number too many (a decimal comma?): %1.</source>
@@ -2065,7 +2065,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>, %1 with the one below</source>
-        <translation>, %1 mit dem unten</translation>
+        <translation>, %1 mit dem unten gewählten</translation>
     </message>
     <message>
         <source>Nothing to paste: lines of latitude, longitude and two coordinates.</source>
@@ -2256,11 +2256,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Advice</source>
-        <translation>Rat</translation>
+        <translation>Empfehlung</translation>
     </message>
     <message>
         <source>Just enough points: nothing is left over to tell how good the shift is.</source>
-        <translation>Gerade genug Punkte: nichts bleibt übrig, woran die Güte des Übergangs zu erkennen wäre.</translation>
+        <translation>Gerade genug Punkte: keine Überbestimmung, an der die Güte des Übergangs zu erkennen wäre.</translation>
     </message>
     <message>
         <source>Standard deviation of a coordinate: %1 m (redundancy %2).</source>
@@ -2340,7 +2340,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Up, mm</source>
-        <translation>Hoch, mm</translation>
+        <translation>Höhe, mm</translation>
     </message>
 </context>
 <context>
@@ -2391,7 +2391,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Import file failed!</source>
-        <translation>Der Import der Datei ist fehlgeschlagen!</translation>
+        <translation>Import der Datei fehlgeschlagen!</translation>
     </message>
     <message>
         <source>Import file isn&apos;t projection coordinates!</source>

@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>What the map is around.</source>
-        <translation>Ce qu’entoure la carte.</translation>
+        <translation>Ce qui est au centre de la carte.</translation>
     </message>
     <message>
         <source>Width of the area</source>
@@ -179,7 +179,7 @@ le long du parallèle %2</translation>
     </message>
     <message>
         <source>On the own datum</source>
-        <translation>Dans le datum propre</translation>
+        <translation>Dans le datum du système</translation>
     </message>
     <message>
         <source>The projection gives no result for this point.</source>
@@ -351,14 +351,14 @@ dans d’autres directions, écart jusqu’à %2&quot;</translation>
     <message numerus="yes">
         <source>The %n point(s) that are farthest off, of %1 compared</source>
         <translation>
-            <numerusform>%n point le plus éloigné, sur %1 comparés</numerusform>
+            <numerusform>Point le plus éloigné (%n sur %1 comparés)</numerusform>
             <numerusform>Les %n points les plus éloignés, sur %1 comparés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Points left out or without a result: the first %n of %1</source>
         <translation>
-            <numerusform>Points exclus ou sans résultat : le premier (%n) sur %1</numerusform>
+            <numerusform>Points exclus ou sans résultat : %n sur %1</numerusform>
             <numerusform>Points exclus ou sans résultat : les %n premiers sur %1</numerusform>
         </translation>
     </message>
@@ -606,7 +606,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>First line is a heading</source>
-        <translation>Première ligne = en-têtes</translation>
+        <translation>En-têtes en première ligne</translation>
     </message>
     <message>
         <source>Columns</source>
@@ -780,7 +780,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Own</source>
-        <translation>Propre</translation>
+        <translation>Du système</translation>
     </message>
     <message>
         <source>Datum of latitude, longitude and height: the system&apos;s own, or WGS 84</source>
@@ -929,7 +929,7 @@ E %4 %6  N %5 %6</translation>
     <message numerus="yes">
         <source>Remove all %n point(s) from the table?</source>
         <translation>
-            <numerusform>Retirer le point (%n) du tableau ?</numerusform>
+            <numerusform>Retirer %n point du tableau ?</numerusform>
             <numerusform>Retirer les %n points du tableau ?</numerusform>
         </translation>
     </message>
@@ -1391,7 +1391,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Not an angle. Examples: 7.5, 7 30 00, 7°30&apos;00&quot;.</source>
-        <translation>Pas un angle. Exemples : 7.5, 7 30 00, 7°30&apos;00&quot;.</translation>
+        <translation>N’est pas un angle. Exemples : 7.5, 7 30 00, 7°30&apos;00&quot;.</translation>
     </message>
     <message>
         <source>Only the last part may have decimals.</source>
@@ -1451,11 +1451,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Unusual for the Earth.</source>
-        <translation>Inhabituel pour la Terre.</translation>
+        <translation>Valeur inhabituelle pour la Terre.</translation>
     </message>
     <message>
         <source>Unusually large.</source>
-        <translation>Inhabituellement grand.</translation>
+        <translation>Valeur inhabituellement grande.</translation>
     </message>
     <message>
         <source>Nothing can be computed: the projection module is not installed.</source>
@@ -1479,7 +1479,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Not a file.</source>
-        <translation>Pas un fichier.</translation>
+        <translation>N’est pas un fichier.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
@@ -1487,7 +1487,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Not a length in %1 with a decimal point.</source>
-        <translation>Pas une longueur en %1 avec point décimal.</translation>
+        <translation>N’est pas une longueur en %1 avec point décimal.</translation>
     </message>
     <message>
         <source>Allowed: 0 (sphere), or more than 1.</source>
@@ -1747,7 +1747,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Does not come back with an import of this form: %1.</source>
-        <translation>Ne revient pas à l’import de cette forme : %1.</translation>
+        <translation>Ne revient pas à l’importation de cette forme : %1.</translation>
     </message>
     <message>
         <source>Other software may count easting and northing from the natural origin.</source>
@@ -1779,7 +1779,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>No system that is projected.</source>
-        <translation>Pas un système projeté.</translation>
+        <translation>N’est pas un système projeté.</translation>
     </message>
     <message>
         <source>None of the methods holds this projection exactly: %1.</source>
@@ -1907,7 +1907,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>own</source>
-        <translation>propre</translation>
+        <translation>personnel</translation>
     </message>
     <message>
         <source>With the system&apos;s datum shift, the place being on WGS 84</source>
@@ -2002,7 +2002,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>%1 %2 (there %3)</source>
-        <translation>%1 %2 (là %3)</translation>
+        <translation>%1 %2 (au registre %3)</translation>
     </message>
     <message>
         <source>EPSG code, words of the name or of the area</source>
@@ -2117,7 +2117,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Of the own catalogue: %1</source>
-        <translation>Du catalogue propre : %1</translation>
+        <translation>Du catalogue personnel : %1</translation>
     </message>
     <message>
         <source>The file is there already.</source>
@@ -2220,7 +2220,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Own datum</source>
-        <translation>Datum propre</translation>
+        <translation>Datum du système</translation>
     </message>
     <message>
         <source>Latitude, longitude, height</source>
@@ -2260,7 +2260,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Just enough points: nothing is left over to tell how good the shift is.</source>
-        <translation>Juste assez de points : rien ne reste pour juger de la qualité du passage.</translation>
+        <translation>Juste assez de points : aucune redondance pour juger de la qualité du passage.</translation>
     </message>
     <message>
         <source>Standard deviation of a coordinate: %1 m (redundancy %2).</source>
@@ -2340,7 +2340,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Up, mm</source>
-        <translation>Haut, mm</translation>
+        <translation>Hauteur, mm</translation>
     </message>
 </context>
 <context>
@@ -2391,7 +2391,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Import file failed!</source>
-        <translation>L’import du fichier a échoué !</translation>
+        <translation>Échec de l’importation du fichier !</translation>
     </message>
     <message>
         <source>Import file isn&apos;t projection coordinates!</source>
