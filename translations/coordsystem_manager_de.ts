@@ -1903,7 +1903,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>the same</source>
-        <translation>dasselbe</translation>
+        <translation>gleich</translation>
     </message>
     <message>
         <source>own</source>

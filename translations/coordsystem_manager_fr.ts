@@ -159,7 +159,7 @@ le long du parallèle %2</translation>
     </message>
     <message>
         <source>the same: the system&apos;s datum is WGS 84</source>
-        <translation>le même : le datum du système est WGS 84</translation>
+        <translation>identique : le datum du système est WGS 84</translation>
     </message>
     <message>
         <source>unknown: the system defines no datum shift</source>
@@ -788,7 +788,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Which false origin and scale factor would meet the points best.</source>
-        <translation>Quels origine fictive et facteur d’échelle conviendraient le mieux aux points.</translation>
+        <translation>Quelle origine fictive et quel facteur d’échelle conviendraient le mieux aux points.</translation>
     </message>
     <message>
         <source>All is written: that can&apos;t be cancelled any more.</source>
@@ -1903,7 +1903,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>the same</source>
-        <translation>le même</translation>
+        <translation>identique</translation>
     </message>
     <message>
         <source>own</source>
