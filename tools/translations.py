@@ -73,8 +73,10 @@ def faults(source, translation, leaves_number_out=False):
         if blank.search(source).group() != blank.search(translation).group():
             yield f"{what} with other blanks"
     is_sentence = " " in source
-    if (is_sentence or ending(source) != ".") and ending(source) != ending(translation):
-        yield f"ends with {ending(translation)!r} instead of {ending(source)!r}"
+    wanted, there = ending(source), ending(translation)
+    is_asked = (wanted, there) == ("!", "?")  # what the English says before "Yes" and "No", another language asks
+    if (is_sentence or wanted != ".") and wanted != there and not is_asked:
+        yield f"ends with {there!r} instead of {wanted!r}"
 
 
 def faults_of(message, forms):

@@ -5,723 +5,726 @@
     <name>DlgCoordParam</name>
     <message>
         <source>Origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Origine</translation>
     </message>
     <message>
         <source>Standard parallels</source>
-        <translation type="unfinished"></translation>
+        <translation>Parallèles standard</translation>
     </message>
     <message>
         <source>Checked point</source>
-        <translation type="unfinished"></translation>
+        <translation>Point contrôlé</translation>
     </message>
     <message>
         <source>Designed area</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone du projet</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone</translation>
     </message>
     <message>
         <source>What the map is around.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est au centre de la carte.</translation>
     </message>
     <message>
         <source>Width of the area</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur de la zone</translation>
     </message>
     <message>
         <source>Side of the square area; the map shows all of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Côté de la zone carrée ; la carte la montre entière.</translation>
     </message>
     <message>
         <source>Central meridian</source>
-        <translation type="unfinished"></translation>
+        <translation>Méridien central</translation>
     </message>
     <message>
         <source>Standard parallel</source>
-        <translation type="unfinished"></translation>
+        <translation>Parallèle standard</translation>
     </message>
     <message>
         <source>Outline of the area</source>
-        <translation type="unfinished"></translation>
+        <translation>Contour de la zone</translation>
     </message>
     <message>
         <source>Easting, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Est, %1</translation>
     </message>
     <message>
         <source>Northing, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nord, %1</translation>
     </message>
     <message>
         <source>From catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Du catalogue</translation>
     </message>
     <message>
         <source>Words of the group or of the name</source>
-        <translation type="unfinished"></translation>
+        <translation>Mots du groupe ou du nom</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Systems</source>
-        <translation type="unfinished"></translation>
+        <translation>Systèmes</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparer</translation>
     </message>
     <message>
         <source>%1, in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, dans %2</translation>
     </message>
     <message>
         <source>Latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitude</translation>
     </message>
     <message>
         <source>Longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitude</translation>
     </message>
     <message>
         <source>Ellipsoidal height</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur ellipsoïdale</translation>
     </message>
     <message>
         <source>along the meridian %1
 along the parallel %2</source>
-        <translation type="unfinished"></translation>
+        <translation>le long du méridien %1
+le long du parallèle %2</translation>
     </message>
     <message>
         <source>Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier en texte</translation>
     </message>
     <message>
         <source>The system&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>Celui du système</translation>
     </message>
     <message>
         <source>WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84</translation>
     </message>
     <message>
         <source>Datum</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Easting</source>
-        <translation type="unfinished"></translation>
+        <translation>Est</translation>
     </message>
     <message>
         <source>Northing</source>
-        <translation type="unfinished"></translation>
+        <translation>Nord</translation>
     </message>
     <message>
         <source>Grid scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Module linéaire</translation>
     </message>
     <message>
         <source>Convergence</source>
-        <translation type="unfinished"></translation>
+        <translation>Convergence des méridiens</translation>
     </message>
     <message>
         <source>Combined factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Facteur combiné</translation>
     </message>
     <message>
         <source>Closing error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur de fermeture</translation>
     </message>
     <message>
         <source>A true azimuth is the grid bearing plus the convergence. Where the projection is not conformal, this holds along the meridian only.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’azimut géographique est le gisement plus la convergence des méridiens. Là où la projection n’est pas conforme, cela ne vaut que le long du méridien.</translation>
     </message>
     <message>
         <source>Grid scale factor times R / (R + height): from a distance at that height to the grid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Module linéaire fois R / (R + hauteur) : d’une distance à cette hauteur vers le plan de projection.</translation>
     </message>
     <message>
         <source>How far the point is off when it is computed there and back: through the projection, and through the datum shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien le point s’écarte après un calcul aller et retour : par la projection et par le changement de datum.</translation>
     </message>
     <message>
         <source>the same: the system&apos;s datum is WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>identique : le datum du système est WGS 84</translation>
     </message>
     <message>
         <source>unknown: the system defines no datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>inconnu : le système ne définit aucun changement de datum</translation>
     </message>
     <message>
         <source>The registry&apos;s shifts move this point by %1 m.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les changements de datum du registre déplacent ce point de %1 m.</translation>
     </message>
     <message>
         <source>The registry&apos;s shifts move this point by %1 to %2 m.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les changements de datum du registre déplacent ce point de %1 à %2 m.</translation>
     </message>
     <message>
         <source>On WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>En WGS 84</translation>
     </message>
     <message>
         <source>On the own datum</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans le datum du système</translation>
     </message>
     <message>
         <source>The projection gives no result for this point.</source>
-        <translation type="unfinished"></translation>
+        <translation>La projection ne donne aucun résultat pour ce point.</translation>
     </message>
     <message>
         <source>along the meridian %1
 in other directions off by up to %2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>le long du méridien %1
+dans d’autres directions, écart jusqu’à %2&quot;</translation>
     </message>
     <message>
         <source>%1, datum shift %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, changement de datum %2</translation>
     </message>
     <message>
         <source>The projection is not reliable here.</source>
-        <translation type="unfinished"></translation>
+        <translation>La projection n’est pas fiable ici.</translation>
     </message>
     <message>
         <source>The datum shift is not reliable here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le changement de datum n’est pas fiable ici.</translation>
     </message>
     <message>
         <source>Lengths of points in international feet (ft, 0.3048 m); the system&apos;s parameters in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueurs des points en pieds internationaux (ft, 0.3048 m) ; paramètres du système en mètres.</translation>
     </message>
     <message>
         <source>Lengths of points in US survey feet (ftUS, 1200/3937 m); the system&apos;s parameters in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueurs des points en pieds d’arpentage US (ftUS, 1200/3937 m) ; paramètres du système en mètres.</translation>
     </message>
     <message>
         <source>Lengths in metres (m).</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueurs en mètres (m).</translation>
     </message>
     <message>
         <source>Check of a coordinate system against control points</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrôle d’un système de coordonnées sur des points d’appui</translation>
     </message>
     <message>
         <source>No point in use has both pairs of coordinates: nothing could be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun point utilisé n’a les deux couples de coordonnées : rien n’a pu être comparé.</translation>
     </message>
     <message numerus="yes">
         <source>All %n compared point(s) are within the tolerance of %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n point comparé, dans la tolérance de %1.</numerusform>
+            <numerusform>Les %n points comparés sont tous dans la tolérance de %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n of %1 compared points are beyond the tolerance of %2.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n point comparé sur %1 est hors de la tolérance de %2.</numerusform>
+            <numerusform>%n points comparés sur %1 sont hors de la tolérance de %2.</numerusform>
         </translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultat</translation>
     </message>
     <message>
         <source>Computed minus given</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculé moins donné</translation>
     </message>
     <message>
         <source>mean</source>
-        <translation type="unfinished"></translation>
+        <translation>moyenne</translation>
     </message>
     <message>
         <source>RMS</source>
-        <translation type="unfinished"></translation>
+        <translation>EMQ</translation>
     </message>
     <message>
         <source>largest</source>
-        <translation type="unfinished"></translation>
+        <translation>maximum</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance</translation>
     </message>
     <message numerus="yes">
         <source>point(s) in the list</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>point dans la liste</numerusform>
+            <numerusform>points dans la liste</numerusform>
         </translation>
     </message>
     <message>
         <source>compared: in use, with both pairs of coordinates</source>
-        <translation type="unfinished"></translation>
+        <translation>comparés : utilisés et avec les deux couples de coordonnées</translation>
     </message>
     <message>
         <source>of these beyond the tolerance, the farthest first</source>
-        <translation type="unfinished"></translation>
+        <translation>dont hors tolérance, le plus éloigné d’abord</translation>
     </message>
     <message>
         <source>with both pairs left out of the figures by hand</source>
-        <translation type="unfinished"></translation>
+        <translation>avec les deux couples, exclus des statistiques à la main</translation>
     </message>
     <message>
         <source>with one pair only, the other computed</source>
-        <translation type="unfinished"></translation>
+        <translation>avec un seul couple, l’autre calculé</translation>
     </message>
     <message>
         <source>not computed, as that was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>non calculés, car le calcul a été annulé</translation>
     </message>
     <message>
         <source>without a result; the list says why</source>
-        <translation type="unfinished"></translation>
+        <translation>sans résultat ; la liste dit pourquoi</translation>
     </message>
     <message>
         <source>with a name that another has</source>
-        <translation type="unfinished"></translation>
+        <translation>au nom porté par un autre</translation>
     </message>
     <message>
         <source>Latitudes, longitudes and heights of the points are on the system&apos;s own datum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitudes, longitudes et hauteurs des points sont dans le datum propre au système.</translation>
     </message>
     <message>
         <source>Latitudes, longitudes and heights of the points are on WGS 84, and brought to the system&apos;s datum by its shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitudes, longitudes et hauteurs des points sont en WGS 84, et amenées au datum du système par son changement de datum.</translation>
     </message>
     <message>
         <source>No. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>N° %1</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Système</translation>
     </message>
     <message>
         <source>Points and residuals</source>
-        <translation type="unfinished"></translation>
+        <translation>Points et résidus</translation>
     </message>
     <message>
         <source>Vectors lead from the given place to the computed one, longer than life by the factor beside the scale bar. Red: beyond the tolerance. Grey: left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les vecteurs mènent du lieu donné au lieu calculé, agrandis du facteur indiqué près de la barre d’échelle. Rouge : hors tolérance. Gris : exclu.</translation>
     </message>
     <message>
         <source>Linear distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>Altération linéaire</translation>
     </message>
     <message>
         <source>On the map: %1 to %2 ppm (mm in a kilometre). Red: longer in the grid than on the ground; blue: shorter. Black rectangle: the area of the points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur la carte : %1 à %2 ppm (mm par kilomètre). Rouge : plus long en projection qu’au sol ; bleu : plus court. Rectangle noir : la zone des points.</translation>
     </message>
     <message>
         <source>At the points&apos; mean height of %1 above the ellipsoid.</source>
-        <translation type="unfinished"></translation>
+        <translation>À la hauteur moyenne des points, %1 au-dessus de l’ellipsoïde.</translation>
     </message>
     <message>
         <source>At the height 0, as the points have none: what the projection alone does.</source>
-        <translation type="unfinished"></translation>
+        <translation>À la hauteur 0, les points n’en ayant pas : l’effet de la projection seule.</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Points</translation>
     </message>
     <message>
         <source>ΔE, ΔN: computed from latitude and longitude, minus given. *: beyond the tolerance. Slanted: computed from the other pair.</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔE, ΔN : calculé d’après la latitude et la longitude, moins donné. * : hors tolérance. Italique : calculé d’après l’autre couple.</translation>
     </message>
     <message>
         <source>The list has %1 points, too many for a report; here are those that matter most. &quot;Save...&quot; writes all of them as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste a %1 points, trop pour un rapport ; voici ceux qui importent le plus. « Enregistrer... » les écrit tous en CSV.</translation>
     </message>
     <message numerus="yes">
         <source>The %n point(s) that are farthest off, of %1 compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Point le plus éloigné (%n sur %1 comparés)</numerusform>
+            <numerusform>Les %n points les plus éloignés, sur %1 comparés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Points left out or without a result: the first %n of %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Points exclus ou sans résultat : %n sur %1</numerusform>
+            <numerusform>Points exclus ou sans résultat : les %n premiers sur %1</numerusform>
         </translation>
     </message>
     <message>
         <source>No.</source>
-        <translation type="unfinished"></translation>
+        <translation>N°</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur</translation>
     </message>
     <message>
         <source>Left out of the figures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Exclu des statistiques.</translation>
     </message>
     <message>
         <source>From catalogue...</source>
-        <translation type="unfinished"></translation>
+        <translation>Du catalogue...</translation>
     </message>
     <message>
         <source>From registry...</source>
-        <translation type="unfinished"></translation>
+        <translation>Du registre...</translation>
     </message>
     <message>
         <source>With datum shifts</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec changements de datum</translation>
     </message>
     <message>
         <source>Apart from the mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Hors moyenne</translation>
     </message>
     <message>
         <source>Picture of the difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Image de la différence</translation>
     </message>
     <message>
         <source>The same place for both systems: through WGS 84 with both datum shifts, or else the same latitude and longitude.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le même lieu pour les deux systèmes : par WGS 84 avec les deux changements de datum, sinon même latitude et même longitude.</translation>
     </message>
     <message>
         <source>The map shows what is left of the difference without its mean over the area, as after another false easting and northing.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte montre ce qui reste de la différence sans sa moyenne sur la zone, comme avec d’autres Est et Nord fictifs.</translation>
     </message>
     <message>
         <source>The difference is easting and northing of the shown system minus those of the other one, at the same place on the ground.</source>
-        <translation type="unfinished"></translation>
+        <translation>La différence est l’Est et le Nord du système affiché moins ceux de l’autre, au même endroit sur le terrain.</translation>
     </message>
     <message>
         <source>Choose a system to compare with</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un système à comparer</translation>
     </message>
     <message>
         <source>ΔE</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔE</translation>
     </message>
     <message>
         <source>ΔN</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔN</translation>
     </message>
     <message>
         <source>At the mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Sous la souris</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne</translation>
     </message>
     <message>
         <source>Apart from it</source>
-        <translation type="unfinished"></translation>
+        <translation>Hors celle-ci</translation>
     </message>
     <message>
         <source>The point of the page &quot;Point&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le point de la page « Point ».</translation>
     </message>
     <message>
         <source>Over the black square.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur le carré noir.</translation>
     </message>
     <message>
         <source>What is left of the difference without its mean is no larger in the black square.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui reste de la différence sans sa moyenne n’est pas plus grand dans le carré noir.</translation>
     </message>
     <message>
         <source>minus %1</source>
-        <translation type="unfinished"></translation>
+        <translation>moins %1</translation>
     </message>
     <message>
         <source>Easting and northing of the shown system minus those of %1, as it was when it was chosen, at the same place on the ground.</source>
-        <translation type="unfinished"></translation>
+        <translation>Est et Nord du système affiché moins ceux de %1, tel qu’il était lors du choix, au même endroit sur le terrain.</translation>
     </message>
     <message>
         <source>One of the projections gives no result in this area.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’une des projections ne donne aucun résultat dans cette zone.</translation>
     </message>
     <message>
         <source>Neither system defines a datum shift: both count as on WGS 84.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun des systèmes ne définit de changement de datum : tous deux comptent comme en WGS 84.</translation>
     </message>
     <message>
         <source>No datum shift is defined by %1: it counts as on WGS 84.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne définit aucun changement de datum : il compte comme en WGS 84.</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à %2</translation>
     </message>
     <message>
         <source>Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer</translation>
     </message>
     <message>
         <source>For this area</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour cette zone</translation>
     </message>
     <message>
         <source>For the point</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour le point</translation>
     </message>
     <message>
         <source>Least distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>Altération minimale</translation>
     </message>
     <message>
         <source>Where the largest distortion at that height is to be smallest: in the square on the map, or at the checked point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où l’altération maximale à cette hauteur doit être la plus petite : dans le carré sur la carte ou au point contrôlé.</translation>
     </message>
     <message>
         <source>Design</source>
-        <translation type="unfinished"></translation>
+        <translation>Conception</translation>
     </message>
     <message>
         <source>Move the meridian</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer le méridien</translation>
     </message>
     <message>
         <source>Move the parallel</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer le parallèle</translation>
     </message>
     <message>
         <source>There is nothing to propose here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a rien à proposer ici.</translation>
     </message>
     <message>
         <source>This system has no scale factor to choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce système n’a pas de facteur d’échelle à choisir.</translation>
     </message>
     <message>
         <source>The system is as good as it can be here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le système ne peut être meilleur ici.</translation>
     </message>
     <message>
         <source>Distortion in ppm: %1 → %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Altération en ppm : %1 → %2</translation>
     </message>
     <message>
         <source>Picture of the linear distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>Image de l’altération linéaire</translation>
     </message>
     <message>
         <source>Mean ellipsoidal height of the ground; 0 shows the grid&apos;s own distortion.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur ellipsoïdale moyenne du terrain ; 0 montre l’altération due à la projection seule.</translation>
     </message>
     <message>
         <source>ppm</source>
-        <translation type="unfinished"></translation>
+        <translation>ppm</translation>
     </message>
     <message>
         <source>%1 ppm   %2, %3
 E %4 %6  N %5 %6</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ppm   %2, %3
+E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Point at the map for the distortion there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pointer sur la carte pour y lire l’altération.</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustement</translation>
     </message>
     <message>
         <source>What would meet the points best; what is not ticked is held.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui conviendrait le mieux aux points ; ce qui n’est pas coché reste fixe.</translation>
     </message>
     <message>
         <source>before</source>
-        <translation type="unfinished"></translation>
+        <translation>avant</translation>
     </message>
     <message>
         <source>after ± standard deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>après ± écart-type</translation>
     </message>
     <message>
         <source>Scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Facteur d’échelle</translation>
     </message>
     <message>
         <source>False easting</source>
-        <translation type="unfinished"></translation>
+        <translation>Est fictif</translation>
     </message>
     <message>
         <source>False northing</source>
-        <translation type="unfinished"></translation>
+        <translation>Nord fictif</translation>
     </message>
     <message>
         <source>RMS, largest</source>
-        <translation type="unfinished"></translation>
+        <translation>EMQ, maximum</translation>
     </message>
     <message>
         <source>Misfit before</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart avant</translation>
     </message>
     <message>
         <source>Misfit after</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart après</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Problème</translation>
     </message>
     <message>
         <source>Remainder</source>
-        <translation type="unfinished"></translation>
+        <translation>Reste</translation>
     </message>
     <message>
         <source>Diagnosis</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagnostic</translation>
     </message>
     <message>
         <source>%1 after</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 après</translation>
     </message>
     <message>
         <source>Against the ground remain a rotation of %1 ± %2%3 and a scale of %4 ± %5 ppm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Par rapport au terrain restent une rotation de %1 ± %2%3 et une échelle de %4 ± %5 ppm.</translation>
     </message>
     <message>
         <source>(not used)</source>
-        <translation type="unfinished"></translation>
+        <translation>(non utilisée)</translation>
     </message>
     <message>
         <source>Decimal comma</source>
-        <translation type="unfinished"></translation>
+        <translation>Virgule décimale</translation>
     </message>
     <message>
         <source>First line is a heading</source>
-        <translation type="unfinished"></translation>
+        <translation>En-têtes en première ligne</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonnes</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulation</translation>
     </message>
     <message>
         <source>Comma</source>
-        <translation type="unfinished"></translation>
+        <translation>Virgule</translation>
     </message>
     <message>
         <source>Semicolon</source>
-        <translation type="unfinished"></translation>
+        <translation>Point-virgule</translation>
     </message>
     <message>
         <source>Blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>Espaces</translation>
     </message>
     <message>
         <source>Columns parted by</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonnes séparées par</translation>
     </message>
     <message>
         <source>metres</source>
-        <translation type="unfinished"></translation>
+        <translation>mètres</translation>
     </message>
     <message>
         <source>international feet</source>
-        <translation type="unfinished"></translation>
+        <translation>pieds internationaux</translation>
     </message>
     <message>
         <source>US survey feet</source>
-        <translation type="unfinished"></translation>
+        <translation>pieds d’arpentage US</translation>
     </message>
     <message>
         <source>Lengths in</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueurs en</translation>
     </message>
     <message>
         <source>Column %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonne %1</translation>
     </message>
     <message>
         <source>Columns of one kind belong together: degrees, minutes and seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les colonnes d’un même type vont ensemble : degrés, minutes et secondes.</translation>
     </message>
     <message>
         <source>Say which columns are latitude and longitude, or easting and northing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indiquer quelles colonnes sont latitude et longitude, ou Est et Nord.</translation>
     </message>
     <message numerus="yes">
         <source>%n point(s), %1 with both pairs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n point, %1 avec les deux couples</numerusform>
+            <numerusform>%n points, %1 avec les deux couples</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n left out</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n exclu</numerusform>
+            <numerusform>%n exclus</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 beyond the tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hors tolérance</translation>
     </message>
     <message>
         <source>%1 without a result</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sans résultat</translation>
     </message>
     <message>
         <source>%1 with a name that another has</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 au nom porté par un autre</translation>
     </message>
     <message>
         <source>Paste, open or type points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller, ouvrir ou saisir des points.</translation>
     </message>
     <message>
         <source>Out of range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hors limites.</translation>
     </message>
     <message>
         <source>Fitted ΔE</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔE ajusté</translation>
     </message>
     <message>
         <source>Fitted ΔN</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔN ajusté</translation>
     </message>
     <message>
         <source>Remark</source>
-        <translation type="unfinished"></translation>
+        <translation>Remarque</translation>
     </message>
     <message>
         <source>A point without a check mark is left out of the statistics.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un point non coché est exclu des statistiques.</translation>
     </message>
     <message>
         <source>Ellipsoidal height; 0 where there is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur ellipsoïdale ; 0 s’il n’y en a pas.</translation>
     </message>
     <message>
         <source>Slanted: computed from the other pair.</source>
-        <translation type="unfinished"></translation>
+        <translation>Italique : calculé d’après l’autre couple.</translation>
     </message>
     <message>
         <source>What the fit would leave.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que laisserait l’ajustement.</translation>
     </message>
     <message>
         <source>Computed from latitude and longitude, minus given.</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculé d’après la latitude et la longitude, moins donné.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -729,1615 +732,1615 @@ E %4 %6  N %5 %6</source>
     </message>
     <message>
         <source>Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir...</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Save...</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer...</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Vider</translation>
     </message>
     <message>
         <source>Next marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Marque suivante</translation>
     </message>
     <message>
         <source>The next point beyond the tolerance, or row with a remark</source>
-        <translation type="unfinished"></translation>
+        <translation>Le prochain point hors tolérance, ou la prochaine ligne avec remarque</translation>
     </message>
     <message>
         <source>Report...</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport...</translation>
     </message>
     <message>
         <source>Writes the check as a document to file with the job.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit le contrôle sous forme de document à classer avec le dossier.</translation>
     </message>
     <message>
         <source>Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolérance</translation>
     </message>
     <message>
         <source>Points that are farther off are marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les points plus éloignés sont marqués.</translation>
     </message>
     <message>
         <source>Own</source>
-        <translation type="unfinished"></translation>
+        <translation>Du système</translation>
     </message>
     <message>
         <source>Datum of latitude, longitude and height: the system&apos;s own, or WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum de la latitude, de la longitude et de la hauteur : celui du système, ou WGS 84</translation>
     </message>
     <message>
         <source>Which false origin and scale factor would meet the points best.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle origine fictive et quel facteur d’échelle conviendraient le mieux aux points.</translation>
     </message>
     <message>
         <source>All is written: that can&apos;t be cancelled any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout est écrit : il n’est plus possible d’annuler.</translation>
     </message>
     <message>
         <source>Cancelled: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulé : %1</translation>
     </message>
     <message>
         <source>Open points</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir des points</translation>
     </message>
     <message>
         <source>All files</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers</translation>
     </message>
     <message>
         <source>%1 can&apos;t be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut être lu : %2</translation>
     </message>
     <message>
         <source>The clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Le presse-papiers</translation>
     </message>
     <message>
         <source>%1 has too many points; nothing of it is taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 contient trop de points ; rien n’en est repris.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n row(s) read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 : %n ligne lue.</numerusform>
+            <numerusform>%1 : %n lignes lues.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 can&apos;t be read to its end: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut être lu jusqu’à la fin : %2</translation>
     </message>
     <message>
         <source>Reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture</translation>
     </message>
     <message>
         <source>Computing</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcul</translation>
     </message>
     <message>
         <source>Comparing names</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparaison des noms</translation>
     </message>
     <message>
         <source>Drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessin</translation>
     </message>
     <message>
         <source>Counting</source>
-        <translation type="unfinished"></translation>
+        <translation>Comptage</translation>
     </message>
     <message>
         <source>Point at the picture for a point&apos;s name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pointer sur l’image pour lire le nom d’un point.</translation>
     </message>
     <message>
         <source>Row %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1</translation>
     </message>
     <message>
         <source>Copying</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie</translation>
     </message>
     <message>
         <source>Only the first %1 rows are copied. Save all as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seules les %1 premières lignes sont copiées. Pour tout avoir, enregistrer en CSV.</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s) copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ligne copiée.</numerusform>
+            <numerusform>%n lignes copiées.</numerusform>
         </translation>
     </message>
     <message>
         <source>CSV as shown</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV tel qu’affiché</translation>
     </message>
     <message>
         <source>CSV with all digits</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV avec tous les chiffres</translation>
     </message>
     <message>
         <source>Save points</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les points</translation>
     </message>
     <message>
         <source>Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n row(s) saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 : %n ligne enregistrée.</numerusform>
+            <numerusform>%1 : %n lignes enregistrées.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 can&apos;t be saved: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut être enregistré : %2</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport</translation>
     </message>
     <message>
         <source>%1: report saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : rapport enregistré.</translation>
     </message>
     <message>
         <source>No row is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune ligne n’est sélectionnée.</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s) deleted; Ctrl+Z undoes that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ligne supprimée ; Ctrl+Z l’annule.</numerusform>
+            <numerusform>%n lignes supprimées ; Ctrl+Z l’annule.</numerusform>
         </translation>
     </message>
     <message>
         <source>There is nothing to undo.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a rien à annuler.</translation>
     </message>
     <message>
         <source>Undone: the points are as they were before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulé : les points sont comme avant.</translation>
     </message>
     <message numerus="yes">
         <source>Remove all %n point(s) from the table?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Retirer %n point du tableau ?</numerusform>
+            <numerusform>Retirer les %n points du tableau ?</numerusform>
         </translation>
     </message>
     <message>
         <source>All points are removed; Ctrl+Z undoes that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les points sont retirés ; Ctrl+Z l’annule.</translation>
     </message>
     <message>
         <source>All is within the tolerance and without a remark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout est dans la tolérance et sans remarque.</translation>
     </message>
     <message>
         <source>Picture of the points</source>
-        <translation type="unfinished"></translation>
+        <translation>Image des points</translation>
     </message>
     <message>
         <source>HTML, one file with its pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>HTML, un fichier avec ses images</translation>
     </message>
     <message>
         <source>Save report</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le rapport</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Page %1 sur %2</translation>
     </message>
     <message>
         <source>no document could be made</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun document n’a pu être produit</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrôle</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Point</translation>
     </message>
     <message>
         <source>Distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>Altération</translation>
     </message>
     <message>
         <source>Show angles in</source>
-        <translation type="unfinished"></translation>
+        <translation>Angles affichés en</translation>
     </message>
     <message>
         <source>A fit needs points with latitude, longitude, easting and northing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un ajustement demande des points avec latitude, longitude, Est et Nord.</translation>
     </message>
     <message>
         <source>A fit takes %1 points at most: leave some out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un ajustement prend au plus %1 points : en exclure.</translation>
     </message>
     <message>
         <source>The projection gives no result at one of the points.</source>
-        <translation type="unfinished"></translation>
+        <translation>La projection ne donne aucun résultat pour l’un des points.</translation>
     </message>
     <message>
         <source>The points do not determine these values: hold one of them, or add points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les points ne déterminent pas ces valeurs : en fixer une, ou ajouter des points.</translation>
     </message>
     <message>
         <source>east</source>
-        <translation type="unfinished"></translation>
+        <translation>l’est</translation>
     </message>
     <message>
         <source>north</source>
-        <translation type="unfinished"></translation>
+        <translation>le nord</translation>
     </message>
     <message>
         <source>west</source>
-        <translation type="unfinished"></translation>
+        <translation>l’ouest</translation>
     </message>
     <message>
         <source>south</source>
-        <translation type="unfinished"></translation>
+        <translation>le sud</translation>
     </message>
     <message>
         <source>Easting and northing are swapped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Est et Nord sont intervertis.</translation>
     </message>
     <message>
         <source>The given eastings count %1, the northings %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs Est données comptent vers %1, les valeurs Nord vers %2.</translation>
     </message>
     <message>
         <source>The given eastings and northings are in feet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs Est et Nord données sont en pieds.</translation>
     </message>
     <message>
         <source>The given eastings and northings are metres that were taken for feet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs Est et Nord données sont des mètres pris pour des pieds.</translation>
     </message>
     <message>
         <source>The given grid is turned by %1° against the computed one</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carroyage donné est tourné de %1° par rapport à celui calculé</translation>
     </message>
     <message>
         <source>The points are of another zone: its central meridian is %1°.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les points sont d’une autre zone : son méridien central est %1°.</translation>
     </message>
     <message>
         <source>%1, as by a central meridian of %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, comme par un méridien central de %2°.</translation>
     </message>
     <message>
         <source>There is nothing in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a rien dedans.</translation>
     </message>
     <message>
         <source>It is no text. Save a table as CSV first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas du texte. Enregistrer d’abord le tableau en CSV.</translation>
     </message>
     <message>
         <source>latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>latitude</translation>
     </message>
     <message>
         <source>longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>longitude</translation>
     </message>
     <message>
         <source>height</source>
-        <translation type="unfinished"></translation>
+        <translation>hauteur</translation>
     </message>
     <message>
         <source>easting</source>
-        <translation type="unfinished"></translation>
+        <translation>Est</translation>
     </message>
     <message>
         <source>northing</source>
-        <translation type="unfinished"></translation>
+        <translation>Nord</translation>
     </message>
     <message>
         <source>The line is too long for a point; its beginning is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>La ligne est trop longue pour un point ; son début est conservé.</translation>
     </message>
     <message>
         <source>Can&apos;t be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Illisible : %1.</translation>
     </message>
     <message>
         <source>Out of range: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hors limites : %1.</translation>
     </message>
     <message>
         <source>There are no coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de coordonnées.</translation>
     </message>
     <message>
         <source>Missing: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manque : %1.</translation>
     </message>
     <message>
         <source>The system defines no datum shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le système ne définit aucun changement de datum.</translation>
     </message>
     <message>
         <source>The name occurs more than once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom apparaît plus d’une fois.</translation>
     </message>
     <message>
         <source>Line: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne : %1</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisé</translation>
     </message>
     <message>
         <source>Seven parameters need three points or more on both datums.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sept paramètres demandent au moins trois points dans les deux datums.</translation>
     </message>
     <message>
         <source>Three parameters need one point or more on both datums.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trois paramètres demandent au moins un point dans les deux datums.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; and &quot;%2&quot; are the same point: leave one of them out.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » et « %2 » sont le même point : exclure l’un des deux.</translation>
     </message>
     <message>
         <source>The points lie on a line, around which they leave the rotation open. Add a point beside the line, or take three parameters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les points sont alignés et laissent indéterminée la rotation autour de leur droite. Ajouter un point à l’écart, ou prendre trois paramètres.</translation>
     </message>
     <message>
         <source>No datum shift is as large as these points would have it. Are both places of each the same point, on the right datum?</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun changement de datum n’est aussi grand que ces points le voudraient. Les deux lieux de chacun sont-ils le même point, dans le bon datum ?</translation>
     </message>
     <message>
         <source>The area is too small to tell the translations from rotations and scale (correlation %1): the values mean nothing one by one, and hold within the area only. Three parameters are recommended if what they leave will do: a standard deviation of %2 m, against %3 m of seven.</source>
-        <translation type="unfinished"></translation>
+        <translation>La zone est trop petite pour distinguer les translations des rotations et de l’échelle (corrélation %1) : prises une à une, les valeurs ne signifient rien, et ne valent que dans la zone. Trois paramètres sont à préférer si ce qu’ils laissent suffit : un écart-type de %2 m, contre %3 m avec sept.</translation>
     </message>
     <message>
         <source>No projection: these values make none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de projection : ces valeurs n’en donnent aucune.</translation>
     </message>
     <message>
         <source>Rotations in the position-vector convention (EPSG 9606, PROJ towgs84). Figures published in the coordinate-frame convention (EPSG 9607): type them as they are, then reverse their signs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotations selon la convention « position vector » (EPSG 9606, PROJ towgs84). Valeurs publiées selon la convention « coordinate frame » (EPSG 9607) : les saisir telles quelles, puis inverser leurs signes.</translation>
     </message>
     <message>
         <source>Reverse rotation signs</source>
-        <translation type="unfinished"></translation>
+        <translation>Inverser le signe des rotations</translation>
     </message>
     <message>
         <source>From points...</source>
-        <translation type="unfinished"></translation>
+        <translation>De points...</translation>
     </message>
     <message>
         <source>Stands in exported definitions; nothing is computed from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Figure dans les définitions exportées ; rien n’en est calculé.</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>inconnu</translation>
     </message>
     <message>
         <source>Shift to WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>Passage à WGS 84</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>Seven parameters (three: the rest 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sept paramètres (trois : les autres à 0)</translation>
     </message>
     <message>
         <source>Estimates the shift from points known on both datums.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estime le passage d’après des points connus dans les deux datums.</translation>
     </message>
     <message>
         <source>Datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Changement de datum</translation>
     </message>
     <message>
         <source>Without a shift, coordinates on WGS 84 are unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans passage, les coordonnées en WGS 84 sont inconnues.</translation>
     </message>
     <message>
         <source>This kind of shift is unknown here; it is kept as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce type de passage est inconnu ici ; il est conservé tel quel.</translation>
     </message>
     <message>
         <source>The signs of all three rotations are reversed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les signes des trois rotations sont inversés.</translation>
     </message>
     <message>
         <source>Definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Définition</translation>
     </message>
     <message>
         <source>PROJ definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Définition PROJ</translation>
     </message>
     <message>
         <source>WKT dialect</source>
-        <translation type="unfinished"></translation>
+        <translation>Dialecte WKT</translation>
     </message>
     <message>
         <source>WKT 1 (GDAL)</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT 1 (GDAL)</translation>
     </message>
     <message>
         <source>WKT 1 (ESRI)</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT 1 (ESRI)</translation>
     </message>
     <message>
         <source>WKT 2:2019</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT 2:2019</translation>
     </message>
     <message>
         <source>With identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec identifiant</translation>
     </message>
     <message>
         <source>Save as .prj</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer en .prj</translation>
     </message>
     <message>
         <source>Save group...</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le groupe...</translation>
     </message>
     <message>
         <source>WKT</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT</translation>
     </message>
     <message>
         <source>Where from</source>
-        <translation type="unfinished"></translation>
+        <translation>Provenance</translation>
     </message>
     <message>
         <source>From text...</source>
-        <translation type="unfinished"></translation>
+        <translation>D’un texte...</translation>
     </message>
     <message>
         <source>This form can&apos;t express the system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette forme ne peut exprimer le système.</translation>
     </message>
     <message>
         <source>This form can&apos;t carry the identifier.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette forme ne peut porter l’identifiant.</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissement</translation>
     </message>
     <message>
         <source>The file can&apos;t be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier ne peut être écrit : %1</translation>
     </message>
     <message>
         <source>No coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun système de coordonnées</translation>
     </message>
     <message>
         <source>%1 – choose a coordinate system in the tree</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – choisir un système de coordonnées dans l’arbre</translation>
     </message>
     <message>
         <source>Forward to the edited values</source>
-        <translation type="unfinished"></translation>
+        <translation>Revenir aux valeurs modifiées</translation>
     </message>
     <message>
         <source>Back to the values before</source>
-        <translation type="unfinished"></translation>
+        <translation>Revenir aux valeurs d’avant</translation>
     </message>
     <message>
         <source>Ellipsoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipsoïde</translation>
     </message>
     <message>
         <source>Semi-minor axis b</source>
-        <translation type="unfinished"></translation>
+        <translation>Demi-petit axe b</translation>
     </message>
     <message>
         <source>Eccentricity e</source>
-        <translation type="unfinished"></translation>
+        <translation>Excentricité e</translation>
     </message>
     <message>
         <source>Choose an ellipsoid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un ellipsoïde.</translation>
     </message>
     <message>
         <source>Not in the list of ellipsoids.</source>
-        <translation type="unfinished"></translation>
+        <translation>Absent de la liste des ellipsoïdes.</translation>
     </message>
     <message>
         <source>The figures differ from the list&apos;s ellipsoid of this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs diffèrent de l’ellipsoïde de ce nom dans la liste.</translation>
     </message>
     <message>
         <source>Decimal degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Degrés décimaux</translation>
     </message>
     <message>
         <source>Degrees, minutes, seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Degrés, minutes, secondes</translation>
     </message>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Copié</translation>
     </message>
     <message>
         <source>Metre</source>
-        <translation type="unfinished"></translation>
+        <translation>Mètre</translation>
     </message>
     <message>
         <source>International foot, 0.3048 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Pied international, 0.3048 m</translation>
     </message>
     <message>
         <source>US survey foot, 1200/3937 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Pied d’arpentage US, 1200/3937 m</translation>
     </message>
     <message>
         <source>Lengths in metres (m), international feet (ft) or US survey feet (ftUS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueurs en mètres (m), pieds internationaux (ft) ou pieds d’arpentage US (ftUS)</translation>
     </message>
     <message>
         <source>From text</source>
-        <translation type="unfinished"></translation>
+        <translation>D’un texte</translation>
     </message>
     <message>
         <source>Paste or type WKT, a PROJ definition, PROJJSON, or a code as EPSG:25832.</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller ou saisir du WKT, une définition PROJ, du PROJJSON, ou un code comme EPSG:25832.</translation>
     </message>
     <message>
         <source>Understood</source>
-        <translation type="unfinished"></translation>
+        <translation>Compris</translation>
     </message>
     <message>
         <source>Understood:</source>
-        <translation type="unfinished"></translation>
+        <translation>Compris :</translation>
     </message>
     <message>
         <source>Geoid model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle de géoïde</translation>
     </message>
     <message>
         <source>Model file</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier du modèle</translation>
     </message>
     <message>
         <source>Model ellipsoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipsoïde du modèle</translation>
     </message>
     <message>
         <source>(none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(aucun)</translation>
     </message>
     <message>
         <source>Not in the list of geoid models.</source>
-        <translation type="unfinished"></translation>
+        <translation>Absent de la liste des modèles de géoïde.</translation>
     </message>
     <message>
         <source>The model refers to another ellipsoid than the system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le modèle se rapporte à un autre ellipsoïde que le système.</translation>
     </message>
     <message>
         <source>Method</source>
-        <translation type="unfinished"></translation>
+        <translation>Méthode</translation>
     </message>
     <message>
         <source>Projection method</source>
-        <translation type="unfinished"></translation>
+        <translation>Méthode de projection</translation>
     </message>
     <message>
         <source>Choose the method</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir la méthode</translation>
     </message>
     <message>
         <source>Projection</source>
-        <translation type="unfinished"></translation>
+        <translation>Projection</translation>
     </message>
     <message>
         <source>Still to choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reste à choisir.</translation>
     </message>
     <message>
         <source>A latitude goes with N or S.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une latitude va avec N ou S.</translation>
     </message>
     <message>
         <source>A longitude goes with E or W.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une longitude va avec E ou W.</translation>
     </message>
     <message>
         <source>An azimuth goes without a letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un azimut va sans lettre.</translation>
     </message>
     <message>
         <source>Use a decimal point, not a comma.</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser un point décimal, pas une virgule.</translation>
     </message>
     <message>
         <source>Not an angle. Examples: 7.5, 7 30 00, 7°30&apos;00&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>N’est pas un angle. Exemples : 7.5, 7 30 00, 7°30&apos;00&quot;.</translation>
     </message>
     <message>
         <source>Only the last part may have decimals.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seule la dernière partie peut avoir des décimales.</translation>
     </message>
     <message>
         <source>Minutes must be less than 60.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les minutes doivent être inférieures à 60.</translation>
     </message>
     <message>
         <source>Seconds must be less than 60.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les secondes doivent être inférieures à 60.</translation>
     </message>
     <message>
         <source>Give either a sign or a letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Donner soit un signe, soit une lettre.</translation>
     </message>
     <message>
         <source>Semi-major axis a</source>
-        <translation type="unfinished"></translation>
+        <translation>Demi-grand axe a</translation>
     </message>
     <message>
         <source>Inverse flattening 1/f</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplatissement inverse 1/f</translation>
     </message>
     <message>
         <source>Translation X</source>
-        <translation type="unfinished"></translation>
+        <translation>Translation X</translation>
     </message>
     <message>
         <source>Translation Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Translation Y</translation>
     </message>
     <message>
         <source>Translation Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Translation Z</translation>
     </message>
     <message>
         <source>Rotation X</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation X</translation>
     </message>
     <message>
         <source>Rotation Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation Y</translation>
     </message>
     <message>
         <source>Rotation Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation Z</translation>
     </message>
     <message>
         <source>Scale difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart d’échelle</translation>
     </message>
     <message>
         <source>A sphere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une sphère.</translation>
     </message>
     <message>
         <source>Unusual for the Earth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur inhabituelle pour la Terre.</translation>
     </message>
     <message>
         <source>Unusually large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur inhabituellement grande.</translation>
     </message>
     <message>
         <source>Nothing can be computed: the projection module is not installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne peut être calculé : le module de projection n’est pas installé.</translation>
     </message>
     <message>
         <source>These parameters give no projection that can be computed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces paramètres ne donnent aucune projection calculable.</translation>
     </message>
     <message>
         <source>The model names no file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le modèle ne nomme aucun fichier.</translation>
     </message>
     <message>
         <source>Not in the folder of geoid models.</source>
-        <translation type="unfinished"></translation>
+        <translation>Absent du dossier des modèles de géoïde.</translation>
     </message>
     <message>
         <source>The folder of geoid models has &quot;%1&quot; instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier des modèles de géoïde contient « %1 » à la place.</translation>
     </message>
     <message>
         <source>Not a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>N’est pas un fichier.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est vide.</translation>
     </message>
     <message>
         <source>Not a length in %1 with a decimal point.</source>
-        <translation type="unfinished"></translation>
+        <translation>N’est pas une longueur en %1 avec point décimal.</translation>
     </message>
     <message>
         <source>Allowed: 0 (sphere), or more than 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Admis : 0 (sphère), ou plus de 1.</translation>
     </message>
     <message>
         <source>Allowed: between %1 and %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Admis : entre %1 et %2.</translation>
     </message>
     <message>
         <source>Allowed: ±%1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Admis : ±%1.</translation>
     </message>
     <message>
         <source>Allowed: %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Admis : %1 à %2.</translation>
     </message>
     <message>
         <source>A value is needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il faut une valeur.</translation>
     </message>
     <message>
         <source>Only digits and a decimal point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Uniquement des chiffres et un point décimal.</translation>
     </message>
     <message>
         <source>Datum shift to WGS 84: none</source>
-        <translation type="unfinished"></translation>
+        <translation>Changement de datum vers WGS 84 : aucun</translation>
     </message>
     <message>
         <source>Datum shift to WGS 84: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Changement de datum vers WGS 84 : %1</translation>
     </message>
     <message>
         <source>Pasted text, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte collé, %1</translation>
     </message>
     <message>
         <source>The text counts in %1, the record in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte compte en %1, la fiche en mètres.</translation>
     </message>
     <message>
         <source>Its datum shift is by grids, or of another kind, and is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Son changement de datum est par grilles, ou d’un autre type, et est omis.</translation>
     </message>
     <message>
         <source>Its heights are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ses hauteurs sont omises.</translation>
     </message>
     <message>
         <source>The registry has withdrawn it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le registre l’a retiré.</translation>
     </message>
     <message>
         <source>(line %1, column %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>(ligne %1, colonne %2)</translation>
     </message>
     <message>
         <source>Ellipsoid: %1, a %2 m, 1/f %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipsoïde : %1, a %2 m, 1/f %3</translation>
     </message>
     <message>
         <source>Datum: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum : %1</translation>
     </message>
     <message>
         <source>not named</source>
-        <translation type="unfinished"></translation>
+        <translation>non nommé</translation>
     </message>
     <message>
         <source>No projection: latitudes of the points equal, or the first 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de projection : latitudes des points égales, ou la première nulle.</translation>
     </message>
     <message>
         <source>No projection: the standard parallels cancel out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de projection : les parallèles standard s’annulent.</translation>
     </message>
     <message>
         <source>No projection yet: the system has no ellipsoid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore de projection : le système n’a pas d’ellipsoïde.</translation>
     </message>
     <message>
         <source>No projection yet: choose the method.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore de projection : choisir la méthode.</translation>
     </message>
     <message>
         <source>No projection: the method &quot;%1&quot; is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de projection : la méthode « %1 » est inconnue.</translation>
     </message>
     <message>
         <source>No projection: the definition fits none of the methods.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de projection : la définition ne convient à aucune des méthodes.</translation>
     </message>
     <message>
         <source>No projection: &quot;%1&quot; is missing or wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de projection : « %1 » manque ou est faux.</translation>
     </message>
     <message>
         <source>No projection: a standard parallel needs the scale factor 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de projection : un parallèle standard exige le facteur d’échelle 1.</translation>
     </message>
     <message>
         <source>No projection: the scale factor is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de projection : le facteur d’échelle manque.</translation>
     </message>
     <message>
         <source>Must be 1: the standard parallel sets the scale.</source>
-        <translation type="unfinished"></translation>
+        <translation>Doit être 1 : le parallèle standard fixe l’échelle.</translation>
     </message>
     <message>
         <source>Unusual: scale factors lie close to 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhabituel : les facteurs d’échelle sont proches de 1.</translation>
     </message>
     <message>
         <source>Without effect: the origin is no pole.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans effet : l’origine n’est pas un pôle.</translation>
     </message>
     <message>
         <source>With 0° this is the plain Mercator projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec 0°, c’est la projection de Mercator simple.</translation>
     </message>
     <message>
         <source>Usually equal to the latitude of origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Généralement égal à la latitude d’origine.</translation>
     </message>
     <message>
         <source>The standard parallels nearly cancel out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les parallèles standard s’annulent presque.</translation>
     </message>
     <message>
         <source>Gives the line of %1°. For the line of this azimuth, type %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>Donne la ligne de %1°. Pour la ligne de cet azimut, saisir %2°.</translation>
     </message>
     <message>
         <source>Zone %1 of UTM has the central meridian %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>La zone UTM %1 a pour méridien central %2°.</translation>
     </message>
     <message>
         <source>Does not fit zone %1 of the false easting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne correspond pas à la zone %1 de l’Est fictif.</translation>
     </message>
     <message>
         <source>Latitude of origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitude d’origine</translation>
     </message>
     <message>
         <source>Latitude of centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitude du centre</translation>
     </message>
     <message>
         <source>Longitude of origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitude d’origine</translation>
     </message>
     <message>
         <source>Longitude of centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitude du centre</translation>
     </message>
     <message>
         <source>Latitude of point 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitude du point 1</translation>
     </message>
     <message>
         <source>Longitude of point 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitude du point 1</translation>
     </message>
     <message>
         <source>Latitude of point 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitude du point 2</translation>
     </message>
     <message>
         <source>Longitude of point 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitude du point 2</translation>
     </message>
     <message>
         <source>Azimuth of the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Azimut de la ligne</translation>
     </message>
     <message>
         <source>Standard parallel 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Parallèle standard 1</translation>
     </message>
     <message>
         <source>Standard parallel 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Parallèle standard 2</translation>
     </message>
     <message>
         <source>Easting at centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Est au centre</translation>
     </message>
     <message>
         <source>Northing at centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Nord au centre</translation>
     </message>
     <message>
         <source>Gauss-Krüger (scale factor 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauss-Krüger (facteur d’échelle 1)</translation>
     </message>
     <message>
         <source>Transverse Mercator</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercator transverse</translation>
     </message>
     <message>
         <source>Mercator</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercator</translation>
     </message>
     <message>
         <source>Mercator (standard parallel)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercator (parallèle standard)</translation>
     </message>
     <message>
         <source>Oblique Mercator (azimuth)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercator oblique (azimut)</translation>
     </message>
     <message>
         <source>Stereographic</source>
-        <translation type="unfinished"></translation>
+        <translation>Stéréographique</translation>
     </message>
     <message>
         <source>Oblique Stereographic (double)</source>
-        <translation type="unfinished"></translation>
+        <translation>Stéréographique oblique (double)</translation>
     </message>
     <message>
         <source>Lambert Conic Conformal (1SP)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lambert conique conforme (1SP)</translation>
     </message>
     <message>
         <source>Lambert Conic Conformal (2SP)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lambert conique conforme (2SP)</translation>
     </message>
     <message>
         <source>Oblique Mercator (two points)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercator oblique (deux points)</translation>
     </message>
     <message>
         <source>Cassini-Soldner</source>
-        <translation type="unfinished"></translation>
+        <translation>Cassini-Soldner</translation>
     </message>
     <message>
         <source>the name</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom</translation>
     </message>
     <message>
         <source>the ellipsoid&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom de l’ellipsoïde</translation>
     </message>
     <message>
         <source>the projection method</source>
-        <translation type="unfinished"></translation>
+        <translation>la méthode de projection</translation>
     </message>
     <message>
         <source>the datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>le changement de datum</translation>
     </message>
     <message>
         <source>This form can&apos;t be imported again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette forme ne peut être réimportée.</translation>
     </message>
     <message>
         <source>Does not come back with an import of this form: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne revient pas à l’importation de cette forme : %1.</translation>
     </message>
     <message>
         <source>Other software may count easting and northing from the natural origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>D’autres logiciels peuvent compter Est et Nord depuis l’origine naturelle.</translation>
     </message>
     <message>
         <source>Position-vector convention (EPSG 9606, PROJ towgs84)</source>
-        <translation type="unfinished"></translation>
+        <translation>Convention « position vector » (EPSG 9606, PROJ towgs84)</translation>
     </message>
     <message>
         <source>of an unknown kind</source>
-        <translation type="unfinished"></translation>
+        <translation>d’un type inconnu</translation>
     </message>
     <message>
         <source>A geographic system: latitude and longitude, without a projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un système géographique : latitude et longitude, sans projection.</translation>
     </message>
     <message>
         <source>A geocentric system: X, Y and Z, without a projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un système géocentrique : X, Y et Z, sans projection.</translation>
     </message>
     <message>
         <source>A system of heights, without a projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un système d’altitudes, sans projection.</translation>
     </message>
     <message>
         <source>A local system, without a place on the Earth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un système local, sans lieu sur la Terre.</translation>
     </message>
     <message>
         <source>No system that is projected.</source>
-        <translation type="unfinished"></translation>
+        <translation>N’est pas un système projeté.</translation>
     </message>
     <message>
         <source>None of the methods holds this projection exactly: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune des méthodes ne rend exactement cette projection : %1.</translation>
     </message>
     <message>
         <source>The axes do not point east and north, but: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les axes ne pointent pas vers l’est et le nord, mais : %1.</translation>
     </message>
     <message>
         <source>The grid is turned by %1°, not by the azimuth of the line, %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carroyage est tourné de %1°, non de l’azimut de la ligne, %2°.</translation>
     </message>
     <message>
         <source>With the azimuth 90° easting and northing can&apos;t count from the natural origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec l’azimut 90°, Est et Nord ne peuvent compter depuis l’origine naturelle.</translation>
     </message>
     <message>
         <source>The standard parallel, %1°, is not the latitude of origin, %2°, as this method has it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le parallèle standard, %1°, n’est pas la latitude d’origine, %2°, comme le veut cette méthode.</translation>
     </message>
     <message>
         <source>A polar projection that names no pole, or does not say its scale in one way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une projection polaire qui ne nomme aucun pôle, ou ne dit pas son échelle d’une seule façon.</translation>
     </message>
     <message>
         <source>A parameter is missing: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un paramètre manque : %1.</translation>
     </message>
     <message>
         <source>A parameter is unknown: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un paramètre est inconnu : %1.</translation>
     </message>
     <message>
         <source>A parameter does not belong to the method: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un paramètre n’appartient pas à la méthode : %1.</translation>
     </message>
     <message>
         <source>A parameter has two values: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un paramètre a deux valeurs : %1.</translation>
     </message>
     <message>
         <source>A value is no number, or out of range: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une valeur n’est pas un nombre, ou est hors limites : %1.</translation>
     </message>
     <message>
         <source>A unit is missing, or not what its name says: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une unité manque, ou n’est pas ce que dit son nom : %1.</translation>
     </message>
     <message>
         <source>The prime meridian&apos;s longitude is not that of its name: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La longitude du méridien origine n’est pas celle de son nom : %1.</translation>
     </message>
     <message>
         <source>The ellipsoid is unknown, or its axes leave a doubt.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’ellipsoïde est inconnu, ou ses axes laissent un doute.</translation>
     </message>
     <message>
         <source>Twice, or with a number too many (a decimal comma?): %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>En double, ou avec un nombre de trop (une virgule décimale ?) : %1.</translation>
     </message>
     <message>
         <source>PROJ makes another projection of these parameters, or none.</source>
-        <translation type="unfinished"></translation>
+        <translation>PROJ fait de ces paramètres une autre projection, ou aucune.</translation>
     </message>
     <message>
         <source>The text names a file, which is not read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte nomme un fichier, qui n’est pas lu : %1.</translation>
     </message>
     <message>
         <source>No WKT, no PROJJSON, no PROJ definition and no code of a registry.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ni WKT, ni PROJJSON, ni définition PROJ, ni code d’un registre.</translation>
     </message>
     <message>
         <source>Too long, or brackets too deep: up to %1 bytes are read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop long, ou parenthèses trop profondes : %1 octets au plus sont lus.</translation>
     </message>
     <message>
         <source>No registry has the system %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun registre n’a le système %1.</translation>
     </message>
     <message>
         <source>PROJ can&apos;t read it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>PROJ ne peut le lire : %1</translation>
     </message>
     <message>
         <source>%1 (deprecated)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (obsolète)</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 m</translation>
     </message>
     <message>
         <source>northing comes first</source>
-        <translation type="unfinished"></translation>
+        <translation>le Nord vient en premier</translation>
     </message>
     <message>
         <source>in US survey feet</source>
-        <translation type="unfinished"></translation>
+        <translation>en pieds d’arpentage US</translation>
     </message>
     <message>
         <source>in international feet</source>
-        <translation type="unfinished"></translation>
+        <translation>en pieds internationaux</translation>
     </message>
     <message>
         <source>in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>en %1</translation>
     </message>
     <message>
         <source>%1 is missing before the easting</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 manque devant l’Est</translation>
     </message>
     <message>
         <source>%1 before the easting is the zone</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 devant l’Est est la zone</translation>
     </message>
     <message>
         <source>if %1</source>
-        <translation type="unfinished"></translation>
+        <translation>si %1</translation>
     </message>
     <message>
         <source>the same</source>
-        <translation type="unfinished"></translation>
+        <translation>identique</translation>
     </message>
     <message>
         <source>own</source>
-        <translation type="unfinished"></translation>
+        <translation>personnel</translation>
     </message>
     <message>
         <source>With the system&apos;s datum shift, the place being on WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec le changement de datum du système, le lieu étant en WGS 84</translation>
     </message>
     <message>
         <source>From the place to where the system has the coordinates; of several points the root mean square</source>
-        <translation type="unfinished"></translation>
+        <translation>Du lieu à l’endroit où le système a ces coordonnées ; pour plusieurs points, la moyenne quadratique</translation>
     </message>
     <message>
         <source>What is left of the distances without what all points have in common, as a datum shift: the smaller, the better the system fits</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui reste des distances sans ce que tous les points ont en commun, comme un changement de datum : plus c’est petit, mieux le système convient</translation>
     </message>
     <message>
         <source>Spread</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispersion</translation>
     </message>
     <message>
         <source>EPSG</source>
-        <translation type="unfinished"></translation>
+        <translation>EPSG</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Condition</translation>
     </message>
     <message>
         <source>EPSG:%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>EPSG:%1, %2</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>absent</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 et %n autre</numerusform>
+            <numerusform>%1 et %n autres</numerusform>
         </translation>
     </message>
     <message>
         <source>In the registry</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans le registre</translation>
     </message>
     <message>
         <source>The record is no system of the registry.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fiche n’est pas un système du registre.</translation>
     </message>
     <message>
         <source>Says that this is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affirme qu’il s’agit de %1.</translation>
     </message>
     <message>
         <source>Says that this is %1, on the datum %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affirme qu’il s’agit de %1, dans le datum %2.</translation>
     </message>
     <message>
         <source>The registry leaves the datum open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le registre laisse le datum ouvert.</translation>
     </message>
     <message>
         <source>The registry&apos;s datum is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le datum du registre est %1.</translation>
     </message>
     <message>
         <source>The registry counts in %1, the record in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le registre compte en %1, la fiche en mètres.</translation>
     </message>
     <message>
         <source>The registry&apos;s figures differ a little.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs du registre diffèrent un peu.</translation>
     </message>
     <message>
         <source>Looking through the EPSG registry...</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche dans le registre EPSG...</translation>
     </message>
     <message>
         <source>%1: the same to %2 mm over its area</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : identique à %2 mm près sur sa zone</translation>
     </message>
     <message>
         <source>Also %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussi %1</translation>
     </message>
     <message>
         <source>No system of the EPSG registry is like it</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun système du registre EPSG ne lui ressemble</translation>
     </message>
     <message>
         <source>As %1, but: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme %1, mais : %2</translation>
     </message>
     <message>
         <source>%1 %2 (there %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 (au registre %3)</translation>
     </message>
     <message>
         <source>EPSG code, words of the name or of the area</source>
-        <translation type="unfinished"></translation>
+        <translation>Code EPSG, mots du nom ou de la zone</translation>
     </message>
     <message>
         <source>Deprecated ones too</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussi les obsolètes</translation>
     </message>
     <message>
         <source>Covers the point</source>
-        <translation type="unfinished"></translation>
+        <translation>Couvre le point</translation>
     </message>
     <message>
         <source>Systems found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Systèmes trouvés : %1</translation>
     </message>
     <message>
         <source>A place, roughly, and the coordinates that it has in the unknown system; more points narrow it down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un lieu approximatif et les coordonnées qu’il a dans le système inconnu ; d’autres points restreignent le choix.</translation>
     </message>
     <message>
         <source>Paste rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller des lignes</translation>
     </message>
     <message>
         <source>Lines of latitude, longitude, first and second coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes de latitude, longitude, première et deuxième coordonnée</translation>
     </message>
     <message>
         <source>Searching...</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche...</translation>
     </message>
     <message>
         <source>Systems found so far: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Systèmes trouvés jusqu’ici : %1</translation>
     </message>
     <message>
         <source>No system that is used there can have these coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun système en usage à cet endroit ne peut avoir ces coordonnées.</translation>
     </message>
     <message>
         <source>Distances are without datum shift, which can move a place by some hundred metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les distances sont sans changement de datum, qui peut déplacer un lieu de quelques centaines de mètres.</translation>
     </message>
     <message numerus="yes">
         <source>No system gives these coordinates within 50 km of the place. The nearest %n:</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Aucun système ne donne ces coordonnées à moins de 50 km du lieu. Le plus proche (%n) :</numerusform>
+            <numerusform>Aucun système ne donne ces coordonnées à moins de 50 km du lieu. Les %n plus proches :</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 from the place, with the system&apos;s datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>à %1 du lieu, avec le changement de datum du système</translation>
     </message>
     <message>
         <source>%1 from the place, without datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>à %1 du lieu, sans changement de datum</translation>
     </message>
     <message>
         <source>, %1 with the one below</source>
-        <translation type="unfinished"></translation>
+        <translation>, à %1 avec celui ci-dessous</translation>
     </message>
     <message>
         <source>Nothing to paste: lines of latitude, longitude and two coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien à coller : des lignes de latitude, longitude et deux coordonnées.</translation>
     </message>
     <message>
         <source>First coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>Première coordonnée</translation>
     </message>
     <message>
         <source>Second coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>Deuxième coordonnée</translation>
     </message>
     <message>
         <source>%1 of point %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 du point %2</translation>
     </message>
     <message>
         <source>Point %1, %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Point %1, %2 : %3</translation>
     </message>
     <message>
         <source>%1, accuracy %2 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, précision %2 m</translation>
     </message>
     <message>
         <source>From registry</source>
-        <translation type="unfinished"></translation>
+        <translation>Du registre</translation>
     </message>
     <message>
         <source>By name or code</source>
-        <translation type="unfinished"></translation>
+        <translation>Par nom ou code</translation>
     </message>
     <message>
         <source>From coordinates</source>
-        <translation type="unfinished"></translation>
+        <translation>D’après des coordonnées</translation>
     </message>
     <message>
         <source>Datum shift to WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>Changement de datum vers WGS 84</translation>
     </message>
     <message>
         <source>Copies this system&apos;s ellipsoid, projection, datum shift and geoid model; name and remark stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie l’ellipsoïde, la projection, le changement de datum et le modèle de géoïde de ce système ; nom et remarque restent.</translation>
     </message>
     <message>
         <source>As in the catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme dans le catalogue</translation>
     </message>
     <message>
         <source>Of the own catalogue: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Du catalogue personnel : %1</translation>
     </message>
     <message>
         <source>The file is there already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier existe déjà.</translation>
     </message>
     <message>
         <source>The file there is an older one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier présent est plus ancien.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulé.</translation>
     </message>
     <message>
         <source>Left out. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Omis. %1</translation>
     </message>
     <message>
         <source>There already</source>
-        <translation type="unfinished"></translation>
+        <translation>Déjà présent</translation>
     </message>
     <message>
         <source>Saved. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistré. %1</translation>
     </message>
     <message>
         <source>Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistré</translation>
     </message>
     <message>
         <source>Saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrés : %1</translation>
     </message>
     <message>
         <source>Left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Omis : %1</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>Save group as .prj</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le groupe en .prj</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier</translation>
     </message>
     <message>
         <source>Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcourir...</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Résumé</translation>
     </message>
     <message>
         <source>Copy summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier le résumé</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer</translation>
     </message>
     <message>
         <source>Keep existing</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder l’existant</translation>
     </message>
     <message numerus="yes">
         <source>There already: %n of %1 files. Overwrite them?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Déjà présent : %n fichier sur %1. Le remplacer ?</numerusform>
+            <numerusform>Déjà présents : %n fichiers sur %1. Les remplacer ?</numerusform>
         </translation>
     </message>
     <message>
         <source>There is no such folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce dossier n’existe pas.</translation>
     </message>
     <message>
         <source>Systems: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Systèmes : %1</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Shift from points</source>
-        <translation type="unfinished"></translation>
+        <translation>Passage d’après des points</translation>
     </message>
     <message>
         <source>Own datum</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum du système</translation>
     </message>
     <message>
         <source>Latitude, longitude, height</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitude, longitude, hauteur</translation>
     </message>
     <message>
         <source>Easting, northing, height</source>
-        <translation type="unfinished"></translation>
+        <translation>Est, Nord, hauteur</translation>
     </message>
     <message>
         <source>Geocentric X, Y, Z</source>
-        <translation type="unfinished"></translation>
+        <translation>X, Y, Z géocentriques</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>Seven</source>
-        <translation type="unfinished"></translation>
+        <translation>Sept</translation>
     </message>
     <message>
         <source>Three</source>
-        <translation type="unfinished"></translation>
+        <translation>Trois</translation>
     </message>
     <message>
         <source>Points are typed, or pasted as lines: name and three numbers on either datum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Points à saisir, ou à coller en lignes : nom et trois nombres dans l’un ou l’autre datum.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Advice</source>
-        <translation type="unfinished"></translation>
+        <translation>Conseil</translation>
     </message>
     <message>
         <source>Just enough points: nothing is left over to tell how good the shift is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Juste assez de points : aucune redondance pour juger de la qualité du passage.</translation>
     </message>
     <message>
         <source>Standard deviation of a coordinate: %1 m (redundancy %2).</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart-type d’une coordonnée : %1 m (redondance %2).</translation>
     </message>
     <message>
         <source>%1 with %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 avec %2 %3</translation>
     </message>
     <message>
         <source>Largest correlations: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus fortes corrélations : %1.</translation>
     </message>
     <message>
         <source>Lines that can&apos;t be used: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes inutilisables : %1.</translation>
     </message>
     <message>
         <source>The projection gives no result here.</source>
-        <translation type="unfinished"></translation>
+        <translation>La projection ne donne aucun résultat ici.</translation>
     </message>
     <message>
         <source>This place is not on the Earth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce lieu n’est pas sur la Terre.</translation>
     </message>
     <message>
         <source>The other points speak against this one: check it, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les autres points contredisent celui-ci : le vérifier, ou l’exclure.</translation>
     </message>
     <message>
         <source>Easting, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Est, m</translation>
     </message>
     <message>
         <source>Northing, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Nord, m</translation>
     </message>
     <message>
         <source>Height, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur, m</translation>
     </message>
     <message>
         <source>WGS 84 X, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 X, m</translation>
     </message>
     <message>
         <source>WGS 84 latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitude WGS 84</translation>
     </message>
     <message>
         <source>WGS 84 Y, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 Y, m</translation>
     </message>
     <message>
         <source>WGS 84 longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitude WGS 84</translation>
     </message>
     <message>
         <source>WGS 84 Z, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 Z, m</translation>
     </message>
     <message>
         <source>WGS 84 height, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Haut. WGS 84, m</translation>
     </message>
     <message>
         <source>Before, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Avant, m</translation>
     </message>
     <message>
         <source>East, mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Est, mm</translation>
     </message>
     <message>
         <source>North, mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Nord, mm</translation>
     </message>
     <message>
         <source>Up, mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur, mm</translation>
     </message>
     <message>
         <source>Smallest value: %1 %2 at easting %3, northing %4.</source>
@@ -2396,63 +2399,63 @@ E %4 %6  N %5 %6</source>
     <name>DlgCoordSysGroups</name>
     <message>
         <source>CoordSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>Systèmes de coordonnées</translation>
     </message>
     <message>
         <source>AddSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un groupe</translation>
     </message>
     <message>
         <source>ImportCoordSys</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer des systèmes</translation>
     </message>
     <message>
         <source>AddCoordSys</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un système</translation>
     </message>
     <message>
         <source>EditSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer le groupe</translation>
     </message>
     <message>
         <source>DelSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le groupe</translation>
     </message>
     <message>
         <source>EditSys</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer le système</translation>
     </message>
     <message>
         <source>DelSys</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le système</translation>
     </message>
     <message>
         <source>are you sure delete coord system group %1 ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer vraiment le groupe %1 ?</translation>
     </message>
     <message>
         <source>are you sure delete coord system %1 ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer vraiment le système de coordonnées %1 ?</translation>
     </message>
     <message>
         <source>Selecte WKT file</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir des fichiers WKT</translation>
     </message>
     <message>
         <source>Import file failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l’importation du fichier !</translation>
     </message>
     <message>
         <source>Import file isn&apos;t projection coordinates!</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier importé ne contient pas de système de coordonnées projeté !</translation>
     </message>
     <message>
         <source>The Imported projection coordinates already exist in the group!</source>
-        <translation type="unfinished"></translation>
+        <translation>Le système de coordonnées projeté importé existe déjà dans le groupe !</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissement</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2463,137 +2466,137 @@ E %4 %6  N %5 %6</source>
     <name>DlgInputName</name>
     <message>
         <source>please input name</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisir un nom</translation>
     </message>
     <message>
         <source>please input valid content!</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisir un nom valable !</translation>
     </message>
     <message>
         <source>has same as coord group name!</source>
-        <translation type="unfinished"></translation>
+        <translation>Un groupe porte déjà ce nom !</translation>
     </message>
     <message>
         <source>has same as coord system name!</source>
-        <translation type="unfinished"></translation>
+        <translation>Un système porte déjà ce nom !</translation>
     </message>
     <message>
         <source>information</source>
-        <translation type="unfinished"></translation>
+        <translation>Information</translation>
     </message>
 </context>
 <context>
     <name>QFile</name>
     <message>
         <source>Filename refers to a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom de fichier désigne un dossier</translation>
     </message>
     <message>
         <source>Unknown error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur inconnue</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissement</translation>
     </message>
     <message>
         <source>information</source>
-        <translation type="unfinished"></translation>
+        <translation>Information</translation>
     </message>
     <message>
         <source>Do you want to exit program?</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter le programme ?</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>please input correct param!</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisir des paramètres valables !</translation>
     </message>
     <message>
         <source>Are you sure you want to delete ellipsoid [%1]?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer vraiment l’ellipsoïde [%1] ?</translation>
     </message>
     <message>
         <source>has same name as system, whether cover?</source>
-        <translation type="unfinished"></translation>
+        <translation>Un ellipsoïde personnel porte déjà ce nom. Le remplacer ?</translation>
     </message>
     <message>
         <source>new add ellipsoid name can&apos;t same as system!</source>
-        <translation type="unfinished"></translation>
+        <translation>Un ellipsoïde fourni porte déjà ce nom !</translation>
     </message>
     <message>
         <source>Edit Ellipsoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier les ellipsoïdes</translation>
     </message>
     <message>
         <source>Ellipsoid Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de l’ellipsoïde</translation>
     </message>
     <message>
         <source>ellipsoid a(m)</source>
-        <translation type="unfinished"></translation>
+        <translation>Demi-grand axe a (m)</translation>
     </message>
     <message>
         <source>ellipsoid f</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplatissement inverse 1/f</translation>
     </message>
     <message>
         <source>Are you sure you want to delete geoid [%1]?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer vraiment le modèle de géoïde [%1] ?</translation>
     </message>
     <message>
         <source>has same file name, whether or not covered?</source>
-        <translation type="unfinished"></translation>
+        <translation>Un modèle de géoïde personnel porte déjà ce nom. Le remplacer ?</translation>
     </message>
     <message>
         <source>new geoid name can&apos;t same with system name!</source>
-        <translation type="unfinished"></translation>
+        <translation>Un modèle de géoïde fourni porte déjà ce nom !</translation>
     </message>
     <message>
         <source>New Geoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèles de géoïde</translation>
     </message>
     <message>
         <source>Geoid Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du modèle de géoïde</translation>
     </message>
     <message>
         <source>File Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Chemin du fichier</translation>
     </message>
     <message>
         <source>Browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcourir</translation>
     </message>
     <message>
         <source>selete file</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un fichier</translation>
     </message>
     <message>
         <source>Geiod File(*.ggf *.vgf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier de géoïde (*.ggf *.vgf)</translation>
     </message>
     <message>
         <source>AddGeoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier les modèles de géoïde</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2604,23 +2607,23 @@ E %4 %6  N %5 %6</source>
     <name>VornCoordSysMainWindow</name>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Data is changed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les modifications ?</translation>
     </message>
     <message>
         <source>Coordinate System Manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestionnaire de systèmes de coordonnées</translation>
     </message>
 </context>
 </TS>
