@@ -5,723 +5,726 @@
     <name>DlgCoordParam</name>
     <message>
         <source>Origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Origen</translation>
     </message>
     <message>
         <source>Standard parallels</source>
-        <translation type="unfinished"></translation>
+        <translation>Paralelos estándar</translation>
     </message>
     <message>
         <source>Checked point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto comprobado</translation>
     </message>
     <message>
         <source>Designed area</source>
-        <translation type="unfinished"></translation>
+        <translation>Área de diseño</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Zona</translation>
     </message>
     <message>
         <source>What the map is around.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar en torno al cual se muestra el mapa.</translation>
     </message>
     <message>
         <source>Width of the area</source>
-        <translation type="unfinished"></translation>
+        <translation>Anchura de la zona</translation>
     </message>
     <message>
         <source>Side of the square area; the map shows all of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lado de la zona cuadrada; el mapa la muestra entera.</translation>
     </message>
     <message>
         <source>Central meridian</source>
-        <translation type="unfinished"></translation>
+        <translation>Meridiano central</translation>
     </message>
     <message>
         <source>Standard parallel</source>
-        <translation type="unfinished"></translation>
+        <translation>Paralelo estándar</translation>
     </message>
     <message>
         <source>Outline of the area</source>
-        <translation type="unfinished"></translation>
+        <translation>Contorno de la zona</translation>
     </message>
     <message>
         <source>Easting, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Este, %1</translation>
     </message>
     <message>
         <source>Northing, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Norte, %1</translation>
     </message>
     <message>
         <source>From catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Del catálogo</translation>
     </message>
     <message>
         <source>Words of the group or of the name</source>
-        <translation type="unfinished"></translation>
+        <translation>Palabras del grupo o del nombre</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Systems</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistemas</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparar</translation>
     </message>
     <message>
         <source>%1, in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, en %2</translation>
     </message>
     <message>
         <source>Latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitud</translation>
     </message>
     <message>
         <source>Longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud</translation>
     </message>
     <message>
         <source>Ellipsoidal height</source>
-        <translation type="unfinished"></translation>
+        <translation>Altura elipsoidal</translation>
     </message>
     <message>
         <source>along the meridian %1
 along the parallel %2</source>
-        <translation type="unfinished"></translation>
+        <translation>según el meridiano %1
+según el paralelo %2</translation>
     </message>
     <message>
         <source>Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar como texto</translation>
     </message>
     <message>
         <source>The system&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>El propio del sistema</translation>
     </message>
     <message>
         <source>WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84</translation>
     </message>
     <message>
         <source>Datum</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Easting</source>
-        <translation type="unfinished"></translation>
+        <translation>Este</translation>
     </message>
     <message>
         <source>Northing</source>
-        <translation type="unfinished"></translation>
+        <translation>Norte</translation>
     </message>
     <message>
         <source>Grid scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Factor de escala puntual</translation>
     </message>
     <message>
         <source>Convergence</source>
-        <translation type="unfinished"></translation>
+        <translation>Convergencia</translation>
     </message>
     <message>
         <source>Combined factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Factor combinado</translation>
     </message>
     <message>
         <source>Closing error</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de cierre</translation>
     </message>
     <message>
         <source>A true azimuth is the grid bearing plus the convergence. Where the projection is not conformal, this holds along the meridian only.</source>
-        <translation type="unfinished"></translation>
+        <translation>El acimut geodésico es el acimut de cuadrícula más la convergencia de meridianos. Si la proyección no es conforme, esto solo vale a lo largo del meridiano.</translation>
     </message>
     <message>
         <source>Grid scale factor times R / (R + height): from a distance at that height to the grid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Factor de escala puntual por R / (R + altura): de una distancia a esa altura a la de la cuadrícula.</translation>
     </message>
     <message>
         <source>How far the point is off when it is computed there and back: through the projection, and through the datum shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuánto se aparta el punto al calcularlo de ida y vuelta: por la proyección y por el cambio de datum.</translation>
     </message>
     <message>
         <source>the same: the system&apos;s datum is WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>el mismo: el datum del sistema es WGS 84</translation>
     </message>
     <message>
         <source>unknown: the system defines no datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>desconocido: el sistema no define ningún cambio de datum</translation>
     </message>
     <message>
         <source>The registry&apos;s shifts move this point by %1 m.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los cambios de datum del registro desplazan este punto %1 m.</translation>
     </message>
     <message>
         <source>The registry&apos;s shifts move this point by %1 to %2 m.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los cambios de datum del registro desplazan este punto entre %1 y %2 m.</translation>
     </message>
     <message>
         <source>On WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>En WGS 84</translation>
     </message>
     <message>
         <source>On the own datum</source>
-        <translation type="unfinished"></translation>
+        <translation>En el datum propio</translation>
     </message>
     <message>
         <source>The projection gives no result for this point.</source>
-        <translation type="unfinished"></translation>
+        <translation>La proyección no da resultado en este punto.</translation>
     </message>
     <message>
         <source>along the meridian %1
 in other directions off by up to %2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>según el meridiano %1
+en otras direcciones, error de hasta %2&quot;</translation>
     </message>
     <message>
         <source>%1, datum shift %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, cambio de datum %2</translation>
     </message>
     <message>
         <source>The projection is not reliable here.</source>
-        <translation type="unfinished"></translation>
+        <translation>La proyección no es fiable aquí.</translation>
     </message>
     <message>
         <source>The datum shift is not reliable here.</source>
-        <translation type="unfinished"></translation>
+        <translation>El cambio de datum no es fiable aquí.</translation>
     </message>
     <message>
         <source>Lengths of points in international feet (ft, 0.3048 m); the system&apos;s parameters in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Medidas de los puntos en pies internacionales (ft, 0.3048 m); parámetros del sistema en metros.</translation>
     </message>
     <message>
         <source>Lengths of points in US survey feet (ftUS, 1200/3937 m); the system&apos;s parameters in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Medidas de los puntos en pies topográficos de EE. UU. (ftUS, 1200/3937 m); parámetros del sistema en metros.</translation>
     </message>
     <message>
         <source>Lengths in metres (m).</source>
-        <translation type="unfinished"></translation>
+        <translation>Medidas en metros (m).</translation>
     </message>
     <message>
         <source>Check of a coordinate system against control points</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobación de un sistema de coordenadas con puntos de control</translation>
     </message>
     <message>
         <source>No point in use has both pairs of coordinates: nothing could be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún punto en uso tiene ambos pares de coordenadas: no se ha podido comparar nada.</translation>
     </message>
     <message numerus="yes">
         <source>All %n compared point(s) are within the tolerance of %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>El %n punto comparado está dentro de la tolerancia de %1.</numerusform>
+            <numerusform>Los %n puntos comparados están dentro de la tolerancia de %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n of %1 compared points are beyond the tolerance of %2.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n de %1 puntos comparados está fuera de la tolerancia de %2.</numerusform>
+            <numerusform>%n de %1 puntos comparados están fuera de la tolerancia de %2.</numerusform>
         </translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultado</translation>
     </message>
     <message>
         <source>Computed minus given</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculado menos dado</translation>
     </message>
     <message>
         <source>mean</source>
-        <translation type="unfinished"></translation>
+        <translation>media</translation>
     </message>
     <message>
         <source>RMS</source>
-        <translation type="unfinished"></translation>
+        <translation>EMC</translation>
     </message>
     <message>
         <source>largest</source>
-        <translation type="unfinished"></translation>
+        <translation>máxima</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distancia</translation>
     </message>
     <message numerus="yes">
         <source>point(s) in the list</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>punto en la lista</numerusform>
+            <numerusform>puntos en la lista</numerusform>
         </translation>
     </message>
     <message>
         <source>compared: in use, with both pairs of coordinates</source>
-        <translation type="unfinished"></translation>
+        <translation>comparados: en uso, con ambos pares de coordenadas</translation>
     </message>
     <message>
         <source>of these beyond the tolerance, the farthest first</source>
-        <translation type="unfinished"></translation>
+        <translation>de ellos, fuera de tolerancia, primero los más alejados</translation>
     </message>
     <message>
         <source>with both pairs left out of the figures by hand</source>
-        <translation type="unfinished"></translation>
+        <translation>con ambos pares, excluidos a mano de las estadísticas</translation>
     </message>
     <message>
         <source>with one pair only, the other computed</source>
-        <translation type="unfinished"></translation>
+        <translation>con un solo par, el otro calculado</translation>
     </message>
     <message>
         <source>not computed, as that was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>sin calcular, por haberse cancelado</translation>
     </message>
     <message>
         <source>without a result; the list says why</source>
-        <translation type="unfinished"></translation>
+        <translation>sin resultado; la lista indica el motivo</translation>
     </message>
     <message>
         <source>with a name that another has</source>
-        <translation type="unfinished"></translation>
+        <translation>con un nombre repetido</translation>
     </message>
     <message>
         <source>Latitudes, longitudes and heights of the points are on the system&apos;s own datum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las latitudes, longitudes y alturas de los puntos están en el datum propio del sistema.</translation>
     </message>
     <message>
         <source>Latitudes, longitudes and heights of the points are on WGS 84, and brought to the system&apos;s datum by its shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las latitudes, longitudes y alturas de los puntos están en WGS 84 y se han llevado al datum del sistema con su cambio de datum.</translation>
     </message>
     <message>
         <source>No. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>N.º %1</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema</translation>
     </message>
     <message>
         <source>Points and residuals</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos y residuos</translation>
     </message>
     <message>
         <source>Vectors lead from the given place to the computed one, longer than life by the factor beside the scale bar. Red: beyond the tolerance. Grey: left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los vectores van de la posición dada a la calculada, ampliados por el factor que figura junto a la escala gráfica. Rojo: fuera de tolerancia. Gris: excluido.</translation>
     </message>
     <message>
         <source>Linear distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>Deformación lineal</translation>
     </message>
     <message>
         <source>On the map: %1 to %2 ppm (mm in a kilometre). Red: longer in the grid than on the ground; blue: shorter. Black rectangle: the area of the points.</source>
-        <translation type="unfinished"></translation>
+        <translation>En el mapa: de %1 a %2 ppm (mm por kilómetro). Rojo: más largo en la cuadrícula que en el terreno; azul: más corto. Rectángulo negro: zona de los puntos.</translation>
     </message>
     <message>
         <source>At the points&apos; mean height of %1 above the ellipsoid.</source>
-        <translation type="unfinished"></translation>
+        <translation>A la altura media de los puntos, %1 sobre el elipsoide.</translation>
     </message>
     <message>
         <source>At the height 0, as the points have none: what the projection alone does.</source>
-        <translation type="unfinished"></translation>
+        <translation>A la altura 0, ya que los puntos no tienen: solo el efecto de la proyección.</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos</translation>
     </message>
     <message>
         <source>ΔE, ΔN: computed from latitude and longitude, minus given. *: beyond the tolerance. Slanted: computed from the other pair.</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔE, ΔN: calculado con latitud y longitud, menos dado. *: fuera de tolerancia. Cursiva: calculado con el otro par.</translation>
     </message>
     <message>
         <source>The list has %1 points, too many for a report; here are those that matter most. &quot;Save...&quot; writes all of them as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lista tiene %1 puntos, demasiados para un informe; aquí están los más importantes. «Guardar...» los escribe todos en CSV.</translation>
     </message>
     <message numerus="yes">
         <source>The %n point(s) that are farthest off, of %1 compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>El %n punto más alejado, de %1 comparados</numerusform>
+            <numerusform>Los %n puntos más alejados, de %1 comparados</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Points left out or without a result: the first %n of %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Puntos excluidos o sin resultado: el primero (%n) de %1</numerusform>
+            <numerusform>Puntos excluidos o sin resultado: los primeros %n de %1</numerusform>
         </translation>
     </message>
     <message>
         <source>No.</source>
-        <translation type="unfinished"></translation>
+        <translation>N.º</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Altura</translation>
     </message>
     <message>
         <source>Left out of the figures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluido de las estadísticas.</translation>
     </message>
     <message>
         <source>From catalogue...</source>
-        <translation type="unfinished"></translation>
+        <translation>Del catálogo...</translation>
     </message>
     <message>
         <source>From registry...</source>
-        <translation type="unfinished"></translation>
+        <translation>Del registro...</translation>
     </message>
     <message>
         <source>With datum shifts</source>
-        <translation type="unfinished"></translation>
+        <translation>Con cambios de datum</translation>
     </message>
     <message>
         <source>Apart from the mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin la media</translation>
     </message>
     <message>
         <source>Picture of the difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen de la diferencia</translation>
     </message>
     <message>
         <source>The same place for both systems: through WGS 84 with both datum shifts, or else the same latitude and longitude.</source>
-        <translation type="unfinished"></translation>
+        <translation>El mismo lugar para ambos sistemas: a través de WGS 84 con los dos cambios de datum o, si no, a igual latitud y longitud.</translation>
     </message>
     <message>
         <source>The map shows what is left of the difference without its mean over the area, as after another false easting and northing.</source>
-        <translation type="unfinished"></translation>
+        <translation>El mapa muestra lo que queda de la diferencia sin su media en la zona, como con otro falso este y otro falso norte.</translation>
     </message>
     <message>
         <source>The difference is easting and northing of the shown system minus those of the other one, at the same place on the ground.</source>
-        <translation type="unfinished"></translation>
+        <translation>La diferencia es el este y el norte del sistema mostrado menos los del otro, en el mismo lugar del terreno.</translation>
     </message>
     <message>
         <source>Choose a system to compare with</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija un sistema para comparar</translation>
     </message>
     <message>
         <source>ΔE</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔE</translation>
     </message>
     <message>
         <source>ΔN</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔN</translation>
     </message>
     <message>
         <source>At the mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>En el puntero</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Media</translation>
     </message>
     <message>
         <source>Apart from it</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin la media</translation>
     </message>
     <message>
         <source>The point of the page &quot;Point&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>El punto de la pestaña «Punto».</translation>
     </message>
     <message>
         <source>Over the black square.</source>
-        <translation type="unfinished"></translation>
+        <translation>En el cuadrado negro.</translation>
     </message>
     <message>
         <source>What is left of the difference without its mean is no larger in the black square.</source>
-        <translation type="unfinished"></translation>
+        <translation>En el cuadrado negro, lo que queda de la diferencia sin su media no es mayor.</translation>
     </message>
     <message>
         <source>minus %1</source>
-        <translation type="unfinished"></translation>
+        <translation>menos %1</translation>
     </message>
     <message>
         <source>Easting and northing of the shown system minus those of %1, as it was when it was chosen, at the same place on the ground.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este y norte del sistema mostrado menos los de %1, tal como era al elegirlo, en el mismo lugar del terreno.</translation>
     </message>
     <message>
         <source>One of the projections gives no result in this area.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una de las proyecciones no da resultado en esta zona.</translation>
     </message>
     <message>
         <source>Neither system defines a datum shift: both count as on WGS 84.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno de los sistemas define un cambio de datum: ambos se toman como en WGS 84.</translation>
     </message>
     <message>
         <source>No datum shift is defined by %1: it counts as on WGS 84.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no define ningún cambio de datum: se toma como en WGS 84.</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>de %1 a %2</translation>
     </message>
     <message>
         <source>Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>Adoptar</translation>
     </message>
     <message>
         <source>For this area</source>
-        <translation type="unfinished"></translation>
+        <translation>Para esta zona</translation>
     </message>
     <message>
         <source>For the point</source>
-        <translation type="unfinished"></translation>
+        <translation>Para el punto</translation>
     </message>
     <message>
         <source>Least distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>Deformación mínima</translation>
     </message>
     <message>
         <source>Where the largest distortion at that height is to be smallest: in the square on the map, or at the checked point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde ha de ser mínima la deformación máxima a esa altura: en el cuadrado del mapa o en el punto comprobado.</translation>
     </message>
     <message>
         <source>Design</source>
-        <translation type="unfinished"></translation>
+        <translation>Diseño</translation>
     </message>
     <message>
         <source>Move the meridian</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover el meridiano</translation>
     </message>
     <message>
         <source>Move the parallel</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover el paralelo</translation>
     </message>
     <message>
         <source>There is nothing to propose here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí no hay nada que proponer.</translation>
     </message>
     <message>
         <source>This system has no scale factor to choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este sistema no tiene un factor de escala que elegir.</translation>
     </message>
     <message>
         <source>The system is as good as it can be here.</source>
-        <translation type="unfinished"></translation>
+        <translation>El sistema no puede ser aquí mejor de lo que es.</translation>
     </message>
     <message>
         <source>Distortion in ppm: %1 → %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Deformación en ppm: %1 → %2</translation>
     </message>
     <message>
         <source>Picture of the linear distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen de la deformación lineal</translation>
     </message>
     <message>
         <source>Mean ellipsoidal height of the ground; 0 shows the grid&apos;s own distortion.</source>
-        <translation type="unfinished"></translation>
+        <translation>Altura elipsoidal media del terreno; 0 muestra la deformación propia de la proyección.</translation>
     </message>
     <message>
         <source>ppm</source>
-        <translation type="unfinished"></translation>
+        <translation>ppm</translation>
     </message>
     <message>
         <source>%1 ppm   %2, %3
 E %4 %6  N %5 %6</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ppm   %2, %3
+E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Point at the map for the distortion there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Señale un punto del mapa para ver su deformación.</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuste</translation>
     </message>
     <message>
         <source>What would meet the points best; what is not ticked is held.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué valores se ajustarían mejor a los puntos; lo no marcado queda fijo.</translation>
     </message>
     <message>
         <source>before</source>
-        <translation type="unfinished"></translation>
+        <translation>antes</translation>
     </message>
     <message>
         <source>after ± standard deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>después ± desviación típica</translation>
     </message>
     <message>
         <source>Scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Factor de escala</translation>
     </message>
     <message>
         <source>False easting</source>
-        <translation type="unfinished"></translation>
+        <translation>Falso este</translation>
     </message>
     <message>
         <source>False northing</source>
-        <translation type="unfinished"></translation>
+        <translation>Falso norte</translation>
     </message>
     <message>
         <source>RMS, largest</source>
-        <translation type="unfinished"></translation>
+        <translation>EMC, máxima</translation>
     </message>
     <message>
         <source>Misfit before</source>
-        <translation type="unfinished"></translation>
+        <translation>Desajuste antes</translation>
     </message>
     <message>
         <source>Misfit after</source>
-        <translation type="unfinished"></translation>
+        <translation>Desajuste después</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Problema</translation>
     </message>
     <message>
         <source>Remainder</source>
-        <translation type="unfinished"></translation>
+        <translation>Resto</translation>
     </message>
     <message>
         <source>Diagnosis</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagnóstico</translation>
     </message>
     <message>
         <source>%1 after</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 después</translation>
     </message>
     <message>
         <source>Against the ground remain a rotation of %1 ± %2%3 and a scale of %4 ± %5 ppm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Respecto al terreno queda una rotación de %1 ± %2%3 y una escala de %4 ± %5 ppm.</translation>
     </message>
     <message>
         <source>(not used)</source>
-        <translation type="unfinished"></translation>
+        <translation>(no se usa)</translation>
     </message>
     <message>
         <source>Decimal comma</source>
-        <translation type="unfinished"></translation>
+        <translation>Coma decimal</translation>
     </message>
     <message>
         <source>First line is a heading</source>
-        <translation type="unfinished"></translation>
+        <translation>La primera línea es cabecera</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulador</translation>
     </message>
     <message>
         <source>Comma</source>
-        <translation type="unfinished"></translation>
+        <translation>Coma</translation>
     </message>
     <message>
         <source>Semicolon</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto y coma</translation>
     </message>
     <message>
         <source>Blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacios</translation>
     </message>
     <message>
         <source>Columns parted by</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas separadas por</translation>
     </message>
     <message>
         <source>metres</source>
-        <translation type="unfinished"></translation>
+        <translation>metros</translation>
     </message>
     <message>
         <source>international feet</source>
-        <translation type="unfinished"></translation>
+        <translation>pies internacionales</translation>
     </message>
     <message>
         <source>US survey feet</source>
-        <translation type="unfinished"></translation>
+        <translation>pies topográficos (EE. UU.)</translation>
     </message>
     <message>
         <source>Lengths in</source>
-        <translation type="unfinished"></translation>
+        <translation>Medidas en</translation>
     </message>
     <message>
         <source>Column %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Columna %1</translation>
     </message>
     <message>
         <source>Columns of one kind belong together: degrees, minutes and seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las columnas de un mismo tipo van juntas: grados, minutos y segundos.</translation>
     </message>
     <message>
         <source>Say which columns are latitude and longitude, or easting and northing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique qué columnas son latitud y longitud, o este y norte.</translation>
     </message>
     <message numerus="yes">
         <source>%n point(s), %1 with both pairs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n punto, %1 con ambos pares</numerusform>
+            <numerusform>%n puntos, %1 con ambos pares</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n left out</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n excluido</numerusform>
+            <numerusform>%n excluidos</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 beyond the tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fuera de tolerancia</translation>
     </message>
     <message>
         <source>%1 without a result</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sin resultado</translation>
     </message>
     <message>
         <source>%1 with a name that another has</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 con un nombre repetido</translation>
     </message>
     <message>
         <source>Paste, open or type points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegue, abra o escriba puntos.</translation>
     </message>
     <message>
         <source>Out of range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuera de rango.</translation>
     </message>
     <message>
         <source>Fitted ΔE</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔE ajustado</translation>
     </message>
     <message>
         <source>Fitted ΔN</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔN ajustado</translation>
     </message>
     <message>
         <source>Remark</source>
-        <translation type="unfinished"></translation>
+        <translation>Observación</translation>
     </message>
     <message>
         <source>A point without a check mark is left out of the statistics.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un punto sin marca queda excluido de las estadísticas.</translation>
     </message>
     <message>
         <source>Ellipsoidal height; 0 where there is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Altura elipsoidal; 0 si no hay.</translation>
     </message>
     <message>
         <source>Slanted: computed from the other pair.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cursiva: calculado con el otro par.</translation>
     </message>
     <message>
         <source>What the fit would leave.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que dejaría el ajuste.</translation>
     </message>
     <message>
         <source>Computed from latitude and longitude, minus given.</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculado con latitud y longitud, menos dado.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -729,234 +732,234 @@ E %4 %6  N %5 %6</source>
     </message>
     <message>
         <source>Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir...</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegar</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Save...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar...</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaciar</translation>
     </message>
     <message>
         <source>Next marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcado siguiente</translation>
     </message>
     <message>
         <source>The next point beyond the tolerance, or row with a remark</source>
-        <translation type="unfinished"></translation>
+        <translation>El siguiente punto fuera de tolerancia o fila con observación</translation>
     </message>
     <message>
         <source>Report...</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe...</translation>
     </message>
     <message>
         <source>Writes the check as a document to file with the job.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe la comprobación como documento para el expediente del trabajo.</translation>
     </message>
     <message>
         <source>Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolerancia</translation>
     </message>
     <message>
         <source>Points that are farther off are marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los puntos más alejados se marcan.</translation>
     </message>
     <message>
         <source>Own</source>
-        <translation type="unfinished"></translation>
+        <translation>Propio</translation>
     </message>
     <message>
         <source>Datum of latitude, longitude and height: the system&apos;s own, or WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum de latitud, longitud y altura: el propio del sistema o WGS 84</translation>
     </message>
     <message>
         <source>Which false origin and scale factor would meet the points best.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué falso origen y factor de escala se ajustarían mejor a los puntos.</translation>
     </message>
     <message>
         <source>All is written: that can&apos;t be cancelled any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya está todo escrito: no se puede cancelar.</translation>
     </message>
     <message>
         <source>Cancelled: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelado: %1</translation>
     </message>
     <message>
         <source>Open points</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir puntos</translation>
     </message>
     <message>
         <source>All files</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los archivos</translation>
     </message>
     <message>
         <source>%1 can&apos;t be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer %1: %2</translation>
     </message>
     <message>
         <source>The clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>El portapapeles</translation>
     </message>
     <message>
         <source>%1 has too many points; nothing of it is taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tiene demasiados puntos; no se toma ninguno.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n row(s) read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n fila leída.</numerusform>
+            <numerusform>%1: %n filas leídas.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 can&apos;t be read to its end: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer %1 hasta el final: %2</translation>
     </message>
     <message>
         <source>Reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Lectura</translation>
     </message>
     <message>
         <source>Computing</source>
-        <translation type="unfinished"></translation>
+        <translation>Cálculo</translation>
     </message>
     <message>
         <source>Comparing names</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparación de nombres</translation>
     </message>
     <message>
         <source>Drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujo</translation>
     </message>
     <message>
         <source>Counting</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuento</translation>
     </message>
     <message>
         <source>Point at the picture for a point&apos;s name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Señale la imagen para ver el nombre de un punto.</translation>
     </message>
     <message>
         <source>Row %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fila %1</translation>
     </message>
     <message>
         <source>Copying</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia</translation>
     </message>
     <message>
         <source>Only the first %1 rows are copied. Save all as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo se copian las primeras %1 filas. Guárdelas todas en CSV.</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s) copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fila copiada.</numerusform>
+            <numerusform>%n filas copiadas.</numerusform>
         </translation>
     </message>
     <message>
         <source>CSV as shown</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV como se muestra</translation>
     </message>
     <message>
         <source>CSV with all digits</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV con todos los dígitos</translation>
     </message>
     <message>
         <source>Save points</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar puntos</translation>
     </message>
     <message>
         <source>Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardado</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n row(s) saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n fila guardada.</numerusform>
+            <numerusform>%1: %n filas guardadas.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 can&apos;t be saved: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede guardar %1: %2</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe</translation>
     </message>
     <message>
         <source>%1: report saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: informe guardado.</translation>
     </message>
     <message>
         <source>No row is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna fila seleccionada.</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s) deleted; Ctrl+Z undoes that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fila eliminada; Ctrl+Z lo deshace.</numerusform>
+            <numerusform>%n filas eliminadas; Ctrl+Z lo deshace.</numerusform>
         </translation>
     </message>
     <message>
         <source>There is nothing to undo.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada que deshacer.</translation>
     </message>
     <message>
         <source>Undone: the points are as they were before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshecho: los puntos están como antes.</translation>
     </message>
     <message numerus="yes">
         <source>Remove all %n point(s) from the table?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>¿Quitar el único punto de la tabla?</numerusform>
+            <numerusform>¿Quitar los %n puntos de la tabla?</numerusform>
         </translation>
     </message>
     <message>
         <source>All points are removed; Ctrl+Z undoes that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se han quitado todos los puntos; Ctrl+Z lo deshace.</translation>
     </message>
     <message>
         <source>All is within the tolerance and without a remark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo está dentro de tolerancia y sin observaciones.</translation>
     </message>
     <message>
         <source>Picture of the points</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen de los puntos</translation>
     </message>
     <message>
         <source>HTML, one file with its pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>HTML, un archivo con sus imágenes</translation>
     </message>
     <message>
         <source>Save report</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar informe</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Página %1 de %2</translation>
     </message>
     <message>
         <source>no document could be made</source>
-        <translation type="unfinished"></translation>
+        <translation>no se pudo crear el documento</translation>
     </message>
     <message>
         <source>Check</source>

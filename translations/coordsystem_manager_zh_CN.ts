@@ -5,716 +5,719 @@
     <name>DlgCoordParam</name>
     <message>
         <source>Origin</source>
-        <translation type="unfinished"></translation>
+        <translation>原点</translation>
     </message>
     <message>
         <source>Standard parallels</source>
-        <translation type="unfinished"></translation>
+        <translation>标准纬线</translation>
     </message>
     <message>
         <source>Checked point</source>
-        <translation type="unfinished"></translation>
+        <translation>检查点</translation>
     </message>
     <message>
         <source>Designed area</source>
-        <translation type="unfinished"></translation>
+        <translation>设计区域</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>区域</translation>
     </message>
     <message>
         <source>What the map is around.</source>
-        <translation type="unfinished"></translation>
+        <translation>地图以何处为中心。</translation>
     </message>
     <message>
         <source>Width of the area</source>
-        <translation type="unfinished"></translation>
+        <translation>区域宽度</translation>
     </message>
     <message>
         <source>Side of the square area; the map shows all of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>正方形区域的边长；地图显示整个区域。</translation>
     </message>
     <message>
         <source>Central meridian</source>
-        <translation type="unfinished"></translation>
+        <translation>中央子午线</translation>
     </message>
     <message>
         <source>Standard parallel</source>
-        <translation type="unfinished"></translation>
+        <translation>标准纬线</translation>
     </message>
     <message>
         <source>Outline of the area</source>
-        <translation type="unfinished"></translation>
+        <translation>区域轮廓</translation>
     </message>
     <message>
         <source>Easting, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>东坐标，%1</translation>
     </message>
     <message>
         <source>Northing, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>北坐标，%1</translation>
     </message>
     <message>
         <source>From catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>从目录选取</translation>
     </message>
     <message>
         <source>Words of the group or of the name</source>
-        <translation type="unfinished"></translation>
+        <translation>分组或名称中的词</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>搜索</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>分组</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名称</translation>
     </message>
     <message>
         <source>Systems</source>
-        <translation type="unfinished"></translation>
+        <translation>坐标系统</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>比较</translation>
     </message>
     <message>
         <source>%1, in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，位于%2</translation>
     </message>
     <message>
         <source>Latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>纬度</translation>
     </message>
     <message>
         <source>Longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>经度</translation>
     </message>
     <message>
         <source>Ellipsoidal height</source>
-        <translation type="unfinished"></translation>
+        <translation>大地高</translation>
     </message>
     <message>
         <source>along the meridian %1
 along the parallel %2</source>
-        <translation type="unfinished"></translation>
+        <translation>沿子午线%1
+沿纬线%2</translation>
     </message>
     <message>
         <source>Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>复制为文本</translation>
     </message>
     <message>
         <source>The system&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>系统自身的基准</translation>
     </message>
     <message>
         <source>WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84</translation>
     </message>
     <message>
         <source>Datum</source>
-        <translation type="unfinished"></translation>
+        <translation>基准</translation>
     </message>
     <message>
         <source>Easting</source>
-        <translation type="unfinished"></translation>
+        <translation>东坐标</translation>
     </message>
     <message>
         <source>Northing</source>
-        <translation type="unfinished"></translation>
+        <translation>北坐标</translation>
     </message>
     <message>
         <source>Grid scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>投影长度比</translation>
     </message>
     <message>
         <source>Convergence</source>
-        <translation type="unfinished"></translation>
+        <translation>子午线收敛角</translation>
     </message>
     <message>
         <source>Combined factor</source>
-        <translation type="unfinished"></translation>
+        <translation>综合长度比</translation>
     </message>
     <message>
         <source>Closing error</source>
-        <translation type="unfinished"></translation>
+        <translation>正反算互差</translation>
     </message>
     <message>
         <source>A true azimuth is the grid bearing plus the convergence. Where the projection is not conformal, this holds along the meridian only.</source>
-        <translation type="unfinished"></translation>
+        <translation>大地方位角等于坐标方位角加子午线收敛角。投影非等角时，仅沿子午线方向成立。</translation>
     </message>
     <message>
         <source>Grid scale factor times R / (R + height): from a distance at that height to the grid.</source>
-        <translation type="unfinished"></translation>
+        <translation>投影长度比乘以R / (R + 大地高)：由该高度上的距离得到投影面上的距离。</translation>
     </message>
     <message>
         <source>How far the point is off when it is computed there and back: through the projection, and through the datum shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>该点正算后再反算的偏差：分别经过投影和基准转换。</translation>
     </message>
     <message>
         <source>the same: the system&apos;s datum is WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>相同：系统的基准就是WGS 84</translation>
     </message>
     <message>
         <source>unknown: the system defines no datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>未知：系统未定义基准转换</translation>
     </message>
     <message>
         <source>The registry&apos;s shifts move this point by %1 m.</source>
-        <translation type="unfinished"></translation>
+        <translation>按注册库的基准转换，该点移动%1 m。</translation>
     </message>
     <message>
         <source>The registry&apos;s shifts move this point by %1 to %2 m.</source>
-        <translation type="unfinished"></translation>
+        <translation>按注册库的各种基准转换，该点移动%1～%2 m。</translation>
     </message>
     <message>
         <source>On WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84上的位置</translation>
     </message>
     <message>
         <source>On the own datum</source>
-        <translation type="unfinished"></translation>
+        <translation>自身基准上的位置</translation>
     </message>
     <message>
         <source>The projection gives no result for this point.</source>
-        <translation type="unfinished"></translation>
+        <translation>投影在该点无结果。</translation>
     </message>
     <message>
         <source>along the meridian %1
 in other directions off by up to %2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>沿子午线%1
+其他方向偏差最大%2&quot;</translation>
     </message>
     <message>
         <source>%1, datum shift %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，基准转换%2</translation>
     </message>
     <message>
         <source>The projection is not reliable here.</source>
-        <translation type="unfinished"></translation>
+        <translation>投影在此处不可靠。</translation>
     </message>
     <message>
         <source>The datum shift is not reliable here.</source>
-        <translation type="unfinished"></translation>
+        <translation>基准转换在此处不可靠。</translation>
     </message>
     <message>
         <source>Lengths of points in international feet (ft, 0.3048 m); the system&apos;s parameters in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>点的长度单位为国际英尺（ft，0.3048 m）；系统参数以米为单位。</translation>
     </message>
     <message>
         <source>Lengths of points in US survey feet (ftUS, 1200/3937 m); the system&apos;s parameters in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>点的长度单位为美国测量英尺（ftUS，1200/3937 m）；系统参数以米为单位。</translation>
     </message>
     <message>
         <source>Lengths in metres (m).</source>
-        <translation type="unfinished"></translation>
+        <translation>长度单位为米（m）。</translation>
     </message>
     <message>
         <source>Check of a coordinate system against control points</source>
-        <translation type="unfinished"></translation>
+        <translation>用控制点检查坐标系统</translation>
     </message>
     <message>
         <source>No point in use has both pairs of coordinates: nothing could be compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>参与统计的点中没有同时具备两组坐标的点：无法比较。</translation>
     </message>
     <message numerus="yes">
         <source>All %n compared point(s) are within the tolerance of %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>比较的%n个点全部在限差%1以内。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n of %1 compared points are beyond the tolerance of %2.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>比较的%1个点中有%n个超出限差%2。</numerusform>
         </translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>结果</translation>
     </message>
     <message>
         <source>Computed minus given</source>
-        <translation type="unfinished"></translation>
+        <translation>计算值减已知值</translation>
     </message>
     <message>
         <source>mean</source>
-        <translation type="unfinished"></translation>
+        <translation>平均值</translation>
     </message>
     <message>
         <source>RMS</source>
-        <translation type="unfinished"></translation>
+        <translation>均方根</translation>
     </message>
     <message>
         <source>largest</source>
-        <translation type="unfinished"></translation>
+        <translation>最大值</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>距离</translation>
     </message>
     <message numerus="yes">
         <source>point(s) in the list</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>个点在列表中</numerusform>
         </translation>
     </message>
     <message>
         <source>compared: in use, with both pairs of coordinates</source>
-        <translation type="unfinished"></translation>
+        <translation>参与比较：参与统计且有两组坐标</translation>
     </message>
     <message>
         <source>of these beyond the tolerance, the farthest first</source>
-        <translation type="unfinished"></translation>
+        <translation>其中超限，偏差最大者在前</translation>
     </message>
     <message>
         <source>with both pairs left out of the figures by hand</source>
-        <translation type="unfinished"></translation>
+        <translation>有两组坐标，但已人工剔除，不参与统计</translation>
     </message>
     <message>
         <source>with one pair only, the other computed</source>
-        <translation type="unfinished"></translation>
+        <translation>仅有一组坐标，另一组由计算得到</translation>
     </message>
     <message>
         <source>not computed, as that was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>因取消而未计算</translation>
     </message>
     <message>
         <source>without a result; the list says why</source>
-        <translation type="unfinished"></translation>
+        <translation>无结果；原因见列表</translation>
     </message>
     <message>
         <source>with a name that another has</source>
-        <translation type="unfinished"></translation>
+        <translation>点名与其他点重复</translation>
     </message>
     <message>
         <source>Latitudes, longitudes and heights of the points are on the system&apos;s own datum.</source>
-        <translation type="unfinished"></translation>
+        <translation>各点的纬度、经度和大地高属于系统自身的基准。</translation>
     </message>
     <message>
         <source>Latitudes, longitudes and heights of the points are on WGS 84, and brought to the system&apos;s datum by its shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>各点的纬度、经度和大地高属于WGS 84，并已用系统的基准转换换算到系统的基准。</translation>
     </message>
     <message>
         <source>No. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>第%1号</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>坐标系统</translation>
     </message>
     <message>
         <source>Points and residuals</source>
-        <translation type="unfinished"></translation>
+        <translation>控制点与残差</translation>
     </message>
     <message>
         <source>Vectors lead from the given place to the computed one, longer than life by the factor beside the scale bar. Red: beyond the tolerance. Grey: left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>矢量由已知位置指向计算位置，放大倍数见比例尺旁。红色：超限。灰色：已剔除。</translation>
     </message>
     <message>
         <source>Linear distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>长度变形</translation>
     </message>
     <message>
         <source>On the map: %1 to %2 ppm (mm in a kilometre). Red: longer in the grid than on the ground; blue: shorter. Black rectangle: the area of the points.</source>
-        <translation type="unfinished"></translation>
+        <translation>图中范围：%1～%2 ppm（毫米/千米）。红色：投影面上比地面长；蓝色：比地面短。黑色矩形：点所在区域。</translation>
     </message>
     <message>
         <source>At the points&apos; mean height of %1 above the ellipsoid.</source>
-        <translation type="unfinished"></translation>
+        <translation>取各点的平均大地高%1。</translation>
     </message>
     <message>
         <source>At the height 0, as the points have none: what the projection alone does.</source>
-        <translation type="unfinished"></translation>
+        <translation>各点无大地高，故取0：仅为投影本身的变形。</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>点</translation>
     </message>
     <message>
         <source>ΔE, ΔN: computed from latitude and longitude, minus given. *: beyond the tolerance. Slanted: computed from the other pair.</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔE、ΔN：由纬度和经度计算的值减已知值。*：超限。斜体：由另一组坐标计算。</translation>
     </message>
     <message>
         <source>The list has %1 points, too many for a report; here are those that matter most. &quot;Save...&quot; writes all of them as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>列表共有%1个点，对报告而言过多；此处仅列出最重要的点。“保存...”可将全部点写入CSV。</translation>
     </message>
     <message numerus="yes">
         <source>The %n point(s) that are farthest off, of %1 compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>偏差最大的%n个点（共比较%1个）</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Points left out or without a result: the first %n of %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已剔除或无结果的点：%1个中的前%n个</numerusform>
         </translation>
     </message>
     <message>
         <source>No.</source>
-        <translation type="unfinished"></translation>
+        <translation>序号</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>高程</translation>
     </message>
     <message>
         <source>Left out of the figures.</source>
-        <translation type="unfinished"></translation>
+        <translation>已剔除，不参与统计。</translation>
     </message>
     <message>
         <source>From catalogue...</source>
-        <translation type="unfinished"></translation>
+        <translation>从目录...</translation>
     </message>
     <message>
         <source>From registry...</source>
-        <translation type="unfinished"></translation>
+        <translation>从注册库...</translation>
     </message>
     <message>
         <source>With datum shifts</source>
-        <translation type="unfinished"></translation>
+        <translation>含基准转换</translation>
     </message>
     <message>
         <source>Apart from the mean</source>
-        <translation type="unfinished"></translation>
+        <translation>去除平均值</translation>
     </message>
     <message>
         <source>Picture of the difference</source>
-        <translation type="unfinished"></translation>
+        <translation>差值图</translation>
     </message>
     <message>
         <source>The same place for both systems: through WGS 84 with both datum shifts, or else the same latitude and longitude.</source>
-        <translation type="unfinished"></translation>
+        <translation>两个系统取同一位置：经两者的基准转换通过WGS 84；否则取相同的纬度和经度。</translation>
     </message>
     <message>
         <source>The map shows what is left of the difference without its mean over the area, as after another false easting and northing.</source>
-        <translation type="unfinished"></translation>
+        <translation>地图显示差值去除区域平均值后的剩余部分，相当于改变东向和北向加常数。</translation>
     </message>
     <message>
         <source>The difference is easting and northing of the shown system minus those of the other one, at the same place on the ground.</source>
-        <translation type="unfinished"></translation>
+        <translation>差值为地面同一位置上，所示系统的东、北坐标减另一系统的东、北坐标。</translation>
     </message>
     <message>
         <source>Choose a system to compare with</source>
-        <translation type="unfinished"></translation>
+        <translation>请选择要比较的坐标系统</translation>
     </message>
     <message>
         <source>ΔE</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔE</translation>
     </message>
     <message>
         <source>ΔN</source>
-        <translation type="unfinished"></translation>
+        <translation>ΔN</translation>
     </message>
     <message>
         <source>At the mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>鼠标处</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
+        <translation>平均值</translation>
     </message>
     <message>
         <source>Apart from it</source>
-        <translation type="unfinished"></translation>
+        <translation>去除平均值后</translation>
     </message>
     <message>
         <source>The point of the page &quot;Point&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>“点”页中的点。</translation>
     </message>
     <message>
         <source>Over the black square.</source>
-        <translation type="unfinished"></translation>
+        <translation>黑色方框内的平均值。</translation>
     </message>
     <message>
         <source>What is left of the difference without its mean is no larger in the black square.</source>
-        <translation type="unfinished"></translation>
+        <translation>在黑色方框内，差值去除平均值后的剩余部分不超过此值。</translation>
     </message>
     <message>
         <source>minus %1</source>
-        <translation type="unfinished"></translation>
+        <translation>减%1</translation>
     </message>
     <message>
         <source>Easting and northing of the shown system minus those of %1, as it was when it was chosen, at the same place on the ground.</source>
-        <translation type="unfinished"></translation>
+        <translation>地面同一位置上，所示系统的东、北坐标减%1（选取时的状态）的东、北坐标。</translation>
     </message>
     <message>
         <source>One of the projections gives no result in this area.</source>
-        <translation type="unfinished"></translation>
+        <translation>其中一个投影在该区域无结果。</translation>
     </message>
     <message>
         <source>Neither system defines a datum shift: both count as on WGS 84.</source>
-        <translation type="unfinished"></translation>
+        <translation>两个系统均未定义基准转换：均按WGS 84处理。</translation>
     </message>
     <message>
         <source>No datum shift is defined by %1: it counts as on WGS 84.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1未定义基准转换：按WGS 84处理。</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1～%2</translation>
     </message>
     <message>
         <source>Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>采用</translation>
     </message>
     <message>
         <source>For this area</source>
-        <translation type="unfinished"></translation>
+        <translation>针对此区域</translation>
     </message>
     <message>
         <source>For the point</source>
-        <translation type="unfinished"></translation>
+        <translation>针对该点</translation>
     </message>
     <message>
         <source>Least distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>变形最小</translation>
     </message>
     <message>
         <source>Where the largest distortion at that height is to be smallest: in the square on the map, or at the checked point.</source>
-        <translation type="unfinished"></translation>
+        <translation>在何处使该高度上的最大变形为最小：图上的方框内，或检查点处。</translation>
     </message>
     <message>
         <source>Design</source>
-        <translation type="unfinished"></translation>
+        <translation>设计</translation>
     </message>
     <message>
         <source>Move the meridian</source>
-        <translation type="unfinished"></translation>
+        <translation>移动子午线</translation>
     </message>
     <message>
         <source>Move the parallel</source>
-        <translation type="unfinished"></translation>
+        <translation>移动纬线</translation>
     </message>
     <message>
         <source>There is nothing to propose here.</source>
-        <translation type="unfinished"></translation>
+        <translation>此处无可建议的参数。</translation>
     </message>
     <message>
         <source>This system has no scale factor to choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>该系统没有可选的尺度比。</translation>
     </message>
     <message>
         <source>The system is as good as it can be here.</source>
-        <translation type="unfinished"></translation>
+        <translation>系统在此处已是最优。</translation>
     </message>
     <message>
         <source>Distortion in ppm: %1 → %2</source>
-        <translation type="unfinished"></translation>
+        <translation>变形（ppm）：%1 → %2</translation>
     </message>
     <message>
         <source>Picture of the linear distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>长度变形图</translation>
     </message>
     <message>
         <source>Mean ellipsoidal height of the ground; 0 shows the grid&apos;s own distortion.</source>
-        <translation type="unfinished"></translation>
+        <translation>地面的平均大地高；0表示投影本身的变形。</translation>
     </message>
     <message>
         <source>ppm</source>
-        <translation type="unfinished"></translation>
+        <translation>ppm</translation>
     </message>
     <message>
         <source>%1 ppm   %2, %3
 E %4 %6  N %5 %6</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ppm   %2, %3
+E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Point at the map for the distortion there.</source>
-        <translation type="unfinished"></translation>
+        <translation>将鼠标移到地图上，查看该处的变形。</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>拟合</translation>
     </message>
     <message>
         <source>What would meet the points best; what is not ticked is held.</source>
-        <translation type="unfinished"></translation>
+        <translation>何值与各点最为符合；未勾选的保持不变。</translation>
     </message>
     <message>
         <source>before</source>
-        <translation type="unfinished"></translation>
+        <translation>拟合前</translation>
     </message>
     <message>
         <source>after ± standard deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>拟合后±中误差</translation>
     </message>
     <message>
         <source>Scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>尺度比</translation>
     </message>
     <message>
         <source>False easting</source>
-        <translation type="unfinished"></translation>
+        <translation>东向加常数</translation>
     </message>
     <message>
         <source>False northing</source>
-        <translation type="unfinished"></translation>
+        <translation>北向加常数</translation>
     </message>
     <message>
         <source>RMS, largest</source>
-        <translation type="unfinished"></translation>
+        <translation>均方根，最大值</translation>
     </message>
     <message>
         <source>Misfit before</source>
-        <translation type="unfinished"></translation>
+        <translation>拟合前的偏差</translation>
     </message>
     <message>
         <source>Misfit after</source>
-        <translation type="unfinished"></translation>
+        <translation>拟合后的偏差</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation>问题</translation>
     </message>
     <message>
         <source>Remainder</source>
-        <translation type="unfinished"></translation>
+        <translation>剩余</translation>
     </message>
     <message>
         <source>Diagnosis</source>
-        <translation type="unfinished"></translation>
+        <translation>诊断</translation>
     </message>
     <message>
         <source>%1 after</source>
-        <translation type="unfinished"></translation>
+        <translation>拟合后的%1</translation>
     </message>
     <message>
         <source>Against the ground remain a rotation of %1 ± %2%3 and a scale of %4 ± %5 ppm.</source>
-        <translation type="unfinished"></translation>
+        <translation>相对于地面仍有旋转%1 ± %2%3和尺度%4 ± %5 ppm。</translation>
     </message>
     <message>
         <source>(not used)</source>
-        <translation type="unfinished"></translation>
+        <translation>（不使用）</translation>
     </message>
     <message>
         <source>Decimal comma</source>
-        <translation type="unfinished"></translation>
+        <translation>小数逗号</translation>
     </message>
     <message>
         <source>First line is a heading</source>
-        <translation type="unfinished"></translation>
+        <translation>首行为标题</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>列</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>制表符</translation>
     </message>
     <message>
         <source>Comma</source>
-        <translation type="unfinished"></translation>
+        <translation>逗号</translation>
     </message>
     <message>
         <source>Semicolon</source>
-        <translation type="unfinished"></translation>
+        <translation>分号</translation>
     </message>
     <message>
         <source>Blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>空格</translation>
     </message>
     <message>
         <source>Columns parted by</source>
-        <translation type="unfinished"></translation>
+        <translation>列分隔符</translation>
     </message>
     <message>
         <source>metres</source>
-        <translation type="unfinished"></translation>
+        <translation>米</translation>
     </message>
     <message>
         <source>international feet</source>
-        <translation type="unfinished"></translation>
+        <translation>国际英尺</translation>
     </message>
     <message>
         <source>US survey feet</source>
-        <translation type="unfinished"></translation>
+        <translation>美国测量英尺</translation>
     </message>
     <message>
         <source>Lengths in</source>
-        <translation type="unfinished"></translation>
+        <translation>长度单位</translation>
     </message>
     <message>
         <source>Column %1</source>
-        <translation type="unfinished"></translation>
+        <translation>第%1列</translation>
     </message>
     <message>
         <source>Columns of one kind belong together: degrees, minutes and seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>同类的列合在一起：度、分、秒。</translation>
     </message>
     <message>
         <source>Say which columns are latitude and longitude, or easting and northing.</source>
-        <translation type="unfinished"></translation>
+        <translation>请指定纬度和经度列，或东坐标和北坐标列。</translation>
     </message>
     <message numerus="yes">
         <source>%n point(s), %1 with both pairs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n个点，其中%1个有两组坐标</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n left out</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>剔除%n个</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 beyond the tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>超限%1个</translation>
     </message>
     <message>
         <source>%1 without a result</source>
-        <translation type="unfinished"></translation>
+        <translation>无结果%1个</translation>
     </message>
     <message>
         <source>%1 with a name that another has</source>
-        <translation type="unfinished"></translation>
+        <translation>点名重复%1个</translation>
     </message>
     <message>
         <source>Paste, open or type points.</source>
-        <translation type="unfinished"></translation>
+        <translation>请粘贴、打开或输入点。</translation>
     </message>
     <message>
         <source>Out of range.</source>
-        <translation type="unfinished"></translation>
+        <translation>超出范围。</translation>
     </message>
     <message>
         <source>Fitted ΔE</source>
-        <translation type="unfinished"></translation>
+        <translation>拟合后ΔE</translation>
     </message>
     <message>
         <source>Fitted ΔN</source>
-        <translation type="unfinished"></translation>
+        <translation>拟合后ΔN</translation>
     </message>
     <message>
         <source>Remark</source>
-        <translation type="unfinished"></translation>
+        <translation>备注</translation>
     </message>
     <message>
         <source>A point without a check mark is left out of the statistics.</source>
-        <translation type="unfinished"></translation>
+        <translation>未勾选的点不参与统计。</translation>
     </message>
     <message>
         <source>Ellipsoidal height; 0 where there is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>大地高；没有时取0。</translation>
     </message>
     <message>
         <source>Slanted: computed from the other pair.</source>
-        <translation type="unfinished"></translation>
+        <translation>斜体：由另一组坐标计算。</translation>
     </message>
     <message>
         <source>What the fit would leave.</source>
-        <translation type="unfinished"></translation>
+        <translation>拟合后的剩余差值。</translation>
     </message>
     <message>
         <source>Computed from latitude and longitude, minus given.</source>
-        <translation type="unfinished"></translation>
+        <translation>由纬度和经度计算的值减已知值。</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -722,229 +725,229 @@ E %4 %6  N %5 %6</source>
     </message>
     <message>
         <source>Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>打开...</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>粘贴</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>复制</translation>
     </message>
     <message>
         <source>Save...</source>
-        <translation type="unfinished"></translation>
+        <translation>保存...</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>删除</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>清空</translation>
     </message>
     <message>
         <source>Next marked</source>
-        <translation type="unfinished"></translation>
+        <translation>下一个标记</translation>
     </message>
     <message>
         <source>The next point beyond the tolerance, or row with a remark</source>
-        <translation type="unfinished"></translation>
+        <translation>下一个超限的点或有备注的行</translation>
     </message>
     <message>
         <source>Report...</source>
-        <translation type="unfinished"></translation>
+        <translation>报告...</translation>
     </message>
     <message>
         <source>Writes the check as a document to file with the job.</source>
-        <translation type="unfinished"></translation>
+        <translation>将检查结果写成文档，随项目归档。</translation>
     </message>
     <message>
         <source>Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>限差</translation>
     </message>
     <message>
         <source>Points that are farther off are marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>偏差超过限差的点会被标出。</translation>
     </message>
     <message>
         <source>Own</source>
-        <translation type="unfinished"></translation>
+        <translation>自身</translation>
     </message>
     <message>
         <source>Datum of latitude, longitude and height: the system&apos;s own, or WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>纬度、经度和大地高的基准：系统自身的基准或WGS 84</translation>
     </message>
     <message>
         <source>Which false origin and scale factor would meet the points best.</source>
-        <translation type="unfinished"></translation>
+        <translation>何种加常数和尺度比与各点最为符合。</translation>
     </message>
     <message>
         <source>All is written: that can&apos;t be cancelled any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>已全部写入：无法再取消。</translation>
     </message>
     <message>
         <source>Cancelled: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>已取消：%1</translation>
     </message>
     <message>
         <source>Open points</source>
-        <translation type="unfinished"></translation>
+        <translation>打开点文件</translation>
     </message>
     <message>
         <source>All files</source>
-        <translation type="unfinished"></translation>
+        <translation>所有文件</translation>
     </message>
     <message>
         <source>%1 can&apos;t be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取%1：%2</translation>
     </message>
     <message>
         <source>The clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>剪贴板</translation>
     </message>
     <message>
         <source>%1 has too many points; nothing of it is taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1的点过多；未读入任何点。</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n row(s) read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1：已读取%n行。</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 can&apos;t be read to its end: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>无法完整读取%1：%2</translation>
     </message>
     <message>
         <source>Reading</source>
-        <translation type="unfinished"></translation>
+        <translation>读取</translation>
     </message>
     <message>
         <source>Computing</source>
-        <translation type="unfinished"></translation>
+        <translation>计算</translation>
     </message>
     <message>
         <source>Comparing names</source>
-        <translation type="unfinished"></translation>
+        <translation>比较点名</translation>
     </message>
     <message>
         <source>Drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>绘图</translation>
     </message>
     <message>
         <source>Counting</source>
-        <translation type="unfinished"></translation>
+        <translation>统计</translation>
     </message>
     <message>
         <source>Point at the picture for a point&apos;s name.</source>
-        <translation type="unfinished"></translation>
+        <translation>将鼠标移到图上，查看点名。</translation>
     </message>
     <message>
         <source>Row %1</source>
-        <translation type="unfinished"></translation>
+        <translation>第%1行</translation>
     </message>
     <message>
         <source>Copying</source>
-        <translation type="unfinished"></translation>
+        <translation>复制</translation>
     </message>
     <message>
         <source>Only the first %1 rows are copied. Save all as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>仅复制了前%1行。请将全部点保存为CSV。</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s) copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已复制%n行。</numerusform>
         </translation>
     </message>
     <message>
         <source>CSV as shown</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV（按显示）</translation>
     </message>
     <message>
         <source>CSV with all digits</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV（全部位数）</translation>
     </message>
     <message>
         <source>Save points</source>
-        <translation type="unfinished"></translation>
+        <translation>保存点</translation>
     </message>
     <message>
         <source>Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n row(s) saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1：已保存%n行。</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 can&apos;t be saved: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>无法保存%1：%2</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>报告</translation>
     </message>
     <message>
         <source>%1: report saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：报告已保存。</translation>
     </message>
     <message>
         <source>No row is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>未选择任何行。</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s) deleted; Ctrl+Z undoes that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已删除%n行；Ctrl+Z可撤销。</numerusform>
         </translation>
     </message>
     <message>
         <source>There is nothing to undo.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有可撤销的操作。</translation>
     </message>
     <message>
         <source>Undone: the points are as they were before.</source>
-        <translation type="unfinished"></translation>
+        <translation>已撤销：点已恢复原状。</translation>
     </message>
     <message numerus="yes">
         <source>Remove all %n point(s) from the table?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>从表中移除全部%n个点吗？</numerusform>
         </translation>
     </message>
     <message>
         <source>All points are removed; Ctrl+Z undoes that.</source>
-        <translation type="unfinished"></translation>
+        <translation>已移除所有点；Ctrl+Z可撤销。</translation>
     </message>
     <message>
         <source>All is within the tolerance and without a remark.</source>
-        <translation type="unfinished"></translation>
+        <translation>全部在限差内，且无备注。</translation>
     </message>
     <message>
         <source>Picture of the points</source>
-        <translation type="unfinished"></translation>
+        <translation>点位图</translation>
     </message>
     <message>
         <source>HTML, one file with its pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>HTML（单个文件，含图片）</translation>
     </message>
     <message>
         <source>Save report</source>
-        <translation type="unfinished"></translation>
+        <translation>保存报告</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>第%1页，共%2页</translation>
     </message>
     <message>
         <source>no document could be made</source>
-        <translation type="unfinished"></translation>
+        <translation>无法生成文档</translation>
     </message>
     <message>
         <source>Check</source>
