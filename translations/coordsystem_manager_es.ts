@@ -963,767 +963,767 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobación</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto</translation>
     </message>
     <message>
         <source>Distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>Deformación</translation>
     </message>
     <message>
         <source>Show angles in</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar ángulos en</translation>
     </message>
     <message>
         <source>A fit needs points with latitude, longitude, easting and northing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un ajuste necesita puntos con latitud, longitud, este y norte.</translation>
     </message>
     <message>
         <source>A fit takes %1 points at most: leave some out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un ajuste admite %1 puntos como máximo: excluya algunos.</translation>
     </message>
     <message>
         <source>The projection gives no result at one of the points.</source>
-        <translation type="unfinished"></translation>
+        <translation>La proyección no da resultado en uno de los puntos.</translation>
     </message>
     <message>
         <source>The points do not determine these values: hold one of them, or add points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los puntos no determinan estos valores: deje fijo uno de ellos o añada puntos.</translation>
     </message>
     <message>
         <source>east</source>
-        <translation type="unfinished"></translation>
+        <translation>hacia el este</translation>
     </message>
     <message>
         <source>north</source>
-        <translation type="unfinished"></translation>
+        <translation>hacia el norte</translation>
     </message>
     <message>
         <source>west</source>
-        <translation type="unfinished"></translation>
+        <translation>hacia el oeste</translation>
     </message>
     <message>
         <source>south</source>
-        <translation type="unfinished"></translation>
+        <translation>hacia el sur</translation>
     </message>
     <message>
         <source>Easting and northing are swapped.</source>
-        <translation type="unfinished"></translation>
+        <translation>El este y el norte están intercambiados.</translation>
     </message>
     <message>
         <source>The given eastings count %1, the northings %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los estes dados crecen %1; los nortes, %2.</translation>
     </message>
     <message>
         <source>The given eastings and northings are in feet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los estes y nortes dados están en pies.</translation>
     </message>
     <message>
         <source>The given eastings and northings are metres that were taken for feet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los estes y nortes dados son metros que se tomaron por pies.</translation>
     </message>
     <message>
         <source>The given grid is turned by %1° against the computed one</source>
-        <translation type="unfinished"></translation>
+        <translation>La cuadrícula dada está girada %1° respecto a la calculada</translation>
     </message>
     <message>
         <source>The points are of another zone: its central meridian is %1°.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los puntos son de otro huso: su meridiano central es %1°.</translation>
     </message>
     <message>
         <source>%1, as by a central meridian of %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, como con un meridiano central de %2°.</translation>
     </message>
     <message>
         <source>There is nothing in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No contiene nada.</translation>
     </message>
     <message>
         <source>It is no text. Save a table as CSV first.</source>
-        <translation type="unfinished"></translation>
+        <translation>No es texto. Guarde antes la tabla como CSV.</translation>
     </message>
     <message>
         <source>latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>latitud</translation>
     </message>
     <message>
         <source>longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>longitud</translation>
     </message>
     <message>
         <source>height</source>
-        <translation type="unfinished"></translation>
+        <translation>altura</translation>
     </message>
     <message>
         <source>easting</source>
-        <translation type="unfinished"></translation>
+        <translation>este</translation>
     </message>
     <message>
         <source>northing</source>
-        <translation type="unfinished"></translation>
+        <translation>norte</translation>
     </message>
     <message>
         <source>The line is too long for a point; its beginning is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>La línea es demasiado larga para un punto; se conserva su comienzo.</translation>
     </message>
     <message>
         <source>Can&apos;t be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer: %1.</translation>
     </message>
     <message>
         <source>Out of range: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuera de rango: %1.</translation>
     </message>
     <message>
         <source>There are no coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay coordenadas.</translation>
     </message>
     <message>
         <source>Missing: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta: %1.</translation>
     </message>
     <message>
         <source>The system defines no datum shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>El sistema no define ningún cambio de datum.</translation>
     </message>
     <message>
         <source>The name occurs more than once.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre aparece más de una vez.</translation>
     </message>
     <message>
         <source>Line: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea: %1</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <translation>Usado</translation>
     </message>
     <message>
         <source>Seven parameters need three points or more on both datums.</source>
-        <translation type="unfinished"></translation>
+        <translation>Siete parámetros requieren tres puntos o más en ambos datums.</translation>
     </message>
     <message>
         <source>Three parameters need one point or more on both datums.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tres parámetros requieren un punto o más en ambos datums.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; and &quot;%2&quot; are the same point: leave one of them out.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» y «%2» son el mismo punto: excluya uno de ellos.</translation>
     </message>
     <message>
         <source>The points lie on a line, around which they leave the rotation open. Add a point beside the line, or take three parameters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los puntos están en una recta, en torno a la cual la rotación queda indeterminada. Añada un punto fuera de la recta o tome tres parámetros.</translation>
     </message>
     <message>
         <source>No datum shift is as large as these points would have it. Are both places of each the same point, on the right datum?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún cambio de datum es tan grande como resultaría de estos puntos. ¿Son ambas posiciones de cada uno del mismo punto y en el datum correcto?</translation>
     </message>
     <message>
         <source>The area is too small to tell the translations from rotations and scale (correlation %1): the values mean nothing one by one, and hold within the area only. Three parameters are recommended if what they leave will do: a standard deviation of %2 m, against %3 m of seven.</source>
-        <translation type="unfinished"></translation>
+        <translation>La zona es demasiado pequeña para distinguir las traslaciones de las rotaciones y la escala (correlación %1): los valores no significan nada por separado y valen solo dentro de la zona. Se recomiendan tres parámetros si basta con lo que dejan: una desviación típica de %2 m, frente a %3 m con siete.</translation>
     </message>
     <message>
         <source>No projection: these values make none.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay proyección: estos valores no la definen.</translation>
     </message>
     <message>
         <source>Rotations in the position-vector convention (EPSG 9606, PROJ towgs84). Figures published in the coordinate-frame convention (EPSG 9607): type them as they are, then reverse their signs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotaciones según el convenio de vector de posición (EPSG 9606, PROJ towgs84). Valores publicados según el convenio de marco de coordenadas (EPSG 9607): escríbalos tal cual y después invierta sus signos.</translation>
     </message>
     <message>
         <source>Reverse rotation signs</source>
-        <translation type="unfinished"></translation>
+        <translation>Invertir signos de rotación</translation>
     </message>
     <message>
         <source>From points...</source>
-        <translation type="unfinished"></translation>
+        <translation>De puntos...</translation>
     </message>
     <message>
         <source>Stands in exported definitions; nothing is computed from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Figura en las definiciones exportadas; con él no se calcula nada.</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>desconocido</translation>
     </message>
     <message>
         <source>Shift to WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambio a WGS 84</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno</translation>
     </message>
     <message>
         <source>Seven parameters (three: the rest 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Siete parámetros (tres: el resto 0)</translation>
     </message>
     <message>
         <source>Estimates the shift from points known on both datums.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estima el cambio de datum con puntos conocidos en ambos datums.</translation>
     </message>
     <message>
         <source>Datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambio de datum</translation>
     </message>
     <message>
         <source>Without a shift, coordinates on WGS 84 are unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin cambio de datum se desconocen las coordenadas en WGS 84.</translation>
     </message>
     <message>
         <source>This kind of shift is unknown here; it is kept as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí no se conoce este tipo de cambio de datum; se conserva tal cual.</translation>
     </message>
     <message>
         <source>The signs of all three rotations are reversed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se han invertido los signos de las tres rotaciones.</translation>
     </message>
     <message>
         <source>Definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Definición</translation>
     </message>
     <message>
         <source>PROJ definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Definición PROJ</translation>
     </message>
     <message>
         <source>WKT dialect</source>
-        <translation type="unfinished"></translation>
+        <translation>Dialecto WKT</translation>
     </message>
     <message>
         <source>WKT 1 (GDAL)</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT 1 (GDAL)</translation>
     </message>
     <message>
         <source>WKT 1 (ESRI)</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT 1 (ESRI)</translation>
     </message>
     <message>
         <source>WKT 2:2019</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT 2:2019</translation>
     </message>
     <message>
         <source>With identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Con identificador</translation>
     </message>
     <message>
         <source>Save as .prj</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como .prj</translation>
     </message>
     <message>
         <source>Save group...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar grupo...</translation>
     </message>
     <message>
         <source>WKT</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT</translation>
     </message>
     <message>
         <source>Where from</source>
-        <translation type="unfinished"></translation>
+        <translation>Procedencia</translation>
     </message>
     <message>
         <source>From text...</source>
-        <translation type="unfinished"></translation>
+        <translation>De texto...</translation>
     </message>
     <message>
         <source>This form can&apos;t express the system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este formato no puede expresar el sistema.</translation>
     </message>
     <message>
         <source>This form can&apos;t carry the identifier.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este formato no puede llevar el identificador.</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso</translation>
     </message>
     <message>
         <source>The file can&apos;t be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir el archivo: %1</translation>
     </message>
     <message>
         <source>No coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún sistema de coordenadas</translation>
     </message>
     <message>
         <source>%1 – choose a coordinate system in the tree</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – elija un sistema de coordenadas en el árbol</translation>
     </message>
     <message>
         <source>Forward to the edited values</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver a los valores editados</translation>
     </message>
     <message>
         <source>Back to the values before</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver a los valores anteriores</translation>
     </message>
     <message>
         <source>Ellipsoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Elipsoide</translation>
     </message>
     <message>
         <source>Semi-minor axis b</source>
-        <translation type="unfinished"></translation>
+        <translation>Semieje menor b</translation>
     </message>
     <message>
         <source>Eccentricity e</source>
-        <translation type="unfinished"></translation>
+        <translation>Excentricidad e</translation>
     </message>
     <message>
         <source>Choose an ellipsoid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija un elipsoide.</translation>
     </message>
     <message>
         <source>Not in the list of ellipsoids.</source>
-        <translation type="unfinished"></translation>
+        <translation>No está en la lista de elipsoides.</translation>
     </message>
     <message>
         <source>The figures differ from the list&apos;s ellipsoid of this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los valores difieren de los del elipsoide de este nombre en la lista.</translation>
     </message>
     <message>
         <source>Decimal degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Grados decimales</translation>
     </message>
     <message>
         <source>Degrees, minutes, seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Grados, minutos, segundos</translation>
     </message>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiado</translation>
     </message>
     <message>
         <source>Metre</source>
-        <translation type="unfinished"></translation>
+        <translation>Metro</translation>
     </message>
     <message>
         <source>International foot, 0.3048 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Pie internacional, 0.3048 m</translation>
     </message>
     <message>
         <source>US survey foot, 1200/3937 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Pie topográfico (EE. UU.), 1200/3937 m</translation>
     </message>
     <message>
         <source>Lengths in metres (m), international feet (ft) or US survey feet (ftUS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Medidas en metros (m), pies internacionales (ft) o pies topográficos de EE. UU. (ftUS)</translation>
     </message>
     <message>
         <source>From text</source>
-        <translation type="unfinished"></translation>
+        <translation>De texto</translation>
     </message>
     <message>
         <source>Paste or type WKT, a PROJ definition, PROJJSON, or a code as EPSG:25832.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegue o escriba WKT, una definición PROJ, PROJJSON o un código como EPSG:25832.</translation>
     </message>
     <message>
         <source>Understood</source>
-        <translation type="unfinished"></translation>
+        <translation>Interpretación</translation>
     </message>
     <message>
         <source>Understood:</source>
-        <translation type="unfinished"></translation>
+        <translation>Interpretación:</translation>
     </message>
     <message>
         <source>Geoid model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo de geoide</translation>
     </message>
     <message>
         <source>Model file</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo del modelo</translation>
     </message>
     <message>
         <source>Model ellipsoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Elipsoide del modelo</translation>
     </message>
     <message>
         <source>(none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(ninguno)</translation>
     </message>
     <message>
         <source>Not in the list of geoid models.</source>
-        <translation type="unfinished"></translation>
+        <translation>No está en la lista de modelos de geoide.</translation>
     </message>
     <message>
         <source>The model refers to another ellipsoid than the system.</source>
-        <translation type="unfinished"></translation>
+        <translation>El modelo se refiere a otro elipsoide que el sistema.</translation>
     </message>
     <message>
         <source>Method</source>
-        <translation type="unfinished"></translation>
+        <translation>Método</translation>
     </message>
     <message>
         <source>Projection method</source>
-        <translation type="unfinished"></translation>
+        <translation>Método de proyección</translation>
     </message>
     <message>
         <source>Choose the method</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija el método</translation>
     </message>
     <message>
         <source>Projection</source>
-        <translation type="unfinished"></translation>
+        <translation>Proyección</translation>
     </message>
     <message>
         <source>Still to choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Por elegir.</translation>
     </message>
     <message>
         <source>A latitude goes with N or S.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una latitud lleva N o S.</translation>
     </message>
     <message>
         <source>A longitude goes with E or W.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una longitud lleva E o W.</translation>
     </message>
     <message>
         <source>An azimuth goes without a letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un acimut no lleva letra.</translation>
     </message>
     <message>
         <source>Use a decimal point, not a comma.</source>
-        <translation type="unfinished"></translation>
+        <translation>Use punto decimal, no coma.</translation>
     </message>
     <message>
         <source>Not an angle. Examples: 7.5, 7 30 00, 7°30&apos;00&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un ángulo. Ejemplos: 7.5, 7 30 00, 7°30&apos;00&quot;.</translation>
     </message>
     <message>
         <source>Only the last part may have decimals.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo la última parte puede tener decimales.</translation>
     </message>
     <message>
         <source>Minutes must be less than 60.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los minutos deben ser menos de 60.</translation>
     </message>
     <message>
         <source>Seconds must be less than 60.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los segundos deben ser menos de 60.</translation>
     </message>
     <message>
         <source>Give either a sign or a letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique un signo o una letra, no ambos.</translation>
     </message>
     <message>
         <source>Semi-major axis a</source>
-        <translation type="unfinished"></translation>
+        <translation>Semieje mayor a</translation>
     </message>
     <message>
         <source>Inverse flattening 1/f</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplanamiento inverso 1/f</translation>
     </message>
     <message>
         <source>Translation X</source>
-        <translation type="unfinished"></translation>
+        <translation>Traslación X</translation>
     </message>
     <message>
         <source>Translation Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Traslación Y</translation>
     </message>
     <message>
         <source>Translation Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Traslación Z</translation>
     </message>
     <message>
         <source>Rotation X</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación X</translation>
     </message>
     <message>
         <source>Rotation Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación Y</translation>
     </message>
     <message>
         <source>Rotation Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación Z</translation>
     </message>
     <message>
         <source>Scale difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia de escala</translation>
     </message>
     <message>
         <source>A sphere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una esfera.</translation>
     </message>
     <message>
         <source>Unusual for the Earth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inusual para la Tierra.</translation>
     </message>
     <message>
         <source>Unusually large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inusualmente grande.</translation>
     </message>
     <message>
         <source>Nothing can be computed: the projection module is not installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede calcular nada: el módulo de proyección no está instalado.</translation>
     </message>
     <message>
         <source>These parameters give no projection that can be computed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estos parámetros no dan una proyección que pueda calcularse.</translation>
     </message>
     <message>
         <source>The model names no file.</source>
-        <translation type="unfinished"></translation>
+        <translation>El modelo no indica ningún archivo.</translation>
     </message>
     <message>
         <source>Not in the folder of geoid models.</source>
-        <translation type="unfinished"></translation>
+        <translation>No está en la carpeta de modelos de geoide.</translation>
     </message>
     <message>
         <source>The folder of geoid models has &quot;%1&quot; instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta de modelos de geoide contiene en su lugar «%1».</translation>
     </message>
     <message>
         <source>Not a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un archivo.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo está vacío.</translation>
     </message>
     <message>
         <source>Not a length in %1 with a decimal point.</source>
-        <translation type="unfinished"></translation>
+        <translation>No es una medida en %1 con punto decimal.</translation>
     </message>
     <message>
         <source>Allowed: 0 (sphere), or more than 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Permitido: 0 (esfera) o más de 1.</translation>
     </message>
     <message>
         <source>Allowed: between %1 and %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Permitido: entre %1 y %2.</translation>
     </message>
     <message>
         <source>Allowed: ±%1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Permitido: ±%1.</translation>
     </message>
     <message>
         <source>Allowed: %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Permitido: de %1 a %2.</translation>
     </message>
     <message>
         <source>A value is needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se necesita un valor.</translation>
     </message>
     <message>
         <source>Only digits and a decimal point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo cifras y un punto decimal.</translation>
     </message>
     <message>
         <source>Datum shift to WGS 84: none</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambio de datum a WGS 84: ninguno</translation>
     </message>
     <message>
         <source>Datum shift to WGS 84: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambio de datum a WGS 84: %1</translation>
     </message>
     <message>
         <source>Pasted text, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto pegado, %1</translation>
     </message>
     <message>
         <source>The text counts in %1, the record in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>El texto cuenta en %1; el sistema mostrado, en metros.</translation>
     </message>
     <message>
         <source>Its datum shift is by grids, or of another kind, and is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su cambio de datum es por rejillas o de otro tipo, y se omite.</translation>
     </message>
     <message>
         <source>Its heights are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sus alturas se omiten.</translation>
     </message>
     <message>
         <source>The registry has withdrawn it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El registro lo ha retirado.</translation>
     </message>
     <message>
         <source>(line %1, column %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>(línea %1, columna %2)</translation>
     </message>
     <message>
         <source>Ellipsoid: %1, a %2 m, 1/f %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Elipsoide: %1, a %2 m, 1/f %3</translation>
     </message>
     <message>
         <source>Datum: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum: %1</translation>
     </message>
     <message>
         <source>not named</source>
-        <translation type="unfinished"></translation>
+        <translation>sin nombre</translation>
     </message>
     <message>
         <source>No projection: latitudes of the points equal, or the first 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay proyección: latitudes de los puntos iguales, o la primera 0.</translation>
     </message>
     <message>
         <source>No projection: the standard parallels cancel out.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay proyección: los paralelos estándar se anulan entre sí.</translation>
     </message>
     <message>
         <source>No projection yet: the system has no ellipsoid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay proyección: el sistema no tiene elipsoide.</translation>
     </message>
     <message>
         <source>No projection yet: choose the method.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay proyección: elija el método.</translation>
     </message>
     <message>
         <source>No projection: the method &quot;%1&quot; is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay proyección: el método «%1» es desconocido.</translation>
     </message>
     <message>
         <source>No projection: the definition fits none of the methods.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay proyección: la definición no corresponde a ninguno de los métodos.</translation>
     </message>
     <message>
         <source>No projection: &quot;%1&quot; is missing or wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay proyección: «%1» falta o es erróneo.</translation>
     </message>
     <message>
         <source>No projection: a standard parallel needs the scale factor 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay proyección: un paralelo estándar exige el factor de escala 1.</translation>
     </message>
     <message>
         <source>No projection: the scale factor is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay proyección: falta el factor de escala.</translation>
     </message>
     <message>
         <source>Must be 1: the standard parallel sets the scale.</source>
-        <translation type="unfinished"></translation>
+        <translation>Debe ser 1: la escala la fija el paralelo estándar.</translation>
     </message>
     <message>
         <source>Unusual: scale factors lie close to 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inusual: los factores de escala son cercanos a 1.</translation>
     </message>
     <message>
         <source>Without effect: the origin is no pole.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin efecto: el origen no es un polo.</translation>
     </message>
     <message>
         <source>With 0° this is the plain Mercator projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Con 0° es la proyección Mercator simple.</translation>
     </message>
     <message>
         <source>Usually equal to the latitude of origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Suele ser igual a la latitud de origen.</translation>
     </message>
     <message>
         <source>The standard parallels nearly cancel out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los paralelos estándar casi se anulan entre sí.</translation>
     </message>
     <message>
         <source>Gives the line of %1°. For the line of this azimuth, type %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>Da la línea de %1°. Para la línea de este acimut, escriba %2°.</translation>
     </message>
     <message>
         <source>Zone %1 of UTM has the central meridian %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>El huso %1 de UTM tiene el meridiano central %2°.</translation>
     </message>
     <message>
         <source>Does not fit zone %1 of the false easting.</source>
-        <translation type="unfinished"></translation>
+        <translation>No corresponde al huso %1 del falso este.</translation>
     </message>
     <message>
         <source>Latitude of origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitud de origen</translation>
     </message>
     <message>
         <source>Latitude of centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitud del centro</translation>
     </message>
     <message>
         <source>Longitude of origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud de origen</translation>
     </message>
     <message>
         <source>Longitude of centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud del centro</translation>
     </message>
     <message>
         <source>Latitude of point 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitud del punto 1</translation>
     </message>
     <message>
         <source>Longitude of point 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud del punto 1</translation>
     </message>
     <message>
         <source>Latitude of point 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitud del punto 2</translation>
     </message>
     <message>
         <source>Longitude of point 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud del punto 2</translation>
     </message>
     <message>
         <source>Azimuth of the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Acimut de la línea</translation>
     </message>
     <message>
         <source>Standard parallel 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Paralelo estándar 1</translation>
     </message>
     <message>
         <source>Standard parallel 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Paralelo estándar 2</translation>
     </message>
     <message>
         <source>Easting at centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Este en el centro</translation>
     </message>
     <message>
         <source>Northing at centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Norte en el centro</translation>
     </message>
     <message>
         <source>Gauss-Krüger (scale factor 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauss-Krüger (factor de escala 1)</translation>
     </message>
     <message>
         <source>Transverse Mercator</source>
-        <translation type="unfinished"></translation>
+        <translation>Transversa de Mercator</translation>
     </message>
     <message>
         <source>Mercator</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercator</translation>
     </message>
     <message>
         <source>Mercator (standard parallel)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercator (paralelo estándar)</translation>
     </message>
     <message>
         <source>Oblique Mercator (azimuth)</source>
-        <translation type="unfinished"></translation>
+        <translation>Oblicua de Mercator (acimut)</translation>
     </message>
     <message>
         <source>Stereographic</source>
-        <translation type="unfinished"></translation>
+        <translation>Estereográfica</translation>
     </message>
     <message>
         <source>Oblique Stereographic (double)</source>
-        <translation type="unfinished"></translation>
+        <translation>Estereográfica oblicua (doble)</translation>
     </message>
     <message>
         <source>Lambert Conic Conformal (1SP)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cónica conforme de Lambert (1SP)</translation>
     </message>
     <message>
         <source>Lambert Conic Conformal (2SP)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cónica conforme de Lambert (2SP)</translation>
     </message>
     <message>
         <source>Oblique Mercator (two points)</source>
-        <translation type="unfinished"></translation>
+        <translation>Oblicua de Mercator (dos puntos)</translation>
     </message>
     <message>
         <source>Cassini-Soldner</source>
-        <translation type="unfinished"></translation>
+        <translation>Cassini-Soldner</translation>
     </message>
     <message>
         <source>the name</source>
@@ -2403,7 +2403,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -951,767 +951,767 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation type="unfinished"></translation>
+        <translation>检查</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>点</translation>
     </message>
     <message>
         <source>Distortion</source>
-        <translation type="unfinished"></translation>
+        <translation>变形</translation>
     </message>
     <message>
         <source>Show angles in</source>
-        <translation type="unfinished"></translation>
+        <translation>角度显示为</translation>
     </message>
     <message>
         <source>A fit needs points with latitude, longitude, easting and northing.</source>
-        <translation type="unfinished"></translation>
+        <translation>拟合需要同时有纬度、经度、东坐标和北坐标的点。</translation>
     </message>
     <message>
         <source>A fit takes %1 points at most: leave some out.</source>
-        <translation type="unfinished"></translation>
+        <translation>拟合最多使用%1个点：请剔除一些点。</translation>
     </message>
     <message>
         <source>The projection gives no result at one of the points.</source>
-        <translation type="unfinished"></translation>
+        <translation>投影在其中一个点上无结果。</translation>
     </message>
     <message>
         <source>The points do not determine these values: hold one of them, or add points.</source>
-        <translation type="unfinished"></translation>
+        <translation>这些点不能确定这些值：请固定其中一个，或增加点。</translation>
     </message>
     <message>
         <source>east</source>
-        <translation type="unfinished"></translation>
+        <translation>东</translation>
     </message>
     <message>
         <source>north</source>
-        <translation type="unfinished"></translation>
+        <translation>北</translation>
     </message>
     <message>
         <source>west</source>
-        <translation type="unfinished"></translation>
+        <translation>西</translation>
     </message>
     <message>
         <source>south</source>
-        <translation type="unfinished"></translation>
+        <translation>南</translation>
     </message>
     <message>
         <source>Easting and northing are swapped.</source>
-        <translation type="unfinished"></translation>
+        <translation>东坐标与北坐标颠倒。</translation>
     </message>
     <message>
         <source>The given eastings count %1, the northings %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>给定的东坐标向%1递增，北坐标向%2递增。</translation>
     </message>
     <message>
         <source>The given eastings and northings are in feet.</source>
-        <translation type="unfinished"></translation>
+        <translation>给定的东、北坐标以英尺为单位。</translation>
     </message>
     <message>
         <source>The given eastings and northings are metres that were taken for feet.</source>
-        <translation type="unfinished"></translation>
+        <translation>给定的东、北坐标是被当作英尺的米。</translation>
     </message>
     <message>
         <source>The given grid is turned by %1° against the computed one</source>
-        <translation type="unfinished"></translation>
+        <translation>给定坐标相对于计算坐标旋转了%1°</translation>
     </message>
     <message>
         <source>The points are of another zone: its central meridian is %1°.</source>
-        <translation type="unfinished"></translation>
+        <translation>这些点属于另一投影带：其中央子午线为%1°。</translation>
     </message>
     <message>
         <source>%1, as by a central meridian of %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，相当于中央子午线为%2°。</translation>
     </message>
     <message>
         <source>There is nothing in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>内容为空。</translation>
     </message>
     <message>
         <source>It is no text. Save a table as CSV first.</source>
-        <translation type="unfinished"></translation>
+        <translation>不是文本。请先将表格另存为CSV。</translation>
     </message>
     <message>
         <source>latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>纬度</translation>
     </message>
     <message>
         <source>longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>经度</translation>
     </message>
     <message>
         <source>height</source>
-        <translation type="unfinished"></translation>
+        <translation>高程</translation>
     </message>
     <message>
         <source>easting</source>
-        <translation type="unfinished"></translation>
+        <translation>东坐标</translation>
     </message>
     <message>
         <source>northing</source>
-        <translation type="unfinished"></translation>
+        <translation>北坐标</translation>
     </message>
     <message>
         <source>The line is too long for a point; its beginning is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>该行对一个点而言过长；保留其开头部分。</translation>
     </message>
     <message>
         <source>Can&apos;t be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取：%1。</translation>
     </message>
     <message>
         <source>Out of range: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>超出范围：%1。</translation>
     </message>
     <message>
         <source>There are no coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有坐标。</translation>
     </message>
     <message>
         <source>Missing: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>缺少：%1。</translation>
     </message>
     <message>
         <source>The system defines no datum shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>系统未定义基准转换。</translation>
     </message>
     <message>
         <source>The name occurs more than once.</source>
-        <translation type="unfinished"></translation>
+        <translation>点名重复出现。</translation>
     </message>
     <message>
         <source>Line: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>原始行：%1</translation>
     </message>
     <message>
         <source>Used</source>
-        <translation type="unfinished"></translation>
+        <translation>使用</translation>
     </message>
     <message>
         <source>Seven parameters need three points or more on both datums.</source>
-        <translation type="unfinished"></translation>
+        <translation>七参数需要三个或更多在两个基准上均已知的点。</translation>
     </message>
     <message>
         <source>Three parameters need one point or more on both datums.</source>
-        <translation type="unfinished"></translation>
+        <translation>三参数需要一个或更多在两个基准上均已知的点。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; and &quot;%2&quot; are the same point: leave one of them out.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”与“%2”是同一点：请剔除其中一个。</translation>
     </message>
     <message>
         <source>The points lie on a line, around which they leave the rotation open. Add a point beside the line, or take three parameters.</source>
-        <translation type="unfinished"></translation>
+        <translation>各点位于一条直线上，绕该直线的旋转无法确定。请在直线外增加一个点，或采用三参数。</translation>
     </message>
     <message>
         <source>No datum shift is as large as these points would have it. Are both places of each the same point, on the right datum?</source>
-        <translation type="unfinished"></translation>
+        <translation>基准转换不可能像这些点所给出的那样大。每个点的两个位置是否为同一点，且基准正确？</translation>
     </message>
     <message>
         <source>The area is too small to tell the translations from rotations and scale (correlation %1): the values mean nothing one by one, and hold within the area only. Three parameters are recommended if what they leave will do: a standard deviation of %2 m, against %3 m of seven.</source>
-        <translation type="unfinished"></translation>
+        <translation>区域太小，无法将平移与旋转和尺度区分开（相关系数%1）：各参数单独无意义，且仅在该区域内有效。若三参数的精度已够用，建议采用三参数：其中误差为%2 m，七参数为%3 m。</translation>
     </message>
     <message>
         <source>No projection: these values make none.</source>
-        <translation type="unfinished"></translation>
+        <translation>无投影：这些值不构成投影。</translation>
     </message>
     <message>
         <source>Rotations in the position-vector convention (EPSG 9606, PROJ towgs84). Figures published in the coordinate-frame convention (EPSG 9607): type them as they are, then reverse their signs.</source>
-        <translation type="unfinished"></translation>
+        <translation>旋转采用位置矢量约定（EPSG 9606，PROJ towgs84）。按坐标框架约定（EPSG 9607）公布的数值：请照原样输入，然后将符号取反。</translation>
     </message>
     <message>
         <source>Reverse rotation signs</source>
-        <translation type="unfinished"></translation>
+        <translation>旋转符号取反</translation>
     </message>
     <message>
         <source>From points...</source>
-        <translation type="unfinished"></translation>
+        <translation>由点求参...</translation>
     </message>
     <message>
         <source>Stands in exported definitions; nothing is computed from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>写入导出的定义中；不参与任何计算。</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>未知</translation>
     </message>
     <message>
         <source>Shift to WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>到WGS 84的转换</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>无</translation>
     </message>
     <message>
         <source>Seven parameters (three: the rest 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>七参数（三参数时其余为0）</translation>
     </message>
     <message>
         <source>Estimates the shift from points known on both datums.</source>
-        <translation type="unfinished"></translation>
+        <translation>用在两个基准上均已知的点估计转换参数。</translation>
     </message>
     <message>
         <source>Datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>基准转换</translation>
     </message>
     <message>
         <source>Without a shift, coordinates on WGS 84 are unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有基准转换，WGS 84坐标未知。</translation>
     </message>
     <message>
         <source>This kind of shift is unknown here; it is kept as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法识别此类转换；保持原样。</translation>
     </message>
     <message>
         <source>The signs of all three rotations are reversed.</source>
-        <translation type="unfinished"></translation>
+        <translation>三个旋转参数的符号均已取反。</translation>
     </message>
     <message>
         <source>Definition</source>
-        <translation type="unfinished"></translation>
+        <translation>定义</translation>
     </message>
     <message>
         <source>PROJ definition</source>
-        <translation type="unfinished"></translation>
+        <translation>PROJ定义</translation>
     </message>
     <message>
         <source>WKT dialect</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT格式</translation>
     </message>
     <message>
         <source>WKT 1 (GDAL)</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT 1（GDAL）</translation>
     </message>
     <message>
         <source>WKT 1 (ESRI)</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT 1（ESRI）</translation>
     </message>
     <message>
         <source>WKT 2:2019</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT 2:2019</translation>
     </message>
     <message>
         <source>With identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>含标识符</translation>
     </message>
     <message>
         <source>Save as .prj</source>
-        <translation type="unfinished"></translation>
+        <translation>另存为.prj</translation>
     </message>
     <message>
         <source>Save group...</source>
-        <translation type="unfinished"></translation>
+        <translation>保存分组...</translation>
     </message>
     <message>
         <source>WKT</source>
-        <translation type="unfinished"></translation>
+        <translation>WKT</translation>
     </message>
     <message>
         <source>Where from</source>
-        <translation type="unfinished"></translation>
+        <translation>来源</translation>
     </message>
     <message>
         <source>From text...</source>
-        <translation type="unfinished"></translation>
+        <translation>从文本...</translation>
     </message>
     <message>
         <source>This form can&apos;t express the system.</source>
-        <translation type="unfinished"></translation>
+        <translation>此格式无法表达该系统。</translation>
     </message>
     <message>
         <source>This form can&apos;t carry the identifier.</source>
-        <translation type="unfinished"></translation>
+        <translation>此格式不能带标识符。</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>警告</translation>
     </message>
     <message>
         <source>The file can&apos;t be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入文件：%1</translation>
     </message>
     <message>
         <source>No coordinate system</source>
-        <translation type="unfinished"></translation>
+        <translation>没有坐标系统</translation>
     </message>
     <message>
         <source>%1 – choose a coordinate system in the tree</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – 请在树中选择坐标系统</translation>
     </message>
     <message>
         <source>Forward to the edited values</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复编辑后的值</translation>
     </message>
     <message>
         <source>Back to the values before</source>
-        <translation type="unfinished"></translation>
+        <translation>返回之前的值</translation>
     </message>
     <message>
         <source>Ellipsoid</source>
-        <translation type="unfinished"></translation>
+        <translation>椭球</translation>
     </message>
     <message>
         <source>Semi-minor axis b</source>
-        <translation type="unfinished"></translation>
+        <translation>短半轴b</translation>
     </message>
     <message>
         <source>Eccentricity e</source>
-        <translation type="unfinished"></translation>
+        <translation>第一偏心率e</translation>
     </message>
     <message>
         <source>Choose an ellipsoid.</source>
-        <translation type="unfinished"></translation>
+        <translation>请选择椭球。</translation>
     </message>
     <message>
         <source>Not in the list of ellipsoids.</source>
-        <translation type="unfinished"></translation>
+        <translation>不在椭球列表中。</translation>
     </message>
     <message>
         <source>The figures differ from the list&apos;s ellipsoid of this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>数值与列表中同名椭球不同。</translation>
     </message>
     <message>
         <source>Decimal degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>十进制度</translation>
     </message>
     <message>
         <source>Degrees, minutes, seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>度、分、秒</translation>
     </message>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>已复制</translation>
     </message>
     <message>
         <source>Metre</source>
-        <translation type="unfinished"></translation>
+        <translation>米</translation>
     </message>
     <message>
         <source>International foot, 0.3048 m</source>
-        <translation type="unfinished"></translation>
+        <translation>国际英尺，0.3048 m</translation>
     </message>
     <message>
         <source>US survey foot, 1200/3937 m</source>
-        <translation type="unfinished"></translation>
+        <translation>美国测量英尺，1200/3937 m</translation>
     </message>
     <message>
         <source>Lengths in metres (m), international feet (ft) or US survey feet (ftUS)</source>
-        <translation type="unfinished"></translation>
+        <translation>长度单位：米（m）、国际英尺（ft）或美国测量英尺（ftUS）</translation>
     </message>
     <message>
         <source>From text</source>
-        <translation type="unfinished"></translation>
+        <translation>从文本</translation>
     </message>
     <message>
         <source>Paste or type WKT, a PROJ definition, PROJJSON, or a code as EPSG:25832.</source>
-        <translation type="unfinished"></translation>
+        <translation>请粘贴或输入WKT、PROJ定义、PROJJSON，或EPSG:25832之类的代码。</translation>
     </message>
     <message>
         <source>Understood</source>
-        <translation type="unfinished"></translation>
+        <translation>解析结果</translation>
     </message>
     <message>
         <source>Understood:</source>
-        <translation type="unfinished"></translation>
+        <translation>解析结果：</translation>
     </message>
     <message>
         <source>Geoid model</source>
-        <translation type="unfinished"></translation>
+        <translation>大地水准面模型</translation>
     </message>
     <message>
         <source>Model file</source>
-        <translation type="unfinished"></translation>
+        <translation>模型文件</translation>
     </message>
     <message>
         <source>Model ellipsoid</source>
-        <translation type="unfinished"></translation>
+        <translation>模型椭球</translation>
     </message>
     <message>
         <source>(none)</source>
-        <translation type="unfinished"></translation>
+        <translation>（无）</translation>
     </message>
     <message>
         <source>Not in the list of geoid models.</source>
-        <translation type="unfinished"></translation>
+        <translation>不在大地水准面模型列表中。</translation>
     </message>
     <message>
         <source>The model refers to another ellipsoid than the system.</source>
-        <translation type="unfinished"></translation>
+        <translation>模型所参照的椭球与系统的不同。</translation>
     </message>
     <message>
         <source>Method</source>
-        <translation type="unfinished"></translation>
+        <translation>方法</translation>
     </message>
     <message>
         <source>Projection method</source>
-        <translation type="unfinished"></translation>
+        <translation>投影方法</translation>
     </message>
     <message>
         <source>Choose the method</source>
-        <translation type="unfinished"></translation>
+        <translation>请选择方法</translation>
     </message>
     <message>
         <source>Projection</source>
-        <translation type="unfinished"></translation>
+        <translation>投影</translation>
     </message>
     <message>
         <source>Still to choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚待选择。</translation>
     </message>
     <message>
         <source>A latitude goes with N or S.</source>
-        <translation type="unfinished"></translation>
+        <translation>纬度用N或S。</translation>
     </message>
     <message>
         <source>A longitude goes with E or W.</source>
-        <translation type="unfinished"></translation>
+        <translation>经度用E或W。</translation>
     </message>
     <message>
         <source>An azimuth goes without a letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>方位角不带字母。</translation>
     </message>
     <message>
         <source>Use a decimal point, not a comma.</source>
-        <translation type="unfinished"></translation>
+        <translation>小数点请用“.”，不要用逗号。</translation>
     </message>
     <message>
         <source>Not an angle. Examples: 7.5, 7 30 00, 7°30&apos;00&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>不是角度。示例：7.5，7 30 00，7°30&apos;00&quot;。</translation>
     </message>
     <message>
         <source>Only the last part may have decimals.</source>
-        <translation type="unfinished"></translation>
+        <translation>只有最后一部分可以带小数。</translation>
     </message>
     <message>
         <source>Minutes must be less than 60.</source>
-        <translation type="unfinished"></translation>
+        <translation>分必须小于60。</translation>
     </message>
     <message>
         <source>Seconds must be less than 60.</source>
-        <translation type="unfinished"></translation>
+        <translation>秒必须小于60。</translation>
     </message>
     <message>
         <source>Give either a sign or a letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>正负号与字母只能用其一。</translation>
     </message>
     <message>
         <source>Semi-major axis a</source>
-        <translation type="unfinished"></translation>
+        <translation>长半轴a</translation>
     </message>
     <message>
         <source>Inverse flattening 1/f</source>
-        <translation type="unfinished"></translation>
+        <translation>扁率倒数1/f</translation>
     </message>
     <message>
         <source>Translation X</source>
-        <translation type="unfinished"></translation>
+        <translation>X平移</translation>
     </message>
     <message>
         <source>Translation Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Y平移</translation>
     </message>
     <message>
         <source>Translation Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Z平移</translation>
     </message>
     <message>
         <source>Rotation X</source>
-        <translation type="unfinished"></translation>
+        <translation>X旋转</translation>
     </message>
     <message>
         <source>Rotation Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Y旋转</translation>
     </message>
     <message>
         <source>Rotation Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Z旋转</translation>
     </message>
     <message>
         <source>Scale difference</source>
-        <translation type="unfinished"></translation>
+        <translation>尺度变化</translation>
     </message>
     <message>
         <source>A sphere.</source>
-        <translation type="unfinished"></translation>
+        <translation>球体。</translation>
     </message>
     <message>
         <source>Unusual for the Earth.</source>
-        <translation type="unfinished"></translation>
+        <translation>对地球而言不寻常。</translation>
     </message>
     <message>
         <source>Unusually large.</source>
-        <translation type="unfinished"></translation>
+        <translation>异常偏大。</translation>
     </message>
     <message>
         <source>Nothing can be computed: the projection module is not installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法计算：未安装投影模块。</translation>
     </message>
     <message>
         <source>These parameters give no projection that can be computed.</source>
-        <translation type="unfinished"></translation>
+        <translation>这些参数不构成可计算的投影。</translation>
     </message>
     <message>
         <source>The model names no file.</source>
-        <translation type="unfinished"></translation>
+        <translation>模型未指定文件。</translation>
     </message>
     <message>
         <source>Not in the folder of geoid models.</source>
-        <translation type="unfinished"></translation>
+        <translation>不在大地水准面模型文件夹中。</translation>
     </message>
     <message>
         <source>The folder of geoid models has &quot;%1&quot; instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>大地水准面模型文件夹中有的是“%1”。</translation>
     </message>
     <message>
         <source>Not a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>不是文件。</translation>
     </message>
     <message>
         <source>The file is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件为空。</translation>
     </message>
     <message>
         <source>Not a length in %1 with a decimal point.</source>
-        <translation type="unfinished"></translation>
+        <translation>不是以%1为单位、带小数点的长度。</translation>
     </message>
     <message>
         <source>Allowed: 0 (sphere), or more than 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>允许：0（球体），或大于1。</translation>
     </message>
     <message>
         <source>Allowed: between %1 and %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>允许：%1与%2之间（不含）。</translation>
     </message>
     <message>
         <source>Allowed: ±%1.</source>
-        <translation type="unfinished"></translation>
+        <translation>允许：±%1。</translation>
     </message>
     <message>
         <source>Allowed: %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>允许：%1～%2。</translation>
     </message>
     <message>
         <source>A value is needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>需要一个值。</translation>
     </message>
     <message>
         <source>Only digits and a decimal point.</source>
-        <translation type="unfinished"></translation>
+        <translation>只能用数字和小数点。</translation>
     </message>
     <message>
         <source>Datum shift to WGS 84: none</source>
-        <translation type="unfinished"></translation>
+        <translation>到WGS 84的基准转换：无</translation>
     </message>
     <message>
         <source>Datum shift to WGS 84: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>到WGS 84的基准转换：%1</translation>
     </message>
     <message>
         <source>Pasted text, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>粘贴的文本，%1</translation>
     </message>
     <message>
         <source>The text counts in %1, the record in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>文本以%1为单位，本系统以米为单位。</translation>
     </message>
     <message>
         <source>Its datum shift is by grids, or of another kind, and is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>其基准转换采用格网或其他方式，已略去。</translation>
     </message>
     <message>
         <source>Its heights are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>其高程部分已略去。</translation>
     </message>
     <message>
         <source>The registry has withdrawn it.</source>
-        <translation type="unfinished"></translation>
+        <translation>注册库已将其废止。</translation>
     </message>
     <message>
         <source>(line %1, column %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>（第%1行，第%2列）</translation>
     </message>
     <message>
         <source>Ellipsoid: %1, a %2 m, 1/f %3</source>
-        <translation type="unfinished"></translation>
+        <translation>椭球：%1，a %2 m，1/f %3</translation>
     </message>
     <message>
         <source>Datum: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>基准：%1</translation>
     </message>
     <message>
         <source>not named</source>
-        <translation type="unfinished"></translation>
+        <translation>未命名</translation>
     </message>
     <message>
         <source>No projection: latitudes of the points equal, or the first 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>无投影：两点纬度相等，或第一点纬度为0。</translation>
     </message>
     <message>
         <source>No projection: the standard parallels cancel out.</source>
-        <translation type="unfinished"></translation>
+        <translation>无投影：两条标准纬线相互抵消。</translation>
     </message>
     <message>
         <source>No projection yet: the system has no ellipsoid.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚无投影：系统没有椭球。</translation>
     </message>
     <message>
         <source>No projection yet: choose the method.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚无投影：请选择方法。</translation>
     </message>
     <message>
         <source>No projection: the method &quot;%1&quot; is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>无投影：未知的方法“%1”。</translation>
     </message>
     <message>
         <source>No projection: the definition fits none of the methods.</source>
-        <translation type="unfinished"></translation>
+        <translation>无投影：定义与任何一种方法均不符。</translation>
     </message>
     <message>
         <source>No projection: &quot;%1&quot; is missing or wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>无投影：“%1”缺失或有误。</translation>
     </message>
     <message>
         <source>No projection: a standard parallel needs the scale factor 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无投影：给定标准纬线时尺度比须为1。</translation>
     </message>
     <message>
         <source>No projection: the scale factor is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>无投影：缺少尺度比。</translation>
     </message>
     <message>
         <source>Must be 1: the standard parallel sets the scale.</source>
-        <translation type="unfinished"></translation>
+        <translation>必须为1：尺度由标准纬线确定。</translation>
     </message>
     <message>
         <source>Unusual: scale factors lie close to 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>不寻常：尺度比通常接近1。</translation>
     </message>
     <message>
         <source>Without effect: the origin is no pole.</source>
-        <translation type="unfinished"></translation>
+        <translation>不起作用：原点不是极点。</translation>
     </message>
     <message>
         <source>With 0° this is the plain Mercator projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>为0°时即普通墨卡托投影。</translation>
     </message>
     <message>
         <source>Usually equal to the latitude of origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>通常等于原点纬度。</translation>
     </message>
     <message>
         <source>The standard parallels nearly cancel out.</source>
-        <translation type="unfinished"></translation>
+        <translation>两条标准纬线几乎相互抵消。</translation>
     </message>
     <message>
         <source>Gives the line of %1°. For the line of this azimuth, type %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>得到的是%1°的线。若要此方位角的线，请输入%2°。</translation>
     </message>
     <message>
         <source>Zone %1 of UTM has the central meridian %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>UTM第%1带的中央子午线为%2°。</translation>
     </message>
     <message>
         <source>Does not fit zone %1 of the false easting.</source>
-        <translation type="unfinished"></translation>
+        <translation>与东向加常数中的带号%1不符。</translation>
     </message>
     <message>
         <source>Latitude of origin</source>
-        <translation type="unfinished"></translation>
+        <translation>原点纬度</translation>
     </message>
     <message>
         <source>Latitude of centre</source>
-        <translation type="unfinished"></translation>
+        <translation>中心纬度</translation>
     </message>
     <message>
         <source>Longitude of origin</source>
-        <translation type="unfinished"></translation>
+        <translation>原点经度</translation>
     </message>
     <message>
         <source>Longitude of centre</source>
-        <translation type="unfinished"></translation>
+        <translation>中心经度</translation>
     </message>
     <message>
         <source>Latitude of point 1</source>
-        <translation type="unfinished"></translation>
+        <translation>点1纬度</translation>
     </message>
     <message>
         <source>Longitude of point 1</source>
-        <translation type="unfinished"></translation>
+        <translation>点1经度</translation>
     </message>
     <message>
         <source>Latitude of point 2</source>
-        <translation type="unfinished"></translation>
+        <translation>点2纬度</translation>
     </message>
     <message>
         <source>Longitude of point 2</source>
-        <translation type="unfinished"></translation>
+        <translation>点2经度</translation>
     </message>
     <message>
         <source>Azimuth of the line</source>
-        <translation type="unfinished"></translation>
+        <translation>中心线方位角</translation>
     </message>
     <message>
         <source>Standard parallel 1</source>
-        <translation type="unfinished"></translation>
+        <translation>标准纬线1</translation>
     </message>
     <message>
         <source>Standard parallel 2</source>
-        <translation type="unfinished"></translation>
+        <translation>标准纬线2</translation>
     </message>
     <message>
         <source>Easting at centre</source>
-        <translation type="unfinished"></translation>
+        <translation>中心东坐标</translation>
     </message>
     <message>
         <source>Northing at centre</source>
-        <translation type="unfinished"></translation>
+        <translation>中心北坐标</translation>
     </message>
     <message>
         <source>Gauss-Krüger (scale factor 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>高斯-克吕格（尺度比1）</translation>
     </message>
     <message>
         <source>Transverse Mercator</source>
-        <translation type="unfinished"></translation>
+        <translation>横轴墨卡托</translation>
     </message>
     <message>
         <source>Mercator</source>
-        <translation type="unfinished"></translation>
+        <translation>墨卡托</translation>
     </message>
     <message>
         <source>Mercator (standard parallel)</source>
-        <translation type="unfinished"></translation>
+        <translation>墨卡托（标准纬线）</translation>
     </message>
     <message>
         <source>Oblique Mercator (azimuth)</source>
-        <translation type="unfinished"></translation>
+        <translation>斜轴墨卡托（方位角）</translation>
     </message>
     <message>
         <source>Stereographic</source>
-        <translation type="unfinished"></translation>
+        <translation>球面投影</translation>
     </message>
     <message>
         <source>Oblique Stereographic (double)</source>
-        <translation type="unfinished"></translation>
+        <translation>斜轴球面投影（双重）</translation>
     </message>
     <message>
         <source>Lambert Conic Conformal (1SP)</source>
-        <translation type="unfinished"></translation>
+        <translation>兰勃特等角圆锥（单标准纬线）</translation>
     </message>
     <message>
         <source>Lambert Conic Conformal (2SP)</source>
-        <translation type="unfinished"></translation>
+        <translation>兰勃特等角圆锥（双标准纬线）</translation>
     </message>
     <message>
         <source>Oblique Mercator (two points)</source>
-        <translation type="unfinished"></translation>
+        <translation>斜轴墨卡托（两点）</translation>
     </message>
     <message>
         <source>Cassini-Soldner</source>
-        <translation type="unfinished"></translation>
+        <translation>卡西尼-索尔德纳</translation>
     </message>
     <message>
         <source>the name</source>
@@ -2388,7 +2388,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>警告</translation>
     </message>
     <message>
         <source>Cancel</source>
