@@ -1727,679 +1727,679 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>the name</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre</translation>
     </message>
     <message>
         <source>the ellipsoid&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>el nombre del elipsoide</translation>
     </message>
     <message>
         <source>the projection method</source>
-        <translation type="unfinished"></translation>
+        <translation>el método de proyección</translation>
     </message>
     <message>
         <source>the datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>el cambio de datum</translation>
     </message>
     <message>
         <source>This form can&apos;t be imported again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este formato no se puede volver a importar.</translation>
     </message>
     <message>
         <source>Does not come back with an import of this form: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se recupera al importar este formato: %1.</translation>
     </message>
     <message>
         <source>Other software may count easting and northing from the natural origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro software puede contar el este y el norte desde el origen natural.</translation>
     </message>
     <message>
         <source>Position-vector convention (EPSG 9606, PROJ towgs84)</source>
-        <translation type="unfinished"></translation>
+        <translation>Convenio de vector de posición (EPSG 9606, PROJ towgs84)</translation>
     </message>
     <message>
         <source>of an unknown kind</source>
-        <translation type="unfinished"></translation>
+        <translation>de tipo desconocido</translation>
     </message>
     <message>
         <source>A geographic system: latitude and longitude, without a projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un sistema geográfico: latitud y longitud, sin proyección.</translation>
     </message>
     <message>
         <source>A geocentric system: X, Y and Z, without a projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un sistema geocéntrico: X, Y y Z, sin proyección.</translation>
     </message>
     <message>
         <source>A system of heights, without a projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un sistema de alturas, sin proyección.</translation>
     </message>
     <message>
         <source>A local system, without a place on the Earth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un sistema local, sin situación en la Tierra.</translation>
     </message>
     <message>
         <source>No system that is projected.</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un sistema proyectado.</translation>
     </message>
     <message>
         <source>None of the methods holds this projection exactly: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno de los métodos contiene exactamente esta proyección: %1.</translation>
     </message>
     <message>
         <source>The axes do not point east and north, but: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los ejes no apuntan al este y al norte, sino: %1.</translation>
     </message>
     <message>
         <source>The grid is turned by %1°, not by the azimuth of the line, %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cuadrícula está girada %1°, y no el acimut de la línea, %2°.</translation>
     </message>
     <message>
         <source>With the azimuth 90° easting and northing can&apos;t count from the natural origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Con el acimut 90° el este y el norte no pueden contarse desde el origen natural.</translation>
     </message>
     <message>
         <source>The standard parallel, %1°, is not the latitude of origin, %2°, as this method has it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El paralelo estándar, %1°, no es la latitud de origen, %2°, como en este método.</translation>
     </message>
     <message>
         <source>A polar projection that names no pole, or does not say its scale in one way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una proyección polar que no indica el polo o no expresa su escala de una sola manera.</translation>
     </message>
     <message>
         <source>A parameter is missing: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta un parámetro: %1.</translation>
     </message>
     <message>
         <source>A parameter is unknown: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Parámetro desconocido: %1.</translation>
     </message>
     <message>
         <source>A parameter does not belong to the method: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un parámetro no pertenece al método: %1.</translation>
     </message>
     <message>
         <source>A parameter has two values: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un parámetro tiene dos valores: %1.</translation>
     </message>
     <message>
         <source>A value is no number, or out of range: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un valor no es un número o está fuera de rango: %1.</translation>
     </message>
     <message>
         <source>A unit is missing, or not what its name says: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta una unidad o no es la que indica su nombre: %1.</translation>
     </message>
     <message>
         <source>The prime meridian&apos;s longitude is not that of its name: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La longitud del meridiano origen no es la de su nombre: %1.</translation>
     </message>
     <message>
         <source>The ellipsoid is unknown, or its axes leave a doubt.</source>
-        <translation type="unfinished"></translation>
+        <translation>El elipsoide es desconocido o sus ejes dejan dudas.</translation>
     </message>
     <message>
         <source>Twice, or with a number too many (a decimal comma?): %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dos veces, o con un número de más (¿una coma decimal?): %1.</translation>
     </message>
     <message>
         <source>PROJ makes another projection of these parameters, or none.</source>
-        <translation type="unfinished"></translation>
+        <translation>PROJ obtiene de estos parámetros otra proyección, o ninguna.</translation>
     </message>
     <message>
         <source>The text names a file, which is not read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El texto nombra un archivo, que no se lee: %1.</translation>
     </message>
     <message>
         <source>No WKT, no PROJJSON, no PROJ definition and no code of a registry.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ni WKT, ni PROJJSON, ni definición PROJ, ni código de un registro.</translation>
     </message>
     <message>
         <source>Too long, or brackets too deep: up to %1 bytes are read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Demasiado largo o con demasiados paréntesis anidados: se leen hasta %1 bytes.</translation>
     </message>
     <message>
         <source>No registry has the system %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún registro contiene el sistema %1.</translation>
     </message>
     <message>
         <source>PROJ can&apos;t read it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>PROJ no puede leerlo: %1</translation>
     </message>
     <message>
         <source>%1 (deprecated)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (obsoleto)</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 m</translation>
     </message>
     <message>
         <source>northing comes first</source>
-        <translation type="unfinished"></translation>
+        <translation>el norte va primero</translation>
     </message>
     <message>
         <source>in US survey feet</source>
-        <translation type="unfinished"></translation>
+        <translation>son pies topográficos (EE. UU.)</translation>
     </message>
     <message>
         <source>in international feet</source>
-        <translation type="unfinished"></translation>
+        <translation>son pies internacionales</translation>
     </message>
     <message>
         <source>in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>la unidad es %1</translation>
     </message>
     <message>
         <source>%1 is missing before the easting</source>
-        <translation type="unfinished"></translation>
+        <translation>falta %1 ante el este</translation>
     </message>
     <message>
         <source>%1 before the easting is the zone</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ante el este es el huso</translation>
     </message>
     <message>
         <source>if %1</source>
-        <translation type="unfinished"></translation>
+        <translation>si %1</translation>
     </message>
     <message>
         <source>the same</source>
-        <translation type="unfinished"></translation>
+        <translation>el mismo</translation>
     </message>
     <message>
         <source>own</source>
-        <translation type="unfinished"></translation>
+        <translation>propio</translation>
     </message>
     <message>
         <source>With the system&apos;s datum shift, the place being on WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>Con el cambio de datum del sistema, estando el lugar en WGS 84</translation>
     </message>
     <message>
         <source>From the place to where the system has the coordinates; of several points the root mean square</source>
-        <translation type="unfinished"></translation>
+        <translation>Del lugar al punto en que el sistema sitúa las coordenadas; con varios puntos, la media cuadrática</translation>
     </message>
     <message>
         <source>What is left of the distances without what all points have in common, as a datum shift: the smaller, the better the system fits</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que queda de las distancias sin lo que es común a todos los puntos, como un cambio de datum: cuanto menor, mejor encaja el sistema</translation>
     </message>
     <message>
         <source>Spread</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispersión</translation>
     </message>
     <message>
         <source>EPSG</source>
-        <translation type="unfinished"></translation>
+        <translation>EPSG</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>Condición</translation>
     </message>
     <message>
         <source>EPSG:%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>EPSG:%1, %2</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>ninguno</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 y %n más</numerusform>
+            <numerusform>%1 y %n más</numerusform>
         </translation>
     </message>
     <message>
         <source>In the registry</source>
-        <translation type="unfinished"></translation>
+        <translation>En el registro</translation>
     </message>
     <message>
         <source>The record is no system of the registry.</source>
-        <translation type="unfinished"></translation>
+        <translation>El sistema no es ninguno del registro.</translation>
     </message>
     <message>
         <source>Says that this is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Declara que es %1.</translation>
     </message>
     <message>
         <source>Says that this is %1, on the datum %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Declara que es %1, en el datum %2.</translation>
     </message>
     <message>
         <source>The registry leaves the datum open.</source>
-        <translation type="unfinished"></translation>
+        <translation>El registro deja el datum abierto.</translation>
     </message>
     <message>
         <source>The registry&apos;s datum is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El datum del registro es %1.</translation>
     </message>
     <message>
         <source>The registry counts in %1, the record in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>El registro cuenta en %1; el sistema mostrado, en metros.</translation>
     </message>
     <message>
         <source>The registry&apos;s figures differ a little.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los valores del registro difieren un poco.</translation>
     </message>
     <message>
         <source>Looking through the EPSG registry...</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando en el registro EPSG...</translation>
     </message>
     <message>
         <source>%1: the same to %2 mm over its area</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: igual, salvo %2 mm como máximo en su zona</translation>
     </message>
     <message>
         <source>Also %1</source>
-        <translation type="unfinished"></translation>
+        <translation>También %1</translation>
     </message>
     <message>
         <source>No system of the EPSG registry is like it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún sistema del registro EPSG se le parece</translation>
     </message>
     <message>
         <source>As %1, but: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Como %1, pero: %2</translation>
     </message>
     <message>
         <source>%1 %2 (there %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 (allí %3)</translation>
     </message>
     <message>
         <source>EPSG code, words of the name or of the area</source>
-        <translation type="unfinished"></translation>
+        <translation>Código EPSG, palabras del nombre o de la zona</translation>
     </message>
     <message>
         <source>Deprecated ones too</source>
-        <translation type="unfinished"></translation>
+        <translation>También los obsoletos</translation>
     </message>
     <message>
         <source>Covers the point</source>
-        <translation type="unfinished"></translation>
+        <translation>Cubre el punto</translation>
     </message>
     <message>
         <source>Systems found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistemas encontrados: %1</translation>
     </message>
     <message>
         <source>A place, roughly, and the coordinates that it has in the unknown system; more points narrow it down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un lugar, aproximado, y sus coordenadas en el sistema desconocido; con más puntos se delimita mejor.</translation>
     </message>
     <message>
         <source>Paste rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegar filas</translation>
     </message>
     <message>
         <source>Lines of latitude, longitude, first and second coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>Líneas con latitud, longitud, primera y segunda coordenada</translation>
     </message>
     <message>
         <source>Searching...</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando...</translation>
     </message>
     <message>
         <source>Systems found so far: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistemas encontrados hasta ahora: %1</translation>
     </message>
     <message>
         <source>No system that is used there can have these coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún sistema que se use allí puede tener estas coordenadas.</translation>
     </message>
     <message>
         <source>Distances are without datum shift, which can move a place by some hundred metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las distancias son sin cambio de datum, que puede desplazar un lugar algunos cientos de metros.</translation>
     </message>
     <message numerus="yes">
         <source>No system gives these coordinates within 50 km of the place. The nearest %n:</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ningún sistema da estas coordenadas a menos de 50 km del lugar. El más cercano (%n):</numerusform>
+            <numerusform>Ningún sistema da estas coordenadas a menos de 50 km del lugar. Los %n más cercanos:</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 from the place, with the system&apos;s datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>A %1 del lugar, con el cambio de datum del sistema</translation>
     </message>
     <message>
         <source>%1 from the place, without datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>A %1 del lugar, sin cambio de datum</translation>
     </message>
     <message>
         <source>, %1 with the one below</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 con el de abajo</translation>
     </message>
     <message>
         <source>Nothing to paste: lines of latitude, longitude and two coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada que pegar: hacen falta líneas con latitud, longitud y dos coordenadas.</translation>
     </message>
     <message>
         <source>First coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>Primera coordenada</translation>
     </message>
     <message>
         <source>Second coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>Segunda coordenada</translation>
     </message>
     <message>
         <source>%1 of point %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 del punto %2</translation>
     </message>
     <message>
         <source>Point %1, %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto %1, %2: %3</translation>
     </message>
     <message>
         <source>%1, accuracy %2 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, exactitud %2 m</translation>
     </message>
     <message>
         <source>From registry</source>
-        <translation type="unfinished"></translation>
+        <translation>Del registro</translation>
     </message>
     <message>
         <source>By name or code</source>
-        <translation type="unfinished"></translation>
+        <translation>Por nombre o código</translation>
     </message>
     <message>
         <source>From coordinates</source>
-        <translation type="unfinished"></translation>
+        <translation>Por coordenadas</translation>
     </message>
     <message>
         <source>Datum shift to WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambio de datum a WGS 84</translation>
     </message>
     <message>
         <source>Copies this system&apos;s ellipsoid, projection, datum shift and geoid model; name and remark stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia el elipsoide, la proyección, el cambio de datum y el modelo de geoide de este sistema; el nombre y la observación se mantienen.</translation>
     </message>
     <message>
         <source>As in the catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Como en el catálogo</translation>
     </message>
     <message>
         <source>Of the own catalogue: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Del catálogo propio: %1</translation>
     </message>
     <message>
         <source>The file is there already.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo ya existe.</translation>
     </message>
     <message>
         <source>The file there is an older one.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo existente es anterior.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelado.</translation>
     </message>
     <message>
         <source>Left out. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Omitido. %1</translation>
     </message>
     <message>
         <source>There already</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya existe</translation>
     </message>
     <message>
         <source>Saved. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardado. %1</translation>
     </message>
     <message>
         <source>Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardado</translation>
     </message>
     <message>
         <source>Saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardados: %1</translation>
     </message>
     <message>
         <source>Left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Omitidos: %1</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>Save group as .prj</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar grupo como .prj</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta</translation>
     </message>
     <message>
         <source>Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>Examinar...</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Resumen</translation>
     </message>
     <message>
         <source>Copy summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar resumen</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobrescribir</translation>
     </message>
     <message>
         <source>Keep existing</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar</translation>
     </message>
     <message numerus="yes">
         <source>There already: %n of %1 files. Overwrite them?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ya existe %n de %1 archivos. ¿Sobrescribirlo?</numerusform>
+            <numerusform>Ya existen %n de %1 archivos. ¿Sobrescribirlos?</numerusform>
         </translation>
     </message>
     <message>
         <source>There is no such folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>No existe esa carpeta.</translation>
     </message>
     <message>
         <source>Systems: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistemas: %1</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Shift from points</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambio de datum con puntos</translation>
     </message>
     <message>
         <source>Own datum</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum propio</translation>
     </message>
     <message>
         <source>Latitude, longitude, height</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitud, longitud, altura</translation>
     </message>
     <message>
         <source>Easting, northing, height</source>
-        <translation type="unfinished"></translation>
+        <translation>Este, norte, altura</translation>
     </message>
     <message>
         <source>Geocentric X, Y, Z</source>
-        <translation type="unfinished"></translation>
+        <translation>X, Y, Z geocéntricas</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parámetros</translation>
     </message>
     <message>
         <source>Seven</source>
-        <translation type="unfinished"></translation>
+        <translation>Siete</translation>
     </message>
     <message>
         <source>Three</source>
-        <translation type="unfinished"></translation>
+        <translation>Tres</translation>
     </message>
     <message>
         <source>Points are typed, or pasted as lines: name and three numbers on either datum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los puntos se escriben o se pegan como líneas: nombre y tres números en cada datum.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Advice</source>
-        <translation type="unfinished"></translation>
+        <translation>Consejo</translation>
     </message>
     <message>
         <source>Just enough points: nothing is left over to tell how good the shift is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos justos: no sobra ninguno para saber lo bueno que es el cambio de datum.</translation>
     </message>
     <message>
         <source>Standard deviation of a coordinate: %1 m (redundancy %2).</source>
-        <translation type="unfinished"></translation>
+        <translation>Desviación típica de una coordenada: %1 m (redundancia %2).</translation>
     </message>
     <message>
         <source>%1 with %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 con %2 %3</translation>
     </message>
     <message>
         <source>Largest correlations: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mayores correlaciones: %1.</translation>
     </message>
     <message>
         <source>Lines that can&apos;t be used: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Líneas que no se pueden usar: %1.</translation>
     </message>
     <message>
         <source>The projection gives no result here.</source>
-        <translation type="unfinished"></translation>
+        <translation>La proyección no da resultado aquí.</translation>
     </message>
     <message>
         <source>This place is not on the Earth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este lugar no está en la Tierra.</translation>
     </message>
     <message>
         <source>The other points speak against this one: check it, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los demás puntos contradicen este: compruébelo o exclúyalo.</translation>
     </message>
     <message>
         <source>Easting, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Este, m</translation>
     </message>
     <message>
         <source>Northing, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Norte, m</translation>
     </message>
     <message>
         <source>Height, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Altura, m</translation>
     </message>
     <message>
         <source>WGS 84 X, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 X, m</translation>
     </message>
     <message>
         <source>WGS 84 latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84, latitud</translation>
     </message>
     <message>
         <source>WGS 84 Y, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 Y, m</translation>
     </message>
     <message>
         <source>WGS 84 longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84, longitud</translation>
     </message>
     <message>
         <source>WGS 84 Z, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 Z, m</translation>
     </message>
     <message>
         <source>WGS 84 height, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84, altura, m</translation>
     </message>
     <message>
         <source>Before, m</source>
-        <translation type="unfinished"></translation>
+        <translation>Antes, m</translation>
     </message>
     <message>
         <source>East, mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Este, mm</translation>
     </message>
     <message>
         <source>North, mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Norte, mm</translation>
     </message>
     <message>
         <source>Up, mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical, mm</translation>
     </message>
 </context>
 <context>
     <name>DlgCoordSysGroups</name>
     <message>
         <source>CoordSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistemas de coordenadas</translation>
     </message>
     <message>
         <source>AddSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir grupo</translation>
     </message>
     <message>
         <source>ImportCoordSys</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar sistemas</translation>
     </message>
     <message>
         <source>AddCoordSys</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir sistema</translation>
     </message>
     <message>
         <source>EditSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar nombre del grupo</translation>
     </message>
     <message>
         <source>DelSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar grupo</translation>
     </message>
     <message>
         <source>EditSys</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar nombre del sistema</translation>
     </message>
     <message>
         <source>DelSys</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar sistema</translation>
     </message>
     <message>
         <source>are you sure delete coord system group %1 ?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que desea eliminar el grupo %1?</translation>
     </message>
     <message>
         <source>are you sure delete coord system %1 ?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que desea eliminar el sistema de coordenadas %1?</translation>
     </message>
     <message>
         <source>Selecte WKT file</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar archivos WKT</translation>
     </message>
     <message>
         <source>Import file failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡No se pudo importar el archivo!</translation>
     </message>
     <message>
         <source>Import file isn&apos;t projection coordinates!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡El archivo no contiene un sistema proyectado!</translation>
     </message>
     <message>
         <source>The Imported projection coordinates already exist in the group!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡El sistema importado ya existe en el grupo!</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -2414,137 +2414,137 @@ E %4 %6  N %5 %6</translation>
     <name>DlgInputName</name>
     <message>
         <source>please input name</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca el nombre</translation>
     </message>
     <message>
         <source>please input valid content!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Introduzca un nombre válido!</translation>
     </message>
     <message>
         <source>has same as coord group name!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Ya existe un grupo con ese nombre!</translation>
     </message>
     <message>
         <source>has same as coord system name!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Ya existe un sistema con ese nombre!</translation>
     </message>
     <message>
         <source>information</source>
-        <translation type="unfinished"></translation>
+        <translation>Información</translation>
     </message>
 </context>
 <context>
     <name>QFile</name>
     <message>
         <source>Filename refers to a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre de archivo corresponde a una carpeta</translation>
     </message>
     <message>
         <source>Unknown error</source>
-        <translation type="unfinished"></translation>
+        <translation>Error desconocido</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso</translation>
     </message>
     <message>
         <source>information</source>
-        <translation type="unfinished"></translation>
+        <translation>Información</translation>
     </message>
     <message>
         <source>Do you want to exit program?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea salir del programa?</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>please input correct param!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Introduzca parámetros correctos!</translation>
     </message>
     <message>
         <source>Are you sure you want to delete ellipsoid [%1]?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que desea eliminar el elipsoide [%1]?</translation>
     </message>
     <message>
         <source>has same name as system, whether cover?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya existe un elipsoide propio con ese nombre. ¿Reemplazarlo?</translation>
     </message>
     <message>
         <source>new add ellipsoid name can&apos;t same as system!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Un elipsoide nuevo no puede llevar el nombre de uno del programa!</translation>
     </message>
     <message>
         <source>Edit Ellipsoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar elipsoides</translation>
     </message>
     <message>
         <source>Ellipsoid Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del elipsoide</translation>
     </message>
     <message>
         <source>ellipsoid a(m)</source>
-        <translation type="unfinished"></translation>
+        <translation>Semieje mayor a (m)</translation>
     </message>
     <message>
         <source>ellipsoid f</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplanamiento inverso 1/f</translation>
     </message>
     <message>
         <source>Are you sure you want to delete geoid [%1]?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que desea eliminar el modelo de geoide [%1]?</translation>
     </message>
     <message>
         <source>has same file name, whether or not covered?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya existe un modelo de geoide propio con ese nombre. ¿Reemplazarlo?</translation>
     </message>
     <message>
         <source>new geoid name can&apos;t same with system name!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Un modelo de geoide nuevo no puede llevar el nombre de uno del programa!</translation>
     </message>
     <message>
         <source>New Geoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelos de geoide</translation>
     </message>
     <message>
         <source>Geoid Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del modelo</translation>
     </message>
     <message>
         <source>File Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruta del archivo</translation>
     </message>
     <message>
         <source>Browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Examinar</translation>
     </message>
     <message>
         <source>selete file</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar archivo</translation>
     </message>
     <message>
         <source>Geiod File(*.ggf *.vgf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de geoide (*.ggf *.vgf)</translation>
     </message>
     <message>
         <source>AddGeoid</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar modelos de geoide</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2555,23 +2555,23 @@ E %4 %6  N %5 %6</translation>
     <name>VornCoordSysMainWindow</name>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <source>Data is changed!</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Guardar los cambios? ¡Los datos han cambiado!</translation>
     </message>
     <message>
         <source>Coordinate System Manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestor de sistemas de coordenadas</translation>
     </message>
 </context>
 </TS>

@@ -1483,7 +1483,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Allowed: between %1 and %2.</source>
-        <translation>允许：%1与%2之间（不含）。</translation>
+        <translation>允许：%1与%2之间（不含端点）。</translation>
     </message>
     <message>
         <source>Allowed: ±%1.</source>
@@ -1715,676 +1715,676 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>the name</source>
-        <translation type="unfinished"></translation>
+        <translation>名称</translation>
     </message>
     <message>
         <source>the ellipsoid&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>椭球名称</translation>
     </message>
     <message>
         <source>the projection method</source>
-        <translation type="unfinished"></translation>
+        <translation>投影方法</translation>
     </message>
     <message>
         <source>the datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>基准转换</translation>
     </message>
     <message>
         <source>This form can&apos;t be imported again.</source>
-        <translation type="unfinished"></translation>
+        <translation>此格式无法再导入。</translation>
     </message>
     <message>
         <source>Does not come back with an import of this form: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>导入此格式时无法还原：%1。</translation>
     </message>
     <message>
         <source>Other software may count easting and northing from the natural origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>其他软件可能从自然原点起算东、北坐标。</translation>
     </message>
     <message>
         <source>Position-vector convention (EPSG 9606, PROJ towgs84)</source>
-        <translation type="unfinished"></translation>
+        <translation>位置矢量约定（EPSG 9606，PROJ towgs84）</translation>
     </message>
     <message>
         <source>of an unknown kind</source>
-        <translation type="unfinished"></translation>
+        <translation>类型未知</translation>
     </message>
     <message>
         <source>A geographic system: latitude and longitude, without a projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>大地坐标系统：只有纬度和经度，没有投影。</translation>
     </message>
     <message>
         <source>A geocentric system: X, Y and Z, without a projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>地心坐标系统：X、Y、Z，没有投影。</translation>
     </message>
     <message>
         <source>A system of heights, without a projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>高程系统，没有投影。</translation>
     </message>
     <message>
         <source>A local system, without a place on the Earth.</source>
-        <translation type="unfinished"></translation>
+        <translation>局部坐标系统，在地球上没有位置。</translation>
     </message>
     <message>
         <source>No system that is projected.</source>
-        <translation type="unfinished"></translation>
+        <translation>不是投影坐标系统。</translation>
     </message>
     <message>
         <source>None of the methods holds this projection exactly: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有一种方法能准确表达此投影：%1。</translation>
     </message>
     <message>
         <source>The axes do not point east and north, but: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>坐标轴不指向东和北，而是：%1。</translation>
     </message>
     <message>
         <source>The grid is turned by %1°, not by the azimuth of the line, %2°.</source>
-        <translation type="unfinished"></translation>
+        <translation>格网旋转了%1°，而不是中心线方位角%2°。</translation>
     </message>
     <message>
         <source>With the azimuth 90° easting and northing can&apos;t count from the natural origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>方位角为90°时，东、北坐标不能从自然原点起算。</translation>
     </message>
     <message>
         <source>The standard parallel, %1°, is not the latitude of origin, %2°, as this method has it.</source>
-        <translation type="unfinished"></translation>
+        <translation>标准纬线%1°不等于原点纬度%2°，与此方法不符。</translation>
     </message>
     <message>
         <source>A polar projection that names no pole, or does not say its scale in one way.</source>
-        <translation type="unfinished"></translation>
+        <translation>极投影未指明极点，或其尺度的表示方式不唯一。</translation>
     </message>
     <message>
         <source>A parameter is missing: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>缺少参数：%1。</translation>
     </message>
     <message>
         <source>A parameter is unknown: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>未知参数：%1。</translation>
     </message>
     <message>
         <source>A parameter does not belong to the method: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>参数不属于该方法：%1。</translation>
     </message>
     <message>
         <source>A parameter has two values: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>参数有两个值：%1。</translation>
     </message>
     <message>
         <source>A value is no number, or out of range: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>值不是数字，或超出范围：%1。</translation>
     </message>
     <message>
         <source>A unit is missing, or not what its name says: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>缺少单位，或单位与其名称不符：%1。</translation>
     </message>
     <message>
         <source>The prime meridian&apos;s longitude is not that of its name: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>起始子午线的经度与其名称不符：%1。</translation>
     </message>
     <message>
         <source>The ellipsoid is unknown, or its axes leave a doubt.</source>
-        <translation type="unfinished"></translation>
+        <translation>椭球未知，或其轴长存疑。</translation>
     </message>
     <message>
         <source>Twice, or with a number too many (a decimal comma?): %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>重复出现，或多出一个数（小数逗号？）：%1。</translation>
     </message>
     <message>
         <source>PROJ makes another projection of these parameters, or none.</source>
-        <translation type="unfinished"></translation>
+        <translation>PROJ由这些参数得到另一种投影，或得不到投影。</translation>
     </message>
     <message>
         <source>The text names a file, which is not read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>文本引用了文件，该文件不会被读取：%1。</translation>
     </message>
     <message>
         <source>No WKT, no PROJJSON, no PROJ definition and no code of a registry.</source>
-        <translation type="unfinished"></translation>
+        <translation>不是WKT、PROJJSON、PROJ定义，也不是注册库的代码。</translation>
     </message>
     <message>
         <source>Too long, or brackets too deep: up to %1 bytes are read.</source>
-        <translation type="unfinished"></translation>
+        <translation>过长，或括号嵌套过深：最多读取%1字节。</translation>
     </message>
     <message>
         <source>No registry has the system %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有注册库包含系统%1。</translation>
     </message>
     <message>
         <source>PROJ can&apos;t read it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>PROJ无法读取：%1</translation>
     </message>
     <message>
         <source>%1 (deprecated)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（已废止）</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 m</translation>
     </message>
     <message>
         <source>northing comes first</source>
-        <translation type="unfinished"></translation>
+        <translation>北坐标在前</translation>
     </message>
     <message>
         <source>in US survey feet</source>
-        <translation type="unfinished"></translation>
+        <translation>单位为美国测量英尺</translation>
     </message>
     <message>
         <source>in international feet</source>
-        <translation type="unfinished"></translation>
+        <translation>单位为国际英尺</translation>
     </message>
     <message>
         <source>in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>单位为%1</translation>
     </message>
     <message>
         <source>%1 is missing before the easting</source>
-        <translation type="unfinished"></translation>
+        <translation>东坐标前缺少带号%1</translation>
     </message>
     <message>
         <source>%1 before the easting is the zone</source>
-        <translation type="unfinished"></translation>
+        <translation>东坐标前的%1为带号</translation>
     </message>
     <message>
         <source>if %1</source>
-        <translation type="unfinished"></translation>
+        <translation>若%1</translation>
     </message>
     <message>
         <source>the same</source>
-        <translation type="unfinished"></translation>
+        <translation>相同</translation>
     </message>
     <message>
         <source>own</source>
-        <translation type="unfinished"></translation>
+        <translation>自有</translation>
     </message>
     <message>
         <source>With the system&apos;s datum shift, the place being on WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>已用系统的基准转换，位置属于WGS 84</translation>
     </message>
     <message>
         <source>From the place to where the system has the coordinates; of several points the root mean square</source>
-        <translation type="unfinished"></translation>
+        <translation>从给定位置到系统中该坐标所在处；有多个点时为均方根</translation>
     </message>
     <message>
         <source>What is left of the distances without what all points have in common, as a datum shift: the smaller, the better the system fits</source>
-        <translation type="unfinished"></translation>
+        <translation>各距离去除所有点的共同部分（如基准转换）后的剩余：越小，系统越符合</translation>
     </message>
     <message>
         <source>Spread</source>
-        <translation type="unfinished"></translation>
+        <translation>离散度</translation>
     </message>
     <message>
         <source>EPSG</source>
-        <translation type="unfinished"></translation>
+        <translation>EPSG</translation>
     </message>
     <message>
         <source>Condition</source>
-        <translation type="unfinished"></translation>
+        <translation>条件</translation>
     </message>
     <message>
         <source>EPSG:%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>EPSG:%1，%2</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>无</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1及其他%n个</numerusform>
         </translation>
     </message>
     <message>
         <source>In the registry</source>
-        <translation type="unfinished"></translation>
+        <translation>注册库中的对应</translation>
     </message>
     <message>
         <source>The record is no system of the registry.</source>
-        <translation type="unfinished"></translation>
+        <translation>本系统不是注册库中的系统。</translation>
     </message>
     <message>
         <source>Says that this is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>声明这就是%1。</translation>
     </message>
     <message>
         <source>Says that this is %1, on the datum %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>声明这就是%1，基准为%2。</translation>
     </message>
     <message>
         <source>The registry leaves the datum open.</source>
-        <translation type="unfinished"></translation>
+        <translation>注册库未规定基准。</translation>
     </message>
     <message>
         <source>The registry&apos;s datum is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>注册库中的基准为%1。</translation>
     </message>
     <message>
         <source>The registry counts in %1, the record in metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>注册库以%1为单位，本系统以米为单位。</translation>
     </message>
     <message>
         <source>The registry&apos;s figures differ a little.</source>
-        <translation type="unfinished"></translation>
+        <translation>注册库中的数值略有不同。</translation>
     </message>
     <message>
         <source>Looking through the EPSG registry...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在查找EPSG注册库...</translation>
     </message>
     <message>
         <source>%1: the same to %2 mm over its area</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：在其适用区域内相差不超过%2 mm</translation>
     </message>
     <message>
         <source>Also %1</source>
-        <translation type="unfinished"></translation>
+        <translation>另有%1</translation>
     </message>
     <message>
         <source>No system of the EPSG registry is like it</source>
-        <translation type="unfinished"></translation>
+        <translation>EPSG注册库中没有与之相似的系统</translation>
     </message>
     <message>
         <source>As %1, but: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>与%1相似，但：%2</translation>
     </message>
     <message>
         <source>%1 %2 (there %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2（库中为%3）</translation>
     </message>
     <message>
         <source>EPSG code, words of the name or of the area</source>
-        <translation type="unfinished"></translation>
+        <translation>EPSG代码、名称或区域中的词</translation>
     </message>
     <message>
         <source>Deprecated ones too</source>
-        <translation type="unfinished"></translation>
+        <translation>包括已废止的</translation>
     </message>
     <message>
         <source>Covers the point</source>
-        <translation type="unfinished"></translation>
+        <translation>包含该点</translation>
     </message>
     <message>
         <source>Systems found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>找到的系统：%1</translation>
     </message>
     <message>
         <source>A place, roughly, and the coordinates that it has in the unknown system; more points narrow it down.</source>
-        <translation type="unfinished"></translation>
+        <translation>一个大致位置及其在未知系统中的坐标；点越多，范围越小。</translation>
     </message>
     <message>
         <source>Paste rows</source>
-        <translation type="unfinished"></translation>
+        <translation>粘贴多行</translation>
     </message>
     <message>
         <source>Lines of latitude, longitude, first and second coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>每行依次为纬度、经度、第一坐标、第二坐标</translation>
     </message>
     <message>
         <source>Searching...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在搜索...</translation>
     </message>
     <message>
         <source>Systems found so far: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>目前找到的系统：%1</translation>
     </message>
     <message>
         <source>No system that is used there can have these coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>当地使用的系统中，没有一个能有这样的坐标。</translation>
     </message>
     <message>
         <source>Distances are without datum shift, which can move a place by some hundred metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>距离未计基准转换，后者可使位置移动数百米。</translation>
     </message>
     <message numerus="yes">
         <source>No system gives these coordinates within 50 km of the place. The nearest %n:</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>没有系统能使这些坐标落在该位置50 km以内。最近的%n个：</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 from the place, with the system&apos;s datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>距该位置%1，已用系统的基准转换</translation>
     </message>
     <message>
         <source>%1 from the place, without datum shift</source>
-        <translation type="unfinished"></translation>
+        <translation>距该位置%1，未用基准转换</translation>
     </message>
     <message>
         <source>, %1 with the one below</source>
-        <translation type="unfinished"></translation>
+        <translation>，用下方的转换为%1</translation>
     </message>
     <message>
         <source>Nothing to paste: lines of latitude, longitude and two coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有可粘贴的内容：每行应有纬度、经度和两个坐标。</translation>
     </message>
     <message>
         <source>First coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>第一坐标</translation>
     </message>
     <message>
         <source>Second coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>第二坐标</translation>
     </message>
     <message>
         <source>%1 of point %2</source>
-        <translation type="unfinished"></translation>
+        <translation>点%2的%1</translation>
     </message>
     <message>
         <source>Point %1, %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>点%1，%2：%3</translation>
     </message>
     <message>
         <source>%1, accuracy %2 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，精度%2 m</translation>
     </message>
     <message>
         <source>From registry</source>
-        <translation type="unfinished"></translation>
+        <translation>从注册库</translation>
     </message>
     <message>
         <source>By name or code</source>
-        <translation type="unfinished"></translation>
+        <translation>按名称或代码</translation>
     </message>
     <message>
         <source>From coordinates</source>
-        <translation type="unfinished"></translation>
+        <translation>按坐标</translation>
     </message>
     <message>
         <source>Datum shift to WGS 84</source>
-        <translation type="unfinished"></translation>
+        <translation>到WGS 84的基准转换</translation>
     </message>
     <message>
         <source>Copies this system&apos;s ellipsoid, projection, datum shift and geoid model; name and remark stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>复制此系统的椭球、投影、基准转换和大地水准面模型；名称和备注不变。</translation>
     </message>
     <message>
         <source>As in the catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>与目录中相同</translation>
     </message>
     <message>
         <source>Of the own catalogue: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>自有目录：%1</translation>
     </message>
     <message>
         <source>The file is there already.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件已存在。</translation>
     </message>
     <message>
         <source>The file there is an older one.</source>
-        <translation type="unfinished"></translation>
+        <translation>现有的是较旧的文件。</translation>
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>已取消。</translation>
     </message>
     <message>
         <source>Left out. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>已略去。%1</translation>
     </message>
     <message>
         <source>There already</source>
-        <translation type="unfinished"></translation>
+        <translation>已存在</translation>
     </message>
     <message>
         <source>Saved. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>已保存。%1</translation>
     </message>
     <message>
         <source>Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>已保存</translation>
     </message>
     <message>
         <source>Saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>已保存：%1</translation>
     </message>
     <message>
         <source>Left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>已略去：%1</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>文件</translation>
     </message>
     <message>
         <source>Save group as .prj</source>
-        <translation type="unfinished"></translation>
+        <translation>将分组另存为.prj</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>文件夹</translation>
     </message>
     <message>
         <source>Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>浏览...</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>文件</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>摘要</translation>
     </message>
     <message>
         <source>Copy summary</source>
-        <translation type="unfinished"></translation>
+        <translation>复制摘要</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>覆盖</translation>
     </message>
     <message>
         <source>Keep existing</source>
-        <translation type="unfinished"></translation>
+        <translation>保留现有</translation>
     </message>
     <message numerus="yes">
         <source>There already: %n of %1 files. Overwrite them?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1个文件中已有%n个存在。是否覆盖？</numerusform>
         </translation>
     </message>
     <message>
         <source>There is no such folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有此文件夹。</translation>
     </message>
     <message>
         <source>Systems: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>坐标系统：%1</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭</translation>
     </message>
     <message>
         <source>Shift from points</source>
-        <translation type="unfinished"></translation>
+        <translation>由点求转换参数</translation>
     </message>
     <message>
         <source>Own datum</source>
-        <translation type="unfinished"></translation>
+        <translation>自身基准</translation>
     </message>
     <message>
         <source>Latitude, longitude, height</source>
-        <translation type="unfinished"></translation>
+        <translation>纬度、经度、大地高</translation>
     </message>
     <message>
         <source>Easting, northing, height</source>
-        <translation type="unfinished"></translation>
+        <translation>东坐标、北坐标、大地高</translation>
     </message>
     <message>
         <source>Geocentric X, Y, Z</source>
-        <translation type="unfinished"></translation>
+        <translation>地心坐标X、Y、Z</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>参数</translation>
     </message>
     <message>
         <source>Seven</source>
-        <translation type="unfinished"></translation>
+        <translation>七参数</translation>
     </message>
     <message>
         <source>Three</source>
-        <translation type="unfinished"></translation>
+        <translation>三参数</translation>
     </message>
     <message>
         <source>Points are typed, or pasted as lines: name and three numbers on either datum.</source>
-        <translation type="unfinished"></translation>
+        <translation>点可输入，或按行粘贴：点名及两个基准上各三个数。</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>移除</translation>
     </message>
     <message>
         <source>Advice</source>
-        <translation type="unfinished"></translation>
+        <translation>建议</translation>
     </message>
     <message>
         <source>Just enough points: nothing is left over to tell how good the shift is.</source>
-        <translation type="unfinished"></translation>
+        <translation>点数刚好够用：没有多余观测来评定转换的精度。</translation>
     </message>
     <message>
         <source>Standard deviation of a coordinate: %1 m (redundancy %2).</source>
-        <translation type="unfinished"></translation>
+        <translation>单个坐标的中误差：%1 m（多余观测数%2）。</translation>
     </message>
     <message>
         <source>%1 with %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1与%2 %3</translation>
     </message>
     <message>
         <source>Largest correlations: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>最大相关系数：%1。</translation>
     </message>
     <message>
         <source>Lines that can&apos;t be used: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法使用的行数：%1。</translation>
     </message>
     <message>
         <source>The projection gives no result here.</source>
-        <translation type="unfinished"></translation>
+        <translation>投影在此处无结果。</translation>
     </message>
     <message>
         <source>This place is not on the Earth.</source>
-        <translation type="unfinished"></translation>
+        <translation>此位置不在地球上。</translation>
     </message>
     <message>
         <source>The other points speak against this one: check it, or leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation>其余各点与此点不符：请检查，或将其剔除。</translation>
     </message>
     <message>
         <source>Easting, m</source>
-        <translation type="unfinished"></translation>
+        <translation>东坐标，m</translation>
     </message>
     <message>
         <source>Northing, m</source>
-        <translation type="unfinished"></translation>
+        <translation>北坐标，m</translation>
     </message>
     <message>
         <source>Height, m</source>
-        <translation type="unfinished"></translation>
+        <translation>大地高，m</translation>
     </message>
     <message>
         <source>WGS 84 X, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 X，m</translation>
     </message>
     <message>
         <source>WGS 84 latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84纬度</translation>
     </message>
     <message>
         <source>WGS 84 Y, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 Y，m</translation>
     </message>
     <message>
         <source>WGS 84 longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84经度</translation>
     </message>
     <message>
         <source>WGS 84 Z, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84 Z，m</translation>
     </message>
     <message>
         <source>WGS 84 height, m</source>
-        <translation type="unfinished"></translation>
+        <translation>WGS 84大地高，m</translation>
     </message>
     <message>
         <source>Before, m</source>
-        <translation type="unfinished"></translation>
+        <translation>之前，m</translation>
     </message>
     <message>
         <source>East, mm</source>
-        <translation type="unfinished"></translation>
+        <translation>东向，mm</translation>
     </message>
     <message>
         <source>North, mm</source>
-        <translation type="unfinished"></translation>
+        <translation>北向，mm</translation>
     </message>
     <message>
         <source>Up, mm</source>
-        <translation type="unfinished"></translation>
+        <translation>垂向，mm</translation>
     </message>
 </context>
 <context>
     <name>DlgCoordSysGroups</name>
     <message>
         <source>CoordSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>坐标系统</translation>
     </message>
     <message>
         <source>AddSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>添加分组</translation>
     </message>
     <message>
         <source>ImportCoordSys</source>
-        <translation type="unfinished"></translation>
+        <translation>导入坐标系统</translation>
     </message>
     <message>
         <source>AddCoordSys</source>
-        <translation type="unfinished"></translation>
+        <translation>添加坐标系统</translation>
     </message>
     <message>
         <source>EditSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>重命名分组</translation>
     </message>
     <message>
         <source>DelSysGroup</source>
-        <translation type="unfinished"></translation>
+        <translation>删除分组</translation>
     </message>
     <message>
         <source>EditSys</source>
-        <translation type="unfinished"></translation>
+        <translation>重命名坐标系统</translation>
     </message>
     <message>
         <source>DelSys</source>
-        <translation type="unfinished"></translation>
+        <translation>删除坐标系统</translation>
     </message>
     <message>
         <source>are you sure delete coord system group %1 ?</source>
-        <translation type="unfinished"></translation>
+        <translation>确定要删除分组%1吗？</translation>
     </message>
     <message>
         <source>are you sure delete coord system %1 ?</source>
-        <translation type="unfinished"></translation>
+        <translation>确定要删除坐标系统%1吗？</translation>
     </message>
     <message>
         <source>Selecte WKT file</source>
-        <translation type="unfinished"></translation>
+        <translation>选择WKT文件</translation>
     </message>
     <message>
         <source>Import file failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>导入文件失败！</translation>
     </message>
     <message>
         <source>Import file isn&apos;t projection coordinates!</source>
-        <translation type="unfinished"></translation>
+        <translation>导入的文件不是投影坐标系统！</translation>
     </message>
     <message>
         <source>The Imported projection coordinates already exist in the group!</source>
-        <translation type="unfinished"></translation>
+        <translation>分组中已有所导入的坐标系统！</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -2399,137 +2399,137 @@ E %4 %6  N %5 %6</translation>
     <name>DlgInputName</name>
     <message>
         <source>please input name</source>
-        <translation type="unfinished"></translation>
+        <translation>请输入名称</translation>
     </message>
     <message>
         <source>please input valid content!</source>
-        <translation type="unfinished"></translation>
+        <translation>请输入有效的名称！</translation>
     </message>
     <message>
         <source>has same as coord group name!</source>
-        <translation type="unfinished"></translation>
+        <translation>已有同名的分组！</translation>
     </message>
     <message>
         <source>has same as coord system name!</source>
-        <translation type="unfinished"></translation>
+        <translation>已有同名的坐标系统！</translation>
     </message>
     <message>
         <source>information</source>
-        <translation type="unfinished"></translation>
+        <translation>提示</translation>
     </message>
 </context>
 <context>
     <name>QFile</name>
     <message>
         <source>Filename refers to a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>文件名指向一个文件夹</translation>
     </message>
     <message>
         <source>Unknown error</source>
-        <translation type="unfinished"></translation>
+        <translation>未知错误</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>警告</translation>
     </message>
     <message>
         <source>information</source>
-        <translation type="unfinished"></translation>
+        <translation>提示</translation>
     </message>
     <message>
         <source>Do you want to exit program?</source>
-        <translation type="unfinished"></translation>
+        <translation>要退出程序吗？</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>添加</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>删除</translation>
     </message>
     <message>
         <source>please input correct param!</source>
-        <translation type="unfinished"></translation>
+        <translation>请输入正确的参数！</translation>
     </message>
     <message>
         <source>Are you sure you want to delete ellipsoid [%1]?</source>
-        <translation type="unfinished"></translation>
+        <translation>确定要删除椭球[%1]吗？</translation>
     </message>
     <message>
         <source>has same name as system, whether cover?</source>
-        <translation type="unfinished"></translation>
+        <translation>已有同名的自有椭球，是否替换？</translation>
     </message>
     <message>
         <source>new add ellipsoid name can&apos;t same as system!</source>
-        <translation type="unfinished"></translation>
+        <translation>新椭球不能与程序自带的椭球同名！</translation>
     </message>
     <message>
         <source>Edit Ellipsoid</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑椭球</translation>
     </message>
     <message>
         <source>Ellipsoid Name</source>
-        <translation type="unfinished"></translation>
+        <translation>椭球名称</translation>
     </message>
     <message>
         <source>ellipsoid a(m)</source>
-        <translation type="unfinished"></translation>
+        <translation>长半轴a（m）</translation>
     </message>
     <message>
         <source>ellipsoid f</source>
-        <translation type="unfinished"></translation>
+        <translation>扁率倒数1/f</translation>
     </message>
     <message>
         <source>Are you sure you want to delete geoid [%1]?</source>
-        <translation type="unfinished"></translation>
+        <translation>确定要删除大地水准面模型[%1]吗？</translation>
     </message>
     <message>
         <source>has same file name, whether or not covered?</source>
-        <translation type="unfinished"></translation>
+        <translation>已有同名的自有大地水准面模型，是否替换？</translation>
     </message>
     <message>
         <source>new geoid name can&apos;t same with system name!</source>
-        <translation type="unfinished"></translation>
+        <translation>新模型不能与程序自带的大地水准面模型同名！</translation>
     </message>
     <message>
         <source>New Geoid</source>
-        <translation type="unfinished"></translation>
+        <translation>大地水准面模型</translation>
     </message>
     <message>
         <source>Geoid Name</source>
-        <translation type="unfinished"></translation>
+        <translation>模型名称</translation>
     </message>
     <message>
         <source>File Path</source>
-        <translation type="unfinished"></translation>
+        <translation>文件路径</translation>
     </message>
     <message>
         <source>Browser</source>
-        <translation type="unfinished"></translation>
+        <translation>浏览</translation>
     </message>
     <message>
         <source>selete file</source>
-        <translation type="unfinished"></translation>
+        <translation>选择文件</translation>
     </message>
     <message>
         <source>Geiod File(*.ggf *.vgf)</source>
-        <translation type="unfinished"></translation>
+        <translation>大地水准面文件(*.ggf *.vgf)</translation>
     </message>
     <message>
         <source>AddGeoid</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑大地水准面模型</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>确定</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2540,23 +2540,23 @@ E %4 %6  N %5 %6</translation>
     <name>VornCoordSysMainWindow</name>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>添加</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>退出</translation>
     </message>
     <message>
         <source>Data is changed!</source>
-        <translation type="unfinished"></translation>
+        <translation>是否保存更改？数据已修改！</translation>
     </message>
     <message>
         <source>Coordinate System Manager</source>
-        <translation type="unfinished"></translation>
+        <translation>坐标系统管理器</translation>
     </message>
 </context>
 </TS>
