@@ -2344,55 +2344,55 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Smallest value: %1 %2 at easting %3, northing %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinster Wert: %1 %2 bei Ostwert %3, Nordwert %4.</translation>
     </message>
     <message>
         <source>Largest value: %1 %2 at easting %3, northing %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Größter Wert: %1 %2 bei Ostwert %3, Nordwert %4.</translation>
     </message>
     <message>
         <source>The picture: easting %1 to %2, northing %3 to %4, in %5.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild: Ostwert %1 bis %2, Nordwert %3 bis %4, in %5.</translation>
     </message>
     <message>
         <source>The arrow keys move a mark over it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Pfeiltasten bewegen eine Marke darüber.</translation>
     </message>
     <message>
         <source>The picture is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist leer.</translation>
     </message>
     <message>
         <source>%1 before</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 vorher</translation>
     </message>
     <message>
         <source>First lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Zeilen</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt</translation>
     </message>
     <message>
         <source>Points drawn: %1, beyond the tolerance: %2, left out: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezeichnete Punkte: %1, außerhalb der Toleranz: %2, ausgeschlossen: %3.</translation>
     </message>
     <message>
         <source>Largest difference: %1 %2; differences are drawn %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte Differenz: %1 %2; Differenzen sind %3 gezeichnet.</translation>
     </message>
     <message>
         <source>Copy the PROJ definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Die PROJ-Definition kopieren</translation>
     </message>
     <message>
         <source>Copy the WKT</source>
-        <translation type="unfinished"></translation>
+        <translation>Das WKT kopieren</translation>
     </message>
     <message>
         <source>This comma could part thousands: use a decimal point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Komma könnte Tausender trennen: einen Dezimalpunkt verwenden.</translation>
     </message>
 </context>
 <context>

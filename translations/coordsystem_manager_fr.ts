@@ -2344,55 +2344,55 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Smallest value: %1 %2 at easting %3, northing %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur minimale : %1 %2 à Est %3, Nord %4.</translation>
     </message>
     <message>
         <source>Largest value: %1 %2 at easting %3, northing %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur maximale : %1 %2 à Est %3, Nord %4.</translation>
     </message>
     <message>
         <source>The picture: easting %1 to %2, northing %3 to %4, in %5.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image : Est %1 à %2, Nord %3 à %4, en %5.</translation>
     </message>
     <message>
         <source>The arrow keys move a mark over it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les touches fléchées y déplacent un repère.</translation>
     </message>
     <message>
         <source>The picture is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image est vide.</translation>
     </message>
     <message>
         <source>%1 before</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 avant</translation>
     </message>
     <message>
         <source>First lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Premières lignes</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression</translation>
     </message>
     <message>
         <source>Points drawn: %1, beyond the tolerance: %2, left out: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Points dessinés : %1, hors tolérance : %2, exclus : %3.</translation>
     </message>
     <message>
         <source>Largest difference: %1 %2; differences are drawn %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus grande différence : %1 %2 ; les différences sont dessinées %3.</translation>
     </message>
     <message>
         <source>Copy the PROJ definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier la définition PROJ</translation>
     </message>
     <message>
         <source>Copy the WKT</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier le WKT</translation>
     </message>
     <message>
         <source>This comma could part thousands: use a decimal point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette virgule pourrait séparer les milliers : utiliser un point décimal.</translation>
     </message>
 </context>
 <context>
