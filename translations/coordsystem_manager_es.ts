@@ -776,7 +776,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Points that are farther off are marked.</source>
-        <translation>Los puntos más alejados se marcan.</translation>
+        <translation>Se marcan los puntos que la superan.</translation>
     </message>
     <message>
         <source>Own</source>
@@ -1891,11 +1891,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>%1 is missing before the easting</source>
-        <translation>falta %1 ante el este</translation>
+        <translation>falta %1 delante del este</translation>
     </message>
     <message>
         <source>%1 before the easting is the zone</source>
-        <translation>%1 ante el este es el huso</translation>
+        <translation>%1 delante del este es el huso</translation>
     </message>
     <message>
         <source>if %1</source>
@@ -2216,7 +2216,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Shift from points</source>
-        <translation>Cambio de datum desde puntos</translation>
+        <translation>Cambio de datum a partir de puntos</translation>
     </message>
     <message>
         <source>Own datum</source>
@@ -2308,7 +2308,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>WGS 84 latitude</source>
-        <translation>WGS 84, latitud</translation>
+        <translation>Latitud WGS 84</translation>
     </message>
     <message>
         <source>WGS 84 Y, m</source>
@@ -2316,7 +2316,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>WGS 84 longitude</source>
-        <translation>WGS 84, longitud</translation>
+        <translation>Longitud WGS 84</translation>
     </message>
     <message>
         <source>WGS 84 Z, m</source>
@@ -2324,7 +2324,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>WGS 84 height, m</source>
-        <translation>WGS 84, altura, m</translation>
+        <translation>Altura WGS 84, m</translation>
     </message>
     <message>
         <source>Before, m</source>
