@@ -2344,55 +2344,55 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Smallest value: %1 %2 at easting %3, northing %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor mínimo: %1 %2 en este %3, norte %4.</translation>
     </message>
     <message>
         <source>Largest value: %1 %2 at easting %3, northing %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor máximo: %1 %2 en este %3, norte %4.</translation>
     </message>
     <message>
         <source>The picture: easting %1 to %2, northing %3 to %4, in %5.</source>
-        <translation type="unfinished"></translation>
+        <translation>El gráfico: este de %1 a %2, norte de %3 a %4, en %5.</translation>
     </message>
     <message>
         <source>The arrow keys move a mark over it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las teclas de flecha mueven una marca sobre él.</translation>
     </message>
     <message>
         <source>The picture is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>El gráfico está vacío.</translation>
     </message>
     <message>
         <source>%1 before</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 antes</translation>
     </message>
     <message>
         <source>First lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Primeras líneas</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progreso</translation>
     </message>
     <message>
         <source>Points drawn: %1, beyond the tolerance: %2, left out: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos dibujados: %1; fuera de tolerancia: %2; excluidos: %3.</translation>
     </message>
     <message>
         <source>Largest difference: %1 %2; differences are drawn %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia máxima: %1 %2; las diferencias se dibujan %3.</translation>
     </message>
     <message>
         <source>Copy the PROJ definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar la definición PROJ</translation>
     </message>
     <message>
         <source>Copy the WKT</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar el WKT</translation>
     </message>
     <message>
         <source>This comma could part thousands: use a decimal point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta coma podría separar millares: use punto decimal.</translation>
     </message>
 </context>
 <context>

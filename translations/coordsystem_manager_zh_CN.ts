@@ -2329,55 +2329,55 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Smallest value: %1 %2 at easting %3, northing %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>最小值：%1 %2，位于东坐标%3、北坐标%4。</translation>
     </message>
     <message>
         <source>Largest value: %1 %2 at easting %3, northing %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>最大值：%1 %2，位于东坐标%3、北坐标%4。</translation>
     </message>
     <message>
         <source>The picture: easting %1 to %2, northing %3 to %4, in %5.</source>
-        <translation type="unfinished"></translation>
+        <translation>图幅：东坐标%1～%2，北坐标%3～%4，单位%5。</translation>
     </message>
     <message>
         <source>The arrow keys move a mark over it.</source>
-        <translation type="unfinished"></translation>
+        <translation>可用方向键在图上移动标记。</translation>
     </message>
     <message>
         <source>The picture is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>图为空。</translation>
     </message>
     <message>
         <source>%1 before</source>
-        <translation type="unfinished"></translation>
+        <translation>拟合前的%1</translation>
     </message>
     <message>
         <source>First lines</source>
-        <translation type="unfinished"></translation>
+        <translation>前几行</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>进度</translation>
     </message>
     <message>
         <source>Points drawn: %1, beyond the tolerance: %2, left out: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>已绘点：%1，超限：%2，已剔除：%3。</translation>
     </message>
     <message>
         <source>Largest difference: %1 %2; differences are drawn %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>最大差值：%1 %2；差值绘制比例%3。</translation>
     </message>
     <message>
         <source>Copy the PROJ definition</source>
-        <translation type="unfinished"></translation>
+        <translation>复制PROJ定义</translation>
     </message>
     <message>
         <source>Copy the WKT</source>
-        <translation type="unfinished"></translation>
+        <translation>复制WKT</translation>
     </message>
     <message>
         <source>This comma could part thousands: use a decimal point.</source>
-        <translation type="unfinished"></translation>
+        <translation>此逗号可能是千位分隔符：小数点请用“.”。</translation>
     </message>
 </context>
 <context>
