@@ -2619,7 +2619,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Data is changed!</source>
-        <translation>¿Guardar los cambios? ¡Los datos han cambiado!</translation>
+        <translation>Los datos han cambiado. ¿Guardar los cambios?</translation>
     </message>
     <message>
         <source>Coordinate System Manager</source>

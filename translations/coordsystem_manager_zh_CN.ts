@@ -2604,7 +2604,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Data is changed!</source>
-        <translation>是否保存更改？数据已修改！</translation>
+        <translation>数据已更改，是否保存？</translation>
     </message>
     <message>
         <source>Coordinate System Manager</source>
