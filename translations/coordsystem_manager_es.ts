@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Designed area</source>
-        <translation>Área de diseño</translation>
+        <translation>Zona de diseño</translation>
     </message>
     <message>
         <source>Area</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>What the map is around.</source>
-        <translation>Lugar en torno al cual se muestra el mapa.</translation>
+        <translation>Centro del mapa.</translation>
     </message>
     <message>
         <source>Width of the area</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>From catalogue</source>
-        <translation>Del catálogo</translation>
+        <translation>Desde el catálogo</translation>
     </message>
     <message>
         <source>Words of the group or of the name</source>
@@ -376,11 +376,11 @@ en otras direcciones, error de hasta %2&quot;</translation>
     </message>
     <message>
         <source>From catalogue...</source>
-        <translation>Del catálogo...</translation>
+        <translation>Desde el catálogo...</translation>
     </message>
     <message>
         <source>From registry...</source>
-        <translation>Del registro...</translation>
+        <translation>Desde el registro...</translation>
     </message>
     <message>
         <source>With datum shifts</source>
@@ -392,7 +392,7 @@ en otras direcciones, error de hasta %2&quot;</translation>
     </message>
     <message>
         <source>Picture of the difference</source>
-        <translation>Imagen de la diferencia</translation>
+        <translation>Gráfico de la diferencia</translation>
     </message>
     <message>
         <source>The same place for both systems: through WGS 84 with both datum shifts, or else the same latitude and longitude.</source>
@@ -508,7 +508,7 @@ en otras direcciones, error de hasta %2&quot;</translation>
     </message>
     <message>
         <source>The system is as good as it can be here.</source>
-        <translation>El sistema no puede ser aquí mejor de lo que es.</translation>
+        <translation>El sistema ya es aquí el mejor posible.</translation>
     </message>
     <message>
         <source>Distortion in ppm: %1 → %2</source>
@@ -516,7 +516,7 @@ en otras direcciones, error de hasta %2&quot;</translation>
     </message>
     <message>
         <source>Picture of the linear distortion</source>
-        <translation>Imagen de la deformación lineal</translation>
+        <translation>Gráfico de la deformación lineal</translation>
     </message>
     <message>
         <source>Mean ellipsoidal height of the ground; 0 shows the grid&apos;s own distortion.</source>
@@ -756,7 +756,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Next marked</source>
-        <translation>Marcado siguiente</translation>
+        <translation>Siguiente marcado</translation>
     </message>
     <message>
         <source>The next point beyond the tolerance, or row with a remark</source>
@@ -776,7 +776,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Points that are farther off are marked.</source>
-        <translation>Los puntos más alejados se marcan.</translation>
+        <translation>Se marcan los puntos que la superan.</translation>
     </message>
     <message>
         <source>Own</source>
@@ -851,7 +851,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Point at the picture for a point&apos;s name.</source>
-        <translation>Señale la imagen para ver el nombre de un punto.</translation>
+        <translation>Señale el gráfico para ver el nombre de un punto.</translation>
     </message>
     <message>
         <source>Row %1</source>
@@ -943,7 +943,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Picture of the points</source>
-        <translation>Imagen de los puntos</translation>
+        <translation>Gráfico de los puntos</translation>
     </message>
     <message>
         <source>HTML, one file with its pictures</source>
@@ -1139,7 +1139,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>From points...</source>
-        <translation>De puntos...</translation>
+        <translation>Desde puntos...</translation>
     </message>
     <message>
         <source>Stands in exported definitions; nothing is computed from it.</source>
@@ -1227,7 +1227,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>From text...</source>
-        <translation>De texto...</translation>
+        <translation>Desde texto...</translation>
     </message>
     <message>
         <source>This form can&apos;t express the system.</source>
@@ -1255,7 +1255,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Forward to the edited values</source>
-        <translation>Volver a los valores editados</translation>
+        <translation>Recuperar los valores editados</translation>
     </message>
     <message>
         <source>Back to the values before</source>
@@ -1315,7 +1315,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>From text</source>
-        <translation>De texto</translation>
+        <translation>Desde texto</translation>
     </message>
     <message>
         <source>Paste or type WKT, a PROJ definition, PROJJSON, or a code as EPSG:25832.</source>
@@ -1891,11 +1891,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>%1 is missing before the easting</source>
-        <translation>falta %1 ante el este</translation>
+        <translation>falta %1 delante del este</translation>
     </message>
     <message>
         <source>%1 before the easting is the zone</source>
-        <translation>%1 ante el este es el huso</translation>
+        <translation>%1 delante del este es el huso</translation>
     </message>
     <message>
         <source>if %1</source>
@@ -1986,7 +1986,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>%1: the same to %2 mm over its area</source>
-        <translation>%1: igual, salvo %2 mm como máximo en su zona</translation>
+        <translation>%1: igual en toda su zona, con diferencias de hasta %2 mm</translation>
     </message>
     <message>
         <source>Also %1</source>
@@ -2093,7 +2093,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>From registry</source>
-        <translation>Del registro</translation>
+        <translation>Desde el registro</translation>
     </message>
     <message>
         <source>By name or code</source>
@@ -2216,7 +2216,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Shift from points</source>
-        <translation>Cambio de datum con puntos</translation>
+        <translation>Cambio de datum a partir de puntos</translation>
     </message>
     <message>
         <source>Own datum</source>
@@ -2260,7 +2260,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Just enough points: nothing is left over to tell how good the shift is.</source>
-        <translation>Puntos justos: no sobra ninguno para saber lo bueno que es el cambio de datum.</translation>
+        <translation>Solo los puntos justos: no hay redundancia para valorar la calidad del cambio de datum.</translation>
     </message>
     <message>
         <source>Standard deviation of a coordinate: %1 m (redundancy %2).</source>
@@ -2308,7 +2308,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>WGS 84 latitude</source>
-        <translation>WGS 84, latitud</translation>
+        <translation>Latitud WGS 84</translation>
     </message>
     <message>
         <source>WGS 84 Y, m</source>
@@ -2316,7 +2316,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>WGS 84 longitude</source>
-        <translation>WGS 84, longitud</translation>
+        <translation>Longitud WGS 84</translation>
     </message>
     <message>
         <source>WGS 84 Z, m</source>
@@ -2324,7 +2324,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>WGS 84 height, m</source>
-        <translation>WGS 84, altura, m</translation>
+        <translation>Altura WGS 84, m</translation>
     </message>
     <message>
         <source>Before, m</source>
@@ -2344,55 +2344,55 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Smallest value: %1 %2 at easting %3, northing %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor mínimo: %1 %2 en este %3, norte %4.</translation>
     </message>
     <message>
         <source>Largest value: %1 %2 at easting %3, northing %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor máximo: %1 %2 en este %3, norte %4.</translation>
     </message>
     <message>
         <source>The picture: easting %1 to %2, northing %3 to %4, in %5.</source>
-        <translation type="unfinished"></translation>
+        <translation>El gráfico: este de %1 a %2, norte de %3 a %4, en %5.</translation>
     </message>
     <message>
         <source>The arrow keys move a mark over it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las teclas de flecha mueven una marca sobre él.</translation>
     </message>
     <message>
         <source>The picture is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>El gráfico está vacío.</translation>
     </message>
     <message>
         <source>%1 before</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 antes</translation>
     </message>
     <message>
         <source>First lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Primeras líneas</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progreso</translation>
     </message>
     <message>
         <source>Points drawn: %1, beyond the tolerance: %2, left out: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos dibujados: %1; fuera de tolerancia: %2; excluidos: %3.</translation>
     </message>
     <message>
         <source>Largest difference: %1 %2; differences are drawn %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia máxima: %1 %2; las diferencias se dibujan %3.</translation>
     </message>
     <message>
         <source>Copy the PROJ definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar la definición PROJ</translation>
     </message>
     <message>
         <source>Copy the WKT</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar el WKT</translation>
     </message>
     <message>
         <source>This comma could part thousands: use a decimal point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta coma podría separar millares: use punto decimal.</translation>
     </message>
 </context>
 <context>
@@ -2619,7 +2619,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Data is changed!</source>
-        <translation>¿Guardar los cambios? ¡Los datos han cambiado!</translation>
+        <translation>Los datos han cambiado. ¿Guardar los cambios?</translation>
     </message>
     <message>
         <source>Coordinate System Manager</source>

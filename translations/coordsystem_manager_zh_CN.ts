@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Checked point</source>
-        <translation>检查点</translation>
+        <translation>检核点</translation>
     </message>
     <message>
         <source>Designed area</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>What the map is around.</source>
-        <translation>地图以何处为中心。</translation>
+        <translation>地图的中心。</translation>
     </message>
     <message>
         <source>Width of the area</source>
@@ -49,11 +49,11 @@
     </message>
     <message>
         <source>Easting, %1</source>
-        <translation>东坐标，%1</translation>
+        <translation>东坐标（%1）</translation>
     </message>
     <message>
         <source>Northing, %1</source>
-        <translation>北坐标，%1</translation>
+        <translation>北坐标（%1）</translation>
     </message>
     <message>
         <source>From catalogue</source>
@@ -111,7 +111,7 @@ along the parallel %2</source>
     </message>
     <message>
         <source>The system&apos;s own</source>
-        <translation>系统自身的基准</translation>
+        <translation>本系统的基准</translation>
     </message>
     <message>
         <source>WGS 84</source>
@@ -179,7 +179,7 @@ along the parallel %2</source>
     </message>
     <message>
         <source>On the own datum</source>
-        <translation>自身基准上的位置</translation>
+        <translation>本系统基准上的位置</translation>
     </message>
     <message>
         <source>The projection gives no result for this point.</source>
@@ -217,7 +217,7 @@ in other directions off by up to %2&quot;</source>
     </message>
     <message>
         <source>Check of a coordinate system against control points</source>
-        <translation>用控制点检查坐标系统</translation>
+        <translation>用控制点检核坐标系统</translation>
     </message>
     <message>
         <source>No point in use has both pairs of coordinates: nothing could be compared.</source>
@@ -295,11 +295,11 @@ in other directions off by up to %2&quot;</source>
     </message>
     <message>
         <source>Latitudes, longitudes and heights of the points are on the system&apos;s own datum.</source>
-        <translation>各点的纬度、经度和大地高属于系统自身的基准。</translation>
+        <translation>各点的纬度、经度和大地高属于本系统的基准。</translation>
     </message>
     <message>
         <source>Latitudes, longitudes and heights of the points are on WGS 84, and brought to the system&apos;s datum by its shift.</source>
-        <translation>各点的纬度、经度和大地高属于WGS 84，并已用系统的基准转换换算到系统的基准。</translation>
+        <translation>各点的纬度、经度和大地高属于WGS 84，并已用本系统的基准转换换算到其基准。</translation>
     </message>
     <message>
         <source>No. %1</source>
@@ -371,11 +371,11 @@ in other directions off by up to %2&quot;</source>
     </message>
     <message>
         <source>From catalogue...</source>
-        <translation>从目录...</translation>
+        <translation>从目录选取...</translation>
     </message>
     <message>
         <source>From registry...</source>
-        <translation>从注册库...</translation>
+        <translation>从注册库选取...</translation>
     </message>
     <message>
         <source>With datum shifts</source>
@@ -479,7 +479,7 @@ in other directions off by up to %2&quot;</source>
     </message>
     <message>
         <source>Where the largest distortion at that height is to be smallest: in the square on the map, or at the checked point.</source>
-        <translation>在何处使该高度上的最大变形为最小：图上的方框内，或检查点处。</translation>
+        <translation>在何处使该高度上的最大变形为最小：图上的方框内，或检核点处。</translation>
     </message>
     <message>
         <source>Design</source>
@@ -537,7 +537,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>What would meet the points best; what is not ticked is held.</source>
-        <translation>何值与各点最为符合；未勾选的保持不变。</translation>
+        <translation>与各点最为符合的参数值；未勾选的保持不变。</translation>
     </message>
     <message>
         <source>before</source>
@@ -761,7 +761,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Writes the check as a document to file with the job.</source>
-        <translation>将检查结果写成文档，随项目归档。</translation>
+        <translation>将检核结果写成文档，随项目归档。</translation>
     </message>
     <message>
         <source>Tolerance</source>
@@ -773,15 +773,15 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Own</source>
-        <translation>自身</translation>
+        <translation>本系统</translation>
     </message>
     <message>
         <source>Datum of latitude, longitude and height: the system&apos;s own, or WGS 84</source>
-        <translation>纬度、经度和大地高的基准：系统自身的基准或WGS 84</translation>
+        <translation>纬度、经度和大地高的基准：本系统的基准或WGS 84</translation>
     </message>
     <message>
         <source>Which false origin and scale factor would meet the points best.</source>
-        <translation>何种加常数和尺度比与各点最为符合。</translation>
+        <translation>与各点最为符合的加常数和尺度比。</translation>
     </message>
     <message>
         <source>All is written: that can&apos;t be cancelled any more.</source>
@@ -951,7 +951,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation>检查</translation>
+        <translation>检核</translation>
     </message>
     <message>
         <source>Point</source>
@@ -1127,7 +1127,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>From points...</source>
-        <translation>由点求参...</translation>
+        <translation>由点求参数...</translation>
     </message>
     <message>
         <source>Stands in exported definitions; nothing is computed from it.</source>
@@ -1215,7 +1215,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>From text...</source>
-        <translation>从文本...</translation>
+        <translation>从文本读取...</translation>
     </message>
     <message>
         <source>This form can&apos;t express the system.</source>
@@ -1303,7 +1303,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>From text</source>
-        <translation>从文本</translation>
+        <translation>从文本读取</translation>
     </message>
     <message>
         <source>Paste or type WKT, a PROJ definition, PROJJSON, or a code as EPSG:25832.</source>
@@ -1439,7 +1439,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Unusual for the Earth.</source>
-        <translation>对地球而言不寻常。</translation>
+        <translation>对地球椭球而言数值异常。</translation>
     </message>
     <message>
         <source>Unusually large.</source>
@@ -1587,7 +1587,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Unusual: scale factors lie close to 1.</source>
-        <translation>不寻常：尺度比通常接近1。</translation>
+        <translation>数值异常：尺度比通常接近1。</translation>
     </message>
     <message>
         <source>Without effect: the origin is no pole.</source>
@@ -1923,7 +1923,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>EPSG:%1, %2</source>
-        <translation>EPSG:%1，%2</translation>
+        <translation>EPSG:%1, %2</translation>
     </message>
     <message>
         <source>none</source>
@@ -2079,7 +2079,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>From registry</source>
-        <translation>从注册库</translation>
+        <translation>从注册库选取</translation>
     </message>
     <message>
         <source>By name or code</source>
@@ -2205,7 +2205,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Own datum</source>
-        <translation>自身基准</translation>
+        <translation>本系统基准</translation>
     </message>
     <message>
         <source>Latitude, longitude, height</source>
@@ -2277,19 +2277,19 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Easting, m</source>
-        <translation>东坐标，m</translation>
+        <translation>东坐标（m）</translation>
     </message>
     <message>
         <source>Northing, m</source>
-        <translation>北坐标，m</translation>
+        <translation>北坐标（m）</translation>
     </message>
     <message>
         <source>Height, m</source>
-        <translation>大地高，m</translation>
+        <translation>大地高（m）</translation>
     </message>
     <message>
         <source>WGS 84 X, m</source>
-        <translation>WGS 84 X，m</translation>
+        <translation>WGS 84 X（m）</translation>
     </message>
     <message>
         <source>WGS 84 latitude</source>
@@ -2297,7 +2297,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>WGS 84 Y, m</source>
-        <translation>WGS 84 Y，m</translation>
+        <translation>WGS 84 Y（m）</translation>
     </message>
     <message>
         <source>WGS 84 longitude</source>
@@ -2305,79 +2305,79 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>WGS 84 Z, m</source>
-        <translation>WGS 84 Z，m</translation>
+        <translation>WGS 84 Z（m）</translation>
     </message>
     <message>
         <source>WGS 84 height, m</source>
-        <translation>WGS 84大地高，m</translation>
+        <translation>WGS 84大地高（m）</translation>
     </message>
     <message>
         <source>Before, m</source>
-        <translation>之前，m</translation>
+        <translation>之前（m）</translation>
     </message>
     <message>
         <source>East, mm</source>
-        <translation>东向，mm</translation>
+        <translation>东向（mm）</translation>
     </message>
     <message>
         <source>North, mm</source>
-        <translation>北向，mm</translation>
+        <translation>北向（mm）</translation>
     </message>
     <message>
         <source>Up, mm</source>
-        <translation>垂向，mm</translation>
+        <translation>垂向（mm）</translation>
     </message>
     <message>
         <source>Smallest value: %1 %2 at easting %3, northing %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>最小值：%1 %2，位于东坐标%3、北坐标%4。</translation>
     </message>
     <message>
         <source>Largest value: %1 %2 at easting %3, northing %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>最大值：%1 %2，位于东坐标%3、北坐标%4。</translation>
     </message>
     <message>
         <source>The picture: easting %1 to %2, northing %3 to %4, in %5.</source>
-        <translation type="unfinished"></translation>
+        <translation>图幅：东坐标%1～%2，北坐标%3～%4，单位%5。</translation>
     </message>
     <message>
         <source>The arrow keys move a mark over it.</source>
-        <translation type="unfinished"></translation>
+        <translation>可用方向键在图上移动标记。</translation>
     </message>
     <message>
         <source>The picture is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>图为空。</translation>
     </message>
     <message>
         <source>%1 before</source>
-        <translation type="unfinished"></translation>
+        <translation>拟合前的%1</translation>
     </message>
     <message>
         <source>First lines</source>
-        <translation type="unfinished"></translation>
+        <translation>前几行</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>进度</translation>
     </message>
     <message>
         <source>Points drawn: %1, beyond the tolerance: %2, left out: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>已绘点：%1，超限：%2，已剔除：%3。</translation>
     </message>
     <message>
         <source>Largest difference: %1 %2; differences are drawn %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>最大差值：%1 %2；差值绘制比例%3。</translation>
     </message>
     <message>
         <source>Copy the PROJ definition</source>
-        <translation type="unfinished"></translation>
+        <translation>复制PROJ定义</translation>
     </message>
     <message>
         <source>Copy the WKT</source>
-        <translation type="unfinished"></translation>
+        <translation>复制WKT</translation>
     </message>
     <message>
         <source>This comma could part thousands: use a decimal point.</source>
-        <translation type="unfinished"></translation>
+        <translation>此逗号可能是千位分隔符：小数点请用“.”。</translation>
     </message>
 </context>
 <context>
@@ -2604,7 +2604,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Data is changed!</source>
-        <translation>是否保存更改？数据已修改！</translation>
+        <translation>数据已更改，是否保存？</translation>
     </message>
     <message>
         <source>Coordinate System Manager</source>
