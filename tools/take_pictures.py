@@ -179,7 +179,7 @@ class Photographer:
         report = os.path.join(self.tool.home, "Amersfoort.pdf")
         panel.find("push button", "Report...").click()
         self.choose_file("Save report", report)
-        panel.find("filler", "Amersfoort.pdf: report saved.")
+        panel.find("label", "Amersfoort.pdf: report saved.")
         target = os.path.join(IMAGES, "report.png")
         pages = os.path.join(self.tool.home, "page")
         subprocess.run(["pdftoppm", "-r", "65", "-png", "-l", "2", report, pages], check=True)

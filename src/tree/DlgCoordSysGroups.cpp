@@ -11,8 +11,8 @@
 #include "platform/desktop/VornMessageBox.h"
 #include "tree/DlgInputName.h"
 #include "tree/ImportProgress.h"
-#include "tree/KeyboardMenu.h"
 #include "tree/PlainToolTipDelegate.h"
+#include "tree/TreeKeys.h"
 
 #include <QAction>
 #include <QCursor>
@@ -28,7 +28,7 @@ DlgCoordSysGroups::DlgCoordSysGroups(ICoordSystem* coordSystem, QWidget* parent)
     setContextMenuPolicy(Qt::CustomContextMenu);
     setAccessibleName(tr("CoordSysGroup"));
     setItemDelegate(new PlainToolTipDelegate(this));
-    new KeyboardMenu(this);
+    new TreeKeys(this);
     connect(this, SIGNAL(customContextMenuRequested(const QPoint&)), this, SLOT(_onItemRightClicked(const QPoint&)));
     connect(this, SIGNAL(itemClicked(QTreeWidgetItem*, int)), this, SLOT(_onItemClicked(QTreeWidgetItem*, int)));
     loadTree();

@@ -35,6 +35,13 @@ class Commands(tool.ToolTest):
                 self.assertEqual(menu.names("menu item"), entries)
                 press("Escape")
                 wait_for(lambda: not menu.showing, "the menu to close")
+                # It is the current item's by the keyboard.
+                for keys in ("Menu", "shift+F10"):
+                    press(keys)
+                    menu = self.desktop.menu()
+                    self.assertEqual(menu.names("menu item"), entries)
+                    press("Escape")
+                    wait_for(lambda: not menu.showing, "the menu to close")
         # Empty space: what lies below the root once that is folded.
         self.tool.item(tool.ROOT).double_click()
         wait_for(lambda: self.tool.items() == [tool.ROOT], "the root to be folded")

@@ -136,7 +136,7 @@ class Panel(tool.ToolTest):
         self.turn_to(panel.find("push button", "Report..."))
         press("space")
         self.name_file("Save report", report)
-        panel.find("filler", "harbour.pdf: report saved.")
+        panel.find("label", "harbour.pdf: report saved.")
         text = subprocess.run(["pdftotext", "-layout", report, "-"], check=True, capture_output=True, text=True).stdout
         pages = text.split("\f")[:-1]
         for part in ("Harbour <2>", "EPSG:27700", "All 199 compared points are within the tolerance of 0.05 m.",

@@ -160,6 +160,47 @@ private Q_SLOTS:
         QCOMPARE(place, QPoint(123, 45));
     }
 
+    void menuByKeys_data() { textRows("menus.txt"); }
+
+    /// It is the current item's, wherever the tree is scrolled to; an item that is hidden has the empty space's.
+    void menuByKeys() {
+        const auto [item, entries] = textRow<2>();
+        startTree();
+        tree->setAnimated(false);
+        tree->expandAll();
+        QTreeWidgetItem* const current = itemAtPath(*tree, item == "empty" ? QString("B") : item);
+        current->setHidden(item == "empty");
+        tree->setCurrentItem(current);
+        tree->resize(tree->width(), 40);
+        QCursor::setPos(123, 45);
+        for (const bool isMenuKey : {true, false}) {
+            QScrollBar* const bar = tree->verticalScrollBar();
+            bar->setValue(item == "root" ? bar->maximum() : 0);
+            QStringList shown;
+            QPoint place;
+            ModalDriver::onNextMenu(QString(), &shown, &place);
+            QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+            if (isMenuKey)
+                QApplication::sendEvent(tree.get(), &event);
+            else
+                QTest::keyClick(tree.get(), Qt::Key_F10, Qt::ShiftModifier);
+            QCOMPARE(shown.join("; "), entries);
+            QCOMPARE(place, QPoint(123, 45));
+        }
+    }
+
+    void enterClicks() {
+        startTree();
+        for (const char* item : {"B/same", "A", "root"}) {
+            tree->setCurrentItem(itemAtPath(*tree, item));
+            QTest::keyClick(tree.get(), Qt::Key_Return);
+        }
+        itemAtPath(*tree, "B/same")->setHidden(true);
+        tree->setCurrentItem(itemAtPath(*tree, "B/same"));
+        QTest::keyClick(tree.get(), Qt::Key_Enter);
+        QCOMPARE(catalogue->takeCalls(), QStringList("treeItemClicked(B,same)"));
+    }
+
     void command_data() { textRows("commands.txt"); }
 
     void command() {
