@@ -65,8 +65,6 @@ void CheckTab::build() {
 }
 
 void CheckTab::showRecord() {
-    if (!pages)
-        build();
     system = ShownSystem::of(record(), system.get());
     pointPane->setSystem(system);
     pointPane->showNotation();

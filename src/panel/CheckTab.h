@@ -16,8 +16,6 @@ class QTabWidget;
 class ShownSystem;
 
 /// The tab "Check": whether the system does what it should.
-///
-/// Nothing is built or computed before the tab is first shown.
 class CheckTab : public ParamTab {
     Q_OBJECT
 
@@ -28,6 +26,7 @@ public:
     QString title() const override;
 
 protected:
+    void build() override;
     void showRecord() override;
 
 private Q_SLOTS:
@@ -40,8 +39,6 @@ private Q_SLOTS:
     void _onRegistryWanted();
 
 private:
-    void build();
-
     ICoordSystem* catalogue;
     std::shared_ptr<const ShownSystem> system;
     MessageLine* problemLine = nullptr;

@@ -31,17 +31,24 @@ constexpr int sevenParameters = 2;
 } // namespace
 
 DatumShiftTab::DatumShiftTab(CoordParamEditor& editor, bool readOnly, QWidget* parent)
-    : ParamTab(editor, readOnly, parent)
-    , datumBox(new SearchBox)
-    , datumField(new TextField(editor, CoordParamKey::datumName, datumBox))
-    , kindBox(new ChoiceBox)
-    , kindRemark(new QLabel)
-    , convention(new QLabel(PanelText::tr(
-          "Rotations in the position-vector convention (EPSG 9606, PROJ towgs84). Figures published in the "
-          "coordinate-frame convention (EPSG 9607): type them as they are, then reverse their signs.")))
-    , reverseButton(new QPushButton(PanelText::tr("Reverse rotation signs")))
-    , reverseMessage(new MessageLine)
-    , fromPointsButton(new QPushButton(PanelText::tr("From points..."))) {
+    : ParamTab(editor, readOnly, parent) {
+}
+
+QString DatumShiftTab::title() const {
+    return PanelText::tr("Datum shift");
+}
+
+void DatumShiftTab::build() {
+    datumBox = new SearchBox;
+    datumField = new TextField(editor(), CoordParamKey::datumName, datumBox);
+    kindBox = new ChoiceBox;
+    kindRemark = new QLabel;
+    convention = new QLabel(PanelText::tr(
+        "Rotations in the position-vector convention (EPSG 9606, PROJ towgs84). Figures published in the "
+        "coordinate-frame convention (EPSG 9607): type them as they are, then reverse their signs."));
+    reverseButton = new QPushButton(PanelText::tr("Reverse rotation signs"));
+    reverseMessage = new MessageLine;
+    fromPointsButton = new QPushButton(PanelText::tr("From points..."));
     auto* grid = new QGridLayout(this);
     grid->setVerticalSpacing(0);
     auto* datumLabel = new QLabel(PanelText::tr("Datum"));
@@ -50,7 +57,7 @@ DatumShiftTab::DatumShiftTab(CoordParamEditor& editor, bool readOnly, QWidget* p
     datumBox->setToolTip(PanelText::tr("Stands in exported definitions; nothing is computed from it."));
     datumBox->lineEdit()->setPlaceholderText(PanelText::tr("unknown"));
     Colours::setReadablePlaceholder(datumBox->lineEdit());
-    datumBox->setReadOnly(readOnly);
+    datumBox->setReadOnly(isReadOnly());
     grid->addWidget(datumLabel, 0, 0);
     grid->addWidget(datumBox, 0, 1, 1, 3);
     auto* kindLabel = new QLabel(PanelText::tr("Shift to WGS 84"));
@@ -58,14 +65,14 @@ DatumShiftTab::DatumShiftTab(CoordParamEditor& editor, bool readOnly, QWidget* p
     kindBox->setAccessibleName(kindLabel->text());
     kindBox->addItem(PanelText::tr("None"), none);
     kindBox->addItem(PanelText::tr("Seven parameters (three: the rest 0)"), sevenParameters);
-    kindBox->setEnabled(!readOnly);
+    kindBox->setEnabled(!isReadOnly());
     grid->addWidget(kindLabel, 1, 0);
     auto* kindRow = new QHBoxLayout;
     kindRow->addWidget(kindBox);
     kindRow->addSpacing(6);
     kindRow->addWidget(fromPointsButton);
     kindRow->addStretch(1);
-    fromPointsButton->setEnabled(!readOnly);
+    fromPointsButton->setEnabled(!isReadOnly());
     fromPointsButton->setToolTip(PanelText::tr("Estimates the shift from points known on both datums."));
     grid->addLayout(kindRow, 1, 1, 1, 3);
     grid->setRowMinimumHeight(2, 4);
@@ -75,7 +82,7 @@ DatumShiftTab::DatumShiftTab(CoordParamEditor& editor, bool readOnly, QWidget* p
     constexpr int firstRow = 4;
     int line = firstRow;
     for (const ParamField& field : DatumFields::shift()) {
-        auto* row = new FieldRow(editor, readOnly, grid, line);
+        auto* row = new FieldRow(editor(), isReadOnly(), grid, line);
         row->setField(&field);
         connect(row, SIGNAL(edited()), this, SLOT(_onEdited()));
         rows.append(row);
@@ -96,10 +103,6 @@ DatumShiftTab::DatumShiftTab(CoordParamEditor& editor, bool readOnly, QWidget* p
     connect(kindBox, SIGNAL(activated(int)), this, SLOT(_onKindActivated(int)));
     connect(fromPointsButton, SIGNAL(clicked()), this, SLOT(_onFromPointsClicked()));
     connect(reverseButton, SIGNAL(clicked()), this, SLOT(_onReverseClicked()));
-}
-
-QString DatumShiftTab::title() const {
-    return PanelText::tr("Datum shift");
 }
 
 void DatumShiftTab::showRecord() {

@@ -23,6 +23,7 @@ public:
     QString title() const override;
 
 protected:
+    void build() override;
     void showRecord() override;
 
 private Q_SLOTS:
@@ -37,14 +38,14 @@ private:
     void showKind();
     void showRemarks();
 
-    SearchBox* datumBox;
-    TextField* datumField;
-    ChoiceBox* kindBox;
+    SearchBox* datumBox = nullptr;
+    TextField* datumField = nullptr;
+    ChoiceBox* kindBox = nullptr;
     QVector<FieldRow*> rows;
-    QLabel* kindRemark;
-    QLabel* convention;
-    QPushButton* reverseButton;
-    MessageLine* reverseMessage;
-    QPushButton* fromPointsButton;
+    QLabel* kindRemark = nullptr;
+    QLabel* convention = nullptr;
+    QPushButton* reverseButton = nullptr;
+    MessageLine* reverseMessage = nullptr;
+    QPushButton* fromPointsButton = nullptr;
     ShiftPointsModel* points = nullptr; ///< as last typed or pasted, for all systems
 };

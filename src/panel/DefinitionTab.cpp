@@ -143,8 +143,6 @@ void DefinitionTab::buildNotes(QGridLayout* grid) {
 }
 
 void DefinitionTab::showRecord() {
-    if (!content)
-        build();
     source->showValue();
     note->showValue();
     const DefinitionState state = DefinitionState::of(record());

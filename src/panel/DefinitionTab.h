@@ -17,8 +17,6 @@ class TextField;
 /// The tab "Definition": the record as PROJ definition and as WKT, to copy and to save as a .prj file; which system of
 /// the registry it is; where it is from, and the ways to take another
 /// definition over, from the registry or from a text.
-///
-/// Nothing is built or computed before the tab is first shown.
 class DefinitionTab : public ParamTab {
     Q_OBJECT
 
@@ -29,6 +27,7 @@ public:
     QString title() const override;
 
 protected:
+    void build() override;
     void showRecord() override;
 
 private Q_SLOTS:
@@ -44,7 +43,6 @@ private Q_SLOTS:
     void _onNoteEdited();
 
 private:
-    void build();
     void buildNotes(QGridLayout* grid);
     void takeOver(const IDictionary& values);
     QByteArray wkt(bool indented) const;

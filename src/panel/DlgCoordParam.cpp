@@ -22,6 +22,25 @@
 
 #include <algorithm>
 
+namespace {
+
+/// What the tab widget turns to. Its tab is built before the page is shown, so that it is never seen without its fields.
+class Page : public QWidget {
+public:
+    explicit Page(ParamTab* tab) : tab(tab) {}
+
+    void setVisible(bool visible) override {
+        if (visible)
+            tab->prepare();
+        QWidget::setVisible(visible);
+    }
+
+private:
+    ParamTab* tab;
+};
+
+} // namespace
+
 DlgCoordParam::DlgCoordParam(ICoordSystem* coordSystem, QWidget* parent, bool readOnly)
     : QTabWidget(parent), readOnly(readOnly) {
     ScreenReader::introduceWidgets();
@@ -40,10 +59,11 @@ DlgCoordParam::DlgCoordParam(ICoordSystem* coordSystem, QWidget* parent, bool re
 
 DlgCoordParam::~DlgCoordParam() {
     // Before the record goes: a field that loses the keyboard on its way out still looks at it. The header goes with
-    // the page that it stands on.
+    // the page that it stands on; that one last, or the next would come to the front.
     disconnect(SIGNAL(currentChanged(int)), this);
-    while (count() > 0)
-        delete widget(0);
+    while (count() > 1)
+        delete widget(currentIndex() == 0 ? 1 : 0);
+    delete widget(0);
 }
 
 void DlgCoordParam::setCoordParam(const IDictionary& record) {
@@ -61,7 +81,9 @@ QSize DlgCoordParam::sizeHint() const {
     constexpr int widthOfBoth = 770;
     const int ofBar = std::min(tabBar()->sizeHint().width() + 10, widthOfBoth * 5 / 6);
     const int width = widthOfATree * ofBar / (widthOfBoth - ofBar) / 2;
-    return {std::max(widthOfATree, width), QTabWidget::sizeHint().height()};
+    // As high as the longest form, which may not be built yet: Qt lets a scroll area ask for this much at the most.
+    const int page = header->sizeHint().height() + 24 * fontMetrics().height();
+    return {std::max(widthOfATree, width), tabBar()->sizeHint().height() + page};
 }
 
 const IDictionary& DlgCoordParam::getMetaData() const {
@@ -98,7 +120,7 @@ void DlgCoordParam::addParamTab(ParamTab* tab) {
     area->viewport()->setAutoFillBackground(false);
     tab->setAutoFillBackground(false);
 
-    auto* page = new QWidget;
+    auto* page = new Page(tab);
     auto* layout = new QVBoxLayout(page);
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -35,24 +35,30 @@ FieldEdit* addShownValue(QGridLayout* grid, int line, const QString& name, const
 } // namespace
 
 EllipsoidTab::EllipsoidTab(ICoordSystem* coordSystem, CoordParamEditor& editor, bool readOnly, QWidget* parent)
-    : ParamTab(editor, readOnly, parent)
-    , coordSystem(coordSystem)
-    , nameBox(new SearchBox)
-    , nameMessage(new MessageLine) {
+    : ParamTab(editor, readOnly, parent), coordSystem(coordSystem) {
+}
+
+QString EllipsoidTab::title() const {
+    return PanelText::tr("Ellipsoid");
+}
+
+void EllipsoidTab::build() {
+    nameBox = new SearchBox;
+    nameMessage = new MessageLine;
     auto* grid = new QGridLayout(this);
     grid->setVerticalSpacing(1);
     auto* nameLabel = new QLabel(PanelText::tr("Ellipsoid"));
     nameLabel->setBuddy(nameBox);
     nameBox->setAccessibleName(nameLabel->text());
-    nameBox->setReadOnly(readOnly);
+    nameBox->setReadOnly(isReadOnly());
     grid->addWidget(nameLabel, 0, 0);
     grid->addWidget(nameBox, 0, 1, 1, 3);
     nameMessage->setField(nameBox);
     grid->addWidget(nameMessage, 1, 0, 1, 4);
 
-    semiMajorAxis = new FieldRow(editor, readOnly, grid, 2);
+    semiMajorAxis = new FieldRow(editor(), isReadOnly(), grid, 2);
     semiMajorAxis->setField(&DatumFields::semiMajorAxis());
-    inverseFlattening = new FieldRow(editor, readOnly, grid, 4);
+    inverseFlattening = new FieldRow(editor(), isReadOnly(), grid, 4);
     inverseFlattening->setField(&DatumFields::inverseFlattening());
     semiMinorAxis = addShownValue(grid, 6, PanelText::tr("Semi-minor axis b"), "m");
     eccentricity = addShownValue(grid, 8, PanelText::tr("Eccentricity e"), QString());
@@ -62,10 +68,6 @@ EllipsoidTab::EllipsoidTab(ICoordSystem* coordSystem, CoordParamEditor& editor, 
     connect(nameBox, SIGNAL(chosen(QString)), this, SLOT(_onChosen(QString)));
     connect(semiMajorAxis, SIGNAL(edited()), this, SLOT(_onEdited()));
     connect(inverseFlattening, SIGNAL(edited()), this, SLOT(_onEdited()));
-}
-
-QString EllipsoidTab::title() const {
-    return PanelText::tr("Ellipsoid");
 }
 
 void EllipsoidTab::showRecord() {

@@ -20,6 +20,7 @@ public:
     QString title() const override;
 
 protected:
+    void build() override;
     void showRecord() override;
 
 private Q_SLOTS:
@@ -32,11 +33,11 @@ private:
     QString nameRemark() const;
 
     ICoordSystem* coordSystem;
-    SearchBox* nameBox;
-    MessageLine* nameMessage;
-    FieldRow* semiMajorAxis;
-    FieldRow* inverseFlattening;
-    FieldEdit* semiMinorAxis;
-    FieldEdit* eccentricity;
+    SearchBox* nameBox = nullptr;
+    MessageLine* nameMessage = nullptr;
+    FieldRow* semiMajorAxis = nullptr;
+    FieldRow* inverseFlattening = nullptr;
+    FieldEdit* semiMinorAxis = nullptr;
+    FieldEdit* eccentricity = nullptr;
     QByteArray listedNames; ///< the catalogue's list as the box has it
 };

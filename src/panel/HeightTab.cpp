@@ -28,19 +28,25 @@ void addShownValue(QGridLayout* grid, int line, QLabel* value) {
 } // namespace
 
 HeightTab::HeightTab(ICoordSystem* coordSystem, CoordParamEditor& editor, bool readOnly, QWidget* parent)
-    : ParamTab(editor, readOnly, parent)
-    , coordSystem(coordSystem)
-    , geoidBox(new SearchBox)
-    , message(new MessageLine)
-    , file(new ResultLabel(PanelText::tr("Model file")))
-    , fileMessage(new MessageLine)
-    , ellipsoid(new ResultLabel(PanelText::tr("Model ellipsoid"))) {
+    : ParamTab(editor, readOnly, parent), coordSystem(coordSystem) {
+}
+
+QString HeightTab::title() const {
+    return PanelText::tr("Height");
+}
+
+void HeightTab::build() {
+    geoidBox = new SearchBox;
+    message = new MessageLine;
+    file = new ResultLabel(PanelText::tr("Model file"));
+    fileMessage = new MessageLine;
+    ellipsoid = new ResultLabel(PanelText::tr("Model ellipsoid"));
     auto* grid = new QGridLayout(this);
     grid->setVerticalSpacing(3);
     auto* label = new QLabel(PanelText::tr("Geoid model"));
     label->setBuddy(geoidBox);
     geoidBox->setAccessibleName(label->text());
-    geoidBox->setReadOnly(readOnly);
+    geoidBox->setReadOnly(isReadOnly());
     grid->addWidget(label, 0, 0);
     grid->addWidget(geoidBox, 0, 1);
     message->setField(geoidBox);
@@ -54,10 +60,6 @@ HeightTab::HeightTab(ICoordSystem* coordSystem, CoordParamEditor& editor, bool r
 
     connect(geoidBox, SIGNAL(listNeeded()), this, SLOT(_onListNeeded()));
     connect(geoidBox, SIGNAL(chosen(QString)), this, SLOT(_onChosen(QString)));
-}
-
-QString HeightTab::title() const {
-    return PanelText::tr("Height");
 }
 
 void HeightTab::showRecord() {

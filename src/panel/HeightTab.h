@@ -19,6 +19,7 @@ public:
     QString title() const override;
 
 protected:
+    void build() override;
     void showRecord() override;
 
 private Q_SLOTS:
@@ -27,10 +28,10 @@ private Q_SLOTS:
 
 private:
     ICoordSystem* coordSystem;
-    SearchBox* geoidBox;
-    MessageLine* message;
-    QLabel* file;
-    MessageLine* fileMessage;
-    QLabel* ellipsoid;
+    SearchBox* geoidBox = nullptr;
+    MessageLine* message = nullptr;
+    QLabel* file = nullptr;
+    MessageLine* fileMessage = nullptr;
+    QLabel* ellipsoid = nullptr;
     QByteArray listedNames; ///< the catalogue's list as the box has it
 };

@@ -12,17 +12,21 @@ const IDictionary& ParamTab::record() const {
     return paramEditor.record();
 }
 
-void ParamTab::refresh() {
-    stale = !isVisible();
-    if (stale)
+void ParamTab::prepare() {
+    if (isBuilt)
         return;
-    showRecord();
-    if (!wasShown)
-        keepInTabOrder();
-    wasShown = true;
+    build();
+    keepInTabOrder();
+    isBuilt = true;
 }
 
-/// What a tab builds when it is first shown comes last in the window's tab order: moves it to where the tab stands.
+void ParamTab::refresh() {
+    stale = !isVisible();
+    if (!stale)
+        showRecord();
+}
+
+/// What is built after other tabs comes last in the window's tab order: moves it to where the tab stands.
 void ParamTab::keepInTabOrder() {
     QVector<QWidget*> order;
     for (QWidget* widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain()) {

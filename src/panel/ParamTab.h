@@ -7,6 +7,8 @@ class IDictionary;
 
 /// One tab of the parameter panel: shows one side of the record and edits it in place.
 ///
+/// Nothing of a tab is built or computed before it comes to the front: a start, and a click in the tree, cost what is
+/// seen.
 /// A tab changes the record through editor() and then calls recordChanged(); the panel tells the other tabs and the
 /// window. Texts of tabs are translated in the panel's context: PanelText::tr().
 class ParamTab : public QWidget {
@@ -18,6 +20,9 @@ public:
 
     /// The text on the tab, translated.
     virtual QString title() const = 0;
+
+    /// The tab is about to come to the front: builds it, the first time.
+    void prepare();
 
     /// The record, or the way in which angles are shown, changed elsewhere: shows it anew, now when the tab is visible,
     /// else when it comes to the front.
@@ -31,6 +36,9 @@ Q_SIGNALS:
     void angleNotationChanged();
 
 protected:
+    /// Makes the tab's widgets. Called once, before the tab first comes to the front.
+    virtual void build() = 0;
+
     /// Shows the whole record in the tab's widgets. Never changes it.
     virtual void showRecord() = 0;
 
@@ -49,5 +57,5 @@ private:
     CoordParamEditor& paramEditor;
     bool readOnly;
     bool stale = true;
-    bool wasShown = false;
+    bool isBuilt = false;
 };

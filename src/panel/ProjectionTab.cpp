@@ -16,10 +16,17 @@
 #include <algorithm>
 
 ProjectionTab::ProjectionTab(CoordParamEditor& editor, bool readOnly, QWidget* parent)
-    : ParamTab(editor, readOnly, parent)
-    , problemLine(new MessageLine)
-    , methodBox(new ChoiceBox)
-    , notationBox(new AngleNotationBox) {
+    : ParamTab(editor, readOnly, parent) {
+}
+
+QString ProjectionTab::title() const {
+    return PanelText::tr("Projection");
+}
+
+void ProjectionTab::build() {
+    problemLine = new MessageLine;
+    methodBox = new ChoiceBox;
+    notationBox = new AngleNotationBox;
     auto* grid = new QGridLayout(this);
     grid->setVerticalSpacing(1);
     // The line for a problem takes the place of the upper margin, so that the forms of all tabs start level.
@@ -74,10 +81,6 @@ void ProjectionTab::addNotation(QGridLayout* grid, int line) {
     connect(notationBox, SIGNAL(notationChosen()), this, SLOT(_onNotationChosen()));
     grid->addWidget(label, line, 0);
     grid->addWidget(notationBox, line, 1, 1, 3);
-}
-
-QString ProjectionTab::title() const {
-    return PanelText::tr("Projection");
 }
 
 void ProjectionTab::showRecord() {

@@ -21,6 +21,7 @@ public:
     QString title() const override;
 
 protected:
+    void build() override;
     void showRecord() override;
 
 private Q_SLOTS:
@@ -35,9 +36,9 @@ private:
     void showMethod();
     void showAdvice();
 
-    MessageLine* problemLine;
-    ChoiceBox* methodBox;
-    AngleNotationBox* notationBox;
+    MessageLine* problemLine = nullptr;
+    ChoiceBox* methodBox = nullptr;
+    AngleNotationBox* notationBox = nullptr;
     QVector<FieldRow*> rows;
     const ProjectionFields* shownProjection = nullptr;
 };

@@ -68,6 +68,31 @@ private Q_SLOTS:
         QCOMPARE(screen.edits.count(), 0);
     }
 
+    /// A start, and a click in the tree, build and show what is seen, and nothing else.
+    void buildsATabWhenItIsFirstShown() {
+        PanelOnScreen screen(*PanelRecords::fresh(), PanelOnScreen::Ellipsoid);
+        const auto content = [&screen](int tab) {
+            const QObject* const shown = screen.panel.widget(tab)->findChild<QScrollArea*>()->widget();
+            return shown->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        };
+        const QSize hint = screen.panel.sizeHint(), least = screen.panel.minimumSizeHint();
+        for (int tab = 1; tab < screen.panel.count(); ++tab) {
+            screen.panel.setCoordParam(screen.record());
+            QVERIFY(content(tab).isEmpty());
+            screen.panel.setCurrentIndex(tab);
+            QVERIFY(!content(tab).isEmpty());
+            const auto built = content(tab);
+            screen.panel.setCurrentIndex(0);
+            screen.panel.setCurrentIndex(tab);
+            QCOMPARE(content(tab), built);
+            // The window neither grows nor shrinks with it.
+            QApplication::processEvents();
+            QCOMPARE(screen.panel.sizeHint(), hint);
+            QCOMPARE(screen.panel.minimumSizeHint(), least);
+        }
+        QCOMPARE(screen.edits.count(), 0);
+    }
+
     void takesNoEditsBeforeItHasARecord() {
         RecordingCatalogue catalogue;
         DlgCoordParam panel(&catalogue, nullptr, false);
@@ -142,7 +167,7 @@ private Q_SLOTS:
         QCOMPARE(recordText(screen.record()), recordText(*record));
     }
 
-    /// The tabs "Check" and "Definition" are built late; the keyboard gets to what follows the panel after them.
+    /// Tabs are built late; the keyboard gets to what follows the panel after them.
     void comesBeforeWhatFollowsInTabOrder() {
         PanelOnScreen screen(*PanelRecords::imported(ProjectionMethod::TransverseMercatorScaled));
         QWidget window;
