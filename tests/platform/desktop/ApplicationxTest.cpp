@@ -3,9 +3,11 @@
 #include "support/RoomTest.h"
 #include "support/TextTable.h"
 
+#include <QDialogButtonBox>
 #include <QFont>
 #include <QIcon>
 #include <QProcess>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -23,6 +25,8 @@ private Q_SLOTS:
         for (const int size : {16, 32, 48, 128})
             QVERIFY(QApplication::windowIcon().availableSizes().contains(QSize(size, size)));
         QCOMPARE(std::strtod("0.5", nullptr), 0.5);
+        QCOMPARE(qgetenv("QT_XCB_GL_INTEGRATION"), QByteArray("none"));
+        QVERIFY(QDialogButtonBox(QDialogButtonBox::Ok).button(QDialogButtonBox::Ok)->icon().isNull());
     }
 
     /// The same on a desktop with a decimal comma.
