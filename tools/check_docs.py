@@ -102,7 +102,7 @@ def name_problem(name):
     if missing:
         return f"the sources have no {missing[0]}"
     header = next((file for file in FILES if file.endswith(f"/{parts[0]}.h")), None)
-    if len(parts) > 1 and header and not re.search(rf"\b{parts[1]}\b", text_of(header)):
+    if len(parts) > 1 and header and not re.search(rf"\b{parts[1]}\b", re.sub("//.*", "", text_of(header))):
         return f"{header} has no {parts[1]}"
     return None
 
