@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Checks the sources: the directions between the rooms, the format, and clang-tidy's findings. tools/test.sh comes first:
-# clang-tidy reads the release build's commands and what Qt's tools made in it.
+# Checks the sources and documents: the directions between the rooms and the picture of them, what documents link to and name,
+# the format, and clang-tidy's findings. tools/test.sh comes first: clang-tidy reads the release build's commands and what
+# Qt's tools made in it.
 #   tools/check.sh [FILES...]      only these .cpp files are linted, instead of all
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
@@ -9,7 +10,9 @@ cd "$root"
 commands=build/release/compile_commands.json
 [ -f "$commands" ] || fail "There is no $commands: run tools/test.sh first."
 
-tools/check_rooms.sh || fail "The rooms must not depend on each other in that direction."
+tools/check_rooms.sh || fail "The rooms must include what they link, and in one direction only."
+tools/draw_rooms.py --check
+tools/check_docs.py
 git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format --dry-run --Werror
 
 # Sources that this platform's build leaves out can't be linted here.

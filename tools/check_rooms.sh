@@ -1,44 +1,25 @@
 #!/usr/bin/env bash
-# Checks by their includes that the rooms of src/ depend on each other in one direction only.
-# Prints each include that is not allowed; exit code 1 when there is one.
+# Checks by their includes that the rooms of src/ are what CMake's targets say: each includes only itself and what it links,
+# and links for itself alone only what it includes. Prints each include and link that is not so; exit code 1 when there is
+# one. What the targets link is drawn in docs/images/rooms.svg, which tools/draw_rooms.py keeps right.
+#   tools/check_rooms.sh [BUILD FOLDER]
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
-cd "$root/src"
 
-# What every room of the tool may use of platform/: interfaces, never the classes behind them.
-interfaces='platform/desktop platform/projection'
 engine=platform/projection/engine
+# Only a program's link line, and platform/ itself, names what stands behind the interfaces.
+behind="platform/utility|platform/sdk|$engine|$engine/.*|platform/projection/module"
 
-# Room: what it may include beside itself.
-declare -A allowed=(
-    [catalogue]=''
-    [platform/utility]='catalogue'
-    [platform/sdk]='catalogue platform/utility'
-    [platform/projection]='catalogue platform/utility'
-    [platform/projection/engine/proj]='catalogue platform/projection'
-    [platform/projection/engine/plane]="catalogue platform/projection $engine/proj"
-    [platform/projection/engine/definition]="catalogue platform/projection $engine/proj $engine/plane"
-    [platform/projection/engine/wkt]="catalogue platform/projection $engine/proj $engine/plane $engine/definition"
-    [platform/projection/engine/reading]="catalogue platform/projection $engine/proj $engine/definition $engine/wkt"
-    [platform/projection/engine/computing]="catalogue platform/projection $engine/proj $engine/plane $engine/definition"
-    [platform/projection/engine]="platform/projection $engine/proj $engine/definition $engine/wkt $engine/computing $engine/reading"
-    [platform/projection/module]='platform/projection platform/projection/engine'
-    [platform/desktop]='catalogue platform/utility'
-    [import]="catalogue $interfaces"
-    [geodesy]="catalogue $interfaces"
-    [panel/record]='catalogue import platform/projection'
-    [panel/computing]='catalogue import panel/record platform/projection'
-    [panel/field]='catalogue panel/record'
-    [panel/registry]="catalogue import panel/record panel/computing panel/field $interfaces"
-    [panel/save]="catalogue panel/record panel/field $interfaces"
-    [panel/shift]="catalogue panel/record panel/computing panel/field $interfaces"
-    [panel/check]="catalogue panel/record panel/computing panel/field $interfaces"
-    [panel]="catalogue import panel/record panel/computing panel/field panel/registry panel/save panel/shift panel/check $interfaces"
-    [tree]="catalogue import geodesy $interfaces"
-    [app]="catalogue tree panel $interfaces"
-)
-without_widgets="catalogue import platform/utility platform/sdk platform/projection platform/projection/module"
-without_widgets+=" $engine $engine/proj $engine/plane $engine/definition $engine/wkt $engine/reading $engine/computing panel/record panel/computing"
+declare -A sees links widgets
+declared=$(/usr/bin/python3 -B "$root/tools/rooms.py" "$@")
+while IFS='|' read -r room its_sees its_links its_widgets; do
+    sees[$room]=$its_sees
+    links[$room]=$its_links
+    widgets[$room]=$its_widgets
+    # The engine makes what platform/projection declares; it can't link its loader, which loads it.
+    [[ $room != "$engine"* ]] || sees[$room]+=" platform/projection"
+done <<<"$declared"
 widget_headers=$(pkg-config --variable=includedir Qt5Widgets)/QtWidgets
+cd "$root/src"
 
 # includes FOLDER: "file:line:included" for each include of its files.
 includes() {
@@ -54,10 +35,11 @@ complain() {
 
 seen=0
 for room in $(find . -name '*.h' -printf '%P\n' -o -name '*.cpp' -printf '%P\n' | xargs -n 1 dirname | sort -u); do
-    if [ -z "${allowed[$room]+known}" ]; then
-        complain "$room" "this room is unknown to tools/check_rooms.sh"
+    if [ -z "${sees[$room]+known}" ]; then
+        complain "$room" "no target of CMake's stands for this folder"
         continue
     fi
+    included=' '
     while IFS= read -r found; do
         seen=$((seen + 1))
         place=${found%:*}
@@ -66,10 +48,11 @@ for room in $(find . -name '*.h' -printf '%P\n' -o -name '*.cpp' -printf '%P\n' 
         case $header in
         \"*.moc\" | \"moc_*.cpp\") ;;
         \"*)
-            target=$(dirname "$name")
-            case " $room ${allowed[$room]} " in
+            target=${name%/*}
+            included+="$target "
+            case " $room ${sees[$room]} " in
             *" $target "*) ;;
-            *) complain "$place" "$room must not include $header" ;;
+            *) complain "$place" "$room must not include $header: it does not link $target" ;;
             esac
             ;;
         \<gdal* | \<ogr* | \<cpl* | \<proj* | \<geodesic*)
@@ -85,16 +68,23 @@ for room in $(find . -name '*.h' -printf '%P\n' -o -name '*.cpp' -printf '%P\n' 
             [ "$room" = panel/computing ] || complain "$place" "only panel/computing uses $header"
             ;;
         *)
-            case " $without_widgets " in
-            *" $room "*)
-                if [[ $name == QtWidgets* ]] || [ -e "$widget_headers/$name" ]; then
-                    complain "$place" "$room must not use widgets: $header"
-                fi
-                ;;
-            esac
+            if [ -z "${widgets[$room]}" ] && { [[ $name == QtWidgets* ]] || [ -e "$widget_headers/$name" ]; }; then
+                complain "$place" "$room must not use widgets: $header"
+            fi
             ;;
         esac
     done < <(includes "$room")
+    for target in ${links[$room]}; do
+        # platform/utility is what stands behind functions that catalogue declares.
+        if [[ $included != *" $target "* && $target != platform/utility ]]; then
+            complain "$room/CMakeLists.txt" "$room links $target and includes nothing of it"
+        fi
+    done
+    if [[ $room != platform/* ]]; then
+        for target in ${sees[$room]}; do
+            [[ ! $target =~ ^($behind)$ ]] || complain "$room/CMakeLists.txt" "$room must not link $target"
+        done
+    fi
 done
 
 [ "$seen" -gt 0 ] || fail "No include was found: the check does not see the sources."
