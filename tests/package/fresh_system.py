@@ -9,8 +9,8 @@ those on a session bus must be one user, but with the power to start programs as
 """
 
 import configparser
-import hashlib
 import os
+import pathlib
 import shlex
 import shutil
 import stat
@@ -83,7 +83,7 @@ class System:
 
     def files(self):
         """Every path but the records of what was installed when, what is the users' and what is mounted."""
-        left_out = ["/var/lib/dpkg", "/var/lib/apt", "/var/cache", "/var/log", "/home", "/proc", "/tmp", "/dev"]
+        left_out = ["/var/lib/dpkg", "/var/lib/apt", "/var/cache", "/var/log", "/home", "/proc", "/tmp", "/var/tmp", "/dev"]
         prunes = [word for path in left_out for word in ("-path", path, "-prune", "-o")]
         return set(self.do("find", "/", *prunes, "-print").splitlines())
 
@@ -231,23 +231,19 @@ class FreshSystem(unittest.TestCase):
 
     def leave(self):
         self.assertEqual(self.tool.exit(), 0)
-        self.assertEqual(self.tool.told(), "", "the tool has nothing to complain of")
+        # A dialog's window may be gone while Qt still asks where it is.
+        told = [line for line in self.tool.told().splitlines() if "XCB error: 3 (BadWindow)" not in line]
+        self.assertEqual(told, [], "the tool has nothing to complain of")
 
     # What must be so
 
     def models(self):
         """The geoid models there are: name and content."""
-        folder = self.tool.geoid_data
-        return {name: open(os.path.join(folder, name), "rb").read() for name in os.listdir(folder)}
+        return {path.name: path.read_bytes() for path in pathlib.Path(self.tool.geoid_data).iterdir()}
 
     def users_files(self):
-        """Every file in the user's home, and what it holds."""
-        found = {}
-        for folder, _, names in os.walk(self.tool.data):
-            for name in names:
-                path = os.path.join(folder, name)
-                with open(path, "rb") as file:
-                    found[path] = hashlib.sha256(file.read()).hexdigest()
+        """The user's catalogue, ellipsoids and geoid entries."""
+        found = {path: path.read_bytes() for path in pathlib.Path(self.tool.data).rglob("*") if path.is_file()}
         self.assertGreaterEqual(len(found), 3)
         return found
 
