@@ -28,15 +28,17 @@ count() {
     "${surroundings[@]}" "$programs/$1" "${@:2}" >"$profiles/$name.log" 2>&1 || fail "$1 failed: $profiles/$name.log"
     "${surroundings[@]}" valgrind --tool=callgrind --callgrind-out-file="$profiles/$name.out" "$programs/$1" "${@:2}" \
         >"$profiles/$name.log" 2>&1 || fail "$1 failed under callgrind: $profiles/$name.log"
-    awk '/^summary:|^totals:/ { print $2; exit }' "$profiles/$name.out"
+    awk '/^summary:|^totals:/ { print $2; found = 1; exit } END { exit !found }' "$profiles/$name.out"
 }
 
 "$programs/bench_speed_catalogue" make "$profiles/catalogue" 10000
+start=$(count start bench_instructions_start)
+load=$(count load bench_speed_catalogue load "$profiles/catalogue")
 {
     echo "# Instructions of a start and of the load of 10,000 systems, and what they were counted with."
     echo "# tools/instructions.sh --renew writes this file."
-    echo "start $(count start bench_instructions_start)"
-    echo "load $(count load bench_speed_catalogue load "$profiles/catalogue")"
+    echo "start $start"
+    echo "load $load"
     dpkg-query -W -f 'with ${Package} ${Version}\n' "${packages[@]}"
 } >"$profiles/counted.txt"
 
@@ -57,6 +59,8 @@ while read -r name before; do
     now=$(awk -v name="$name" '$1 == name { print $2 }' "$profiles/counted.txt")
     awk -v name="$name" -v before="$before" -v now="$now" 'BEGIN {
         printf "%s: %.1f million instructions, %+.1f %% against %.1f\n", name, now / 1e6, (now / before - 1) * 100, before / 1e6
+        if (now < before * 0.95)
+            print "    That is worth keeping: tools/instructions.sh --renew, and commit the file."
         exit now > before * 1.05 }' && continue
     status=1
     echo "The $name costs over 5 % more instructions than bench/instructions/expected.txt says. Where they are spent:"
