@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>Side of the square area; the map shows all of it.</source>
-        <translation>Côté de la zone carrée ; la carte la montre entière.</translation>
+        <translation>Côté de la zone carrée&#xa0;; la carte la montre entière.</translation>
     </message>
     <message>
         <source>Central meridian</source>
@@ -151,19 +151,19 @@ le long du parallèle %2</translation>
     </message>
     <message>
         <source>Grid scale factor times R / (R + height): from a distance at that height to the grid.</source>
-        <translation>Module linéaire fois R / (R + hauteur) : d’une distance à cette hauteur vers le plan de projection.</translation>
+        <translation>Module linéaire fois R / (R + hauteur)&#xa0;: d’une distance à cette hauteur vers le plan de projection.</translation>
     </message>
     <message>
         <source>How far the point is off when it is computed there and back: through the projection, and through the datum shift.</source>
-        <translation>De combien le point s’écarte après un calcul aller et retour : par la projection et par le changement de datum.</translation>
+        <translation>De combien le point s’écarte après un calcul aller et retour&#xa0;: par la projection et par le changement de datum.</translation>
     </message>
     <message>
         <source>the same: the system&apos;s datum is WGS 84</source>
-        <translation>identique : le datum du système est WGS 84</translation>
+        <translation>identique&#xa0;: le datum du système est WGS 84</translation>
     </message>
     <message>
         <source>unknown: the system defines no datum shift</source>
-        <translation>inconnu : le système ne définit aucun changement de datum</translation>
+        <translation>inconnu&#xa0;: le système ne définit aucun changement de datum</translation>
     </message>
     <message>
         <source>The registry&apos;s shifts move this point by %1 m.</source>
@@ -205,11 +205,11 @@ dans d’autres directions, écart jusqu’à %2&quot;</translation>
     </message>
     <message>
         <source>Lengths of points in international feet (ft, 0.3048 m); the system&apos;s parameters in metres.</source>
-        <translation>Longueurs des points en pieds internationaux (ft, 0.3048 m) ; paramètres du système en mètres.</translation>
+        <translation>Longueurs des points en pieds internationaux (ft, 0.3048 m)&#xa0;; paramètres du système en mètres.</translation>
     </message>
     <message>
         <source>Lengths of points in US survey feet (ftUS, 1200/3937 m); the system&apos;s parameters in metres.</source>
-        <translation>Longueurs des points en pieds d’arpentage US (ftUS, 1200/3937 m) ; paramètres du système en mètres.</translation>
+        <translation>Longueurs des points en pieds d’arpentage US (ftUS, 1200/3937 m)&#xa0;; paramètres du système en mètres.</translation>
     </message>
     <message>
         <source>Lengths in metres (m).</source>
@@ -221,7 +221,7 @@ dans d’autres directions, écart jusqu’à %2&quot;</translation>
     </message>
     <message>
         <source>No point in use has both pairs of coordinates: nothing could be compared.</source>
-        <translation>Aucun point utilisé n’a les deux couples de coordonnées : rien n’a pu être comparé.</translation>
+        <translation>Aucun point utilisé n’a les deux couples de coordonnées&#xa0;: rien n’a pu être comparé.</translation>
     </message>
     <message numerus="yes">
         <source>All %n compared point(s) are within the tolerance of %1.</source>
@@ -270,7 +270,7 @@ dans d’autres directions, écart jusqu’à %2&quot;</translation>
     </message>
     <message>
         <source>compared: in use, with both pairs of coordinates</source>
-        <translation>comparés : utilisés et avec les deux couples de coordonnées</translation>
+        <translation>comparés&#xa0;: utilisés et avec les deux couples de coordonnées</translation>
     </message>
     <message>
         <source>of these beyond the tolerance, the farthest first</source>
@@ -290,7 +290,7 @@ dans d’autres directions, écart jusqu’à %2&quot;</translation>
     </message>
     <message>
         <source>without a result; the list says why</source>
-        <translation>sans résultat ; la liste dit pourquoi</translation>
+        <translation>sans résultat&#xa0;; la liste dit pourquoi</translation>
     </message>
     <message>
         <source>with a name that another has</source>
@@ -318,7 +318,7 @@ dans d’autres directions, écart jusqu’à %2&quot;</translation>
     </message>
     <message>
         <source>Vectors lead from the given place to the computed one, longer than life by the factor beside the scale bar. Red: beyond the tolerance. Grey: left out.</source>
-        <translation>Les vecteurs mènent du lieu donné au lieu calculé, agrandis du facteur indiqué près de la barre d’échelle. Rouge : hors tolérance. Gris : exclu.</translation>
+        <translation>Les vecteurs mènent du lieu donné au lieu calculé, agrandis du facteur indiqué près de la barre d’échelle. Rouge&#xa0;: hors tolérance. Gris&#xa0;: exclu.</translation>
     </message>
     <message>
         <source>Linear distortion</source>
@@ -326,7 +326,7 @@ dans d’autres directions, écart jusqu’à %2&quot;</translation>
     </message>
     <message>
         <source>On the map: %1 to %2 ppm (mm in a kilometre). Red: longer in the grid than on the ground; blue: shorter. Black rectangle: the area of the points.</source>
-        <translation>Sur la carte : %1 à %2 ppm (mm par kilomètre). Rouge : plus long en projection qu’au sol ; bleu : plus court. Rectangle noir : la zone des points.</translation>
+        <translation>Sur la carte&#xa0;: %1 à %2 ppm (mm par kilomètre). Rouge&#xa0;: plus long en projection qu’au sol&#xa0;; bleu&#xa0;: plus court. Rectangle noir&#xa0;: la zone des points.</translation>
     </message>
     <message>
         <source>At the points&apos; mean height of %1 above the ellipsoid.</source>
@@ -334,7 +334,7 @@ dans d’autres directions, écart jusqu’à %2&quot;</translation>
     </message>
     <message>
         <source>At the height 0, as the points have none: what the projection alone does.</source>
-        <translation>À la hauteur 0, les points n’en ayant pas : l’effet de la projection seule.</translation>
+        <translation>À la hauteur 0, les points n’en ayant pas&#xa0;: l’effet de la projection seule.</translation>
     </message>
     <message>
         <source>Points</source>
@@ -342,11 +342,11 @@ dans d’autres directions, écart jusqu’à %2&quot;</translation>
     </message>
     <message>
         <source>ΔE, ΔN: computed from latitude and longitude, minus given. *: beyond the tolerance. Slanted: computed from the other pair.</source>
-        <translation>ΔE, ΔN : calculé d’après la latitude et la longitude, moins donné. * : hors tolérance. Italique : calculé d’après l’autre couple.</translation>
+        <translation>ΔE, ΔN&#xa0;: calculé d’après la latitude et la longitude, moins donné. *&#xa0;: hors tolérance. Italique&#xa0;: calculé d’après l’autre couple.</translation>
     </message>
     <message>
         <source>The list has %1 points, too many for a report; here are those that matter most. &quot;Save...&quot; writes all of them as CSV.</source>
-        <translation>La liste a %1 points, trop pour un rapport ; voici ceux qui importent le plus. « Enregistrer... » les écrit tous en CSV.</translation>
+        <translation>La liste a %1 points, trop pour un rapport&#xa0;; voici ceux qui importent le plus. «&#xa0;Enregistrer...&#xa0;» les écrit tous en CSV.</translation>
     </message>
     <message numerus="yes">
         <source>The %n point(s) that are farthest off, of %1 compared</source>
@@ -358,8 +358,8 @@ dans d’autres directions, écart jusqu’à %2&quot;</translation>
     <message numerus="yes">
         <source>Points left out or without a result: the first %n of %1</source>
         <translation>
-            <numerusform>Points exclus ou sans résultat : %n sur %1</numerusform>
-            <numerusform>Points exclus ou sans résultat : les %n premiers sur %1</numerusform>
+            <numerusform>Points exclus ou sans résultat&#xa0;: %n sur %1</numerusform>
+            <numerusform>Points exclus ou sans résultat&#xa0;: les %n premiers sur %1</numerusform>
         </translation>
     </message>
     <message>
@@ -396,7 +396,7 @@ dans d’autres directions, écart jusqu’à %2&quot;</translation>
     </message>
     <message>
         <source>The same place for both systems: through WGS 84 with both datum shifts, or else the same latitude and longitude.</source>
-        <translation>Le même lieu pour les deux systèmes : par WGS 84 avec les deux changements de datum, sinon même latitude et même longitude.</translation>
+        <translation>Le même lieu pour les deux systèmes&#xa0;: par WGS 84 avec les deux changements de datum, sinon même latitude et même longitude.</translation>
     </message>
     <message>
         <source>The map shows what is left of the difference without its mean over the area, as after another false easting and northing.</source>
@@ -432,7 +432,7 @@ dans d’autres directions, écart jusqu’à %2&quot;</translation>
     </message>
     <message>
         <source>The point of the page &quot;Point&quot;.</source>
-        <translation>Le point de la page « Point ».</translation>
+        <translation>Le point de la page «&#xa0;Point&#xa0;».</translation>
     </message>
     <message>
         <source>Over the black square.</source>
@@ -456,11 +456,11 @@ dans d’autres directions, écart jusqu’à %2&quot;</translation>
     </message>
     <message>
         <source>Neither system defines a datum shift: both count as on WGS 84.</source>
-        <translation>Aucun des systèmes ne définit de changement de datum : tous deux comptent comme en WGS 84.</translation>
+        <translation>Aucun des systèmes ne définit de changement de datum&#xa0;: tous deux comptent comme en WGS 84.</translation>
     </message>
     <message>
         <source>No datum shift is defined by %1: it counts as on WGS 84.</source>
-        <translation>%1 ne définit aucun changement de datum : il compte comme en WGS 84.</translation>
+        <translation>%1 ne définit aucun changement de datum&#xa0;: il compte comme en WGS 84.</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -484,7 +484,7 @@ dans d’autres directions, écart jusqu’à %2&quot;</translation>
     </message>
     <message>
         <source>Where the largest distortion at that height is to be smallest: in the square on the map, or at the checked point.</source>
-        <translation>Où l’altération maximale à cette hauteur doit être la plus petite : dans le carré sur la carte ou au point contrôlé.</translation>
+        <translation>Où l’altération maximale à cette hauteur doit être la plus petite&#xa0;: dans le carré sur la carte ou au point contrôlé.</translation>
     </message>
     <message>
         <source>Design</source>
@@ -512,7 +512,7 @@ dans d’autres directions, écart jusqu’à %2&quot;</translation>
     </message>
     <message>
         <source>Distortion in ppm: %1 → %2</source>
-        <translation>Altération en ppm : %1 → %2</translation>
+        <translation>Altération en ppm&#xa0;: %1 → %2</translation>
     </message>
     <message>
         <source>Picture of the linear distortion</source>
@@ -520,7 +520,7 @@ dans d’autres directions, écart jusqu’à %2&quot;</translation>
     </message>
     <message>
         <source>Mean ellipsoidal height of the ground; 0 shows the grid&apos;s own distortion.</source>
-        <translation>Hauteur ellipsoïdale moyenne du terrain ; 0 montre l’altération due à la projection seule.</translation>
+        <translation>Hauteur ellipsoïdale moyenne du terrain&#xa0;; 0 montre l’altération due à la projection seule.</translation>
     </message>
     <message>
         <source>ppm</source>
@@ -542,7 +542,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>What would meet the points best; what is not ticked is held.</source>
-        <translation>Ce qui conviendrait le mieux aux points ; ce qui n’est pas coché reste fixe.</translation>
+        <translation>Ce qui conviendrait le mieux aux points&#xa0;; ce qui n’est pas coché reste fixe.</translation>
     </message>
     <message>
         <source>before</source>
@@ -654,7 +654,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Columns of one kind belong together: degrees, minutes and seconds.</source>
-        <translation>Les colonnes d’un même type vont ensemble : degrés, minutes et secondes.</translation>
+        <translation>Les colonnes d’un même type vont ensemble&#xa0;: degrés, minutes et secondes.</translation>
     </message>
     <message>
         <source>Say which columns are latitude and longitude, or easting and northing.</source>
@@ -712,11 +712,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Ellipsoidal height; 0 where there is none.</source>
-        <translation>Hauteur ellipsoïdale ; 0 s’il n’y en a pas.</translation>
+        <translation>Hauteur ellipsoïdale&#xa0;; 0 s’il n’y en a pas.</translation>
     </message>
     <message>
         <source>Slanted: computed from the other pair.</source>
-        <translation>Italique : calculé d’après l’autre couple.</translation>
+        <translation>Italique&#xa0;: calculé d’après l’autre couple.</translation>
     </message>
     <message>
         <source>What the fit would leave.</source>
@@ -784,7 +784,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Datum of latitude, longitude and height: the system&apos;s own, or WGS 84</source>
-        <translation>Datum de la latitude, de la longitude et de la hauteur : celui du système, ou WGS 84</translation>
+        <translation>Datum de la latitude, de la longitude et de la hauteur&#xa0;: celui du système, ou WGS 84</translation>
     </message>
     <message>
         <source>Which false origin and scale factor would meet the points best.</source>
@@ -792,11 +792,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>All is written: that can&apos;t be cancelled any more.</source>
-        <translation>Tout est écrit : il n’est plus possible d’annuler.</translation>
+        <translation>Tout est écrit&#xa0;: il n’est plus possible d’annuler.</translation>
     </message>
     <message>
         <source>Cancelled: %1</source>
-        <translation>Annulé : %1</translation>
+        <translation>Annulé&#xa0;: %1</translation>
     </message>
     <message>
         <source>Open points</source>
@@ -808,7 +808,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>%1 can&apos;t be read: %2</source>
-        <translation>%1 ne peut être lu : %2</translation>
+        <translation>%1 ne peut être lu&#xa0;: %2</translation>
     </message>
     <message>
         <source>The clipboard</source>
@@ -816,18 +816,18 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>%1 has too many points; nothing of it is taken.</source>
-        <translation>%1 contient trop de points ; rien n’en est repris.</translation>
+        <translation>%1 contient trop de points&#xa0;; rien n’en est repris.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n row(s) read.</source>
         <translation>
-            <numerusform>%1 : %n ligne lue.</numerusform>
-            <numerusform>%1 : %n lignes lues.</numerusform>
+            <numerusform>%1&#xa0;: %n ligne lue.</numerusform>
+            <numerusform>%1&#xa0;: %n lignes lues.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 can&apos;t be read to its end: %2</source>
-        <translation>%1 ne peut être lu jusqu’à la fin : %2</translation>
+        <translation>%1 ne peut être lu jusqu’à la fin&#xa0;: %2</translation>
     </message>
     <message>
         <source>Reading</source>
@@ -891,13 +891,13 @@ E %4 %6  N %5 %6</translation>
     <message numerus="yes">
         <source>%1: %n row(s) saved.</source>
         <translation>
-            <numerusform>%1 : %n ligne enregistrée.</numerusform>
-            <numerusform>%1 : %n lignes enregistrées.</numerusform>
+            <numerusform>%1&#xa0;: %n ligne enregistrée.</numerusform>
+            <numerusform>%1&#xa0;: %n lignes enregistrées.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 can&apos;t be saved: %2</source>
-        <translation>%1 ne peut être enregistré : %2</translation>
+        <translation>%1 ne peut être enregistré&#xa0;: %2</translation>
     </message>
     <message>
         <source>Report</source>
@@ -905,7 +905,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>%1: report saved.</source>
-        <translation>%1 : rapport enregistré.</translation>
+        <translation>%1&#xa0;: rapport enregistré.</translation>
     </message>
     <message>
         <source>No row is selected.</source>
@@ -914,8 +914,8 @@ E %4 %6  N %5 %6</translation>
     <message numerus="yes">
         <source>%n row(s) deleted; Ctrl+Z undoes that.</source>
         <translation>
-            <numerusform>%n ligne supprimée ; Ctrl+Z l’annule.</numerusform>
-            <numerusform>%n lignes supprimées ; Ctrl+Z l’annule.</numerusform>
+            <numerusform>%n ligne supprimée&#xa0;; Ctrl+Z l’annule.</numerusform>
+            <numerusform>%n lignes supprimées&#xa0;; Ctrl+Z l’annule.</numerusform>
         </translation>
     </message>
     <message>
@@ -924,18 +924,18 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Undone: the points are as they were before.</source>
-        <translation>Annulé : les points sont comme avant.</translation>
+        <translation>Annulé&#xa0;: les points sont comme avant.</translation>
     </message>
     <message numerus="yes">
         <source>Remove all %n point(s) from the table?</source>
         <translation>
-            <numerusform>Retirer %n point du tableau ?</numerusform>
-            <numerusform>Retirer les %n points du tableau ?</numerusform>
+            <numerusform>Retirer %n point du tableau&#xa0;?</numerusform>
+            <numerusform>Retirer les %n points du tableau&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
         <source>All points are removed; Ctrl+Z undoes that.</source>
-        <translation>Tous les points sont retirés ; Ctrl+Z l’annule.</translation>
+        <translation>Tous les points sont retirés&#xa0;; Ctrl+Z l’annule.</translation>
     </message>
     <message>
         <source>All is within the tolerance and without a remark.</source>
@@ -983,7 +983,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>A fit takes %1 points at most: leave some out.</source>
-        <translation>Un ajustement prend au plus %1 points : en exclure.</translation>
+        <translation>Un ajustement prend au plus %1 points&#xa0;: en exclure.</translation>
     </message>
     <message>
         <source>The projection gives no result at one of the points.</source>
@@ -991,7 +991,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>The points do not determine these values: hold one of them, or add points.</source>
-        <translation>Les points ne déterminent pas ces valeurs : en fixer une, ou ajouter des points.</translation>
+        <translation>Les points ne déterminent pas ces valeurs&#xa0;: en fixer une, ou ajouter des points.</translation>
     </message>
     <message>
         <source>east</source>
@@ -1031,7 +1031,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>The points are of another zone: its central meridian is %1°.</source>
-        <translation>Les points sont d’une autre zone : son méridien central est %1°.</translation>
+        <translation>Les points sont d’une autre zone&#xa0;: son méridien central est %1°.</translation>
     </message>
     <message>
         <source>%1, as by a central meridian of %2°.</source>
@@ -1067,15 +1067,15 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>The line is too long for a point; its beginning is kept.</source>
-        <translation>La ligne est trop longue pour un point ; son début est conservé.</translation>
+        <translation>La ligne est trop longue pour un point&#xa0;; son début est conservé.</translation>
     </message>
     <message>
         <source>Can&apos;t be read: %1.</source>
-        <translation>Illisible : %1.</translation>
+        <translation>Illisible&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Out of range: %1.</source>
-        <translation>Hors limites : %1.</translation>
+        <translation>Hors limites&#xa0;: %1.</translation>
     </message>
     <message>
         <source>There are no coordinates.</source>
@@ -1083,7 +1083,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Missing: %1.</source>
-        <translation>Manque : %1.</translation>
+        <translation>Manque&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The system defines no datum shift.</source>
@@ -1095,7 +1095,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Line: %1</source>
-        <translation>Ligne : %1</translation>
+        <translation>Ligne&#xa0;: %1</translation>
     </message>
     <message>
         <source>Used</source>
@@ -1111,7 +1111,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>&quot;%1&quot; and &quot;%2&quot; are the same point: leave one of them out.</source>
-        <translation>« %1 » et « %2 » sont le même point : exclure l’un des deux.</translation>
+        <translation>«&#xa0;%1&#xa0;» et «&#xa0;%2&#xa0;» sont le même point&#xa0;: exclure l’un des deux.</translation>
     </message>
     <message>
         <source>The points lie on a line, around which they leave the rotation open. Add a point beside the line, or take three parameters.</source>
@@ -1119,19 +1119,19 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>No datum shift is as large as these points would have it. Are both places of each the same point, on the right datum?</source>
-        <translation>Aucun changement de datum n’est aussi grand que ces points le voudraient. Les deux lieux de chacun sont-ils le même point, dans le bon datum ?</translation>
+        <translation>Aucun changement de datum n’est aussi grand que ces points le voudraient. Les deux lieux de chacun sont-ils le même point, dans le bon datum&#xa0;?</translation>
     </message>
     <message>
         <source>The area is too small to tell the translations from rotations and scale (correlation %1): the values mean nothing one by one, and hold within the area only. Three parameters are recommended if what they leave will do: a standard deviation of %2 m, against %3 m of seven.</source>
-        <translation>La zone est trop petite pour distinguer les translations des rotations et de l’échelle (corrélation %1) : prises une à une, les valeurs ne signifient rien, et ne valent que dans la zone. Trois paramètres sont à préférer si ce qu’ils laissent suffit : un écart-type de %2 m, contre %3 m avec sept.</translation>
+        <translation>La zone est trop petite pour distinguer les translations des rotations et de l’échelle (corrélation %1)&#xa0;: prises une à une, les valeurs ne signifient rien, et ne valent que dans la zone. Trois paramètres sont à préférer si ce qu’ils laissent suffit&#xa0;: un écart-type de %2 m, contre %3 m avec sept.</translation>
     </message>
     <message>
         <source>No projection: these values make none.</source>
-        <translation>Pas de projection : ces valeurs n’en donnent aucune.</translation>
+        <translation>Pas de projection&#xa0;: ces valeurs n’en donnent aucune.</translation>
     </message>
     <message>
         <source>Rotations in the position-vector convention (EPSG 9606, PROJ towgs84). Figures published in the coordinate-frame convention (EPSG 9607): type them as they are, then reverse their signs.</source>
-        <translation>Rotations selon la convention « position vector » (EPSG 9606, PROJ towgs84). Valeurs publiées selon la convention « coordinate frame » (EPSG 9607) : les saisir telles quelles, puis inverser leurs signes.</translation>
+        <translation>Rotations selon la convention «&#xa0;position vector&#xa0;» (EPSG 9606, PROJ towgs84). Valeurs publiées selon la convention «&#xa0;coordinate frame&#xa0;» (EPSG 9607)&#xa0;: les saisir telles quelles, puis inverser leurs signes.</translation>
     </message>
     <message>
         <source>Reverse rotation signs</source>
@@ -1143,7 +1143,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Stands in exported definitions; nothing is computed from it.</source>
-        <translation>Figure dans les définitions exportées ; rien n’en est calculé.</translation>
+        <translation>Figure dans les définitions exportées&#xa0;; rien n’en est calculé.</translation>
     </message>
     <message>
         <source>unknown</source>
@@ -1159,7 +1159,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Seven parameters (three: the rest 0)</source>
-        <translation>Sept paramètres (trois : les autres à 0)</translation>
+        <translation>Sept paramètres (trois&#xa0;: les autres à 0)</translation>
     </message>
     <message>
         <source>Estimates the shift from points known on both datums.</source>
@@ -1175,7 +1175,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>This kind of shift is unknown here; it is kept as it is.</source>
-        <translation>Ce type de passage est inconnu ici ; il est conservé tel quel.</translation>
+        <translation>Ce type de passage est inconnu ici&#xa0;; il est conservé tel quel.</translation>
     </message>
     <message>
         <source>The signs of all three rotations are reversed.</source>
@@ -1243,7 +1243,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>The file can&apos;t be written: %1</source>
-        <translation>Le fichier ne peut être écrit : %1</translation>
+        <translation>Le fichier ne peut être écrit&#xa0;: %1</translation>
     </message>
     <message>
         <source>No coordinate system</source>
@@ -1327,7 +1327,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Understood:</source>
-        <translation>Compris :</translation>
+        <translation>Compris&#xa0;:</translation>
     </message>
     <message>
         <source>Geoid model</source>
@@ -1391,7 +1391,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Not an angle. Examples: 7.5, 7 30 00, 7°30&apos;00&quot;.</source>
-        <translation>N’est pas un angle. Exemples : 7.5, 7 30 00, 7°30&apos;00&quot;.</translation>
+        <translation>N’est pas un angle. Exemples&#xa0;: 7.5, 7 30 00, 7°30&apos;00&quot;.</translation>
     </message>
     <message>
         <source>Only the last part may have decimals.</source>
@@ -1459,7 +1459,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Nothing can be computed: the projection module is not installed.</source>
-        <translation>Rien ne peut être calculé : le module de projection n’est pas installé.</translation>
+        <translation>Rien ne peut être calculé&#xa0;: le module de projection n’est pas installé.</translation>
     </message>
     <message>
         <source>These parameters give no projection that can be computed.</source>
@@ -1475,7 +1475,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>The folder of geoid models has &quot;%1&quot; instead.</source>
-        <translation>Le dossier des modèles de géoïde contient « %1 » à la place.</translation>
+        <translation>Le dossier des modèles de géoïde contient «&#xa0;%1&#xa0;» à la place.</translation>
     </message>
     <message>
         <source>Not a file.</source>
@@ -1491,19 +1491,19 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Allowed: 0 (sphere), or more than 1.</source>
-        <translation>Admis : 0 (sphère), ou plus de 1.</translation>
+        <translation>Admis&#xa0;: 0 (sphère), ou plus de 1.</translation>
     </message>
     <message>
         <source>Allowed: between %1 and %2.</source>
-        <translation>Admis : entre %1 et %2.</translation>
+        <translation>Admis&#xa0;: entre %1 et %2.</translation>
     </message>
     <message>
         <source>Allowed: ±%1.</source>
-        <translation>Admis : ±%1.</translation>
+        <translation>Admis&#xa0;: ±%1.</translation>
     </message>
     <message>
         <source>Allowed: %1 to %2.</source>
-        <translation>Admis : %1 à %2.</translation>
+        <translation>Admis&#xa0;: %1 à %2.</translation>
     </message>
     <message>
         <source>A value is needed.</source>
@@ -1515,11 +1515,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Datum shift to WGS 84: none</source>
-        <translation>Changement de datum vers WGS 84 : aucun</translation>
+        <translation>Changement de datum vers WGS 84&#xa0;: aucun</translation>
     </message>
     <message>
         <source>Datum shift to WGS 84: %1</source>
-        <translation>Changement de datum vers WGS 84 : %1</translation>
+        <translation>Changement de datum vers WGS 84&#xa0;: %1</translation>
     </message>
     <message>
         <source>Pasted text, %1</source>
@@ -1547,11 +1547,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Ellipsoid: %1, a %2 m, 1/f %3</source>
-        <translation>Ellipsoïde : %1, a %2 m, 1/f %3</translation>
+        <translation>Ellipsoïde&#xa0;: %1, a %2 m, 1/f %3</translation>
     </message>
     <message>
         <source>Datum: %1</source>
-        <translation>Datum : %1</translation>
+        <translation>Datum&#xa0;: %1</translation>
     </message>
     <message>
         <source>not named</source>
@@ -1559,51 +1559,51 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>No projection: latitudes of the points equal, or the first 0.</source>
-        <translation>Pas de projection : latitudes des points égales, ou la première nulle.</translation>
+        <translation>Pas de projection&#xa0;: latitudes des points égales, ou la première nulle.</translation>
     </message>
     <message>
         <source>No projection: the standard parallels cancel out.</source>
-        <translation>Pas de projection : les parallèles standard s’annulent.</translation>
+        <translation>Pas de projection&#xa0;: les parallèles standard s’annulent.</translation>
     </message>
     <message>
         <source>No projection yet: the system has no ellipsoid.</source>
-        <translation>Pas encore de projection : le système n’a pas d’ellipsoïde.</translation>
+        <translation>Pas encore de projection&#xa0;: le système n’a pas d’ellipsoïde.</translation>
     </message>
     <message>
         <source>No projection yet: choose the method.</source>
-        <translation>Pas encore de projection : choisir la méthode.</translation>
+        <translation>Pas encore de projection&#xa0;: choisir la méthode.</translation>
     </message>
     <message>
         <source>No projection: the method &quot;%1&quot; is unknown.</source>
-        <translation>Pas de projection : la méthode « %1 » est inconnue.</translation>
+        <translation>Pas de projection&#xa0;: la méthode «&#xa0;%1&#xa0;» est inconnue.</translation>
     </message>
     <message>
         <source>No projection: the definition fits none of the methods.</source>
-        <translation>Pas de projection : la définition ne convient à aucune des méthodes.</translation>
+        <translation>Pas de projection&#xa0;: la définition ne convient à aucune des méthodes.</translation>
     </message>
     <message>
         <source>No projection: &quot;%1&quot; is missing or wrong.</source>
-        <translation>Pas de projection : « %1 » manque ou est faux.</translation>
+        <translation>Pas de projection&#xa0;: «&#xa0;%1&#xa0;» manque ou est faux.</translation>
     </message>
     <message>
         <source>No projection: a standard parallel needs the scale factor 1.</source>
-        <translation>Pas de projection : un parallèle standard exige le facteur d’échelle 1.</translation>
+        <translation>Pas de projection&#xa0;: un parallèle standard exige le facteur d’échelle 1.</translation>
     </message>
     <message>
         <source>No projection: the scale factor is missing.</source>
-        <translation>Pas de projection : le facteur d’échelle manque.</translation>
+        <translation>Pas de projection&#xa0;: le facteur d’échelle manque.</translation>
     </message>
     <message>
         <source>Must be 1: the standard parallel sets the scale.</source>
-        <translation>Doit être 1 : le parallèle standard fixe l’échelle.</translation>
+        <translation>Doit être 1&#xa0;: le parallèle standard fixe l’échelle.</translation>
     </message>
     <message>
         <source>Unusual: scale factors lie close to 1.</source>
-        <translation>Inhabituel : les facteurs d’échelle sont proches de 1.</translation>
+        <translation>Inhabituel&#xa0;: les facteurs d’échelle sont proches de 1.</translation>
     </message>
     <message>
         <source>Without effect: the origin is no pole.</source>
-        <translation>Sans effet : l’origine n’est pas un pôle.</translation>
+        <translation>Sans effet&#xa0;: l’origine n’est pas un pôle.</translation>
     </message>
     <message>
         <source>With 0° this is the plain Mercator projection.</source>
@@ -1747,7 +1747,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Does not come back with an import of this form: %1.</source>
-        <translation>Ne revient pas à l’importation de cette forme : %1.</translation>
+        <translation>Ne revient pas à l’importation de cette forme&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Other software may count easting and northing from the natural origin.</source>
@@ -1755,7 +1755,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Position-vector convention (EPSG 9606, PROJ towgs84)</source>
-        <translation>Convention « position vector » (EPSG 9606, PROJ towgs84)</translation>
+        <translation>Convention «&#xa0;position vector&#xa0;» (EPSG 9606, PROJ towgs84)</translation>
     </message>
     <message>
         <source>of an unknown kind</source>
@@ -1763,11 +1763,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>A geographic system: latitude and longitude, without a projection.</source>
-        <translation>Un système géographique : latitude et longitude, sans projection.</translation>
+        <translation>Un système géographique&#xa0;: latitude et longitude, sans projection.</translation>
     </message>
     <message>
         <source>A geocentric system: X, Y and Z, without a projection.</source>
-        <translation>Un système géocentrique : X, Y et Z, sans projection.</translation>
+        <translation>Un système géocentrique&#xa0;: X, Y et Z, sans projection.</translation>
     </message>
     <message>
         <source>A system of heights, without a projection.</source>
@@ -1783,11 +1783,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>None of the methods holds this projection exactly: %1.</source>
-        <translation>Aucune des méthodes ne rend exactement cette projection : %1.</translation>
+        <translation>Aucune des méthodes ne rend exactement cette projection&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The axes do not point east and north, but: %1.</source>
-        <translation>Les axes ne pointent pas vers l’est et le nord, mais : %1.</translation>
+        <translation>Les axes ne pointent pas vers l’est et le nord, mais&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The grid is turned by %1°, not by the azimuth of the line, %2°.</source>
@@ -1807,31 +1807,31 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>A parameter is missing: %1.</source>
-        <translation>Un paramètre manque : %1.</translation>
+        <translation>Un paramètre manque&#xa0;: %1.</translation>
     </message>
     <message>
         <source>A parameter is unknown: %1.</source>
-        <translation>Un paramètre est inconnu : %1.</translation>
+        <translation>Un paramètre est inconnu&#xa0;: %1.</translation>
     </message>
     <message>
         <source>A parameter does not belong to the method: %1.</source>
-        <translation>Un paramètre n’appartient pas à la méthode : %1.</translation>
+        <translation>Un paramètre n’appartient pas à la méthode&#xa0;: %1.</translation>
     </message>
     <message>
         <source>A parameter has two values: %1.</source>
-        <translation>Un paramètre a deux valeurs : %1.</translation>
+        <translation>Un paramètre a deux valeurs&#xa0;: %1.</translation>
     </message>
     <message>
         <source>A value is no number, or out of range: %1.</source>
-        <translation>Une valeur n’est pas un nombre, ou est hors limites : %1.</translation>
+        <translation>Une valeur n’est pas un nombre, ou est hors limites&#xa0;: %1.</translation>
     </message>
     <message>
         <source>A unit is missing, or not what its name says: %1.</source>
-        <translation>Une unité manque, ou n’est pas ce que dit son nom : %1.</translation>
+        <translation>Une unité manque, ou n’est pas ce que dit son nom&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The prime meridian&apos;s longitude is not that of its name: %1.</source>
-        <translation>La longitude du méridien origine n’est pas celle de son nom : %1.</translation>
+        <translation>La longitude du méridien origine n’est pas celle de son nom&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The ellipsoid is unknown, or its axes leave a doubt.</source>
@@ -1839,7 +1839,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Twice, or with a number too many (a decimal comma?): %1.</source>
-        <translation>En double, ou avec un nombre de trop (une virgule décimale ?) : %1.</translation>
+        <translation>En double, ou avec un nombre de trop (une virgule décimale&#xa0;?)&#xa0;: %1.</translation>
     </message>
     <message>
         <source>PROJ makes another projection of these parameters, or none.</source>
@@ -1847,7 +1847,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>The text names a file, which is not read: %1.</source>
-        <translation>Le texte nomme un fichier, qui n’est pas lu : %1.</translation>
+        <translation>Le texte nomme un fichier, qui n’est pas lu&#xa0;: %1.</translation>
     </message>
     <message>
         <source>No WKT, no PROJJSON, no PROJ definition and no code of a registry.</source>
@@ -1855,7 +1855,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Too long, or brackets too deep: up to %1 bytes are read.</source>
-        <translation>Trop long, ou parenthèses trop profondes : %1 octets au plus sont lus.</translation>
+        <translation>Trop long, ou parenthèses trop profondes&#xa0;: %1 octets au plus sont lus.</translation>
     </message>
     <message>
         <source>No registry has the system %1.</source>
@@ -1863,7 +1863,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>PROJ can&apos;t read it: %1</source>
-        <translation>PROJ ne peut le lire : %1</translation>
+        <translation>PROJ ne peut le lire&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 (deprecated)</source>
@@ -1915,11 +1915,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>From the place to where the system has the coordinates; of several points the root mean square</source>
-        <translation>Du lieu à l’endroit où le système a ces coordonnées ; pour plusieurs points, la moyenne quadratique</translation>
+        <translation>Du lieu à l’endroit où le système a ces coordonnées&#xa0;; pour plusieurs points, la moyenne quadratique</translation>
     </message>
     <message>
         <source>What is left of the distances without what all points have in common, as a datum shift: the smaller, the better the system fits</source>
-        <translation>Ce qui reste des distances sans ce que tous les points ont en commun, comme un changement de datum : plus c’est petit, mieux le système convient</translation>
+        <translation>Ce qui reste des distances sans ce que tous les points ont en commun, comme un changement de datum&#xa0;: plus c’est petit, mieux le système convient</translation>
     </message>
     <message>
         <source>Spread</source>
@@ -1986,7 +1986,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>%1: the same to %2 mm over its area</source>
-        <translation>%1 : identique à %2 mm près sur sa zone</translation>
+        <translation>%1&#xa0;: identique à %2 mm près sur sa zone</translation>
     </message>
     <message>
         <source>Also %1</source>
@@ -1998,7 +1998,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>As %1, but: %2</source>
-        <translation>Comme %1, mais : %2</translation>
+        <translation>Comme %1, mais&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 %2 (there %3)</source>
@@ -2018,11 +2018,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Systems found: %1</source>
-        <translation>Systèmes trouvés : %1</translation>
+        <translation>Systèmes trouvés&#xa0;: %1</translation>
     </message>
     <message>
         <source>A place, roughly, and the coordinates that it has in the unknown system; more points narrow it down.</source>
-        <translation>Un lieu approximatif et les coordonnées qu’il a dans le système inconnu ; d’autres points restreignent le choix.</translation>
+        <translation>Un lieu approximatif et les coordonnées qu’il a dans le système inconnu&#xa0;; d’autres points restreignent le choix.</translation>
     </message>
     <message>
         <source>Paste rows</source>
@@ -2038,7 +2038,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Systems found so far: %1</source>
-        <translation>Systèmes trouvés jusqu’ici : %1</translation>
+        <translation>Systèmes trouvés jusqu’ici&#xa0;: %1</translation>
     </message>
     <message>
         <source>No system that is used there can have these coordinates.</source>
@@ -2051,8 +2051,8 @@ E %4 %6  N %5 %6</translation>
     <message numerus="yes">
         <source>No system gives these coordinates within 50 km of the place. The nearest %n:</source>
         <translation>
-            <numerusform>Aucun système ne donne ces coordonnées à moins de 50 km du lieu. Le plus proche (%n) :</numerusform>
-            <numerusform>Aucun système ne donne ces coordonnées à moins de 50 km du lieu. Les %n plus proches :</numerusform>
+            <numerusform>Aucun système ne donne ces coordonnées à moins de 50 km du lieu. Le plus proche (%n)&#xa0;:</numerusform>
+            <numerusform>Aucun système ne donne ces coordonnées à moins de 50 km du lieu. Les %n plus proches&#xa0;:</numerusform>
         </translation>
     </message>
     <message>
@@ -2069,7 +2069,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Nothing to paste: lines of latitude, longitude and two coordinates.</source>
-        <translation>Rien à coller : des lignes de latitude, longitude et deux coordonnées.</translation>
+        <translation>Rien à coller&#xa0;: des lignes de latitude, longitude et deux coordonnées.</translation>
     </message>
     <message>
         <source>First coordinate</source>
@@ -2085,7 +2085,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Point %1, %2: %3</source>
-        <translation>Point %1, %2 : %3</translation>
+        <translation>Point %1, %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>%1, accuracy %2 m</source>
@@ -2109,7 +2109,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Copies this system&apos;s ellipsoid, projection, datum shift and geoid model; name and remark stay.</source>
-        <translation>Copie l’ellipsoïde, la projection, le changement de datum et le modèle de géoïde de ce système ; nom et remarque restent.</translation>
+        <translation>Copie l’ellipsoïde, la projection, le changement de datum et le modèle de géoïde de ce système&#xa0;; nom et remarque restent.</translation>
     </message>
     <message>
         <source>As in the catalogue</source>
@@ -2117,7 +2117,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Of the own catalogue: %1</source>
-        <translation>Du catalogue personnel : %1</translation>
+        <translation>Du catalogue personnel&#xa0;: %1</translation>
     </message>
     <message>
         <source>The file is there already.</source>
@@ -2149,11 +2149,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Saved: %1</source>
-        <translation>Enregistrés : %1</translation>
+        <translation>Enregistrés&#xa0;: %1</translation>
     </message>
     <message>
         <source>Left out: %1</source>
-        <translation>Omis : %1</translation>
+        <translation>Omis&#xa0;: %1</translation>
     </message>
     <message>
         <source>File</source>
@@ -2198,8 +2198,8 @@ E %4 %6  N %5 %6</translation>
     <message numerus="yes">
         <source>There already: %n of %1 files. Overwrite them?</source>
         <translation>
-            <numerusform>Déjà présent : %n fichier sur %1. Le remplacer ?</numerusform>
-            <numerusform>Déjà présents : %n fichiers sur %1. Les remplacer ?</numerusform>
+            <numerusform>Déjà présent&#xa0;: %n fichier sur %1. Le remplacer&#xa0;?</numerusform>
+            <numerusform>Déjà présents&#xa0;: %n fichiers sur %1. Les remplacer&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -2208,7 +2208,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Systems: %1</source>
-        <translation>Systèmes : %1</translation>
+        <translation>Systèmes&#xa0;: %1</translation>
     </message>
     <message>
         <source>Close</source>
@@ -2248,7 +2248,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Points are typed, or pasted as lines: name and three numbers on either datum.</source>
-        <translation>Points à saisir, ou à coller en lignes : nom et trois nombres dans l’un ou l’autre datum.</translation>
+        <translation>Points à saisir, ou à coller en lignes&#xa0;: nom et trois nombres dans l’un ou l’autre datum.</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -2260,11 +2260,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Just enough points: nothing is left over to tell how good the shift is.</source>
-        <translation>Juste assez de points : aucune redondance pour juger de la qualité du passage.</translation>
+        <translation>Juste assez de points&#xa0;: aucune redondance pour juger de la qualité du passage.</translation>
     </message>
     <message>
         <source>Standard deviation of a coordinate: %1 m (redundancy %2).</source>
-        <translation>Écart-type d’une coordonnée : %1 m (redondance %2).</translation>
+        <translation>Écart-type d’une coordonnée&#xa0;: %1 m (redondance %2).</translation>
     </message>
     <message>
         <source>%1 with %2 %3</source>
@@ -2272,11 +2272,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Largest correlations: %1.</source>
-        <translation>Plus fortes corrélations : %1.</translation>
+        <translation>Plus fortes corrélations&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Lines that can&apos;t be used: %1.</source>
-        <translation>Lignes inutilisables : %1.</translation>
+        <translation>Lignes inutilisables&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The projection gives no result here.</source>
@@ -2288,7 +2288,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>The other points speak against this one: check it, or leave it out.</source>
-        <translation>Les autres points contredisent celui-ci : le vérifier, ou l’exclure.</translation>
+        <translation>Les autres points contredisent celui-ci&#xa0;: le vérifier, ou l’exclure.</translation>
     </message>
     <message>
         <source>Easting, m</source>
@@ -2344,15 +2344,15 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Smallest value: %1 %2 at easting %3, northing %4.</source>
-        <translation>Valeur minimale : %1 %2 à Est %3, Nord %4.</translation>
+        <translation>Valeur minimale&#xa0;: %1 %2 à Est %3, Nord %4.</translation>
     </message>
     <message>
         <source>Largest value: %1 %2 at easting %3, northing %4.</source>
-        <translation>Valeur maximale : %1 %2 à Est %3, Nord %4.</translation>
+        <translation>Valeur maximale&#xa0;: %1 %2 à Est %3, Nord %4.</translation>
     </message>
     <message>
         <source>The picture: easting %1 to %2, northing %3 to %4, in %5.</source>
-        <translation>L’image : Est %1 à %2, Nord %3 à %4, en %5.</translation>
+        <translation>L’image&#xa0;: Est %1 à %2, Nord %3 à %4, en %5.</translation>
     </message>
     <message>
         <source>The arrow keys move a mark over it.</source>
@@ -2376,11 +2376,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Points drawn: %1, beyond the tolerance: %2, left out: %3.</source>
-        <translation>Points dessinés : %1, hors tolérance : %2, exclus : %3.</translation>
+        <translation>Points dessinés&#xa0;: %1, hors tolérance&#xa0;: %2, exclus&#xa0;: %3.</translation>
     </message>
     <message>
         <source>Largest difference: %1 %2; differences are drawn %3.</source>
-        <translation>Plus grande différence : %1 %2 ; les différences sont dessinées %3.</translation>
+        <translation>Plus grande différence&#xa0;: %1 %2&#xa0;; les différences sont dessinées %3.</translation>
     </message>
     <message>
         <source>Copy the PROJ definition</source>
@@ -2392,7 +2392,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>This comma could part thousands: use a decimal point.</source>
-        <translation>Cette virgule pourrait séparer les milliers : utiliser un point décimal.</translation>
+        <translation>Cette virgule pourrait séparer les milliers&#xa0;: utiliser un point décimal.</translation>
     </message>
 </context>
 <context>
@@ -2431,11 +2431,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>are you sure delete coord system group %1 ?</source>
-        <translation>Supprimer vraiment le groupe %1 ?</translation>
+        <translation>Supprimer vraiment le groupe %1&#xa0;?</translation>
     </message>
     <message>
         <source>are you sure delete coord system %1 ?</source>
-        <translation>Supprimer vraiment le système de coordonnées %1 ?</translation>
+        <translation>Supprimer vraiment le système de coordonnées %1&#xa0;?</translation>
     </message>
     <message>
         <source>Selecte WKT file</source>
@@ -2443,15 +2443,15 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Import file failed!</source>
-        <translation>Échec de l’importation du fichier !</translation>
+        <translation>Échec de l’importation du fichier&#xa0;!</translation>
     </message>
     <message>
         <source>Import file isn&apos;t projection coordinates!</source>
-        <translation>Le fichier importé ne contient pas de système de coordonnées projeté !</translation>
+        <translation>Le fichier importé ne contient pas de système de coordonnées projeté&#xa0;!</translation>
     </message>
     <message>
         <source>The Imported projection coordinates already exist in the group!</source>
-        <translation>Le système de coordonnées projeté importé existe déjà dans le groupe !</translation>
+        <translation>Le système de coordonnées projeté importé existe déjà dans le groupe&#xa0;!</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -2470,15 +2470,15 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>please input valid content!</source>
-        <translation>Saisir un nom valable !</translation>
+        <translation>Saisir un nom valable&#xa0;!</translation>
     </message>
     <message>
         <source>has same as coord group name!</source>
-        <translation>Un groupe porte déjà ce nom !</translation>
+        <translation>Un groupe porte déjà ce nom&#xa0;!</translation>
     </message>
     <message>
         <source>has same as coord system name!</source>
-        <translation>Un système porte déjà ce nom !</translation>
+        <translation>Un système porte déjà ce nom&#xa0;!</translation>
     </message>
     <message>
         <source>information</source>
@@ -2508,7 +2508,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Do you want to exit program?</source>
-        <translation>Quitter le programme ?</translation>
+        <translation>Quitter le programme&#xa0;?</translation>
     </message>
     <message>
         <source>Add</source>
@@ -2524,19 +2524,19 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>please input correct param!</source>
-        <translation>Saisir des paramètres valables !</translation>
+        <translation>Saisir des paramètres valables&#xa0;!</translation>
     </message>
     <message>
         <source>Are you sure you want to delete ellipsoid [%1]?</source>
-        <translation>Supprimer vraiment l’ellipsoïde [%1] ?</translation>
+        <translation>Supprimer vraiment l’ellipsoïde [%1]&#xa0;?</translation>
     </message>
     <message>
         <source>has same name as system, whether cover?</source>
-        <translation>Un ellipsoïde personnel porte déjà ce nom. Le remplacer ?</translation>
+        <translation>Un ellipsoïde personnel porte déjà ce nom. Le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>new add ellipsoid name can&apos;t same as system!</source>
-        <translation>Un ellipsoïde fourni porte déjà ce nom !</translation>
+        <translation>Un ellipsoïde fourni porte déjà ce nom&#xa0;!</translation>
     </message>
     <message>
         <source>Edit Ellipsoid</source>
@@ -2556,15 +2556,15 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Are you sure you want to delete geoid [%1]?</source>
-        <translation>Supprimer vraiment le modèle de géoïde [%1] ?</translation>
+        <translation>Supprimer vraiment le modèle de géoïde [%1]&#xa0;?</translation>
     </message>
     <message>
         <source>has same file name, whether or not covered?</source>
-        <translation>Un modèle de géoïde personnel porte déjà ce nom. Le remplacer ?</translation>
+        <translation>Un modèle de géoïde personnel porte déjà ce nom. Le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>new geoid name can&apos;t same with system name!</source>
-        <translation>Un modèle de géoïde fourni porte déjà ce nom !</translation>
+        <translation>Un modèle de géoïde fourni porte déjà ce nom&#xa0;!</translation>
     </message>
     <message>
         <source>New Geoid</source>
@@ -2619,7 +2619,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Data is changed!</source>
-        <translation>Enregistrer les modifications ?</translation>
+        <translation>Enregistrer les modifications&#xa0;?</translation>
     </message>
     <message>
         <source>Coordinate System Manager</source>

@@ -1,0 +1,76 @@
+// What a person waits for in the tool's window: its classes, its data and the real projection module, in a home folder of
+// its own. Prints milliseconds.
+//   bench_speed_window clicks           a click on a system while each tab is shown, every tab open; a median for each tab
+//   bench_speed_window tab TITLE        the first click on a tab
+//   bench_speed_window registry         the registry's list until it is shown, and the slowest letter typed into its search
+//   bench_speed_window import FILES...  all but the first, which warms the libraries up
+
+#include "WindowDriver.h"
+
+#include "platform/desktop/Applicationx.h"
+
+#include <QTemporaryDir>
+#include <QVector>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+double median(QVector<double> values) {
+    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
+    return values[values.size() / 2];
+}
+
+void clicks() {
+    WindowDriver tool;
+    for (int tab = 0; tab < tool.tabCount(); ++tab)
+        tool.showTab(tab);
+    for (int tab = 0; tab < tool.tabCount(); ++tab) {
+        tool.showTab(tab);
+        QVector<double> times;
+        for (int i = 0; i < 15; ++i)
+            times.append(tool.selectSystem());
+        std::printf("%.3f ", median(times));
+    }
+    std::printf("\n");
+}
+
+void registry() {
+    WindowDriver tool;
+    tool.showTab("Definition");
+    const WindowDriver::Registry measured = tool.searchRegistry("utm zone 32 europe");
+    std::printf("%.3f %.3f\n", measured.opened, *std::max_element(measured.keys.begin(), measured.keys.end()));
+}
+
+int import(QStringList files) {
+    WindowDriver tool;
+    if (files.isEmpty() || tool.import({files.takeFirst()}) < 0.0)
+        return 1;
+    const double elapsed = tool.import(files);
+    std::printf("%.3f\n", elapsed);
+    return elapsed < 0.0 ? 1 : 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir home;
+    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
+        qputenv(name, home.path().toLocal8Bit());
+    const Applicationx application(argc, argv, "speed", "speed");
+    QStringList arguments = QCoreApplication::arguments().mid(1);
+    const QString what = arguments.isEmpty() ? QString() : arguments.takeFirst();
+    if (what == "clicks")
+        clicks();
+    else if (what == "tab")
+        std::printf("%.3f\n", WindowDriver().showTab(arguments.value(0)));
+    else if (what == "registry")
+        registry();
+    else if (what == "import")
+        return import(arguments);
+    else
+        return 2;
+    return 0;
+}
