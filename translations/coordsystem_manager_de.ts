@@ -460,7 +460,7 @@ in anderen Richtungen bis zu %2&quot; Abweichung</translation>
     </message>
     <message>
         <source>No datum shift is defined by %1: it counts as on WGS 84.</source>
-        <translation>%1 definiert keinen Datumsübergang: es gilt als in WGS 84.</translation>
+        <translation>%1 hat keinen Datumsübergang: es gilt als in WGS 84.</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -598,7 +598,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>(not used)</source>
-        <translation>(nicht verwendet)</translation>
+        <translation>(ungenutzt)</translation>
     </message>
     <message>
         <source>Decimal comma</source>
@@ -2403,7 +2403,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>AddSysGroup</source>
-        <translation>Gruppe hinzufügen</translation>
+        <translation>Neue Gruppe</translation>
     </message>
     <message>
         <source>ImportCoordSys</source>
@@ -2411,11 +2411,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>AddCoordSys</source>
-        <translation>System hinzufügen</translation>
+        <translation>Neues System</translation>
     </message>
     <message>
         <source>EditSysGroup</source>
-        <translation>Gruppe umbenennen</translation>
+        <translation>Umbenennen</translation>
     </message>
     <message>
         <source>DelSysGroup</source>
@@ -2423,7 +2423,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>EditSys</source>
-        <translation>System umbenennen</translation>
+        <translation>Umbenennen</translation>
     </message>
     <message>
         <source>DelSys</source>

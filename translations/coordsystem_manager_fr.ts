@@ -460,7 +460,7 @@ dans d’autres directions, écart jusqu’à %2&quot;</translation>
     </message>
     <message>
         <source>No datum shift is defined by %1: it counts as on WGS 84.</source>
-        <translation>%1 ne définit aucun changement de datum&#xa0;: il compte comme en WGS 84.</translation>
+        <translation>%1, sans changement de datum, compte comme en WGS 84.</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -2308,7 +2308,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>WGS 84 latitude</source>
-        <translation>Latitude WGS 84</translation>
+        <translation>Lat. WGS 84</translation>
     </message>
     <message>
         <source>WGS 84 Y, m</source>
@@ -2316,7 +2316,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>WGS 84 longitude</source>
-        <translation>Longitude WGS 84</translation>
+        <translation>Long. WGS 84</translation>
     </message>
     <message>
         <source>WGS 84 Z, m</source>
@@ -2340,7 +2340,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Up, mm</source>
-        <translation>Hauteur, mm</translation>
+        <translation>Haut, mm</translation>
     </message>
     <message>
         <source>Smallest value: %1 %2 at easting %3, northing %4.</source>
@@ -2403,7 +2403,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>AddSysGroup</source>
-        <translation>Ajouter un groupe</translation>
+        <translation>Nouveau groupe</translation>
     </message>
     <message>
         <source>ImportCoordSys</source>
@@ -2411,11 +2411,11 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>AddCoordSys</source>
-        <translation>Ajouter un système</translation>
+        <translation>Nouveau système</translation>
     </message>
     <message>
         <source>EditSysGroup</source>
-        <translation>Renommer le groupe</translation>
+        <translation>Renommer</translation>
     </message>
     <message>
         <source>DelSysGroup</source>
@@ -2423,7 +2423,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>EditSys</source>
-        <translation>Renommer le système</translation>
+        <translation>Renommer</translation>
     </message>
     <message>
         <source>DelSys</source>
