@@ -61,6 +61,7 @@ void DefinitionTab::build() {
     copyDefinitionButton = new CopyButton(PanelText::tr("Copy"), PanelText::tr("Copy the PROJ definition"));
     dialectBox = new ChoiceBox;
     dialectBox->setAccessibleName(PanelText::tr("WKT dialect"));
+    dialectBox->setAccessibleDescription(dialectBox->accessibleName()); // a box without a label is called by its entry
     dialectBox->addItem(PanelText::tr("WKT 1 (GDAL)"), int(WktDialect::Wkt1Gdal));
     dialectBox->addItem(PanelText::tr("WKT 1 (ESRI)"), int(WktDialect::Wkt1Esri));
     dialectBox->addItem(PanelText::tr("WKT 2:2019"), int(WktDialect::Wkt2_2019));

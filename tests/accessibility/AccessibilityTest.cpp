@@ -55,9 +55,11 @@ private Q_SLOTS:
             for (const QString& each : qAsConst(found))
                 broken << page + ": " + each;
         });
-        QCOMPARE(pages, 26);
         broken.removeDuplicates();
-        QVERIFY2(broken.isEmpty(), qPrintable(QString("%1:\n").arg(broken.size()) + broken.join('\n')));
+        for (const QString& each : qAsConst(broken))
+            qWarning("%s", qPrintable(each));
+        QVERIFY(broken.isEmpty());
+        QCOMPARE(pages, 28);
     }
 
     /// No figure depends on the language.

@@ -26,7 +26,10 @@ inline double contrast(const QColor& one, const QColor& other) {
 /// How often each colour is seen.
 inline QHash<QRgb, int> colours(const QImage& picture, const QRect& part) {
     QHash<QRgb, int> seen;
-    const QRect inside = part & picture.rect();
+    const double scale = picture.devicePixelRatio();
+    const QRect inside =
+        QRectF(part.x() * scale, part.y() * scale, part.width() * scale, part.height() * scale).toAlignedRect() &
+        picture.rect();
     for (int y = inside.top(); y <= inside.bottom(); ++y) {
         for (int x = inside.left(); x <= inside.right(); ++x)
             ++seen[picture.pixel(x, y)];
@@ -95,7 +98,9 @@ inline QStringList faint(QWidget& root, const QImage& picture) {
             for (int column = 0; column < view->model()->columnCount(); ++column) {
                 const QModelIndex cell = view->model()->index(row, column);
                 const QRect part = view->visualRect(cell) & view->viewport()->rect();
-                if (!cell.data().toString().isEmpty() && part.height() > 10)
+                // What is selected has the desktop's own colours.
+                const bool isSelected = view->selectionModel()->isSelected(cell);
+                if (!cell.data().toString().isEmpty() && part.height() > 10 && !isSelected)
                     look(placeOf(view->viewport(), root, part.adjusted(2, 2, -2, -2)),
                          QString("cell %1, %2 of %3").arg(row).arg(column).arg(PageRules::called(view)));
             }
@@ -125,8 +130,10 @@ inline QStringList lost(QWidget& root, const QImage& picture) {
         if (plot->inherits("PointsPlot"))
             marks = {Colours::sound, Colours::beyond, Colours::leftOut, Qt::black};
         // What covers some of the canvas is no line.
-        int least = canvas->width() * canvas->height() / 200;
+        const int least = canvas->width() * canvas->height() / 200;
         for (auto colour = seen.begin(); colour != seen.end(); ++colour) {
+            if (marks.contains(QColor(colour.key())))
+                continue;
             for (const QColor& mark : marks) {
                 if (*colour > least && contrast(colour.key(), mark) < enough)
                     found << QString("%1 on %2 has a contrast of %3")

@@ -12,6 +12,15 @@ inline QString nameOf(QWidget* widget) {
     return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
 }
 
+/// On Unix Qt gives the chosen entry for a list's name; what it is for stands in its label or its description.
+inline QString labelOf(QWidget* widget) {
+    const auto* const seen = QAccessible::queryAccessibleInterface(widget);
+    if (!widget->inherits("QComboBox"))
+        return nameOf(widget);
+    const auto labels = seen->relations(QAccessible::Label);
+    return labels.isEmpty() ? seen->text(QAccessible::Description) : labels.first().first->text(QAccessible::Name);
+}
+
 inline QString called(QWidget* widget) {
     const QString name = nameOf(widget);
     const QString type = widget->metaObject()->className();
@@ -27,6 +36,16 @@ template <typename Widget> QList<Widget*> visible(const QWidget& root) {
     return all;
 }
 
+inline bool isPartOf(const QObject* object, std::initializer_list<const char*> types) {
+    for (const QObject* parent = object ? object->parent() : nullptr; parent; parent = parent->parent()) {
+        for (const char* type : types) {
+            if (parent->inherits(type))
+                return true;
+        }
+    }
+    return false;
+}
+
 /// What a screen reader finds that does something, or shows a picture, and has no name.
 inline QStringList nameless(QAccessibleInterface* seen) {
     static const QSet<int> named = {QAccessible::EditableText, QAccessible::ComboBox,    QAccessible::Button,
@@ -37,10 +56,12 @@ inline QStringList nameless(QAccessibleInterface* seen) {
     QStringList found;
     if (!seen || seen->state().invisible)
         return found;
-    if (named.contains(seen->role()) && seen->text(QAccessible::Name).isEmpty()) {
+    auto* const widget = qobject_cast<QWidget*>(seen->object());
+    if (named.contains(seen->role()) && (widget ? labelOf(widget) : seen->text(QAccessible::Name)).isEmpty()) {
         const QObject* const object = seen->object();
         // A frame that is nothing but one, or a part of what has a name.
-        const bool isPart = !object || object->inherits("QFrame") ? seen->role() == QAccessible::Border : false;
+        const bool isPart = (object && object->inherits("QFrame") && seen->role() == QAccessible::Border) ||
+                            isPartOf(object, {"QComboBox", "QAbstractSpinBox", "QLineEdit", "QMessageBox"});
         if (!isPart)
             found << QString("nameless %1 %2 in %3")
                          .arg(QMetaEnum::fromType<QAccessible::Role>().valueToKey(seen->role()),
@@ -152,7 +173,8 @@ inline QStringList unreachable(const QWidget& root) {
             acts = acts || widget->inherits(type);
         const auto* const view = qobject_cast<QAbstractItemView*>(widget);
         const bool isPicture = view && view->selectionMode() == QAbstractItemView::NoSelection;
-        if (acts && !isPart && !isPicture && widget->isEnabled() && !isStop(widget))
+        const bool hasKey = widget->window()->inherits("QProgressDialog"); // Escape cancels
+        if (acts && !hasKey && !isPart && !isPicture && widget->isEnabled() && !isStop(widget))
             found << called(widget) + " is not reached by Tab";
     }
     return found;
@@ -162,13 +184,13 @@ inline QStringList unreachable(const QWidget& root) {
 inline QStringList ambiguous(QWidget& root) {
     QList<QWidget*> stops;
     appendInReadingOrder(&root, stops);
-    QMap<QString, int> names;
+    QMap<QPair<int, QString>, int> names;
     for (QWidget* widget : qAsConst(stops))
-        ++names[nameOf(widget)];
+        ++names[qMakePair(int(QAccessible::queryAccessibleInterface(widget)->role()), labelOf(widget))];
     QStringList found;
     for (auto name = names.begin(); name != names.end(); ++name) {
         if (*name > 1)
-            found << QString("%1 things are named \"%2\"").arg(*name).arg(name.key());
+            found << QString("%1 things are named \"%2\"").arg(*name).arg(name.key().second);
     }
     return found;
 }
@@ -190,7 +212,7 @@ inline QStringList loose(const QWidget& root) {
         }
         const bool isField = nearest && (nearest->inherits("QLineEdit") || nearest->inherits("QComboBox") ||
                                          nearest->inherits("QAbstractSpinBox") || nearest->inherits("ResultLabel"));
-        if (isField && nameOf(nearest).section(':', 0, 0) != label->text().remove(':'))
+        if (isField && !labelOf(nearest).startsWith(label->text().remove(':')))
             found << "label \"" + label->text() + "\" is no buddy of " + called(nearest);
     }
     return found;

@@ -114,7 +114,10 @@ private:
             look(page, *opened);
             isSeen = true;
             act(opened);
-            opened->done(QDialog::Rejected);
+            if (opened->isVisible())
+                opened->reject();
+            if (opened->isVisible())
+                opened->done(QDialog::Rejected); // a question answers nothing else
         });
         open();
         QVERIFY2(isSeen, qPrintable(page));

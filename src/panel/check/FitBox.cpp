@@ -98,7 +98,9 @@ FitBox::FitBox(bool readOnly, QWidget* parent)
     buildRow(grid, North, PanelText::tr("False northing"));
     values[Line].box->setChecked(false);
     constexpr int row = ValueCount + 1;
-    grid->addWidget(new QLabel(PanelText::tr("RMS, largest")), row, 0);
+    auto* misfitLabel = new QLabel(PanelText::tr("RMS, largest"));
+    misfitLabel->setBuddy(misfitBefore);
+    grid->addWidget(misfitLabel, row, 0);
     grid->addWidget(misfitBefore, row, 1, Qt::AlignRight);
     grid->addWidget(misfitAfter, row, 2);
     misfitAfter->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);

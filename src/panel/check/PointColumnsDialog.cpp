@@ -117,6 +117,7 @@ void PointColumnsDialog::showLines() {
         fillWithColumns(box);
         box->setCurrentIndex(box->findData(int(chosen.columns[std::size_t(column)])));
         box->setAccessibleName(PanelText::tr("Column %1").arg(column + 1));
+        box->setAccessibleDescription(box->accessibleName()); // a box without a label is called by its entry
         table->setCellWidget(0, column, box);
         columnBoxes.append(box);
         for (int i = 0; i < int(lines.size()); ++i) {
@@ -132,6 +133,12 @@ void PointColumnsDialog::showLines() {
                               std::min(220, std::max(columnBoxes[column]->sizeHint().width(),
                                                      table->fontMetrics().horizontalAdvance("-1234567.1234") + 16)));
     table->resizeRowToContents(0);
+    // They are made after what stands below them.
+    QWidget* before = headingBox;
+    for (ChoiceBox* box : qAsConst(columnBoxes)) {
+        setTabOrder(before, box);
+        before = box;
+    }
     check();
 }
 

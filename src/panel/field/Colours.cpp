@@ -12,7 +12,7 @@ QColor chosen(const QPalette& palette, QRgb onLight, QRgb onDark) {
 } // namespace
 
 QColor Colours::error(const QPalette& palette) {
-    return chosen(palette, 0xb00020, 0xff8a80);
+    return chosen(palette, 0xb00020, 0xffa79f);
 }
 
 QColor Colours::warning(const QPalette& palette) {
