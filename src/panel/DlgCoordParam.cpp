@@ -10,6 +10,7 @@
 #include "panel/ProjectionTab.h"
 #include "panel/field/ScreenReader.h"
 #include "panel/field/SystemNameLine.h"
+#include "platform/projection/IProjectionModule.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -24,7 +25,8 @@
 
 namespace {
 
-/// What the tab widget turns to. Its tab is built before the page is shown, so that it is never seen without its fields.
+/// What the tab widget turns to. Its tab is built before the page is shown, so that it is never seen without its
+/// fields.
 class Page : public QWidget {
 public:
     explicit Page(ParamTab* tab) : tab(tab) {}
@@ -55,6 +57,7 @@ DlgCoordParam::DlgCoordParam(ICoordSystem* coordSystem, QWidget* parent, bool re
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(_onFocusChanged(QWidget*, QWidget*)));
     _onPageChanged();
     showHeader();
+    tabBar()->installEventFilter(this);
 }
 
 DlgCoordParam::~DlgCoordParam() {
@@ -153,6 +156,13 @@ void DlgCoordParam::changeEvent(QEvent* event) {
     QTabWidget::changeEvent(event);
     if (event->type() == QEvent::EnabledChange)
         showHeader();
+}
+
+bool DlgCoordParam::eventFilter(QObject* object, QEvent* event) {
+    // Who reaches for the tabs may turn to one that computes.
+    if (object == tabBar() && (event->type() == QEvent::Enter || event->type() == QEvent::FocusIn))
+        prepareProjectionModule();
+    return QTabWidget::eventFilter(object, event);
 }
 
 void DlgCoordParam::_onRecordEdited() {

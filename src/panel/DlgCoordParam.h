@@ -36,6 +36,7 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
 
 private Q_SLOTS:
     void _onRecordEdited();

@@ -3,7 +3,7 @@
 import os
 
 import tool
-from desktop import press, visible_windows, wait_for
+from desktop import hands, press, visible_windows, wait_for
 
 CATALOGUE = "CoordinateSystem_custom.vcs"
 
@@ -32,8 +32,15 @@ class StartUp(tool.ToolTest):
         self.tool.start()
         libraries = self.tool.mapped_libraries()
         self.assertTrue(any(name.startswith("libQt5Widgets") for name in libraries))
-        heavy = [name for name in libraries if name.startswith(("libgdal", "libproj"))]
+        heavy = [name for name in libraries if name.startswith(("libgdal", "libproj", "libGLX_mesa", "libLLVM"))]
         self.assertEqual(heavy, [])
+
+    def test_who_reaches_for_the_tabs_has_the_projection_module_mapped(self):
+        self.tool.start()
+        x, y, width, height = self.tool.main.find("page tab", "Check").place
+        hands("mousemove", x + width // 2, y + height // 2)
+        wait_for(lambda: "libvorn_projection.so" in self.tool.mapped_libraries(), "the module to be mapped")
+        self.assertEqual(self.tool.exit(), 0)
 
     def test_an_edit_is_saved_and_found_again(self):
         self.tool.start()

@@ -19,8 +19,8 @@ static void initResources() {
 
 namespace {
 
-// Nothing of the tool is drawn with OpenGL, but under X11 Qt has its driver loaded for every program's first window,
-// which takes longer than all the rest of the start and more memory than the whole tool.
+// Nothing of the tool is drawn with OpenGL, but under X11 Qt loads its driver for every program's first window: with
+// Mesa's, an empty window's start takes six times the instructions that it takes without, and 11 MiB more.
 void startWithoutOpenGl() {
     constexpr const char* setting = "QT_XCB_GL_INTEGRATION";
     if (!qEnvironmentVariableIsSet(setting))

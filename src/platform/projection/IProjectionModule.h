@@ -55,3 +55,7 @@ public:
 
 /// The module, loaded from "$(APP_DIR)/../lib" by the first call; null when it can't be loaded.
 IProjectionModule* projectionModule();
+
+/// The user may be about to need the module: has it mapped in another thread, so that nobody waits for that later. Not
+/// at the start already: who never computes does not pay for it. To be called by the thread of the windows.
+void prepareProjectionModule();

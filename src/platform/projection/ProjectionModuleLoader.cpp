@@ -2,16 +2,20 @@
 #include "platform/projection/IProjectionModule.h"
 
 #include <QLibrary>
+#include <QThreadPool>
 
 namespace {
 
-// The library stays loaded until the process ends: handles and texts that it gave out stay valid.
-IProjectionModule* load() {
+QString modulePath() {
     char path[4096];
     process_resolve_path(path, sizeof path, "$(APP_DIR)/../lib/vorn_projection");
+    return QString::fromLocal8Bit(path);
+}
+
+// The library stays loaded until the process ends: handles and texts that it gave out stay valid.
+IProjectionModule* load() {
     using Entry = IProjectionModule* (*)();
-    const auto entry =
-        reinterpret_cast<Entry>(QLibrary::resolve(QString::fromLocal8Bit(path), "vorn_projection_module"));
+    const auto entry = reinterpret_cast<Entry>(QLibrary::resolve(modulePath(), "vorn_projection_module"));
     return entry ? entry() : nullptr;
 }
 
@@ -20,4 +24,11 @@ IProjectionModule* load() {
 IProjectionModule* projectionModule() {
     static IProjectionModule* const module = load();
     return module;
+}
+
+void prepareProjectionModule() {
+    static bool isPrepared = false;
+    if (!isPrepared)
+        QThreadPool::globalInstance()->start([path = modulePath()] { QLibrary(path).load(); });
+    isPrepared = true;
 }
