@@ -10,6 +10,7 @@ so do pictures that no document shows, and documents that show others.
 """
 
 import argparse
+import functools
 import glob
 import os
 import re
@@ -42,32 +43,43 @@ RD_POINTS = ("Texel 117380.1200 575040.3400 1.0 53.160753042 4.824761912 42.8614
              "Zuid-Limburg 182260.4500 311480.6700 200.0 50.792584916 5.773795548 245.9478")
 
 
-def parts(widget):
-    """A widget and what can be read of it, in the screen reader's order: not the tree, nor what a drop-down list holds."""
-    yield widget
-    for child in widget.children():
-        if widget.kind == "combo box":
-            if child.kind == "text":
-                yield child
-        elif child.showing and child.kind != "tree":
-            yield from parts(child)
+class Sight:
+    """What a person sees in a window at one moment: not the tree, nor what a drop-down list holds."""
 
+    def __init__(self, window):
+        self.lines = set()  # of text, wherever they stand
+        self.fields = {}  # what is written in each, by its label
+        self.pressable = set()
+        self.ticked = set()
+        self._look_at(window)
 
-def written(widget):
-    """What is written in a field; empty for what is none."""
-    try:
-        return widget.text
-    except GLib.Error:
-        return ""
+    def _look_at(self, widget):
+        kind, name = widget.kind, widget.name
+        texts = [name]
+        if kind in ("text", "label", "spin button"):
+            texts.append(self._written(widget))
+        if kind in ("text", "spin button"):
+            self.fields[name] = texts[-1]
+        elif kind == "push button" and widget.enabled:
+            self.pressable.add(name)
+        elif kind == "check box" and widget.accessible.get_state_set().contains(Atspi.StateType.CHECKED):
+            self.ticked.add(name)
+        if kind in ("label", "frame", "image"):
+            texts.append(widget.accessible.get_description())
+        for text in texts:
+            self.lines.update(line.strip() for line in (text or "").split("\n"))
+        if kind in ("table cell", "label", "push button", "page tab"):
+            return
+        for child in widget.children():
+            if child.kind == "text" or kind != "combo box" and child.kind != "tree" and child.showing:
+                self._look_at(child)
 
-
-def lines_of(widget):
-    """Every line of text that a person reads there."""
-    found = set()
-    for part in parts(widget):
-        for text in (part.name, written(part), part.accessible.get_description()):
-            found.update(line.strip() for line in (text or "").split("\n"))
-    return found
+    @staticmethod
+    def _written(widget):
+        try:
+            return widget.text
+        except GLib.Error:
+            return ""  # a label that is no more than its name
 
 
 class Photographer:
@@ -77,48 +89,27 @@ class Photographer:
         self.folder = folder
         self.taken = []
 
-    # What a picture must show
-
-    def sees(self, *texts, window=None):
-        """Each of the texts is a whole line somewhere in the window, the main one if none is given."""
+    def sees(self, *lines, fields=None, pressable=(), ticked=(), window=None):
+        """Waits until all of that is to be seen in the window, the main one if none is given: whole lines of text
+        anywhere, fields by their labels with what is written in them, buttons that can be pressed, ticked boxes."""
         window = window or self.tool.main
-        missing = list(texts)
+        missing = []
 
-        def all_seen():
-            lines = lines_of(window)
-            missing[:] = [text for text in texts if text not in lines]
+        def is_seen():
+            sight = Sight(window)
+            missing[:] = [repr(line) for line in lines if line not in sight.lines]
+            missing.extend(f"{text!r} in {name!r}, which holds {sight.fields.get(name)!r}"
+                           for name, text in (fields or {}).items() if sight.fields.get(name) != text)
+            missing.extend(f"the button {name!r}" for name in pressable if name not in sight.pressable)
+            missing.extend(f"a tick at {name!r}" for name in ticked if name not in sight.ticked)
             return not missing
 
-        wait_for(all_seen, lambda: "to see " + ", ".join(map(repr, missing)))
-
-    def holds(self, fields, window=None):
-        """Each field holds that text."""
-        window = window or self.tool.main
-        wrong = {}
-
-        def all_hold():
-            texts = {part.name: written(part) for part in parts(window) if part.kind in ("text", "spin button")}
-            wrong.update({name: texts.get(name) for name in fields})
-            return all(texts.get(name) == text for name, text in fields.items())
-
-        wait_for(all_hold, lambda: f"the fields to hold {fields}, not {wrong}")
-
-    def offers(self, *buttons, window=None):
-        """Each of the buttons is there and can be pressed."""
-        for name in buttons:
-            button = (window or self.tool.main).find("push button", name)
-            wait_for(lambda shown=button: shown.enabled, f"{name!r} to be enabled")
+        wait_for(is_seen, lambda: ", ".join(missing))
 
     def has_rows(self, table, count):
         """The table has that many rows, those that must be scrolled to included."""
-        rows = lambda: Atspi.Table.get_n_rows(table.accessible)  # noqa: E731
+        rows = functools.partial(Atspi.Table.get_n_rows, table.accessible)
         wait_for(lambda: rows() == count, lambda: f"{count} rows in {table.name!r}, which has {rows()}")
-
-    def ticked(self, window, *names):
-        for name in names:
-            box = window.find("check box", name)
-            wait_for(lambda shown=box: shown.accessible.get_state_set().contains(Atspi.StateType.CHECKED),
-                     f"{name!r} to be ticked")
 
     # Pictures
 
@@ -152,19 +143,18 @@ class Photographer:
         self.tool.scroll_to(GRID)
         self.tool.item(GRID).click()
         self.tool.tab("Projection")
-        self.sees(GRID, "Method", "Transverse Mercator", "Show angles in", "Decimal degrees", "Add", "Save", "Exit",
-                  "Back to the values before", *TABS)
-        self.holds({"Latitude of origin": "49", "Central meridian": "-2", "Scale factor": "0.9996012717",
-                    "False easting": "400000", "False northing": "-100000"})
-        self.offers("Add", "Exit")
+        self.sees(GRID, "Method", "Transverse Mercator", "Show angles in", "Decimal degrees", "Save",
+                  "Back to the values before", *TABS,
+                  fields={"Latitude of origin": "49", "Central meridian": "-2", "Scale factor": "0.9996012717",
+                          "False easting": "400000", "False northing": "-100000"}, pressable=("Add", "Exit"))
         assert self.tool.item(GRID).selected and not self.tool.save_enabled
         self.take("window")
 
     def ellipsoid(self):
         self.tool.tab("Ellipsoid")
-        self.sees(GRID, "Ellipsoid", "Airy 1830")
-        self.holds({"Semi-major axis a": "6377563.396", "Inverse flattening 1/f": "299.3249646",
-                    "Semi-minor axis b": "6356256.909237", "Eccentricity e": "0.081673373874"})
+        self.sees(GRID, "Ellipsoid", "Airy 1830",
+                  fields={"Semi-major axis a": "6377563.396", "Inverse flattening 1/f": "299.3249646",
+                          "Semi-minor axis b": "6356256.909237", "Eccentricity e": "0.081673373874"})
         self.take("ellipsoid")
 
     def height(self):
@@ -173,14 +163,14 @@ class Photographer:
         self.take("height")
 
     def definition(self):
-        panel = self.tool.tab("Definition")
+        self.tool.tab("Definition")
         self.sees("EPSG:27700, OSGB36 / British National Grid: the same to 0.01 mm over its area", "WKT 1 (ESRI)",
-                  "With identifier", "Save as .prj", "Save group...", "From registry...", "From text...", "Copy",
-                  'PROJCS["OSGB36 / British National Grid",', 'SPHEROID["Airy_1830",6377563.396,299.3249646]],')
-        self.holds({"PROJ definition": "+proj=tmerc +lat_0=49 +lon_0=-2 +k_0=0.9996012717 +x_0=400000 +y_0=-100000 "
-                                       "+a=6377563.396 +rf=299.3249646 +units=m +no_defs", "Remark": ""})
-        assert written(panel.find("text", "Where from")).startswith("EPSG:27700, EPSG v")
-        self.offers("Save as .prj", "Save group...", "From registry...", "From text...")
+                  "With identifier", 'PROJCS["OSGB36 / British National Grid",',
+                  'SPHEROID["Airy_1830",6377563.396,299.3249646]],',
+                  fields={"PROJ definition": "+proj=tmerc +lat_0=49 +lon_0=-2 +k_0=0.9996012717 +x_0=400000 +y_0=-100000 "
+                                             "+a=6377563.396 +rf=299.3249646 +units=m +no_defs",
+                          "Where from": "EPSG:27700, EPSG v10.076", "Remark": ""},
+                  pressable=("Copy", "Save as .prj", "Save group...", "From registry...", "From text..."))
         self.take("definition")
 
     def check_point(self):
@@ -188,21 +178,19 @@ class Photographer:
         panel = self.tool.tab("Check")
         panel.find("text", "Latitude").fill("52 39 27.2531")
         panel.find("text", "Longitude").fill("1 43 4.5177")
-        self.holds({"Easting": "651409.9029", "Northing": "313177.2703", "Ellipsoidal height": "0.0000"})
         self.sees("The system's own", "Grid scale factor", "1.0003773154  (377.32 ppm)", "Convergence", "2.9573767°",
                   "Combined factor", "unknown: the system defines no datum shift",
-                  "The registry's shifts move this point by 129 to 134 m.", "Closing error", "0.000 mm", "Copy as text",
-                  "Point", "Distortion", "Points", "Compare")
+                  "The registry's shifts move this point by 129 to 134 m.", "Closing error", "0.000 mm", "Point", "Distortion",
+                  "Points", "Compare", pressable=("Copy as text",),
+                  fields={"Easting": "651409.9029", "Northing": "313177.2703", "Ellipsoidal height": "0.0000"})
         self.take("check-point")
 
     def check_distortion(self):
         panel = self.tool.main
         panel.find("page tab", "Distortion").click()
-        self.sees("Origin", "500 km", "Picture of the linear distortion", "Point at the map for the distortion there.", "Design",
-                  "For this area", "Move the meridian", "Scale factor: 0.9996012717 → 0.9996138",
-                  "Distortion in ppm: -398.7 to 373.6 → -386.2 to 386.1")
-        self.holds({"Height": "0 m"})
-        self.offers("Take over")
+        self.sees("Origin", "500 km", "Picture of the linear distortion", "Point at the map for the distortion there.",
+                  "Design", "For this area", "Move the meridian", "Scale factor: 0.9996012717 → 0.9996138",
+                  "Distortion in ppm: -398.7 to 373.6 → -386.2 to 386.1", fields={"Height": "0 m"}, pressable=("Take over",))
         self.take("check-distortion")
 
     def compare(self):
@@ -216,10 +204,10 @@ class Photographer:
         dialog.find("push button", "Take over").click()
         self.tool.gone("From registry")
         panel.find("check box", "With datum shifts").click()
-        self.ticked(panel, "With datum shifts")
         self.sees("minus EPSG:27700, OSGB36 / British National Grid", "From catalogue...", "500 km", "Apart from the mean",
                   "No datum shift is defined by OSGB36 / British National Grid: it counts as on WGS 84.",
-                  "Picture of the difference", "At the mouse", "Checked point", "Mean", "Apart from it")
+                  "Picture of the difference", "At the mouse", "Checked point", "-128.738 m", "38.866 m", "134.477 m", "Mean",
+                  "128.346 m", "Apart from it", "42.574 m", ticked=("With datum shifts",))
         self.take("check-compare")
 
     def group(self):
@@ -229,12 +217,11 @@ class Photographer:
         os.makedirs(folder)
         type_text(folder)
         press("Return")
-        self.sees(COUNTRY, "WKT 1 (ESRI)", "Systems: 3", "Saved: 3", "Left out: 0", "Copy summary", "Close",
-                  "1: Does not come back with an import of this form: the datum shift.", window=dialog)
-        self.holds({"Folder": folder}, dialog)
-        self.has_rows(dialog.find("table", "Files"), 3)
         saved = ["ED50 _ TM 0 N.prj", "OSGB36 _ British National Grid.prj", "OSNI 1952 _ Irish National Grid.prj"]
-        self.sees(*saved, window=dialog)
+        self.sees(COUNTRY, "WKT 1 (ESRI)", *saved, "Systems: 3", "Saved: 3", "Left out: 0",
+                  "1: Does not come back with an import of this form: the datum shift.", fields={"Folder": folder},
+                  pressable=("Copy summary", "Close"), window=dialog)
+        self.has_rows(dialog.find("table", "Files"), 3)
         assert sorted(os.listdir(folder)) == saved, os.listdir(folder)
         self.take("save-group", "Save group as .prj")
         press("Escape")
@@ -250,9 +237,8 @@ class Photographer:
     def registry(self):
         dialog = self.take_from_registry("british national grid", "27700")
         self.sees("By name or code", "From coordinates", "Covers the point", "Deprecated ones too", "Systems found: 1",
-                  GRID, "Transverse Mercator", "Datum shift to WGS 84", "OSGB36 to WGS 84 (6), accuracy 2 m", window=dialog)
-        self.holds({"Search": "british national grid"}, dialog)
-        self.offers("Take over", "Cancel", window=dialog)
+                  GRID, "Transverse Mercator", "Datum shift to WGS 84", "OSGB36 to WGS 84 (6), accuracy 2 m",
+                  fields={"Search": "british national grid"}, pressable=("Take over", "Cancel"), window=dialog)
         self.take("from-registry", "From registry")
         dialog.find("push button", "Take over").click()
         self.tool.gone("From registry")
@@ -260,10 +246,10 @@ class Photographer:
     def datum_shift(self):
         self.tool.tab("Datum shift")
         self.sees(GRID, "Datum", "Ordnance Survey of Great Britain 1936", "Shift to WGS 84",
-                  "Seven parameters (three: the rest 0)")
-        self.holds({"Translation X": "446.448", "Translation Y": "-125.157", "Translation Z": "542.06", "Rotation X": "0.15",
-                    "Rotation Y": "0.247", "Rotation Z": "0.842", "Scale difference": "-20.489"})
-        self.offers("From points...", "Reverse rotation signs", "Back to the values before", "Save")
+                  "Seven parameters (three: the rest 0)",
+                  fields={"Translation X": "446.448", "Translation Y": "-125.157", "Translation Z": "542.06",
+                          "Rotation X": "0.15", "Rotation Y": "0.247", "Rotation Z": "0.842", "Scale difference": "-20.489"},
+                  pressable=("From points...", "Reverse rotation signs", "Back to the values before", "Save"))
         self.take("datum-shift")
 
     def coordinates(self):
@@ -280,8 +266,8 @@ class Photographer:
         self.sees("400 m", "the same", "NAD83 / Ohio South (ftUS)", "if northing comes first, in US survey feet", "own",
                   "Systems found: 14. Distances are without datum shift, which can move a place by some hundred metres.",
                   "Lambert Conic Conformal (2SP)", "The registry counts in US survey foot, the record in metres.",
-                  "NAD83(NSRS2007) to WGS 84 (1), accuracy 2 m", "Paste rows", "Clear", window=dialog)
-        self.offers("Take over", "Cancel", window=dialog)
+                  "NAD83(NSRS2007) to WGS 84 (1), accuracy 2 m",
+                  pressable=("Paste rows", "Clear", "Take over", "Cancel"), window=dialog)
         self.take("from-coordinates", "From registry")
         dialog.find("push button", "Cancel").click()
         self.tool.gone("From registry")
@@ -292,12 +278,11 @@ class Photographer:
         dialog = self.tool.dialog("From text")
         given = "+proj=tmerc +lat_0=0 +lon_0=9 +x_0=3500000 +ellps=bessel +towgs84=598.1,73.7,418.2,0.202,0.045,-2.455,6.7"
         type_text(given)
-        self.holds({"Definition": given}, dialog)
         self.sees("Paste or type WKT, a PROJ definition, PROJJSON, or a code as EPSG:25832.", "Understood:",
                   "Gauss-Krüger (scale factor 1)", "Central meridian: 9°", "False easting: 3500000 m",
                   "Ellipsoid: Bessel 1841, a 6377397.155 m, 1/f 299.1528128",
-                  'Datum shift to WGS 84: 598.1 m, 73.7 m, 418.2 m, 0.202", 0.045", -2.455", 6.7 ppm', window=dialog)
-        self.offers("Take over", "Cancel", window=dialog)
+                  'Datum shift to WGS 84: 598.1 m, 73.7 m, 418.2 m, 0.202", 0.045", -2.455", 6.7 ppm',
+                  fields={"Definition": given}, pressable=("Take over", "Cancel"), window=dialog)
         self.take("from-text")
         press("Escape")
         self.tool.gone("From text")
@@ -318,8 +303,7 @@ class Photographer:
             press("Down")
         self.has_rows(table, len(RD_POINTS) + 1)  # the last takes the next point
         self.sees("Latitude, longitude, height", "Seven", "Texel", "22.2", "-60.7", "-473.7", "Zuid-Limburg", "95.3", "104.9",
-                  "-233.2", window=dialog)
-        self.offers("Take over", "Cancel", window=dialog)
+                  "-233.2", pressable=("Take over", "Cancel"), window=dialog)
         self.take("shift-from-points", "Shift from points")
         press("Escape")
         self.tool.gone("Shift from points")
@@ -335,8 +319,7 @@ class Photographer:
         self.desktop.menu().find("menu item", "AddCoordSys").click()
         dialog = self.tool.dialog("AddCoordSys")
         type_text("Harbour extension")
-        self.sees("Harbour extension", window=dialog)
-        self.offers("Ok", "Cancel", window=dialog)
+        self.sees("Harbour extension", pressable=("Ok", "Cancel"), window=dialog)
         self.take("name")
         press("Escape")
         self.tool.gone("AddCoordSys")
@@ -346,8 +329,8 @@ class Photographer:
         self.tool.command(self.tool.item(tool.ROOT), "Edit Ellipsoid")
         listed = self.tool.dialog("Edit Ellipsoid", "Add")
         listed.find("combo box").choose("Bessel 1841")
-        self.sees("Ellipsoid Name", "ellipsoid a(m)", "ellipsoid f", "6377397.155", "299.1528128", "Edit", "Delete", window=listed)
-        self.offers("Add", window=listed)
+        self.sees("Ellipsoid Name", "ellipsoid a(m)", "ellipsoid f", "6377397.155", "299.1528128", "Edit", "Delete",
+                  pressable=("Add",), window=listed)
         assert not any(listed.find("push button", name).enabled for name in ("Edit", "Delete"))  # it is shipped
         self.take("ellipsoids")
         press("Escape")
@@ -364,8 +347,8 @@ class Photographer:
         entry.find("combo box").find("text").fill("Valley")
         entry.find("push button", "Browser").click()
         self.choose_file("selete file", model)
-        self.sees("Geoid Name", "Valley", "File Path", "Valley 2024.ggf", "Ellipsoid Name", "Airy 1830", window=entry)
-        self.offers("OK", "Cancel", "Browser", window=entry)
+        self.sees("Geoid Name", "Valley", "File Path", "Valley 2024.ggf", "Ellipsoid Name", "Airy 1830",
+                  pressable=("OK", "Cancel", "Browser"), window=entry)
         self.take("geoids")
         press("Escape")
         self.tool.gone("New Geoid", "OK")
@@ -393,10 +376,9 @@ class Photographer:
         panel.find("push button", "Open...").click()
         self.choose_file("Open points", given)
         columns = self.tool.dialog("Columns")
-        self.sees("Semicolon", "metres", "Point", "x", "y", "Latitude", "Longitude", "Height", "Texel", "117380.1200", "377308.2300",
-                  "Columns of one kind belong together: degrees, minutes and seconds.",
-                  window=columns)
-        self.ticked(columns, "First line is a heading")
+        self.sees("Semicolon", "metres", "Point", "x", "y", "Latitude", "Longitude", "Height", "Texel", "117380.1200",
+                  "377308.2300", "Columns of one kind belong together: degrees, minutes and seconds.",
+                  ticked=("First line is a heading",), pressable=("OK", "Cancel"), window=columns)
         self.has_rows(columns.find("table"), len(RD_POINTS) + 2)  # what the columns are, and the heading
         self.take("points-columns", "Columns")
         columns.find("push button", "OK").click()
@@ -411,12 +393,11 @@ class Photographer:
         type_text("0.25\n")
         panel.find("table cell", "Texel").click()
         press("End")
-        self.holds({"Tolerance": "0.250 m"})
         self.has_rows(panel.find("table", "Points"), len(RD_POINTS) + 1)
         self.sees(RD, "control points.csv: 5 rows read.", "5 points, 5 with both pairs, 1 beyond the tolerance", "WGS 84",
                   "0.0674", "0.0161", "0.0671", "72.0139", "72.0141", "0.1298", "Texel   ΔE 0.0113   ΔN 0.0664   0.0674 m",
-                  "Picture of the points", "Fit")
-        self.offers("Open...", "Paste", "Copy", "Save...", "Delete", "Clear", "Next marked", "Report...")
+                  "Picture of the points", "Fit", fields={"Tolerance": "0.250 m"},
+                  pressable=("Open...", "Paste", "Copy", "Save...", "Delete", "Clear", "Next marked", "Report..."))
         self.take("check-points")
 
     def fit(self):
@@ -425,9 +406,11 @@ class Photographer:
         panel.find("table cell", "Zeeuws-Vlaanderen").click()
         press("space")
         panel.find("check box", "Fit").click()
-        self.ticked(panel, "Fit", "Scale factor", "False easting", "False northing")
-        self.sees("before", "after ± standard deviation", "RMS, largest", "0.9999079", "155000 m", "463000 m",
-                  "Zeeuws-Vlaanderen   ΔE 0.1672   ΔN 72.0139   72.0141 m")
+        self.sees("before", "after ± standard deviation", "RMS, largest", "0.9999079", "0.999907613 ± 0.000000253",
+                  "155000 m", "155000.0213 m ± 0.0319", "463000 m", "462999.9987 m ± 0.0321", "0.0809, 0.1298",
+                  "0.0703, 0.0939 m", 'Against the ground remain a rotation of 0.09 ± 0.04" and a scale of 0 ± 0.19 ppm.',
+                  "Zeeuws-Vlaanderen   ΔE 0.1672   ΔN 72.0139   72.0141 m", pressable=("Take over", "Report..."),
+                  ticked=("Fit", "Scale factor", "False easting", "False northing"))
         self.take("points-fit")
         panel.find("check box", "Fit").click()
 
