@@ -111,10 +111,10 @@ class PackagedTool(tool.Tool):
         self.process = None
         self.errors = open(os.path.join(folder, "stderr.txt"), "w+", encoding="utf-8", errors="replace")
 
-    def launch(self):
+    def launch(self, language="C"):
         passed = ("DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON")
         environment = {name: os.environ[name] for name in passed}
-        environment.update(HOME=HOME, USER="surveyor", LANG="C.UTF-8")
+        environment.update(HOME=HOME, USER="surveyor", LANG=language + ".UTF-8")
         return self.system.start(self.command_line, USER, environment, stdout=self.errors, stderr=self.errors)
 
     def start_from_terminal(self):
@@ -186,6 +186,16 @@ class FreshSystem(unittest.TestCase):
         dialog.find("table cell", "27700")
         press("Escape")
         self.tool.gone("From registry")
+
+    def see_languages(self):
+        """The texts in other languages are found: the window bears the name that the menu's entry promises."""
+        for language in ("de", "es", "fr", "zh_CN"):
+            name = self.tool.menu_entry()[f"Name[{language}]"]
+            self.assertNotEqual(name, tool.TITLE)
+            process = self.tool.launch(language)
+            wait_for(lambda: name in [w.name for w in windows_of(process.pid)], f"the window {name!r}")
+            process.kill()
+            process.wait()
 
     def add_ellipsoid(self):
         self.tool.command(self.tool.item(tool.ROOT), "Edit Ellipsoid")
@@ -309,6 +319,7 @@ class FreshSystem(unittest.TestCase):
         self.edit_and_save("6378137.5")
         self.take_picture("from-menu")
         self.leave()
+        self.see_languages()
         self.assertEqual(self.models(), models)
         data = self.users_files()
         self.done("used from the menu")
