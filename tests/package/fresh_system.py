@@ -9,6 +9,7 @@ those on a session bus must be one user, but with the power to start programs as
 """
 
 import configparser
+import hashlib
 import os
 import pathlib
 import shlex
@@ -33,6 +34,10 @@ MODELS = f"/var/lib/{NAME}/GeoidData"
 USER, COLLEAGUE = 1000, 1001
 HOME = "/home/surveyor"
 ELLIPSOID = "Plant 1 & 2"
+
+
+def digest(content):
+    return hashlib.sha256(content).hexdigest()
 
 
 def become_root():
@@ -106,10 +111,10 @@ class PackagedTool(tool.Tool):
         self.process = None
         self.errors = open(os.path.join(folder, "stderr.txt"), "w+", encoding="utf-8", errors="replace")
 
-    def launch(self):
+    def launch(self, language="C"):
         passed = ("DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON")
         environment = {name: os.environ[name] for name in passed}
-        environment.update(HOME=HOME, USER="surveyor", LANG="C.UTF-8")
+        environment.update(HOME=HOME, USER="surveyor", LANG=language + ".UTF-8")
         return self.system.start(self.command_line, USER, environment, stdout=self.errors, stderr=self.errors)
 
     def start_from_terminal(self):
@@ -182,6 +187,16 @@ class FreshSystem(unittest.TestCase):
         press("Escape")
         self.tool.gone("From registry")
 
+    def see_languages(self):
+        """The texts in other languages are found: the window bears the name that the menu's entry promises."""
+        for language in ("de", "es", "fr", "zh_CN"):
+            name = self.tool.menu_entry()[f"Name[{language}]"]
+            self.assertNotEqual(name, tool.TITLE)
+            process = self.tool.launch(language)
+            wait_for(lambda: name in [w.name for w in windows_of(process.pid)], f"the window {name!r}")
+            process.kill()
+            process.wait()
+
     def add_ellipsoid(self):
         self.tool.command(self.tool.item(tool.ROOT), "Edit Ellipsoid")
         self.tool.dialog("Edit Ellipsoid", "Add").find("push button", "Add").click()
@@ -195,7 +210,7 @@ class FreshSystem(unittest.TestCase):
         self.tool.gone("Edit Ellipsoid")
 
     def add_geoid(self, name):
-        """Adds a geoid model whose file is NAME.ggf in the user's home; its content."""
+        """Adds a geoid model whose file is NAME.ggf in the user's home; the digest of its content."""
         content = os.urandom(200_000)
         with open(self.system.outside(f"{HOME}/{name}.ggf"), "wb") as model:
             model.write(content)
@@ -211,7 +226,7 @@ class FreshSystem(unittest.TestCase):
         self.tool.gone("New Geoid", "OK")
         press("Escape")
         self.tool.gone("New Geoid")
-        return content
+        return digest(content)
 
     def see_custom(self, command, title, nth, names):
         """A dialog lists these names of the user's own."""
@@ -238,12 +253,12 @@ class FreshSystem(unittest.TestCase):
     # What must be so
 
     def models(self):
-        """The geoid models there are: name and content."""
-        return {path.name: path.read_bytes() for path in pathlib.Path(self.tool.geoid_data).iterdir()}
+        """The geoid models there are."""
+        return {path.name: digest(path.read_bytes()) for path in pathlib.Path(self.tool.geoid_data).iterdir()}
 
     def users_files(self):
         """The user's catalogue, ellipsoids and geoid entries."""
-        found = {path: path.read_bytes() for path in pathlib.Path(self.tool.data).rglob("*") if path.is_file()}
+        found = {path: digest(path.read_bytes()) for path in pathlib.Path(self.tool.data).rglob("*") if path.is_file()}
         self.assertGreaterEqual(len(found), 3)
         return found
 
@@ -304,6 +319,7 @@ class FreshSystem(unittest.TestCase):
         self.edit_and_save("6378137.5")
         self.take_picture("from-menu")
         self.leave()
+        self.see_languages()
         self.assertEqual(self.models(), models)
         data = self.users_files()
         self.done("used from the menu")
