@@ -4,5 +4,5 @@
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 install_packages build display bench
-build release
+build release coordsystem_manager bench_startup_empty_window bench_speed
 exec /usr/bin/python3 -B "$root/bench/speed/speed.py" "$root/build/release" "$@"
