@@ -335,7 +335,7 @@ in other directions off by up to %2&quot;</source>
     </message>
     <message>
         <source>Points</source>
-        <translation>点</translation>
+        <translation>控制点</translation>
     </message>
     <message>
         <source>ΔE, ΔN: computed from latitude and longitude, minus given. *: beyond the tolerance. Slanted: computed from the other pair.</source>

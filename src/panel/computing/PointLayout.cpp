@@ -2,6 +2,7 @@
 
 #include "panel/computing/PointNumber.h"
 
+#include <QRegularExpression>
 #include <QString>
 
 #include <algorithm>
@@ -43,7 +44,7 @@ struct Word {
     const char* text;
 };
 
-/// Headings of points' columns in English, German, French and Spanish, in small letters.
+/// Headings of points' columns in English, German, French, Spanish and Chinese, in small letters.
 constexpr Word words[] = {
     {PointColumn::Latitude, "latitude"},
     {PointColumn::Latitude, "lat"},
@@ -125,28 +126,83 @@ constexpr Word words[] = {
     {PointColumn::Name, "point name"},
     {PointColumn::Name, "point id"},
     {PointColumn::Name, "station name"},
+    {PointColumn::Latitude, "纬度"},
+    {PointColumn::Latitude, "纬度b"},
+    {PointColumn::Latitude, "大地纬度"},
+    {PointColumn::Longitude, "经度"},
+    {PointColumn::Longitude, "经度l"},
+    {PointColumn::Longitude, "大地经度"},
+    {PointColumn::Height, "高程"},
+    {PointColumn::Height, "高程h"},
+    {PointColumn::Height, "大地高"},
+    {PointColumn::Height, "大地高h"},
+    {PointColumn::Height, "椭球高"},
+    {PointColumn::Height, "正常高"},
+    {PointColumn::Easting, "东"},
+    {PointColumn::Easting, "东坐标"},
+    {PointColumn::Easting, "东坐标e"},
+    {PointColumn::Easting, "东坐标y"},
+    {PointColumn::Easting, "横坐标"},
+    {PointColumn::Easting, "横坐标y"},
+    {PointColumn::Easting, "y坐标"},
+    {PointColumn::Easting, "x 东"}, // what stands in brackets decides
+    {PointColumn::Easting, "y 东"},
+    {PointColumn::Northing, "北"},
+    {PointColumn::Northing, "北坐标"},
+    {PointColumn::Northing, "北坐标n"},
+    {PointColumn::Northing, "北坐标x"},
+    {PointColumn::Northing, "纵坐标"},
+    {PointColumn::Northing, "纵坐标x"},
+    {PointColumn::Northing, "x坐标"},
+    {PointColumn::Northing, "x 北"},
+    {PointColumn::Northing, "y 北"},
+    {PointColumn::Name, "名称"},
+    {PointColumn::Name, "点名"},
+    {PointColumn::Name, "点号"},
+    {PointColumn::Name, "点"},
+    {PointColumn::Name, "编号"},
+    {PointColumn::Name, "站名"},
 };
 
-/// A heading's words in small letters, without a unit in brackets or what else is no letter.
-QString plainHeading(std::string_view field) {
-    QString text = QString::fromUtf8(field.data(), int(field.size())).toLower();
-    for (const char bracket : {'(', '[', '/'}) {
-        const int at = text.indexOf(bracket);
-        if (at > 0)
-            text.truncate(at);
-    }
-    for (QChar& c : text)
-        c = c.isLetter() ? c : ' ';
-    return text.simplified();
+QString text(std::string_view field) {
+    return QString::fromUtf8(field.data(), int(field.size()));
 }
 
-PointColumn meaning(std::string_view heading) {
-    const QString text = plainHeading(heading);
+/// A heading's words in small letters, without what is no letter.
+QString lettersOf(QString heading) {
+    for (QChar& c : heading)
+        c = c.isLetter() ? c.toLower() : ' ';
+    return heading.simplified();
+}
+
+/// Without a unit in brackets.
+QString withoutUnit(const QString& heading) {
+    static const QRegularExpression bracket(QStringLiteral("[(\\[/（［【]"));
+    const int at = heading.indexOf(bracket);
+    return at > 0 ? heading.left(at) : heading;
+}
+
+/// Whether a heading has words in the letters of China's mainland, where X counts to the north and Y to the east.
+/// Taiwan writes them otherwise, and counts X to the east.
+bool countsXNorth(const std::vector<std::string>& headings) {
+    static const QRegularExpression letters(QStringLiteral("[点标纬经编]"));
+    return std::any_of(headings.begin(), headings.end(),
+                       [](const std::string& heading) { return text(heading).contains(letters); });
+}
+
+PointColumn meaning(const QString& letters, bool isXNorth) {
+    if (isXNorth && (letters == "x" || letters == "y"))
+        return letters == "x" ? PointColumn::Northing : PointColumn::Easting;
     for (const Word& word : words) {
-        if (text == QString::fromUtf8(word.text))
+        if (letters == QString::fromUtf8(word.text))
             return word.column;
     }
     return PointColumn::None;
+}
+
+PointColumn meaningOf(std::string_view heading, bool isXNorth) {
+    const PointColumn whole = meaning(lettersOf(text(heading)), isXNorth);
+    return whole == PointColumn::None ? meaning(lettersOf(withoutUnit(text(heading))), isXNorth) : whole;
 }
 
 /// What the lines have in one column.
@@ -342,9 +398,10 @@ PointLayout PointLayout::withGuessedColumns(const QByteArray& head) const {
     bool isNumeric = false;
     std::vector<PointColumn> named(count, PointColumn::None);
     const std::size_t headings = std::min(lines[0].size(), count);
+    const bool isXNorth = countsXNorth(lines[0]);
     for (std::size_t i = 0; i < headings; ++i) {
         double value = 0.0;
-        named[i] = meaning(lines[0][i]);
+        named[i] = meaningOf(lines[0][i], isXNorth);
         // The first of two columns with such a name is the one.
         if (std::find(named.begin(), named.begin() + std::ptrdiff_t(i), named[i]) != named.begin() + std::ptrdiff_t(i))
             named[i] = PointColumn::None;

@@ -12,8 +12,8 @@ struct PointLayout {
     std::vector<PointColumn> columns; ///< several of one kind belong together: degrees, minutes and seconds
 
     /// The layout that `head`, the beginning of a text, seems to have: separator and decimal comma by what its lines
-    /// have in common, the columns by the words of a heading (English, German, French, Spanish), else by what fits the
-    /// numbers.
+    /// have in common, the columns by the words of a heading (English, German, French, Spanish, Chinese), else by what
+    /// fits the numbers.
     static PointLayout guess(const QByteArray& head);
 
     /// The same, with the separator and the decimal comma as they are here.
