@@ -9,8 +9,8 @@ bool sameRecords(const RecordList& left, const RecordList& right) {
     if (left.names() != right.names())
         return false;
     for (const CatalogueRecord& record : left) {
-        const IDictionary& values = *record.values;
-        const IDictionary& others = *right.find(record.name)->values;
+        const IDictionary& values = *record.values();
+        const IDictionary& others = *right.find(record.name)->values();
         if (values.count() != others.count())
             return false;
         for (int i = 0; i < values.count(); ++i) {
