@@ -21,14 +21,15 @@ FileScan::FileScan(const QByteArray& fileText)
     : text(fileText), next(text.constData()), end(text.constData() + text.size()) {
 }
 
-bool FileScan::isAt(const QByteArray& expected) const {
-    return end - next >= expected.size() && std::memcmp(next, expected.constData(), size_t(expected.size())) == 0;
+bool FileScan::isAt(const char* expected) const {
+    const size_t size = std::strlen(expected);
+    return size_t(end - next) >= size && std::memcmp(next, expected, size) == 0;
 }
 
-bool FileScan::skip(const QByteArray& expected) {
+bool FileScan::skip(const char* expected) {
     const bool isThere = isAt(expected);
     if (isThere)
-        next += expected.size();
+        next += std::strlen(expected);
     return isThere;
 }
 
@@ -48,13 +49,15 @@ bool FileScan::readText(const char* attribute, QByteArray& read) {
     const void* const quote = std::memchr(next, '"', size_t(end - next));
     if (!quote)
         return false;
-    const QByteArray xml(next, int(static_cast<const char*>(quote) - next));
-    next = static_cast<const char*>(quote) + 1;
-    if (isEncoded) {
-        read = QByteArray::fromPercentEncoding(xml);
+    const char* const start = next;
+    const auto* const behind = static_cast<const char*>(quote);
+    next = behind + 1;
+    read = QByteArray(start, int(behind - start));
+    if (isEncoded)
+        read = QByteArray::fromPercentEncoding(read);
+    if (isEncoded || FileText::isPlain(start, behind))
         return true;
-    }
-    const std::optional<QByteArray> local = FileText::fromUtf8(unescaped(xml));
+    const std::optional<QByteArray> local = FileText::fromUtf8(unescaped(read));
     read = local.value_or(QByteArray());
     return local.has_value();
 }
@@ -72,15 +75,19 @@ bool FileScan::readEnd(const FileKind& kind) {
 bool FileScan::readList(RecordList& records, const FileKind& kind, const QByteArray& indent) {
     const QByteArray recordStart = indent + FileFormat::startOf(kind.record);
     const QByteArray recordEnd = indent + FileFormat::endOf(kind.record);
-    const QByteArray value =
-        indent + FileFormat::indent + '<' + FileFormat::valueElement + ' ' + FileFormat::keyAttribute;
-    const QByteArray nameKey = QByteArray("=\"") + kind.nameKey + "\" ";
+    const QByteArray nameValue = indent + FileFormat::indent + '<' + FileFormat::valueElement + ' ' +
+                                 FileFormat::keyAttribute + "=\"" + kind.nameKey + "\" ";
+    const int deep = indent.size(), keyPlace = nameValue.indexOf('"') + 1;
+    const char first = nameValue[keyPlace];
     while (isAt(recordStart)) {
         const char* const start = next;
         QByteArray name;
         next += recordStart.size();
-        while (skip(value)) {
-            if ((skip(nameKey) && !readText(FileFormat::textAttribute, name)) || !skipLine())
+        // Nearly all of a file are these lines, which is why a character tells them.
+        while (end - next > keyPlace && next[deep] == ' ') {
+            if (next[keyPlace] == first && skip(nameValue) && !readText(FileFormat::textAttribute, name))
+                return false;
+            if (!skipLine())
                 return false;
         }
         if (!skip(recordEnd) ||

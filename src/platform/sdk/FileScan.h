@@ -15,13 +15,13 @@ public:
     bool readRecords(RecordFile& content);
 
 private:
-    bool skip(const QByteArray& expected);
+    bool skip(const char* expected);
     bool skipLine();
     bool readRoot(const FileKind& kind);
     bool readEnd(const FileKind& kind);
     bool readList(RecordList& records, const FileKind& kind, const QByteArray& indent);
     bool readText(const char* attribute, QByteArray& text);
-    bool isAt(const QByteArray& expected) const;
+    bool isAt(const char* expected) const;
 
     const QByteArray text;
     const char* next; ///< what comes next in the text
