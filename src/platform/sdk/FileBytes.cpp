@@ -14,7 +14,7 @@ FileBytes::FileBytes(const QString& path) : exists(QFileInfo::exists(path)) {
     ContentHasher hasher;
     hasher.add(bytes.constData(), lastLine);
     const QByteArray mark = FileMark::behind(hasher.hash());
-    isAsWritten = !mark.isEmpty() && bytes.size() - lastLine == mark.size() && bytes.endsWith(mark);
+    isAsWritten = !mark.isEmpty() && bytes.mid(lastLine) == mark;
     hasher.add(bytes.constData() + lastLine, bytes.size() - lastLine);
     stamp = FileStamp(path, hasher.hash());
 }
