@@ -48,7 +48,7 @@ private:
 };
 
 double number(const CatalogueRecord& record, const char* key) {
-    return dictionary_number(*record.values, key, NAN);
+    return dictionary_number(*record.values(), key, NAN);
 }
 
 } // namespace
@@ -123,7 +123,7 @@ private Q_SLOTS:
             for (const CatalogueRecord& system : group.systems) {
                 ++count;
                 const CatalogueRecord* ellipsoid =
-                    ellipsoids.records.find(system.values->getValue(CoordParamKey::ellipsoidName));
+                    ellipsoids.records.find(system.values()->getValue(CoordParamKey::ellipsoidName));
                 QVERIFY2(ellipsoid, system.name);
                 const double a = number(*ellipsoid, EllipsoidKey::a), f = number(*ellipsoid, EllipsoidKey::f);
                 QVERIFY2(std::abs(number(system, CoordParamKey::ellipsoidA) - a) < 1e-6, system.name);
@@ -131,13 +131,13 @@ private Q_SLOTS:
 
                 QVERIFY2(registry.contains(system.name), system.name);
                 const RegistrySystem entry = registry.take(system.name); // no other group has it
-                const QByteArray source = system.values->getValue(CoordParamKey::source);
+                const QByteArray source = system.values()->getValue(CoordParamKey::source);
                 QVERIFY2(source.startsWith("EPSG:" + entry.code + ", EPSG v"), source);
-                QVERIFY2(system.values->getValue(CoordParamKey::datumName), system.name);
+                QVERIFY2(system.values()->getValue(CoordParamKey::datumName), system.name);
                 const double width = entry.east - entry.west + (entry.east < entry.west ? 360.0 : 0.0);
                 const RegistryConversion conversion(context.get(), entry.code);
-                const auto projected = module->createSystem(coordParamToProjDefine(*system.values));
-                QVERIFY2(projected && coordParamDefinesProjection(*system.values), system.name);
+                const auto projected = module->createSystem(coordParamToProjDefine(*system.values()));
+                QVERIFY2(projected && coordParamDefinesProjection(*system.values()), system.name);
                 // PROJ leaves the turn out of the one, and does not know the other: see WktReaderTest.
                 if (entry.method.contains("Belgium") || entry.method.contains("variant C"))
                     continue;

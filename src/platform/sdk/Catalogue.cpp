@@ -1,6 +1,7 @@
 #include "platform/sdk/Catalogue.h"
 
 #include "catalogue/CatalogueRecordKey.h"
+#include "platform/sdk/CatalogueFile.h"
 
 #include <QDir>
 #include <QFile>

@@ -11,7 +11,7 @@ const char* CoordSysGroup::getCoordSystemNames() {
 
 IDictionary* CoordSysGroup::getCoordSystem(const char* systemName) {
     const CatalogueRecord* record = systems.find(systemName);
-    return record ? record->values.get() : nullptr;
+    return record ? record->values() : nullptr;
 }
 
 int CoordSysGroup::addCoordSystem(IDictionary* record) {

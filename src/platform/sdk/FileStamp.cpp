@@ -7,7 +7,12 @@
 
 namespace {
 
-constexpr qint64 coarsestClock = 2000; // milliseconds; FAT keeps times in steps of two seconds
+/// How far two times of the file system are apart at least when they differ, in milliseconds. FAT keeps times in steps
+/// of two seconds; where there are fractions of a second, the clock that a system stamps files with ticks more often
+/// than every 20 ms.
+qint64 clockStep(qint64 time) {
+    return time % 1000 == 0 ? 2000 : 20;
+}
 
 qint64 timeOf(const QString& path) {
     const QFileInfo info(path);
@@ -20,7 +25,7 @@ FileStamp::FileStamp(const QString& path, const ContentHash& hash)
     : isOfFile(true)
     , content(hash)
     , time(timeOf(path))
-    , isSettled(QDateTime::currentMSecsSinceEpoch() - time > coarsestClock) {
+    , isSettled(QDateTime::currentMSecsSinceEpoch() - time > clockStep(time)) {
 }
 
 bool FileStamp::holds(const ContentHash& hash) const {

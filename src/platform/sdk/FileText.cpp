@@ -19,12 +19,19 @@ static bool agree(const QByteArray& text, const QString& unicode) {
     return codec->fromUnicode(unicode) == text && codec->toUnicode(text) == unicode;
 }
 
+static bool isPlainCharacter(char character) {
+    return character >= ' ' && character <= '~' && character != '&' && character != '<' && character != '>' &&
+           character != '"';
+}
+
 bool FileText::isPlain(const char* text) {
-    for (; *text; ++text) {
-        if (*text < ' ' || *text > '~' || *text == '&' || *text == '<' || *text == '>' || *text == '"')
-            return false;
-    }
-    return true;
+    while (isPlainCharacter(*text))
+        ++text;
+    return *text == '\0';
+}
+
+bool FileText::isPlain(const char* begin, const char* end) {
+    return std::all_of(begin, end, isPlainCharacter);
 }
 
 std::optional<QByteArray> FileText::toUtf8(const QByteArray& text) {

@@ -13,6 +13,7 @@ namespace FileText {
 
 /// Whether `text` is the same in every encoding and in XML: printable ASCII without markup. Nearly all texts are.
 bool isPlain(const char* text);
+bool isPlain(const char* begin, const char* end);
 
 /// `text` in UTF-8; nothing when it has to be percent-encoded.
 std::optional<QByteArray> toUtf8(const QByteArray& text);

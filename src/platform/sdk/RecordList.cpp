@@ -15,13 +15,13 @@ CatalogueRecord* RecordList::append(const IDictionary* record) {
     return fill(records.append(nameOf(record)), record);
 }
 
-CatalogueRecord* RecordList::append(CatalogueRecord&& record) {
-    return records.append(nameOf(record.values.get()), std::move(record));
+CatalogueRecord* RecordList::append(const QByteArray& name, CatalogueRecord&& record) {
+    return records.append(name, std::move(record));
 }
 
 CatalogueRecord* RecordList::fill(CatalogueRecord* added, const IDictionary* record) const {
     if (added)
-        dictionary_assign(added->values.get(), record);
+        dictionary_assign(added->values(), record);
     return added;
 }
 
@@ -29,14 +29,14 @@ void RecordList::set(const QByteArray& name, const IDictionary* record) {
     CatalogueRecord* found = records.find(name);
     if (!found || !record)
         return;
-    dictionary_assign(found->values.get(), record);
-    found->values->setText(nameKey, found->name.constData());
+    dictionary_assign(found->values(), record);
+    found->values()->setText(nameKey, found->name.constData());
 }
 
 bool RecordList::rename(const QByteArray& oldName, const QByteArray& newName) {
     if (!records.rename(oldName, newName))
         return false;
-    records.find(newName)->values->setText(nameKey, newName.constData());
+    records.find(newName)->values()->setText(nameKey, newName.constData());
     return true;
 }
 

@@ -17,8 +17,9 @@ public:
     CatalogueRecord* prepend(const IDictionary* record);
     CatalogueRecord* append(const IDictionary* record);
 
-    /// Moves `record` to the end of the list; null, with `record` untouched, where append() refuses its values.
-    CatalogueRecord* append(CatalogueRecord&& record);
+    /// Moves `record`, whose values bear `name`, to the end of the list. Null, with `record` untouched, when the name
+    /// is empty, taken or holds ",".
+    CatalogueRecord* append(const QByteArray& name, CatalogueRecord&& record);
 
     /// Replaces the values of the record `name` by those of `record`, but for its name. Nothing happens when there is
     /// no record of that name or `record` is null.

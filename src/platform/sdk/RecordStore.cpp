@@ -1,5 +1,7 @@
 #include "platform/sdk/RecordStore.h"
 
+#include "platform/sdk/CatalogueFile.h"
+
 #include <cstdlib>
 
 RecordStore::RecordStore(const FileKind& fileKind, const char* key, const QString& rescueFolder)
@@ -27,7 +29,7 @@ IDictionary* RecordStore::find(const QByteArray& name) const {
     const CatalogueRecord* found = own.records.find(name);
     if (!found)
         found = shipped.records.find(name);
-    return found ? found->values.get() : nullptr;
+    return found ? found->values() : nullptr;
 }
 
 void RecordStore::put(const IDictionary* record) {

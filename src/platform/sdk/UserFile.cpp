@@ -125,8 +125,10 @@ bool UserFile::replace(const QString& target, const Write& write) {
     const QString place = FileReplacement::behindLinks(target);
     DiskCalls::makeFolder(folderOf(target));
     FileReplacement replacement(place);
-    if (rescuePath(target) == ownRescue)
-        replacement.setTime(later(ownRescue)); // should it stay, it is no longer the latest
+    // When the save began: of a large file, that is long enough ago for any later change to have another time. Should a
+    // rescued save stay, it is no longer the latest.
+    const bool isRescued = rescuePath(target) == ownRescue;
+    replacement.setTime(isRescued ? later(ownRescue) : QDateTime::currentDateTime());
     // All that can fail for want of room comes first, while nothing has been touched.
     if (!prepare(replacement, write) || !keep(target, place, replacement.content()) || !replacement.commit())
         return false;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/sdk/CatalogueFile.h"
+#include "platform/sdk/FileWriter.h"
 
 #include <QString>
 
@@ -30,7 +30,7 @@ public:
         if (hasNewerRescue()) {
             auto rescued = read(rescuePath(path));
             if (rescued.condition == FileCondition::Whole) {
-                bringHome([&](FileReplacement& file) { CatalogueFile::writeTo(file, rescued); });
+                bringHome([&](FileReplacement& file) { FileWriter(file).write(rescued); });
                 return rescued;
             }
         }
@@ -47,7 +47,7 @@ public:
 
     /// Writes `content` to `target`, with missing folders.
     template <class Content> void save(const QString& target, const Content& content) {
-        saveWith([&](FileReplacement& file) { CatalogueFile::writeTo(file, content); }, target);
+        saveWith([&](FileReplacement& file) { FileWriter(file).write(content); }, target);
     }
 
 private:

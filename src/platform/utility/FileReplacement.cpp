@@ -86,7 +86,7 @@ bool FileReplacement::finish() {
         file.setFileTime(time, QFileDevice::FileModificationTime);
     if (!DiskCalls::sync(file))
         return fail(qt_error_string());
-    if (file.size() != written.size())
+    if (file.size() != content().size())
         return fail(QFile::tr("Unknown error"));
     file.close();
     isPrepared = true;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/utility/ContentHash.h"
+#include "platform/utility/ContentHasher.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -58,8 +58,8 @@ public:
     /// somebody works on is left alone; where that can't be told, it goes after a day.
     static void removeLeftovers(const QString& folder, const QString& nameStart);
 
-    /// Of what was written.
-    const ContentHash& content() const { return written; }
+    /// Of what was written so far.
+    ContentHash content() const { return written.hash(); }
 
     const QString& errorString() const { return error; }
 
@@ -73,7 +73,7 @@ private:
     QString model;
     QDateTime time;
     QFile file; ///< the new one, beside the old
-    ContentHash written;
+    ContentHasher written;
     bool isWritten = true; ///< every piece so far
     bool isSecondName = false;
     bool isPrepared = false;

@@ -1,4 +1,5 @@
 #include "Session.h"
+#include "platform/sdk/FileMark.h"
 #include "support/RecordText.h"
 #include "support/RoomTest.h"
 #include "support/TextTable.h"
@@ -40,6 +41,16 @@ static QByteArray describe(Catalogue& catalogue) {
         }
     }
     return text;
+}
+
+/// The content with the line behind it that says that this program wrote it.
+static QByteArray marked(const QByteArray& content) {
+    return content + FileMark::behind(ContentHash(content));
+}
+
+/// Where a file's mark begins.
+static int markOf(const QByteArray& file) {
+    return file.lastIndexOf(QByteArray("<?") + FileMark::target);
 }
 
 class CatalogueFileTest : public QObject {
@@ -180,7 +191,11 @@ private Q_SLOTS:
             flipped[bit / 8] = char(flipped[bit / 8] ^ (1 << bit % 8));
             QVERIFY(setContent(folders.systems(), flipped));
             QFile::remove(folders.previous());
-            Session session(folders);
+            Session session(folders), scanned(folders);
+            QVERIFY(setContent(folders.systems(), flipped + '\n')); // read as XML in any case
+            Session parsed(folders);
+            QCOMPARE(describe(scanned), describe(parsed));
+            QVERIFY(setContent(folders.systems(), flipped));
             session.saveSystems();
             // The bytes are the file's still, the previous generation's, or set aside.
             bool isKept = contentOf(folders.systems()) == flipped || contentOf(folders.previous()) == flipped;
@@ -202,7 +217,7 @@ private Q_SLOTS:
         const QByteArray described = describe(intact);
         QCOMPARE(described.count('\n'), 9);
 
-        for (int length = 0; length < whole.trimmed().size(); length += 11) {
+        for (int length = 0; length < markOf(whole) - 1; length += 11) {
             const QByteArray cut = whole.left(length);
             // With a previous generation, that is what the user sees ...
             QVERIFY(setContent(folders.systems(), cut));
@@ -224,6 +239,117 @@ private Q_SLOTS:
             QVERIFY(QFile::remove(folders.user + aside[0]));
             Session next(folders);
             QCOMPARE(describe(next), read);
+        }
+    }
+
+    // A record that nobody asked for is saved as the bytes that it was, even where they say the same in another way.
+    void untouchedRecords() {
+        const Folders folders;
+        saveNineSystems(folders);
+        const QByteArray odd = "number=\"33.3333333333333357000\"";
+        QByteArray content = contentOf(folders.systems());
+        content.truncate(markOf(content));
+        content.replace("number=\"33.333333333333336\"", odd);
+        QCOMPARE(content.count(odd), 9);
+        QVERIFY(setContent(folders.systems(), marked(content)));
+        Session session(folders);
+        session.getGroup("a")->getCoordSystem("1");
+        session.getGroup("a")->renameCoordSystem("2", "two");
+        session.getGroup("b")->setCoordSystem("1", session.getGroup("b")->getCoordSystem("3"));
+        session.getGroup("b")->deleteCoordSystem("2");
+        session.add("b", "2");
+        session.deleteGroup("c");
+        session.saveSystems();
+        const QByteArray saved = contentOf(folders.systems());
+        QCOMPARE(saved.count(odd), 1);
+        const int start = content.indexOf("    <system>", content.indexOf("text=\"2\"")); // the group's third
+        QVERIFY(saved.contains(content.mid(start, content.indexOf("  </group>") - start)));
+        QCOMPARE(saved, marked(saved.left(markOf(saved))));
+        Session scanned(folders);
+        QVERIFY(setContent(folders.systems(), saved + '\n'));
+        Session parsed(folders);
+        QCOMPARE(describe(scanned), describe(parsed));
+        QCOMPARE(describe(scanned).count('\n'), 6);
+    }
+
+    // What may become of a file's mark and the text around it.
+    void marks_data() { textRows("marks.txt"); }
+    void marks() {
+        auto [title, content, isAsBefore] = textRow<3>();
+        const Folders folders;
+        saveNineSystems(folders);
+        const QByteArray whole = contentOf(folders.systems());
+        content.replace("@", whole.mid(markOf(whole))).replace("%", whole.left(markOf(whole)));
+        content.replace("^", "\xEF\xBB\xBF");
+        if (title == "line ends")
+            content.replace("\n", "\r\n");
+        QVERIFY(setContent(folders.systems(), content));
+        Session session(folders);
+        QCOMPARE(describe(session).count('\n'), 9);
+        session.saveSystems();
+        QVERIFY(folders.setAside("damaged").isEmpty());
+        const QByteArray saved = contentOf(folders.systems());
+        QCOMPARE(saved == whole, isAsBefore == "yes");
+        QCOMPARE(saved.count(FileMark::target), isAsBefore == "yes" ? 1 : 0); // what is not understood gets none
+        Session next(folders);
+        QCOMPARE(describe(next).count('\n'), 9);
+    }
+
+    // A mark that fits, behind something that this program would not write so: it is read as XML.
+    void marksOfOthers() {
+        const Folders folders;
+        saveNineSystems(folders);
+        const QByteArray whole = contentOf(folders.systems());
+        const QByteArray content = whole.left(markOf(whole));
+        const QVector<QPair<QByteArray, QByteArray>> changes = {{"text=\"2\"", "text=\"1\""},
+                                                                {"\"a\"", "\"b\""},
+                                                                {"  </group>\n", "<!-- x -->\n  </group>\n"},
+                                                                {"<system>", "<system checked=\"x\">"},
+                                                                {"\"name\"", "\"nama\""},
+                                                                {"name=\"a\"", "name=\"a\" b=\"c\""},
+                                                                {"</coordinate_systems>", "<x/></coordinate_systems>"},
+                                                                {"\"1\">", "\"2\">"},
+                                                                {"    </system>\n", ""}};
+        for (const auto& [before, after] : changes) {
+            QByteArray changed = content;
+            const int place = changed.indexOf(before);
+            QVERIFY2(place > 0, before);
+            changed.replace(place, before.size(), after);
+            QVERIFY(setContent(folders.systems(), marked(changed)) && setContent(folders.previous(), "<"));
+            Session scanned(folders);
+            QVERIFY(setContent(folders.systems(), marked(changed) + '\n'));
+            Session parsed(folders);
+            QCOMPARE(describe(scanned), describe(parsed));
+        }
+        // A mark of another local encoding, which may have had other characters.
+        QByteArray foreign = content;
+        foreign.replace(foreign.indexOf("GRS"), 3, "\xE6\x96\xB0");
+        QVERIFY(setContent(folders.systems(), marked(foreign)));
+        Session readable(folders);
+        QCOMPARE(describe(readable).count('\n'), 9);
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
+        Session unreadable(folders);
+        QCOMPARE(describe(unreadable).count('\n'), 8); // and the rest stays in the file
+        unreadable.saveSystems();
+        QVERIFY(contentOf(folders.systems()).contains("\xE6\x96\xB0"));
+    }
+
+    // Cut off anywhere, a file shows what is complete in it, and is whole only where nothing but the mark is missing.
+    void cutOffAnywhere() {
+        const Folders folders;
+        saveNineSystems(folders);
+        const QByteArray whole = contentOf(folders.systems());
+        const int mark = markOf(whole);
+        for (int length = 0; length <= whole.size(); ++length) {
+            const QByteArray cut = whole.left(length);
+            QVERIFY(setContent(folders.systems(), cut));
+            const SystemFile read = CatalogueFile::readSystems(folders.systems());
+            int systems = 0;
+            for (const CoordSysGroup& group : read.groups)
+                systems += group.systems.names().count(',') + (group.systems.isEmpty() ? 0 : 1);
+            QCOMPARE(systems, cut.count("</system>"));
+            const bool isWhole = length == mark - 1 || length == mark || length >= whole.size() - 1;
+            QCOMPARE(read.condition == FileCondition::Whole, isWhole);
         }
     }
 

@@ -85,7 +85,7 @@ private Q_SLOTS:
         const Session next(folders);
         const RecordFile geoids = CatalogueFile::readRecords(folders.user + geoidsName, geoidFile);
         QCOMPARE(geoids.records.names(), QByteArray("geoid_name"));
-        QCOMPARE(geoids.records.find("geoid_name")->values->getValue("geoid_ellipsoid"), "geoid_ellipsoid");
+        QCOMPARE(geoids.records.find("geoid_name")->values()->getValue("geoid_ellipsoid"), "geoid_ellipsoid");
     }
 
 private:

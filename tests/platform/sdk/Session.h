@@ -3,6 +3,7 @@
 #include "catalogue/DictionaryGuard.h"
 #include "catalogue/ICoordSysGroup.h"
 #include "platform/sdk/Catalogue.h"
+#include "platform/sdk/CatalogueFile.h"
 #include "support/Files.h"
 
 #include <QDir>

@@ -35,14 +35,16 @@ private Q_SLOTS:
 
     void piecesMakeNoDifference() {
         QByteArray content;
-        for (int i = 0; i < 100; ++i)
+        for (int i = 0; i < 600; ++i)
             content += char(i);
-        for (int first = 0; first <= 40; ++first) {
-            ContentHash hash(content.left(first));
-            for (const QByteArray& piece : {content.mid(first, 35), QByteArray(), content.mid(first + 35)})
-                hash.add(piece);
-            QVERIFY(hash == ContentHash(content));
+        for (int first = 0; first <= 300; ++first) {
+            ContentHasher hasher;
+            for (const QByteArray& piece : {content.left(first), content.mid(first, 35), content.mid(first + 35)})
+                hasher.add(piece);
+            QVERIFY(hasher.hash() == ContentHash(content));
         }
+        // As the algorithm's publication has it.
+        QCOMPARE(ContentHash().toHex(), QByteArray("99aa06d3014798d86001c324468d497f"));
         for (int i = 0; i < content.size() * 8; ++i) {
             QByteArray flipped = content;
             flipped[i / 8] = char(flipped[i / 8] ^ (1 << i % 8));
