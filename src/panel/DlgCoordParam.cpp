@@ -24,7 +24,8 @@
 
 namespace {
 
-/// What the tab widget turns to. Its tab is built before the page is shown, so that it is never seen without its fields.
+/// What the tab widget turns to. Its tab is built before the page is shown, so that it is never seen without its
+/// fields.
 class Page : public QWidget {
 public:
     explicit Page(ParamTab* tab) : tab(tab) {}
