@@ -43,9 +43,9 @@ void DatumShiftTab::build() {
     datumField = new TextField(editor(), CoordParamKey::datumName, datumBox);
     kindBox = new ChoiceBox;
     kindRemark = new QLabel;
-    convention = new QLabel(PanelText::tr(
-        "Rotations in the position-vector convention (EPSG 9606, PROJ towgs84). Figures published in the "
-        "coordinate-frame convention (EPSG 9607): type them as they are, then reverse their signs."));
+    convention = new QLabel(
+        PanelText::tr("Rotations in the position-vector convention (EPSG 9606, PROJ towgs84). Figures published in the "
+                      "coordinate-frame convention (EPSG 9607): type them as they are, then reverse their signs."));
     reverseButton = new QPushButton(PanelText::tr("Reverse rotation signs"));
     reverseMessage = new MessageLine;
     fromPointsButton = new QPushButton(PanelText::tr("From points..."));

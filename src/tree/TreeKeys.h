@@ -2,9 +2,9 @@
 
 #include <QTreeWidget>
 
-/// What the mouse does in a tree, by keys: Enter clicks the current item, and the Menu key asks for its context menu, as
-/// does Shift+F10, which not every desktop takes for that key. The item is scrolled into sight first; where it is hidden,
-/// the menu is the one of the empty space.
+/// What the mouse does in a tree, by keys: Enter clicks the current item, and the Menu key asks for its context menu,
+/// as does Shift+F10, which not every desktop takes for that key. The item is scrolled into sight first; where it is
+/// hidden, the menu is the one of the empty space.
 class TreeKeys : public QObject {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 #include "ContrastRules.h"
 #include "PageRules.h"
 #include "Tour.h"
+#include "panel/field/FieldEdit.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 
@@ -25,8 +26,8 @@ QPalette darkPalette() {
 
 } // namespace
 
-/// Every tab, page and dialog: named for a screen reader, in reach of the keyboard in the order in which it is read, and
-/// readable in a light palette and in a dark one.
+/// Every tab, page and dialog: named for a screen reader, in reach of the keyboard in the order in which it is read,
+/// and readable in a light palette and in a dark one.
 class AccessibilityTest : public QObject {
     Q_OBJECT
 
@@ -47,8 +48,6 @@ private Q_SLOTS:
             ++pages;
             const QImage picture = root.grab().toImage();
             keep(picture, page + (isDark ? ", dark" : ""));
-            if (qEnvironmentVariableIsSet("DUMP"))
-                dump(QAccessible::queryAccessibleInterface(&root), 0);
             QStringList found = ContrastRules::faint(root, picture) + ContrastRules::lost(root, picture);
             if (!isDark)
                 found += PageRules::broken(root);
@@ -60,6 +59,20 @@ private Q_SLOTS:
             qWarning("%s", qPrintable(each));
         QVERIFY(broken.isEmpty());
         QCOMPARE(pages, 28);
+    }
+
+    /// A desktop may turn dark while the tool runs.
+    void fieldsFollowThePalette() {
+        FieldEdit edit;
+        edit.setShownOnly();
+        edit.setMarked(true);
+        QApplication::setPalette(darkPalette());
+        QVERIFY(ContrastRules::contrast(edit.palette().color(QPalette::Base), edit.palette().color(QPalette::Text)) >
+                4.5);
+        edit.setMarked(false);
+        QCOMPARE(edit.palette().color(QPalette::Base), QColor(53, 53, 53));
+        QApplication::setPalette(QApplication::style()->standardPalette());
+        QCOMPARE(edit.palette().color(QPalette::Base), QApplication::palette().color(QPalette::Window));
     }
 
     /// No figure depends on the language.
@@ -96,18 +109,6 @@ private:
         const QString folder = qEnvironmentVariable("ACCESSIBILITY_PICTURES");
         if (!folder.isEmpty() && QDir().mkpath(folder))
             picture.save(QString("%1/%2.png").arg(folder, page));
-    }
-
-    static void dump(QAccessibleInterface* seen, int depth) {
-        if (!seen || seen->state().invisible)
-            return;
-        const char* cls = seen->object() ? seen->object()->metaObject()->className() : "-";
-        fprintf(stderr, "%*s%s [%s] name='%s' value='%s' desc='%s'\n", depth * 2, "", QMetaEnum::fromType<QAccessible::Role>().valueToKey(seen->role()), cls,
-              qPrintable(seen->text(QAccessible::Name)), qPrintable(seen->text(QAccessible::Value).left(60)), qPrintable(seen->text(QAccessible::Description).left(60)));
-        if (seen->role() == QAccessible::Tree || seen->role() == QAccessible::Table)
-            return;
-        for (int i = 0; i < seen->childCount(); ++i)
-            dump(seen->child(i), depth + 1);
     }
 };
 

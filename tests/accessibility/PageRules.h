@@ -4,8 +4,8 @@
 
 #include <QtWidgets>
 
-/// What every page keeps, so that a screen reader can tell of it and a keyboard leads through it. Each function gives what
-/// breaks its rule.
+/// What every page keeps, so that a screen reader can tell of it and a keyboard leads through it. Each function gives
+/// what breaks its rule.
 namespace PageRules {
 
 inline QString nameOf(QWidget* widget) {
@@ -24,7 +24,8 @@ inline QString labelOf(QWidget* widget) {
 inline QString called(QWidget* widget) {
     const QString name = nameOf(widget);
     const QString type = widget->metaObject()->className();
-    return name.isEmpty() ? type + " in " + widget->parentWidget()->metaObject()->className() : type + " \"" + name + '"';
+    return name.isEmpty() ? type + " in " + widget->parentWidget()->metaObject()->className()
+                          : type + " \"" + name + '"';
 }
 
 template <typename Widget> QList<Widget*> visible(const QWidget& root) {
@@ -86,9 +87,20 @@ inline QStringList namelessColumns(const QWidget& root) {
     return found;
 }
 
+/// Texts that are seen and not said.
+inline QStringList unsaid(const QWidget& root) {
+    QStringList found;
+    for (QLabel* label : visible<QLabel>(root)) {
+        if (label->textFormat() != Qt::RichText && !nameOf(label).contains(label->text()))
+            found << "label \"" + label->text() + "\" is said as \"" + nameOf(label) + '"';
+    }
+    return found;
+}
+
 /// Whether Tab leads to it.
 inline bool isStop(const QWidget* widget) {
-    return widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy();
+    return widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) &&
+           !widget->focusProxy();
 }
 
 /// The widgets that Tab leads to, in the order in which a page is read: a layout's from its first cell to its last.
@@ -219,8 +231,8 @@ inline QStringList loose(const QWidget& root) {
 }
 
 inline QStringList broken(QWidget& root) {
-    return nameless(QAccessible::queryAccessibleInterface(&root)) + namelessColumns(root) + unread(root) +
-           unreachable(root) + ambiguous(root) + loose(root);
+    return nameless(QAccessible::queryAccessibleInterface(&root)) + namelessColumns(root) + unsaid(root) +
+           unread(root) + unreachable(root) + ambiguous(root) + loose(root);
 }
 
 } // namespace PageRules

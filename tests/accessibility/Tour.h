@@ -106,8 +106,9 @@ private:
     }
 
     /// What opens is looked at and left again.
-    void dialog(const QString& page, const std::function<void()>& open,
-                const std::function<void(QDialog*)>& act = [](QDialog*) {}) {
+    void dialog(
+        const QString& page, const std::function<void()>& open,
+        const std::function<void(QDialog*)>& act = [](QDialog*) {}) {
         bool isSeen = false;
         ModalDriver::onNextDialog([&](QDialog* opened) {
             QTest::qWait(30);
@@ -124,8 +125,8 @@ private:
         settle();
     }
 
-    void dialog(const QString& page, const QString& opener,
-                const std::function<void(QDialog*)>& act = [](QDialog*) {}) {
+    void dialog(
+        const QString& page, const QString& opener, const std::function<void(QDialog*)>& act = [](QDialog*) {}) {
         dialog(
             page, [&] { button(opener)->click(); }, act);
     }
@@ -142,7 +143,8 @@ private:
 
     void addOwnEntries() {
         ICoordSystem* const catalogue = get_instance_ICoordSystem("", 0);
-        const auto add = [&](bool (ICoordSystem::*function)(const IDictionary*), std::initializer_list<const char*> texts) {
+        const auto add = [&](bool (ICoordSystem::*function)(const IDictionary*),
+                             std::initializer_list<const char*> texts) {
             const DictionaryGuard record;
             for (auto text = texts.begin(); text != texts.end(); text += 2)
                 record->setText(text[0], text[1]);
@@ -212,12 +214,12 @@ private:
 
     void treeDialogs() {
         dialog("Name of a group", [this] { command("AddSysGroup"); });
-        dialog("Ellipsoids", [this] { command("Edit Ellipsoid"); }, [this](QDialog* list) {
-            dialog("New ellipsoid", [&] { button("Add", list)->click(); });
-        });
-        dialog("Geoids", [this] { command("AddGeoid"); }, [this](QDialog* list) {
-            dialog("New geoid", [&] { button("Add", list)->click(); });
-        });
+        dialog(
+            "Ellipsoids", [this] { command("Edit Ellipsoid"); },
+            [this](QDialog* list) { dialog("New ellipsoid", [&] { button("Add", list)->click(); }); });
+        dialog(
+            "Geoids", [this] { command("AddGeoid"); },
+            [this](QDialog* list) { dialog("New geoid", [&] { button("Add", list)->click(); }); });
         ImportProgress progress(window.get(), 10);
         for (int i = 0; i < 3; ++i)
             progress.showMessage([] {});
@@ -232,7 +234,8 @@ private:
         const auto first = tree->findItems("Amersfoort / RD New", Qt::MatchExactly | Qt::MatchRecursive).first();
         tree->setCurrentItem(first);
         dialog("Question", [this] { command("DelSys"); });
-        dialog("Notice", [this] { VornMessageBox::information_ok(window.get(), "information", "please input valid content!"); });
+        dialog("Notice",
+               [this] { VornMessageBox::information_ok(window.get(), "information", "please input valid content!"); });
     }
 
     Look look;

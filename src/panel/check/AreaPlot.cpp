@@ -92,7 +92,7 @@ AreaPlot::AreaPlot(const QString& accessibleName, QWidget* parent)
     setAccessibleName(accessibleName);
     setUpAxes();
     spectrogram->setDisplayMode(QwtPlotSpectrogram::ContourMode, true);
-    spectrogram->setDefaultContourPen(Colours::line, 0.0);
+    spectrogram->setDefaultContourPen(Colours::line, 1.0);
     spectrogram->setConrecFlag(QwtRasterData::IgnoreAllVerticesOnLevel, false);
     spectrogram->setRenderThreadCount(0); // as many as the machine has
     spectrogram->attach(this);
@@ -212,13 +212,14 @@ void AreaPlot::describe(const AreaValues& values, const GridArea& area, const QS
     };
     const QwtInterval easting = interval(area.centre.easting, area.width);
     const QwtInterval northing = interval(area.centre.northing, area.height);
-    summary = QStringList{extreme(PanelText::tr("Smallest value: %1 %2 at easting %3, northing %4."), values.smallest()),
-                          extreme(PanelText::tr("Largest value: %1 %2 at easting %3, northing %4."), values.largest()),
-                          PanelText::tr("The picture: easting %1 to %2, northing %3 to %4, in %5.")
-                              .arg(text(easting.minValue()), text(easting.maxValue()), text(northing.minValue()),
-                                   text(northing.maxValue()), axisUnitText()),
-                          PanelText::tr("The arrow keys move a mark over it.")}
-                  .join(' ');
+    summary =
+        QStringList{extreme(PanelText::tr("Smallest value: %1 %2 at easting %3, northing %4."), values.smallest()),
+                    extreme(PanelText::tr("Largest value: %1 %2 at easting %3, northing %4."), values.largest()),
+                    PanelText::tr("The picture: easting %1 to %2, northing %3 to %4, in %5.")
+                        .arg(text(easting.minValue()), text(easting.maxValue()), text(northing.minValue()),
+                             text(northing.maxValue()), axisUnitText()),
+                    PanelText::tr("The arrow keys move a mark over it.")}
+            .join(' ');
     setAccessibleDescription(summary);
 }
 

@@ -11,8 +11,8 @@ class ResidualItem;
 
 /// The picture of a table of points: where they lie on the grid, with the vector from each given place towards the
 /// computed one, made longer by a round factor that a scale bar tells. Points beyond the tolerance are red
-/// squares, those left out grey rings. Of points closer together than a few pixels only the one that is off most is drawn, so that a million cost
-/// no more than some thousands.
+/// squares, those left out grey rings. Of points closer together than a few pixels only the one that is off most is
+/// drawn, so that a million cost no more than some thousands.
 class PointsPlot : public QwtPlot {
     Q_OBJECT
 

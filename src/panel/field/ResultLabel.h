@@ -2,8 +2,8 @@
 
 #include <QLabel>
 
-/// A figure or a sentence that a form gives, to be selected and copied. A screen reader says its name and its text; of a
-/// QLabel with a name it would say the name alone.
+/// A figure or a sentence that a form gives, to be selected and copied. A screen reader says its name and its text; of
+/// a QLabel with a name it would say the name alone.
 class ResultLabel : public QLabel {
     Q_OBJECT
 

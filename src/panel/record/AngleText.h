@@ -28,8 +28,8 @@ public:
     /// be seconds or south, so that the text is refused. The range is not looked at.
     static AngleInput parse(const QString& text, AngleRole role);
 
-    /// The same for a text that is typed into a field: there a comma within a number is the decimal one, unless there is
-    /// another one or a point. No angle has thousands.
+    /// The same for a text that is typed into a field: there a comma within a number is the decimal one, unless there
+    /// is another one or a point. No angle has thousands.
     static AngleInput parseTyped(const QString& text, AngleRole role);
 
     /// The angle to 12 decimals of a degree (0.1 µm on the ground), or to 1e-8 arc-seconds (3e-12 degrees) as

@@ -25,8 +25,8 @@ public:
     static double metres() { return metres(chosenUnit); }
     static QString symbol() { return symbol(chosenUnit); }
 
-    /// Reads a number as NumberText::parseTyped() does, in the chosen unit, whose symbol may follow; gives metres. False
-    /// for any other text, also one with another unit; `metres` is untouched then.
+    /// Reads a number as NumberText::parseTyped() does, in the chosen unit, whose symbol may follow; gives metres.
+    /// False for any other text, also one with another unit; `metres` is untouched then.
     static bool parse(const QString& text, double* metres);
 
     /// A length with 4 decimals in the chosen unit, without it.

@@ -17,8 +17,8 @@ public:
     /// typed. False leaves both untouched.
     static bool parse(const QString& text, double* number, QString* plain);
 
-    /// The same for a text that is typed into a field: there a comma is the decimal one where it can be nothing else, as
-    /// in "45,5", "0,999", "500000,123" and "1.234,567". "45,500" could be either number and is none.
+    /// The same for a text that is typed into a field: there a comma is the decimal one where it can be nothing else,
+    /// as in "45,5", "0,999", "500000,123" and "1.234,567". "45,500" could be either number and is none.
     static bool parseTyped(const QString& text, double* number, QString* plain);
 
     /// Why a typed text is no number, translated.

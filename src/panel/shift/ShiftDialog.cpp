@@ -20,6 +20,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cmath>
 
 using Kind = ShiftFromPoints::Kind;
@@ -98,6 +99,7 @@ void ShiftDialog::buildTable(QVBoxLayout* layout) {
     const int digit = table->fontMetrics().horizontalAdvance('0');
     for (int column = 0; column < ShiftPointsModel::ColumnCount; ++column)
         table->setColumnWidth(column, digit * (column < ShiftPointsModel::Before ? 14 : 10));
+    makeRoomForHeadings();
     layout->addWidget(table, 1);
     auto* row = new QHBoxLayout;
     auto* pasteButton = new QPushButton(PanelText::tr("Paste"));
@@ -146,9 +148,16 @@ void ShiftDialog::buildResult(QVBoxLayout* layout) {
     connect(buttons, SIGNAL(rejected()), this, SLOT(reject()));
 }
 
+void ShiftDialog::makeRoomForHeadings() {
+    for (int column = 0; column < ShiftPointsModel::ColumnCount; ++column)
+        table->setColumnWidth(column,
+                              std::max(table->columnWidth(column), table->horizontalHeader()->sectionSizeHint(column)));
+}
+
 void ShiftDialog::_onFormChosen() {
     points.setForms(ShiftPointsModel::OwnForm(ownBox->currentIndex()),
                     ShiftPointsModel::Wgs84Form(wgs84Box->currentIndex()));
+    makeRoomForHeadings();
 }
 
 void ShiftDialog::_onPointsChanged() {

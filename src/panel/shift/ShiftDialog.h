@@ -38,6 +38,7 @@ private:
     void buildChoices(QVBoxLayout* layout);
     void buildTable(QVBoxLayout* layout);
     void buildResult(QVBoxLayout* layout);
+    void makeRoomForHeadings();
     void showResult();
     void editCell();
     QString summary() const;

@@ -70,7 +70,7 @@ bool isClose(const QColor& colour, QRgb expected) {
            std::abs(colour.blue() - other.blue()) < 8;
 }
 
-constexpr QRgb blue = 0x2166ac, paleBlue = 0x92c5de, white = 0xffffff, paleRed = 0xf4a582, red = 0xb2182b;
+constexpr QRgb blue = 0x4393c3, paleBlue = 0x92c5de, white = 0xffffff, paleRed = 0xf4a582, red = 0xd6604d;
 constexpr QRgb paler = 0xc8e2ee; ///< in the middle between white and pale blue
 
 } // namespace
@@ -122,6 +122,38 @@ private Q_SLOTS:
         screen.plot.clear();
         for (const int axis : {QwtPlot::xBottom, QwtPlot::yLeft, QwtPlot::yRight})
             QVERIFY(!screen.plot.axisEnabled(axis));
+    }
+
+    /// The arrow keys lead over the map as the mouse does, and what there is to see is told in words.
+    void keysAndWords() {
+        SlopeOnScreen screen(-400.0, 400.0);
+        AreaPlot& plot = screen.plot;
+        const QString words = plot.accessibleDescription();
+        QVERIFY2(words.contains("Smallest value: -400 ppm at easting -0.5,"), qPrintable(words));
+        QVERIFY2(words.contains("Largest value: 400 ppm at easting 0.5,"), qPrintable(words));
+        QSignalSpy pointed(&plot, SIGNAL(pointed(double, double))), left(&plot, SIGNAL(left()));
+        const auto coordinate = [&](int index) {
+            return pointed.isEmpty() ? qQNaN() : pointed.last()[index].toDouble();
+        };
+        QApplication::setActiveWindow(&plot);
+        plot.setFocus(Qt::TabFocusReason);
+        QVERIFY(std::abs(coordinate(0)) < 5.0 && std::abs(coordinate(1)) < 5.0);
+        QTest::keyClick(&plot, Qt::Key_Right);
+        QVERIFY(std::abs(coordinate(0) - 50.0) < 5.0);
+        const double before = coordinate(1);
+        QTest::keyClick(&plot, Qt::Key_Up, Qt::ShiftModifier);
+        QVERIFY(coordinate(1) > before && coordinate(1) - before < 5.0);
+        for (int i = 0; i < 30; ++i)
+            QTest::keyClick(&plot, Qt::Key_Left);
+        QVERIFY(std::abs(coordinate(0) + 500.0) < 5.0);
+        plot.describePlace("-400 ppm");
+        QCOMPARE(plot.accessibleDescription(), "-400 ppm. " + words);
+        QCOMPARE(left.count(), 0);
+        plot.clearFocus();
+        QCOMPARE(left.count(), 1);
+        plot.clear();
+        QCOMPARE(plot.accessibleDescription(), QString("The picture is empty."));
+        QCOMPARE(plot.focusPolicy(), Qt::NoFocus);
     }
 };
 

@@ -51,7 +51,7 @@ public:
         acts["delete"] = [this](const QString&) { QTest::keyClick(table(), Qt::Key_Delete); };
         acts["undo"] = [this](const QString&) { QTest::keyClick(table(), Qt::Key_Z, Qt::ControlModifier); };
         sights["outlier"] = [this](const QString& row) {
-            return index(row + ",8").data(Qt::ForegroundRole).value<QColor>() == QColor(0xb2182b) ? "yes" : "no";
+            return index(row + ",8").data(Qt::ForegroundRole).value<QColor>() == QColor(0xb00020) ? "yes" : "no";
         };
         sights["rows"] = [this](const QString&) { return QString::number(points.rowCount()); };
         sights["cell"] = [this](const QString& cell) { return index(cell).data().toString(); };
