@@ -164,13 +164,13 @@ class Photographer:
 
     def definition(self):
         self.tool.tab("Definition")
-        self.sees("EPSG:27700, OSGB36 / British National Grid: the same to 0.01 mm over its area", "WKT 1 (ESRI)",
-                  "With identifier", 'PROJCS["OSGB36 / British National Grid",',
+        self.sees("In the registry: EPSG:27700, OSGB36 / British National Grid: the same to 0.01 mm over its area",
+                  "WKT 1 (ESRI)", "With identifier", 'PROJCS["OSGB36 / British National Grid",',
                   'SPHEROID["Airy_1830",6377563.396,299.3249646]],',
                   fields={"PROJ definition": "+proj=tmerc +lat_0=49 +lon_0=-2 +k_0=0.9996012717 +x_0=400000 +y_0=-100000 "
                                              "+a=6377563.396 +rf=299.3249646 +units=m +no_defs",
                           "Where from": "EPSG:27700, EPSG v10.076", "Remark": ""},
-                  pressable=("Copy", "Save as .prj", "Save group...", "From registry...", "From text..."))
+                  pressable=("Copy the PROJ definition", "Copy the WKT", "Save as .prj", "Save group...", "From registry...", "From text..."))
         self.take("definition")
 
     def check_point(self):
@@ -178,9 +178,9 @@ class Photographer:
         panel = self.tool.tab("Check")
         panel.find("text", "Latitude").fill("52 39 27.2531")
         panel.find("text", "Longitude").fill("1 43 4.5177")
-        self.sees("The system's own", "Grid scale factor", "1.0003773154  (377.32 ppm)", "Convergence", "2.9573767°",
-                  "Combined factor", "unknown: the system defines no datum shift",
-                  "The registry's shifts move this point by 129 to 134 m.", "Closing error", "0.000 mm", "Point", "Distortion",
+        self.sees("The system's own", "Grid scale factor: 1.0003773154  (377.32 ppm)", "Convergence: 2.9573767°",
+                  "Combined factor: 1.0003773154  (377.32 ppm)", "On WGS 84: unknown: the system defines no datum shift",
+                  "The registry's shifts move this point by 129 to 134 m.", "Closing error: 0.000 mm", "Point", "Distortion",
                   "Points", "Compare", pressable=("Copy as text",),
                   fields={"Easting": "651409.9029", "Northing": "313177.2703", "Ellipsoidal height": "0.0000"})
         self.take("check-point")
@@ -206,8 +206,9 @@ class Photographer:
         panel.find("check box", "With datum shifts").click()
         self.sees("minus EPSG:27700, OSGB36 / British National Grid", "From catalogue...", "500 km", "Apart from the mean",
                   "No datum shift is defined by OSGB36 / British National Grid: it counts as on WGS 84.",
-                  "Picture of the difference", "At the mouse", "Checked point", "-128.738 m", "38.866 m", "134.477 m", "Mean",
-                  "128.346 m", "Apart from it", "42.574 m", ticked=("With datum shifts",))
+                  "Picture of the difference", "Checked point, ΔE: -128.738 m", "Checked point, ΔN: 38.866 m",
+                  "Checked point, Distance: 134.477 m", "Mean, Distance: 128.346 m", "Apart from it, Distance: 42.574 m",
+                  ticked=("With datum shifts",))
         self.take("check-compare")
 
     def group(self):
@@ -406,9 +407,12 @@ class Photographer:
         panel.find("table cell", "Zeeuws-Vlaanderen").click()
         press("space")
         panel.find("check box", "Fit").click()
-        self.sees("before", "after ± standard deviation", "RMS, largest", "0.9999079", "0.999907613 ± 0.000000253",
-                  "155000 m", "155000.0213 m ± 0.0319", "463000 m", "462999.9987 m ± 0.0321", "0.0809, 0.1298",
-                  "0.0703, 0.0939 m", 'Against the ground remain a rotation of 0.09 ± 0.04" and a scale of 0 ± 0.19 ppm.',
+        self.sees("before", "after ± standard deviation", "RMS, largest", "Scale factor before: 0.9999079",
+                  "Scale factor after: 0.999907613 ± 0.000000253", "False easting before: 155000 m",
+                  "False easting after: 155000.0213 m ± 0.0319", "False northing before: 463000 m",
+                  "False northing after: 462999.9987 m ± 0.0321", "Misfit before: 0.0809, 0.1298",
+                  "Misfit after: 0.0703, 0.0939 m",
+                  'Remainder: Against the ground remain a rotation of 0.09 ± 0.04" and a scale of 0 ± 0.19 ppm.',
                   "Zeeuws-Vlaanderen   ΔE 0.1672   ΔN 72.0139   72.0141 m", pressable=("Take over", "Report..."),
                   ticked=("Fit", "Scale factor", "False easting", "False northing"))
         self.take("points-fit")
