@@ -49,11 +49,11 @@
     </message>
     <message>
         <source>Easting, %1</source>
-        <translation>东坐标（%1）</translation>
+        <translation>东坐标/%1</translation>
     </message>
     <message>
         <source>Northing, %1</source>
-        <translation>北坐标（%1）</translation>
+        <translation>北坐标/%1</translation>
     </message>
     <message>
         <source>From catalogue</source>
@@ -2277,19 +2277,19 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Easting, m</source>
-        <translation>东坐标（m）</translation>
+        <translation>东坐标/m</translation>
     </message>
     <message>
         <source>Northing, m</source>
-        <translation>北坐标（m）</translation>
+        <translation>北坐标/m</translation>
     </message>
     <message>
         <source>Height, m</source>
-        <translation>大地高（m）</translation>
+        <translation>大地高/m</translation>
     </message>
     <message>
         <source>WGS 84 X, m</source>
-        <translation>WGS 84 X（m）</translation>
+        <translation>WGS 84 X/m</translation>
     </message>
     <message>
         <source>WGS 84 latitude</source>
@@ -2297,7 +2297,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>WGS 84 Y, m</source>
-        <translation>WGS 84 Y（m）</translation>
+        <translation>WGS 84 Y/m</translation>
     </message>
     <message>
         <source>WGS 84 longitude</source>
@@ -2305,27 +2305,27 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>WGS 84 Z, m</source>
-        <translation>WGS 84 Z（m）</translation>
+        <translation>WGS 84 Z/m</translation>
     </message>
     <message>
         <source>WGS 84 height, m</source>
-        <translation>WGS 84大地高（m）</translation>
+        <translation>WGS 84大地高/m</translation>
     </message>
     <message>
         <source>Before, m</source>
-        <translation>之前（m）</translation>
+        <translation>之前/m</translation>
     </message>
     <message>
         <source>East, mm</source>
-        <translation>东向（mm）</translation>
+        <translation>东向/mm</translation>
     </message>
     <message>
         <source>North, mm</source>
-        <translation>北向（mm）</translation>
+        <translation>北向/mm</translation>
     </message>
     <message>
         <source>Up, mm</source>
-        <translation>垂向（mm）</translation>
+        <translation>垂向/mm</translation>
     </message>
     <message>
         <source>Smallest value: %1 %2 at easting %3, northing %4.</source>
