@@ -6,6 +6,7 @@
 #include "catalogue/ICoordSystem.h"
 #include "catalogue/Sdk.h"
 #include "platform/desktop/VornMessageBox.h"
+#include "support/Catalogue.h"
 #include "support/ModalDriver.h"
 #include "tree/DlgCoordSysGroups.h"
 #include "tree/ImportProgress.h"
@@ -23,7 +24,8 @@ public:
     /// `page` is what the user would call it; `root` is all of it that is to be looked at.
     using Look = std::function<void(const QString& page, QWidget& root)>;
 
-    explicit Tour(const Look& look) : look(look) {}
+    /// `catalogue` is that of the language in which the tool shows its texts; those below are the sources'.
+    explicit Tour(const Look& look, const Catalogue& catalogue = {}) : look(look), catalogue(catalogue) {}
 
     void go() {
         addOwnEntries();
@@ -62,7 +64,7 @@ private:
 
     QAbstractButton* button(const QString& text, const QWidget* root = nullptr) const {
         for (QAbstractButton* each : all<QAbstractButton>(root ? root : window.get())) {
-            if (each->text().remove('&') == text)
+            if (catalogue.means(each->text(), text))
                 return each;
         }
         qFatal("No button %s", qPrintable(text));
@@ -71,7 +73,7 @@ private:
     template <typename Widget> Widget* named(const QString& name, const QWidget* root = nullptr) const {
         for (Widget* each : all<Widget>(root ? root : window.get())) {
             const QAccessibleInterface* const seen = QAccessible::queryAccessibleInterface(each);
-            if (each->accessibleName() == name || seen->text(QAccessible::Name) == name)
+            if (catalogue.means(each->accessibleName(), name) || catalogue.means(seen->text(QAccessible::Name), name))
                 return each;
         }
         qFatal("Nothing is named %s", qPrintable(name));
@@ -80,7 +82,7 @@ private:
     void turnTo(const QString& tab, const QWidget* root = nullptr) const {
         for (QTabBar* bar : all<QTabBar>(root ? root : window.get())) {
             for (int i = 0; i < bar->count(); ++i) {
-                if (bar->tabText(i) == tab) {
+                if (catalogue.means(bar->tabText(i), tab)) {
                     bar->setCurrentIndex(i);
                     return settle();
                 }
@@ -103,6 +105,10 @@ private:
         edit->selectAll();
         QTest::keyClicks(edit, text);
         settle();
+    }
+
+    QString ofPoint1(const QString& column) const {
+        return catalogue.translated("%1 of point %2").arg(catalogue.translated(column)).arg(1);
     }
 
     /// What opens is looked at and left again.
@@ -133,7 +139,7 @@ private:
 
     void command(const QString& entry) const {
         for (QAction* action : tree->findChildren<QAction*>()) {
-            if (action->text() == entry)
+            if (catalogue.means(action->text(), entry))
                 return action->trigger();
         }
         qFatal("No command %s", qPrintable(entry));
@@ -201,10 +207,10 @@ private:
         turnTo("Definition");
         dialog("From registry, by name", "From registry...", [this](QDialog* registry) {
             turnTo("From coordinates", registry);
-            type("Latitude of point 1", "52.2", registry);
-            type("Longitude of point 1", "5.4", registry);
-            type("First coordinate of point 1", "155000", registry);
-            type("Second coordinate of point 1", "463000", registry);
+            type(ofPoint1("Latitude"), "52.2", registry);
+            type(ofPoint1("Longitude"), "5.4", registry);
+            type(ofPoint1("First coordinate"), "155000", registry);
+            type(ofPoint1("Second coordinate"), "463000", registry);
             QTest::qWait(3000);
             look("From registry, from coordinates", *registry);
         });
@@ -234,11 +240,14 @@ private:
         const auto first = tree->findItems("Amersfoort / RD New", Qt::MatchExactly | Qt::MatchRecursive).first();
         tree->setCurrentItem(first);
         dialog("Question", [this] { command("DelSys"); });
-        dialog("Notice",
-               [this] { VornMessageBox::information_ok(window.get(), "information", "please input valid content!"); });
+        dialog("Notice", [this] {
+            VornMessageBox::information_ok(window.get(), catalogue.translated("information"),
+                                           catalogue.translated("please input valid content!"));
+        });
     }
 
     Look look;
+    Catalogue catalogue;
     std::unique_ptr<VornCoordSysMainWindow> window;
     DlgCoordSysGroups* tree = nullptr;
 };

@@ -1,0 +1,71 @@
+#include "LanguageRules.h"
+#include "accessibility/Tour.h"
+#include "support/Catalogue.h"
+#include "support/RoomTest.h"
+
+/// Every tab, page and dialog in the language that the tool was started in, in the window's own size and in its smallest:
+/// no text is cut off, none stayed in English.
+class LanguageTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() {
+        language = qEnvironmentVariable("LANGUAGE");
+        if (language == "zh_CN" && QFontDatabase().families(QFontDatabase::SimplifiedChinese).isEmpty())
+            QFAIL("No font has Chinese characters: install fonts-wqy-microhei, or another.");
+        QApplication::setStyle("fusion");
+    }
+
+    void pages() {
+        const Catalogue catalogue(QString(CATALOGUES "/coordsystem_manager_%1.ts").arg(language));
+        const LanguageRules::Untranslated untranslated(language == "en" ? Catalogue() : catalogue);
+        QStringList broken;
+        int pages = 0;
+        const QTemporaryDir home;
+        for (const char* place : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
+            qputenv(place, home.path().toLocal8Bit());
+        const auto look = [&](const QString& page, QWidget& root, const QString& size) {
+            keep(root, page + size);
+            const QStringList found = LanguageRules::cutOff(root) + LanguageRules::oversized(root) +
+                                      untranslated.in(LanguageRules::textsOf(root));
+            for (const QString& each : found)
+                broken << page + size + ": " + each;
+        };
+        Tour(
+            [&](const QString& page, QWidget& root) {
+                ++pages;
+                if (qobject_cast<VornCoordSysMainWindow*>(&root)) {
+                    const QSize before = root.size();
+                    root.resize(root.minimumSize());
+                    QTest::qWait(30);
+                    look(page, root, ", smallest");
+                    root.resize(root.sizeHint().expandedTo(root.minimumSize()));
+                    QTest::qWait(30);
+                    look(page, root, "");
+                    root.resize(before);
+                    QTest::qWait(30);
+                } else {
+                    look(page, root, "");
+                }
+            },
+            catalogue)
+            .go();
+        QCOMPARE(pages, 28);
+        broken.removeDuplicates();
+        for (const QString& each : qAsConst(broken))
+            qWarning("%s", qPrintable(each)); // QtTest would cut them all off together
+        QVERIFY2(broken.isEmpty(), qPrintable(QString("%1 faults").arg(broken.size())));
+    }
+
+private:
+    void keep(QWidget& root, const QString& page) const {
+        const QString folder = qEnvironmentVariable("LANGUAGES_PICTURES");
+        if (!folder.isEmpty() && QDir().mkpath(folder))
+            root.grab().save(QString("%1/%2, %3.png").arg(folder, page, language));
+    }
+
+    QString language;
+};
+
+ROOM_TEST(LanguageTest)
+#include "LanguageTest.moc"
