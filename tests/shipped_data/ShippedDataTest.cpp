@@ -71,14 +71,14 @@ private Q_SLOTS:
         const auto [name, a, f] = textRow<3>();
         const CatalogueRecord* ellipsoid = ellipsoids.records.find(name);
         QVERIFY(ellipsoid);
-        QCOMPARE(QByteArray(ellipsoid->values->getValue(EllipsoidKey::a)), a);
-        QCOMPARE(QByteArray(ellipsoid->values->getValue(EllipsoidKey::f)), f);
+        QCOMPARE(QByteArray(ellipsoid->values()->getValue(EllipsoidKey::a)), a);
+        QCOMPARE(QByteArray(ellipsoid->values()->getValue(EllipsoidKey::f)), f);
     }
 
     void everyEllipsoidIsShippedAndSound() {
         int count = 0;
         for (const CatalogueRecord& ellipsoid : ellipsoids.records) {
-            QCOMPARE(ellipsoid.values->getValue(EllipsoidKey::flag), "1");
+            QCOMPARE(ellipsoid.values()->getValue(EllipsoidKey::flag), "1");
             const double a = number(ellipsoid, EllipsoidKey::a);
             const double f = number(ellipsoid, EllipsoidKey::f);
             QVERIFY2(a > 6.37e6 && a < 6.379e6, ellipsoid.name);
