@@ -44,12 +44,9 @@ def lint_one_by_one(sources):
 
 def unused_names(source):
     """What clang says of a source on its own, but not of one in a unit: constants and aliases that nothing uses."""
-    text = ""
-    for name in source, source.replace(".cpp", ".h"):
-        if os.path.exists(name):
-            with open(name, encoding="utf-8") as file:
-                text += file.read()
-    declared = re.findall(r"^(?:namespace |(?:static )?const(?:expr)? [^;()=]*?)\b(\w+)(?:\[\w*\])* ?[={]", text, re.MULTILINE)
+    with open(source, encoding="utf-8") as file:
+        text = file.read()
+    declared = re.findall(r"^(?:namespace |(?:static const|constexpr) [^;()=]*?)\b(\w+)(?:\[\w*\])* ?[={]", text, re.MULTILINE)
     return [f"{source}: {name} is not used" for name in declared if len(re.findall(rf"\b{name}\b", text)) == 1]
 
 
