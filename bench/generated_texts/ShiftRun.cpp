@@ -18,7 +18,7 @@ constexpr int coordinateFrame = 9607;
 constexpr int molodenskyBadekas = 9636;
 constexpr const char* formNames[] = {"TOWGS84", "BOUNDCRS", "BOUNDCRS with units", "+towgs84"};
 
-constexpr int methods[] = {9603, 9606, coordinateFrame, molodenskyBadekas};
+constexpr int heldMethods[] = {9603, 9606, coordinateFrame, molodenskyBadekas};
 
 /// The codes of the seven parameters, in the order of +towgs84.
 constexpr int parameterCodes[] = {8605, 8606, 8607, 8608, 8609, 8610, 8611};
@@ -88,8 +88,8 @@ ShiftRun::Transformation ShiftRun::readTransformation(const char* code) const {
         return {};
     Transformation transformation{code, name, QByteArray(method).toInt(), {}};
     const ProjObject target(proj_get_target_crs(context, operation.get()));
-    if (std::find(std::begin(methods), std::end(methods), transformation.method) == std::end(methods) || !target ||
-        QByteArray(proj_get_name(target.get())) != "WGS 84")
+    if (std::find(std::begin(heldMethods), std::end(heldMethods), transformation.method) == std::end(heldMethods) ||
+        !target || QByteArray(proj_get_name(target.get())) != "WGS 84")
         return {};
     for (int i = 0; i < proj_coordoperation_get_param_count(context, operation.get()); ++i) {
         const char* parameter = nullptr;

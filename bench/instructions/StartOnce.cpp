@@ -1,4 +1,5 @@
-// Starts the tool as src/app/main.cpp does, and ends when its window is painted: what a start costs, and nothing after it.
+// Starts the tool as src/app/main.cpp does, and ends when its window is painted: what a start costs, and nothing after
+// it.
 
 #include "app/VornCoordSysMainWindow.h"
 #include "catalogue/Sdk.h"

@@ -3,8 +3,9 @@
 //   bench_speed_catalogue load FOLDER           milliseconds
 //   bench_speed_catalogue parse FOLDER          milliseconds that pugixml needs for the file
 //   bench_speed_catalogue save FOLDER           milliseconds of a save after one edit
-//   bench_speed_catalogue write FOLDER          milliseconds to write the file's bytes to a new file and flush them to disk
-//   bench_speed_catalogue memory FOLDER         bytes of the file, of memory with it loaded, and of memory at most in a save
+//   bench_speed_catalogue write FOLDER          milliseconds to write the file's bytes to a new file and flush them to
+//   disk bench_speed_catalogue memory FOLDER         bytes of the file, of memory with it loaded, and of memory at most
+//   in a save
 
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/DictionaryGuard.h"
@@ -40,9 +41,7 @@ QByteArrayList namesIn(const char* list) {
 
 /// The catalogue of one folder.
 struct Loaded {
-    explicit Loaded(const QString& folder)
-        : folder(folder)
-        , catalogue(shippedFolder(), folder + "/rescue") {}
+    explicit Loaded(const QString& folder) : folder(folder), catalogue(shippedFolder(), folder + "/rescue") {}
 
     void load() { catalogue.load(QFile::encodeName(folder + '/').constData()); }
 
@@ -78,7 +77,8 @@ void make(const QString& folder, int systems) {
             ICoordSysGroup* const from = shipped.getGroup(name.constData());
             for (const QByteArray& system : namesIn(from->getCoordSystemNames())) {
                 if (count++ < systems)
-                    made.catalogue.getGroup(copied.constData())->addCoordSystem(from->getCoordSystem(system.constData()));
+                    made.catalogue.getGroup(copied.constData())
+                        ->addCoordSystem(from->getCoordSystem(system.constData()));
             }
         }
     }

@@ -1,12 +1,11 @@
-// What a person waits for in the tool's window: its classes, its data and the real projection module, in a home folder of
-// its own. Prints milliseconds.
-//   bench_speed_window clicks           a click on a system while each tab is shown, every tab open; a median for each tab
-//   bench_speed_window tab TITLE        the first click on a tab
-//   bench_speed_window registry         the registry's list until it is shown, and the slowest letter typed into its search
-//   bench_speed_window import FILES...  all but the first, which warms the libraries up
+// What a person waits for in the tool's window: its classes, its data and the real projection module, in a home folder
+// of its own. Prints milliseconds.
+//   bench_speed_window clicks           a click on a system while each tab is shown, every tab open; a median for each
+//   tab bench_speed_window tab TITLE        the first click on a tab bench_speed_window registry         the registry's
+//   list until it is shown, and the slowest letter typed into its search bench_speed_window import FILES...  all but
+//   the first, which warms the libraries up
 
 #include "WindowDriver.h"
-
 #include "platform/desktop/Applicationx.h"
 
 #include <QTemporaryDir>

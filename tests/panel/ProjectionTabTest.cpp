@@ -5,8 +5,6 @@
 
 namespace Key = CoordParamKey;
 
-Q_DECLARE_METATYPE(ProjectionMethod)
-
 class ProjectionTabTest : public QObject {
     Q_OBJECT
 

@@ -6,8 +6,11 @@
 #include "support/SampleRecords.h"
 
 #include <QByteArrayList>
+#include <QMetaType>
 
 #include <cmath>
+
+Q_DECLARE_METATYPE(ProjectionMethod)
 
 /// Records for the panel's tests.
 namespace PanelRecords {

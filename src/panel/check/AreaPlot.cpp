@@ -1,5 +1,6 @@
 #include "panel/check/AreaPlot.h"
 
+#include "panel/check/PlainScaleDraw.h"
 #include "panel/field/Colours.h"
 #include "panel/record/LengthUnit.h"
 #include "panel/record/NumberText.h"
@@ -14,7 +15,6 @@
 #include <qwt_plot_layout.h>
 #include <qwt_plot_marker.h>
 #include <qwt_plot_spectrogram.h>
-#include <qwt_scale_draw.h>
 #include <qwt_scale_widget.h>
 #include <qwt_symbol.h>
 
@@ -28,12 +28,6 @@ constexpr int contourCount = 8;
 constexpr int parallelCount = 2;
 constexpr int keySteps = 20; ///< of the arrow keys, across the map
 constexpr int axes[] = {QwtPlot::xBottom, QwtPlot::yLeft, QwtPlot::yRight};
-
-/// Numbers without the grouping of the system's language: northings have no room for it.
-class PlainScaleDraw : public QwtScaleDraw {
-public:
-    QwtText label(double value) const override { return QString::number(value, 'g', 10); }
-};
 
 /// Blue for negative, white for 0, red for positive values: ColorBrewer's diverging scheme RdBu, which the colour-blind
 /// tell apart, with white for its grey middle and without its darkest, on which no line

@@ -57,10 +57,6 @@ QString nameOf(const PointTable& points, std::size_t row) {
     return shortened(QString::fromUtf8(name.data(), int(name.size())));
 }
 
-QString lengthText(double metres) {
-    return std::isnan(metres) ? QString() : LengthUnit::text(metres);
-}
-
 QString withUnit(const QString& number) {
     return number + ' ' + LengthUnit::symbol();
 }
@@ -89,7 +85,7 @@ QString numberHeading(const QString& name) {
 QString figuresRow(const QString& name, const PointStatistics::Figures& figures) {
     QString row = "<tr><td>" + name + "</td>";
     for (const double figure : {figures.mean, figures.rms, figures.largest})
-        row += numberCell(lengthText(figure));
+        row += numberCell(LengthUnit::text(figure));
     return row + "</tr>\n";
 }
 
@@ -340,7 +336,7 @@ QString CheckReport::pointRow(std::size_t row) const {
                                      PointColumn::Easting, PointColumn::Northing}) {
         const double value = points.shown(row, column);
         const bool isAngle = column == PointColumn::Latitude || column == PointColumn::Longitude;
-        const QString number = !isAngle            ? lengthText(value)
+        const QString number = !isAngle            ? LengthUnit::text(value)
                                : std::isnan(value) ? QString()
                                                    : AngleText::rounded(value).toHtmlEscaped();
         text += numberCell(std::isnan(points.given(row, column)) ? "<i>" + number + "</i>" : number, look);
@@ -348,7 +344,7 @@ QString CheckReport::pointRow(std::size_t row) const {
     const GridPoint difference = points.difference(row);
     for (const double metres :
          {difference.easting, difference.northing, std::hypot(difference.easting, difference.northing)})
-        text += numberCell(lengthText(metres), look);
+        text += numberCell(LengthUnit::text(metres), look);
     text += QString("<td class=\"%1\">%2</td></tr>\n").arg(look, isBeyond(row) ? "*" : "");
     QStringList remarks;
     if (!points.isUsed(row))

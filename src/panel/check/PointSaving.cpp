@@ -1,5 +1,6 @@
 #include "panel/check/PointSaving.h"
 
+#include "panel/check/SlicedWork.h"
 #include "panel/record/LengthUnit.h"
 
 #include <algorithm>
@@ -7,7 +8,6 @@
 
 namespace {
 
-constexpr std::size_t rowsPerPiece = 1000;
 constexpr const char* utf8Mark = "\xef\xbb\xbf"; ///< tells a spreadsheet that it is UTF-8
 
 } // namespace
@@ -28,7 +28,7 @@ double PointSaving::write() {
         return 1.0;
     }
     std::string text;
-    const std::size_t end = std::min(next + rowsPerPiece, points.size());
+    const std::size_t end = std::min(next + SlicedWork::rowsPerPiece, points.size());
     for (; next < end; ++next)
         writer.write(next, text);
     isFailed = file.write(text.data(), qint64(text.size())) < 0;

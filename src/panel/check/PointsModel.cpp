@@ -40,10 +40,6 @@ std::optional<PointColumn> numberOf(PointsModel::Column column) {
     }
 }
 
-QString lengthText(double metres) {
-    return std::isnan(metres) ? QString() : LengthUnit::text(metres);
-}
-
 QString angleText(double degrees) {
     return std::isnan(degrees) ? QString() : AngleText::rounded(degrees);
 }
@@ -193,17 +189,17 @@ QString PointsModel::text(std::size_t row, Column column) const {
     case Height:
     case Easting:
     case Northing:
-        return lengthText(table.shown(row, *numberOf(column)));
+        return LengthUnit::text(table.shown(row, *numberOf(column)));
     case DifferenceEast:
-        return lengthText(difference.easting);
+        return LengthUnit::text(difference.easting);
     case DifferenceNorth:
-        return lengthText(difference.northing);
+        return LengthUnit::text(difference.northing);
     case Distance:
-        return lengthText(std::hypot(difference.easting, difference.northing));
+        return LengthUnit::text(std::hypot(difference.easting, difference.northing));
     case FittedEast:
-        return row < fitted.size() ? lengthText(fitted[row].easting) : QString();
+        return row < fitted.size() ? LengthUnit::text(fitted[row].easting) : QString();
     case FittedNorth:
-        return row < fitted.size() ? lengthText(fitted[row].northing) : QString();
+        return row < fitted.size() ? LengthUnit::text(fitted[row].northing) : QString();
     case Remark:
         return table.remark(row);
     default:

@@ -42,7 +42,6 @@
 namespace {
 
 constexpr int headSize = 65536;
-constexpr std::size_t rowsPerPiece = 1000;
 constexpr std::size_t rowsAtOnce = 2000; ///< so many are computed before the window is seen again
 constexpr std::size_t mostCopied = 200000;
 
@@ -389,7 +388,7 @@ void PointsPane::forAllRows(Task forTask, const QString& what,
     begin(
         forTask, what,
         [this, rows, next] {
-            const std::size_t last = std::min(*next + rowsPerPiece, points().size());
+            const std::size_t last = std::min(*next + SlicedWork::rowsPerPiece, points().size());
             rows(*next, last);
             *next = last;
             return double(last) / double(points().size());

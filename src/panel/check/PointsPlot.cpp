@@ -1,5 +1,6 @@
 #include "panel/check/PointsPlot.h"
 
+#include "panel/check/PlainScaleDraw.h"
 #include "panel/field/Colours.h"
 #include "panel/record/LengthUnit.h"
 #include "panel/record/PanelText.h"
@@ -10,7 +11,6 @@
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_item.h>
 #include <qwt_plot_layout.h>
-#include <qwt_scale_draw.h>
 #include <qwt_scale_map.h>
 #include <qwt_scale_widget.h>
 
@@ -22,11 +22,6 @@ namespace {
 constexpr int pixelsPerCell = 4;     ///< of points in one cell, one is drawn
 constexpr double vectorShare = 0.15; ///< of the canvas that the longest vector of a sound point takes
 constexpr int reach = 8;             ///< pixels around a point that count as it
-
-class PlainScaleDraw : public QwtScaleDraw {
-public:
-    QwtText label(double value) const override { return QString::number(value, 'g', 10); }
-};
 
 /// The largest of 1, 2 and 5 times a power of ten that is no more than `value`.
 double roundedDown(double value) {
@@ -40,7 +35,7 @@ double length(const GridPoint& vector) {
 }
 
 /// "×2000", "×2·10^8".
-QString factorText(double factor) {
+QString magnification(double factor) {
     constexpr double longest = 1e7;
     if (factor < longest)
         return "×" + (factor < 1.0 ? QString::number(factor, 'g', 3) : QString::number(factor, 'f', 0));
@@ -111,7 +106,7 @@ void ResidualItem::drawBar(QPainter* painter, double pixelsPerMetre, const QRect
     const double unit = LengthUnit::metres();
     const double residual = roundedDown(vectorShare * canvas.width() / (pixelsPerMetre * factor) / unit) * unit;
     const double pixels = residual * pixelsPerMetre * factor;
-    const QString text = barText(residual) + ' ' + factorText(factor);
+    const QString text = barText(residual) + ' ' + magnification(factor);
     constexpr int flags = Qt::AlignLeft | Qt::AlignBottom | Qt::TextWordWrap; // a narrow picture has two lines
     const QRectF room = canvas.adjusted(5.0, 5.0, -3.0, -12.0);
     const QRectF words = painter->boundingRect(room, flags, text);
@@ -259,7 +254,7 @@ void PointsPlot::describe() {
                  text(axisInterval(yLeft).minValue()), text(axisInterval(yLeft).maxValue()), LengthUnit::symbol())};
     if (item->factor > 0.0)
         sentences << PanelText::tr("Largest difference: %1 %2; differences are drawn %3.")
-                         .arg(LengthUnit::text(longest), LengthUnit::symbol(), factorText(item->factor));
+                         .arg(LengthUnit::text(longest), LengthUnit::symbol(), magnification(item->factor));
     setAccessibleDescription(sentences.join(' '));
 }
 

@@ -5,6 +5,7 @@
 #include "panel/check/PointsPlot.h"
 #include "panel/check/ReportPdf.h"
 #include "panel/check/ReportPictures.h"
+#include "panel/check/SlicedWork.h"
 #include "panel/computing/ShownSystem.h"
 #include "panel/record/PanelText.h"
 #include "platform/projection/IEpsgRegistry.h"
@@ -20,7 +21,6 @@
 
 namespace {
 
-constexpr std::size_t rowsPerPiece = 1000;
 constexpr int lineFineness = 3;
 constexpr int mapFineness = 2; ///< colours take time, and need less
 
@@ -139,7 +139,7 @@ double ReportWriting::step() {
 
 double ReportWriting::stepOverRows() {
     const std::size_t size = check.points->size();
-    const std::size_t last = std::min(next + rowsPerPiece, size);
+    const std::size_t last = std::min(next + SlicedWork::rowsPerPiece, size);
     const bool isCounting = stage == Stage::Counting;
     const double part = double(last) / double(size);
     const double done = isCounting ? 0.2 * part : (isSecond ? 0.3 : 0.2) + 0.1 * part;

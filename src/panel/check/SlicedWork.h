@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <cstddef>
 #include <functional>
 
 /// Work that takes long, done in slices between the events of the window, so that it never hangs.
@@ -12,6 +13,9 @@ class SlicedWork : public QObject {
 public:
     /// Does a piece that takes some milliseconds at most, and says how much of all is done then: 1 at the end.
     using Piece = std::function<double()>;
+
+    /// So many points make a piece.
+    static constexpr std::size_t rowsPerPiece = 1000;
 
     explicit SlicedWork(QObject* parent = nullptr);
 

@@ -1,7 +1,6 @@
 #include "panel/computing/FitToPoints.h"
 
 #include "catalogue/CoordParamKey.h"
-#include "catalogue/Dictionary.h"
 #include "panel/computing/DesignProposal.h"
 #include "panel/computing/GridAdjustment.h"
 #include "panel/computing/GridDiagnosis.h"
@@ -14,10 +13,6 @@
 namespace Key = CoordParamKey;
 
 namespace {
-
-double valueOf(const IDictionary& record, const ParamField& field) {
-    return dictionary_number(record, field.key, 0.0);
-}
 
 int decimalsOf(const ParamField& field) {
     return field.isAngle() ? 8 : field.quantity == Quantity::ScaleFactor ? 9 : 4;
@@ -94,7 +89,7 @@ FitToPoints FitToPoints::solve(const IDictionary& record, IProjectionModule& mod
     }
     for (int i = 0; i < fields.size(); ++i)
         result.changedValues.append(
-            {fields[i], valueOf(record, *fields[i]), valueOf(adjustment.record(), *fields[i]), solution->deviation(i)});
+            {fields[i], fields[i]->number(record), fields[i]->number(adjustment.record()), solution->deviation(i)});
     result.after = *adjustment.residuals();
     result.remaining = remainderOf(*adjustment.computed(), points);
     return result;

@@ -16,10 +16,6 @@ namespace {
 using Eigen::MatrixXd;
 using Eigen::VectorXd;
 
-double valueOf(const IDictionary& record, const ParamField& field) {
-    return dictionary_number(record, field.key, 0.0);
-}
-
 } // namespace
 
 GridAdjustment::GridAdjustment(const IDictionary& record, IProjectionModule& module, const QVector<KnownPoint>& points)
@@ -68,7 +64,7 @@ std::optional<LeastSquares> GridAdjustment::estimate(const QVector<const ParamFi
         if ((*design * solution.values).lpNorm<Eigen::Infinity>() < still)
             return solution;
         for (int i = 0; i < fields.size(); ++i) {
-            if (!put(editor, *fields[i], valueOf(record(), *fields[i]) + solution.values(i)))
+            if (!put(editor, *fields[i], fields[i]->number(record()) + solution.values(i)))
                 return std::nullopt;
         }
     }
@@ -77,14 +73,14 @@ std::optional<LeastSquares> GridAdjustment::estimate(const QVector<const ParamFi
 
 void GridAdjustment::round(const ParamField& field, int decimals) {
     // What a field takes, it takes rounded: its ends have fewer decimals.
-    (void)put(editor, field, QString::number(valueOf(record(), field), 'f', decimals).toDouble());
+    (void)put(editor, field, QString::number(field.number(record()), 'f', decimals).toDouble());
 }
 
 bool GridAdjustment::put(CoordParamEditor& editor, const ParamField& field, double value) {
     const IDictionary& record = editor.record();
     const ParamField* const origin = ProjectionFields::ofRecord(record)->field(Key::orgLat);
     const bool startsOnParallel =
-        field.is(Key::parallel1Lat) && origin && valueOf(record, *origin) == valueOf(record, field);
+        field.is(Key::parallel1Lat) && origin && origin->number(record) == field.number(record);
     const bool isLongitude = field.quantity == Quantity::Longitude;
     const QString text = NumberText::shortest(isLongitude ? std::remainder(value, 360.0) : value);
     const FieldInput input = field.parse(text);
@@ -119,7 +115,7 @@ std::optional<QVector<GridPoint>> GridAdjustment::slopesOf(const ParamField& fie
     if (field.is(Key::factor)) {
         const double east = dictionary_number(record(), Key::falseEast, 0.0);
         const double north = dictionary_number(record(), Key::falseNorth, 0.0);
-        const double factor = valueOf(record(), field);
+        const double factor = field.number(record());
         QVector<GridPoint> slopes;
         for (const GridPoint& point : grid)
             slopes.append({(point.easting - east) / factor, (point.northing - north) / factor});
@@ -130,7 +126,7 @@ std::optional<QVector<GridPoint>> GridAdjustment::slopesOf(const ParamField& fie
     CoordParamEditor present;
     present.setRecord(record());
     const auto at = [&](double change) {
-        const bool isMoved = put(editor, field, valueOf(record(), field) + change);
+        const bool isMoved = put(editor, field, field.number(record()) + change);
         auto moved = isMoved ? computed() : std::nullopt;
         editor.setRecord(present.record());
         return moved;

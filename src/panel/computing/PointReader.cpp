@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr double nothing = std::numeric_limits<double>::quiet_NaN();
 const QByteArray utf8Mark = QByteArrayLiteral("\xef\xbb\xbf");
 
 bool isUtf16(const QByteArray& bytes) {
@@ -152,7 +151,7 @@ void PointReader::readLine(std::string_view line) {
     bool isAnything = false;
     for (std::size_t i = 0; i < values.size(); ++i) {
         const auto column = PointColumn(i);
-        values[i] = nothing;
+        values[i] = PointTable::nothing;
         if (texts[i].empty())
             continue;
         isAnything = true;
@@ -160,7 +159,7 @@ void PointReader::readLine(std::string_view line) {
         isOutOfRange[i] = !isUnread[i] && !PointTable::accepts(column, values[i]);
         if (isUnread[i] || isOutOfRange[i]) {
             isRead = false;
-            values[i] = nothing;
+            values[i] = PointTable::nothing;
         }
     }
     const auto isThere = [&](PointColumn column) { return !std::isnan(values[std::size_t(column)]); };

@@ -6,12 +6,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <type_traits>
 
 namespace {
 
-constexpr double nothing = std::numeric_limits<double>::quiet_NaN();
 constexpr char endOfName = '\x1f';
 constexpr char endOfText = '\0';
 

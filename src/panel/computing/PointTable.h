@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +22,7 @@ enum class PointColumn : std::uint8_t { Latitude, Longitude, Height, Easting, No
 class PointTable {
 public:
     static constexpr std::size_t numberCount = 5;
+    static constexpr double nothing = std::numeric_limits<double>::quiet_NaN(); ///< what is not there
 
     /// Whether a column of numbers may hold a value: latitudes to 90, longitudes to 360 degrees, heights of -20 to
     /// 100 km, a grid to 1e9 m.

@@ -2,6 +2,8 @@
 
 #include "panel/record/NumberText.h"
 
+#include <cmath>
+
 LengthUnit::Kind LengthUnit::chosenUnit = LengthUnit::Metre;
 
 double LengthUnit::metres(Kind unit) {
@@ -24,6 +26,8 @@ bool LengthUnit::parse(const QString& text, double* metres) {
 }
 
 QString LengthUnit::text(double metres) {
+    if (std::isnan(metres))
+        return QString();
     const QString text = QString::number(metres / LengthUnit::metres(), 'f', 4);
     return text == "-0.0000" ? "0.0000" : text;
 }

@@ -29,7 +29,7 @@ public:
     /// False for any other text, also one with another unit; `metres` is untouched then.
     static bool parse(const QString& text, double* metres);
 
-    /// A length with 4 decimals in the chosen unit, without it.
+    /// A length with 4 decimals in the chosen unit, without it; empty for NaN.
     static QString text(double metres);
 
     /// Why parse() refused a text, translated.

@@ -127,6 +127,10 @@ bool ParamField::read(const IDictionary& record, double* value) const {
     return true;
 }
 
+double ParamField::number(const IDictionary& record) const {
+    return dictionary_number(record, key, 0.0);
+}
+
 bool ParamField::isSound(const IDictionary& record) const {
     double value;
     return read(record, &value) ? accepts(value) : optional;

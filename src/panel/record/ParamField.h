@@ -60,6 +60,9 @@ public:
     /// or no number.
     bool read(const IDictionary& record, double* value) const;
 
+    /// The number that the record holds under the key, in the record's unit; 0 when there is none.
+    double number(const IDictionary& record) const;
+
     /// Whether the record holds a value that the field accepts (or none, where it is optional).
     bool isSound(const IDictionary& record) const;
 

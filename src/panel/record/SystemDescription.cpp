@@ -18,10 +18,6 @@ void addText(Lines& lines, const QString& name, const QString& text) {
         lines.append({name, text});
 }
 
-QString textOf(const IDictionary& record, const char* key) {
-    return QString::fromLocal8Bit(record.getValue(key));
-}
-
 void addField(Lines& lines, const ParamField& field, const IDictionary& record) {
     const AngleNotation notation = AngleText::notation();
     const QString value = field.shownText(record, notation);
@@ -53,19 +49,20 @@ void addShift(Lines& lines, const IDictionary& record) {
 
 QVector<SystemDescription::Line> SystemDescription::of(const IDictionary& record) {
     Lines lines;
-    addText(lines, PanelText::tr("Where from"), textOf(record, Key::source));
-    addText(lines, PanelText::tr("Remark"), textOf(record, Key::remark));
+    const auto text = [&](const char* key) { return QString::fromLocal8Bit(record.getValue(key)); };
+    addText(lines, PanelText::tr("Where from"), text(Key::source));
+    addText(lines, PanelText::tr("Remark"), text(Key::remark));
     if (const ProjectionFields* const method = ProjectionFields::ofRecord(record)) {
         lines.append({PanelText::tr("Projection"), method->nameText()});
         for (const ParamField& field : method->fields)
             addField(lines, field, record);
     }
-    addText(lines, PanelText::tr("Ellipsoid"), textOf(record, Key::ellipsoidName));
+    addText(lines, PanelText::tr("Ellipsoid"), text(Key::ellipsoidName));
     addField(lines, DatumFields::semiMajorAxis(), record);
     addField(lines, DatumFields::inverseFlattening(), record);
-    addText(lines, PanelText::tr("Datum"), textOf(record, Key::datumName));
+    addText(lines, PanelText::tr("Datum"), text(Key::datumName));
     addShift(lines, record);
-    addText(lines, PanelText::tr("Geoid model"), textOf(record, Key::geoidName));
+    addText(lines, PanelText::tr("Geoid model"), text(Key::geoidName));
     addText(lines, PanelText::tr("PROJ definition"), QString::fromUtf8(DefinitionState::of(record).definition));
     return lines;
 }

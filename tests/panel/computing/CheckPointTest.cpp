@@ -3,6 +3,7 @@
 #include "catalogue/Angle.h"
 #include "catalogue/CoordParamKey.h"
 #include "panel/computing/DistortionLines.h"
+#include "support/PointTypes.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 #include "support/SampleRecords.h"
@@ -13,7 +14,6 @@
 
 using Datum = CheckPoint::Datum;
 Q_DECLARE_METATYPE(Datum)
-Q_DECLARE_METATYPE(GeographicPoint)
 
 class CheckPointTest : public QObject {
     Q_OBJECT

@@ -1,13 +1,12 @@
 #include "panel/computing/DesignArea.h"
 
+#include "support/PointTypes.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 
 #include <QTest>
 
 #include <cmath>
-
-Q_DECLARE_METATYPE(GeographicPoint)
 
 namespace {
 

@@ -4,6 +4,7 @@
 #include "panel/computing/DesignArea.h"
 #include "panel/record/CoordParamEditor.h"
 #include "platform/projection/IProjectionModule.h"
+#include "support/PointTypes.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 #include "support/SampleRecords.h"
@@ -11,8 +12,6 @@
 #include <QTest>
 
 #include <cmath>
-
-Q_DECLARE_METATYPE(GeographicPoint)
 
 namespace {
 

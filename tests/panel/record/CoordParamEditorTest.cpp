@@ -13,8 +13,6 @@
 
 namespace Key = CoordParamKey;
 
-Q_DECLARE_METATYPE(ProjectionMethod)
-
 namespace {
 
 constexpr double degree = 3.141592653589793 / 180;

@@ -7,8 +7,6 @@
 #include "support/Rows.h"
 #include "support/TextTable.h"
 
-Q_DECLARE_METATYPE(ProjectionMethod)
-
 class ProjectionAdviceTest : public QObject {
     Q_OBJECT
 

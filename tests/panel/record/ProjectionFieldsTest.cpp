@@ -9,8 +9,6 @@
 
 namespace Key = CoordParamKey;
 
-Q_DECLARE_METATYPE(ProjectionMethod)
-
 class ProjectionFieldsTest : public QObject {
     Q_OBJECT
 

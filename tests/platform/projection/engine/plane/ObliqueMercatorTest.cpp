@@ -1,14 +1,13 @@
 #include "platform/projection/engine/plane/ObliqueMercator.h"
 
 #include "platform/projection/engine/plane/SineCosine.h"
+#include "support/PointTypes.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 
 #include <QTest>
 
 #include <cmath>
-
-Q_DECLARE_METATYPE(GeographicPoint)
 
 namespace {
 

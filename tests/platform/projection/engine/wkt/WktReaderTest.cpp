@@ -1,5 +1,6 @@
 #include "platform/projection/Definitions.h"
 #include "platform/projection/IProjectionModule.h"
+#include "support/PointTypes.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 #include "support/TextTable.h"
@@ -8,9 +9,6 @@
 
 #include <cmath>
 #include <cstdio>
-
-Q_DECLARE_METATYPE(GeographicPoint)
-Q_DECLARE_METATYPE(GridPoint)
 
 class WktReaderTest : public QObject {
     Q_OBJECT
