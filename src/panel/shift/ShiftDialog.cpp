@@ -63,7 +63,7 @@ ShiftDialog::ShiftDialog(ShiftPointsModel& points, const IDictionary& record, QW
     buildTable(layout);
     buildResult(layout);
     connect(&points, SIGNAL(pointsChanged()), this, SLOT(_onPointsChanged()));
-    resize(1150, 600);
+    resize(1200, 600);
     table->setFocus();
     showResult();
 }
