@@ -97,7 +97,8 @@ void ShiftDialog::buildTable(QVBoxLayout* layout) {
     table->setTabKeyNavigation(false);
     const int digit = table->fontMetrics().horizontalAdvance('0');
     for (int column = 0; column < ShiftPointsModel::ColumnCount; ++column)
-        table->setColumnWidth(column, digit * (column < ShiftPointsModel::Before ? 14 : 10));
+        table->setColumnWidth(column, std::max(digit * (column < ShiftPointsModel::Before ? 14 : 10),
+                                               table->horizontalHeader()->sectionSizeHint(column)));
     layout->addWidget(table, 1);
     auto* row = new QHBoxLayout;
     auto* pasteButton = new QPushButton(PanelText::tr("Paste"));
