@@ -550,7 +550,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>after ± standard deviation</source>
-        <translation>nachher ± Standardabweichung</translation>
+        <translation>nachher ± Std.-Abw.</translation>
     </message>
     <message>
         <source>Scale factor</source>
@@ -1707,7 +1707,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Oblique Stereographic (double)</source>
-        <translation>Schiefachsige stereografische Projektion (doppelt)</translation>
+        <translation>Stereografisch, schiefachsig (doppelt)</translation>
     </message>
     <message>
         <source>Lambert Conic Conformal (1SP)</source>
@@ -2572,7 +2572,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Geoid Name</source>
-        <translation>Name des Geoidmodells</translation>
+        <translation>Geoidmodell</translation>
     </message>
     <message>
         <source>File Path</source>

@@ -1167,7 +1167,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>Datum shift</source>
-        <translation>Cambio de datum</translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Without a shift, coordinates on WGS 84 are unknown.</source>

@@ -182,7 +182,7 @@ private:
         look("Check, Distortion", *window);
         turnTo("Points");
         look("Check, Points, none", *window);
-        QApplication::clipboard()->setText("Point;x;y;Latitude;Longitude;Height\n"
+        QApplication::clipboard()->setText("Pt;x;y;lat;lon;h\n"
                                            "Texel;117380.1200;575040.3400;53.160753042;4.824761912;42.8614\n"
                                            "Amersfoort;155000.0000;463000.0000;52.155172897;5.387203657;43.2551\n"
                                            "Zeeuws;16460.9100;377308.2300;51.368607152;3.397588595;47.4024\n"

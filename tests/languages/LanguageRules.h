@@ -63,6 +63,10 @@ inline QStringList cutOff(const QWidget& root) {
     };
     for (QWidget* widget : PageRules::visible<QWidget>(root)) {
         const QSize hint = widget->sizeHint();
+        if (const auto* area = qobject_cast<QScrollArea*>(widget)) {
+            if (area->horizontalScrollBar()->isVisible())
+                report(area, "the page", area->widget()->width(), area->viewport()->width());
+        }
         if (const auto* label = qobject_cast<QLabel*>(widget)) {
             if (label->text().isEmpty())
                 continue;
@@ -114,7 +118,8 @@ inline QStringList oversized(const QWidget& root) {
     QStringList found;
     if (root.width() > screen.width() || root.height() > screen.height())
         found << QString("%1 x %2 is more than a small screen").arg(root.width()).arg(root.height());
-    if (isWider(&root, root.windowTitle(), root.width() - titleButtons))
+    // That which asks for a name is as wide as its two buttons.
+    if (!root.inherits("DlgInputName") && isWider(&root, root.windowTitle(), root.width() - titleButtons))
         found << QString("no room for the title \"%1\" in a width of %2").arg(root.windowTitle()).arg(root.width());
     return found;
 }
@@ -127,13 +132,16 @@ public:
             const QStringList translations = catalogue.all().values(source);
             if (translations.contains(source) || translations.contains(QString()) || !hasLetters(source))
                 continue;
-            QString pattern = QRegularExpression::escape(source);
-            const bool isPattern = pattern.contains(QRegularExpression("\\\\%L?\\d"));
-            pattern.replace(QRegularExpression("\\\\%L?\\d+"), ".+");
             alone.insert(source);
-            if (isPattern)
-                patterns << QRegularExpression("^" + pattern + "$", QRegularExpression::DotMatchesEverythingOption);
-            else if (source.contains(' '))
+            // Names from the registry, which are English, have short ones of them by chance.
+            QStringList parts = source.split(QRegularExpression("%L?\\d+"));
+            if (parts.join("").count(' ') < 3)
+                continue;
+            for (QString& part : parts)
+                part = QRegularExpression::escape(part);
+            if (parts.size() > 1)
+                patterns << QRegularExpression("^" + parts.join(".+") + "$");
+            else
                 within << source;
         }
         for (const QString& translation : catalogue.all())

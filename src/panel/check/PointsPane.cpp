@@ -160,13 +160,15 @@ void PointsPane::buildTable() {
     QHeaderView* const header = table->horizontalHeader();
     header->setHighlightSections(false);
     header->setStretchLastSection(true);
-    const auto width = [&](const char* text) { return table->fontMetrics().horizontalAdvance(text) + 14; };
-    for (int column = 0; column < PointsModel::Remark; ++column)
-        header->resizeSection(column, width(column == PointsModel::Name        ? "[x] Point 12345"
-                                            : column <= PointsModel::Longitude ? "-179.1234567891"
-                                            : column == PointsModel::Height    ? "1234.1234"
-                                            : column <= PointsModel::Northing  ? "-1234567.1234"
-                                                                               : "-123.1234"));
+    const auto width = [&](int column, const char* text) {
+        return std::max(table->fontMetrics().horizontalAdvance(text) + 14, header->sectionSizeHint(column));
+    };
+    for (int column = 0; column <= PointsModel::Remark; ++column)
+        header->resizeSection(column, width(column, column == PointsModel::Name        ? "[x] Point 12345"
+                                                    : column <= PointsModel::Longitude ? "-179.1234567891"
+                                                    : column == PointsModel::Height    ? "1234.1234"
+                                                    : column <= PointsModel::Northing  ? "-1234567.1234"
+                                                                                       : "-123.1234"));
     for (const int column : {PointsModel::FittedEast, PointsModel::FittedNorth})
         table->setColumnHidden(column, true);
     table->installEventFilter(this);
