@@ -550,7 +550,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>after ± standard deviation</source>
-        <translation>nachher ± Std.-Abw.</translation>
+        <translation>nachher ± Standardabweichung</translation>
     </message>
     <message>
         <source>Scale factor</source>
@@ -2393,6 +2393,20 @@ E %4 %6  N %5 %6</translation>
     <message>
         <source>This comma could part thousands: use a decimal point.</source>
         <translation>Dieses Komma könnte Tausender trennen: einen Dezimalpunkt verwenden.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A name, and what is said of it</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>Two sentences</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Systems found: %1.</source>
+        <translation>Gefundene Systeme: %1.</translation>
     </message>
 </context>
 <context>

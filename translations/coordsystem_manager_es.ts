@@ -2394,6 +2394,20 @@ E %4 %6  N %5 %6</translation>
         <source>This comma could part thousands: use a decimal point.</source>
         <translation>Esta coma podría separar millares: use punto decimal.</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A name, and what is said of it</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>Two sentences</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Systems found: %1.</source>
+        <translation>Sistemas encontrados: %1.</translation>
+    </message>
 </context>
 <context>
     <name>DlgCoordSysGroups</name>

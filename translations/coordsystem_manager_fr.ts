@@ -2394,6 +2394,20 @@ E %4 %6  N %5 %6</translation>
         <source>This comma could part thousands: use a decimal point.</source>
         <translation>Cette virgule pourrait séparer les milliers&#xa0;: utiliser un point décimal.</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A name, and what is said of it</extracomment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>Two sentences</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Systems found: %1.</source>
+        <translation>Systèmes trouvés&#xa0;: %1.</translation>
+    </message>
 </context>
 <context>
     <name>DlgCoordSysGroups</name>

@@ -2379,6 +2379,20 @@ E %4 %6  N %5 %6</translation>
         <source>This comma could part thousands: use a decimal point.</source>
         <translation>此逗号可能是千位分隔符：小数点请用“.”。</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A name, and what is said of it</extracomment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>Two sentences</extracomment>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>Systems found: %1.</source>
+        <translation>找到的系统：%1。</translation>
+    </message>
 </context>
 <context>
     <name>DlgCoordSysGroups</name>

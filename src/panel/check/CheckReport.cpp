@@ -206,8 +206,8 @@ QString CheckReport::resultPart() const {
     text += "<table>\n";
     const auto add = [&](std::size_t count, const QString& what, const QString& names = QString()) {
         if (count > 0)
-            text += "<tr>" + numberCell(QString::number(count)) + "<td dir=\"auto\">" + what +
-                    (names.isEmpty() ? QString() : ": " + names) + "</td></tr>\n";
+            text += "<tr>" + numberCell(QString::number(count)) + "<td dir=\"auto\">" +
+                    (names.isEmpty() ? what : PanelText::named(what, names)) + "</td></tr>\n";
     };
     std::vector<std::size_t> beyond, leftOut;
     for (const Distance& distance : farthest) {

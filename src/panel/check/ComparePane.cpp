@@ -196,7 +196,7 @@ QString ComparePane::remark() const {
     if (!other || !system || !system->projection())
         return QString();
     if (!other->projection())
-        return otherName + ": " + other->problem();
+        return PanelText::named(otherName, other->problem());
     if (!summary)
         return PanelText::tr("One of the projections gives no result in this area.");
     if (!shiftBox->isChecked())
@@ -261,7 +261,7 @@ void ComparePane::_onPointed(double easting, double northing) {
     showOffset(Mouse, compared ? compared->atGrid({easting, northing}) : std::nullopt);
     QStringList texts;
     for (const QLabel* result : results[Mouse])
-        texts << result->accessibleName() + ": " + result->text();
+        texts << PanelText::named(result->accessibleName(), result->text());
     plot->describePlace(texts.join(", "));
 }
 

@@ -23,8 +23,8 @@ QString rangeText(const DesignProposal::Distortion& distortion) {
 
 QString changeText(const DesignProposal::Change& change) {
     const QString unit = change.field->isAngle() ? QStringLiteral("°") : QString();
-    return change.field->labelText() + ": " + NumberText::shortest(change.before) + unit + " → " +
-           NumberText::shortest(change.after) + unit;
+    return PanelText::named(change.field->labelText(), NumberText::shortest(change.before) + unit + " → " +
+                                                           NumberText::shortest(change.after) + unit);
 }
 
 } // namespace

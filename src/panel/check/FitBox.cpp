@@ -100,8 +100,11 @@ FitBox::FitBox(bool readOnly, QWidget* parent)
     constexpr int row = ValueCount + 1;
     auto* misfitLabel = new QLabel(PanelText::tr("RMS, largest"));
     misfitLabel->setBuddy(misfitBefore);
-    grid->addWidget(misfitLabel, row, 0);
-    grid->addWidget(misfitBefore, row, 1, Qt::AlignRight);
+    auto* before = new QHBoxLayout; // its two figures need more room than the one above them, its title less
+    before->addWidget(misfitLabel);
+    before->addStretch(1);
+    before->addWidget(misfitBefore);
+    grid->addLayout(before, row, 0, 1, 2);
     grid->addWidget(misfitAfter, row, 2);
     misfitAfter->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* texts = new QVBoxLayout;

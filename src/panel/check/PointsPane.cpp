@@ -37,6 +37,7 @@
 #include <QTableView>
 #include <QToolButton>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -341,7 +342,7 @@ void PointsPane::read(std::unique_ptr<QIODevice> source, const QString& name) {
     const QByteArray start = source->peek(headSize);
     const QString refusal = PointReader::refusal(start);
     if (!refusal.isEmpty())
-        return say(name + ": " + refusal, true);
+        return say(PanelText::named(name, refusal), true);
     PointColumnsDialog dialog(PointReader::decodedHead(start), this);
     if (dialog.exec() != QDialog::Accepted)
         return;

@@ -1,5 +1,7 @@
 #include "panel/field/ScreenReader.h"
 
+#include "panel/record/PanelText.h"
+
 #include <QAccessibleWidget>
 #include <QLabel>
 
@@ -16,7 +18,7 @@ public:
         if (kind != QAccessible::Name)
             return QAccessibleWidget::text(kind);
         const QString name = label->accessibleName();
-        return name.isEmpty() ? label->text() : name + ": " + label->text();
+        return name.isEmpty() ? label->text() : PanelText::named(name, label->text());
     }
 
 private:

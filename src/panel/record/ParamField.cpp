@@ -2,6 +2,7 @@
 
 #include "catalogue/Dictionary.h"
 #include "panel/record/NumberText.h"
+#include "panel/record/PanelText.h"
 #include "panel/record/StandardParallel.h"
 
 #include <QRegularExpression>
@@ -84,7 +85,7 @@ FieldInput ParamField::parse(const QString& text) const {
     if (text.trimmed().isEmpty()) {
         input.valid = optional;
         input.text = "0";
-        input.reason = optional ? QString() : rangeText() + ' ' + tr("A value is needed.");
+        input.reason = optional ? QString() : PanelText::joined(rangeText(), tr("A value is needed."));
         return input;
     }
     QString plain;

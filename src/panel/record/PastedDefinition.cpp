@@ -25,7 +25,7 @@ QString lineOf(const ParamField& field, const IDictionary& record) {
     const bool isWhole = field.isAngle() && notation == AngleNotation::DegreesMinutesSeconds;
     const QString unit = isWhole ? QString() : field.unitText(notation);
     const bool isSign = field.isAngle() || field.quantity == Quantity::SmallRotation;
-    return field.labelText() + ": " + text + (isSign || unit.isEmpty() ? unit : ' ' + unit);
+    return PanelText::named(field.labelText(), text + (isSign || unit.isEmpty() ? unit : ' ' + unit));
 }
 
 QString textOf(const IDictionary& record, const char* key) {
