@@ -34,7 +34,8 @@ def tidy(build, source, *options):
     # -Werror would turn clang's own warnings into errors that no check can switch off.
     done = subprocess.run(["clang-tidy", "-p", build, "--quiet", "--extra-arg=-Wno-error", *options, source],
                           stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, check=False)
-    said = "\n".join(line for line in done.stdout.splitlines() if line and not line.endswith("warnings generated."))
+    said = "\n".join(line for line in done.stdout.splitlines()
+                     if line and not re.search(r"generated\.$|^Error while processing ", line))
     return (said or f"clang-tidy ended with {done.returncode}") if done.returncode else ""
 
 

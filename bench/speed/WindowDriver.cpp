@@ -83,7 +83,7 @@ WindowDriver::Registry WindowDriver::searchRegistry(const QString& text) {
     ModalDriver::onNextDialog([&](QDialog* dialog) {
         QApplication::processEvents();
         result.opened = double(sinceClick.nsecsElapsed()) / 1e6;
-        auto* const search = dialog->findChild<QLineEdit*>();
+        QWidget* const search = dialog->focusWidget();
         for (const QChar letter : text)
             result.keys.append(milliseconds([&] { QTest::keyClick(search, letter.toLatin1()); }));
         dialog->reject();

@@ -61,7 +61,13 @@ int RegistryModel::rowOf(const QByteArray& code) const {
     return -1;
 }
 
+bool RegistryModel::isHeld(const RegistrySystem& system) const {
+    return !registry.definition(system.code).definition.isEmpty();
+}
+
 QString RegistryModel::reason(const RegistrySystem& system) const {
+    if (isHeld(system))
+        return {};
     auto known = reasons.constFind(system.code);
     if (known == reasons.constEnd())
         known =
@@ -90,7 +96,7 @@ QVariant RegistryModel::data(const QModelIndex& index, int role) const {
         return why.isEmpty() ? data(index, Qt::DisplayRole) : why;
     }
     case Qt::ForegroundRole:
-        if (!reason(shown).isEmpty())
+        if (!isHeld(shown))
             return Colours::hint(QGuiApplication::palette());
         return {};
     default:
