@@ -4,6 +4,7 @@
 #include "support/Rows.h"
 
 #include <QImage>
+#include <QSignalSpy>
 #include <QTest>
 #include <qwt_scale_div.h>
 
