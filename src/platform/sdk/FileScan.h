@@ -20,7 +20,7 @@ private:
     bool readRoot(const FileKind& kind);
     bool readEnd(const FileKind& kind);
     bool readList(RecordList& records, const FileKind& kind, const QByteArray& indent);
-    bool readText(const char* attribute, QByteArray& text);
+    bool readText(const char* attribute, QByteArray& read);
     bool isAt(const char* expected) const;
 
     const QByteArray text;
