@@ -272,6 +272,22 @@ private Q_SLOTS:
         QCOMPARE(describe(scanned).count('\n'), 6);
     }
 
+    // As many as are written in several pieces, with one between them that is not as it was.
+    void manyUntouchedRecords() {
+        const Folders folders;
+        Session first(folders);
+        for (int i = 0; i < 1000; ++i)
+            first.add("g", QByteArray::number(i).constData());
+        first.saveSystems();
+        QByteArray expected = contentOf(folders.systems());
+        QVERIFY(expected.size() > 200000);
+        Session session(folders);
+        session.getGroup("g")->renameCoordSystem("300", "three hundred");
+        session.saveSystems();
+        expected.truncate(markOf(expected));
+        QCOMPARE(contentOf(folders.systems()), marked(expected.replace("\"300\"", "\"three hundred\"")));
+    }
+
     // What may become of a file's mark and the text around it.
     void marks_data() { textRows("marks.txt"); }
     void marks() {
