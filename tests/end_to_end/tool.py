@@ -39,9 +39,7 @@ class Tool:
         environment = {name: value for name, value in os.environ.items()
                        if not name.startswith(("XDG_", "LC_", "LANGUAGE"))}
         environment.update(HOME=self.home, TMPDIR=self.scratch, LANG="C.UTF-8",
-                           XDG_RUNTIME_DIR=os.environ["XDG_RUNTIME_DIR"],
-                           # The tool draws nothing with OpenGL, and Mesa's software driver leaks when it is unloaded.
-                           QT_XCB_GL_INTEGRATION="none")
+                           XDG_RUNTIME_DIR=os.environ["XDG_RUNTIME_DIR"])
         return subprocess.Popen([os.path.join(self.prefix, "bin", "coordsystem_manager")], env=environment,
                                 cwd=self.home, stdin=subprocess.DEVNULL, stdout=self.errors, stderr=self.errors)
 

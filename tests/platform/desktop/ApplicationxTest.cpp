@@ -7,6 +7,7 @@
 #include <QFont>
 #include <QIcon>
 #include <QProcess>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -26,7 +27,23 @@ private Q_SLOTS:
             QVERIFY(QApplication::windowIcon().availableSizes().contains(QSize(size, size)));
         QCOMPARE(std::strtod("0.5", nullptr), 0.5);
         QCOMPARE(qgetenv("QT_XCB_GL_INTEGRATION"), QByteArray("none"));
-        QVERIFY(QDialogButtonBox(QDialogButtonBox::Ok).button(QDialogButtonBox::Ok)->icon().isNull());
+    }
+
+    /// Whatever the desktop's style says: to look for the icons costs every start.
+    void showsDialogButtonsWithoutIcons() {
+        class StyleWithIcons : public QProxyStyle {
+            int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                          QStyleHintReturn* data) const override {
+                return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 1
+                                                                   : QProxyStyle::styleHint(hint, option, widget, data);
+            }
+        };
+        auto* style = qobject_cast<QProxyStyle*>(QApplication::style());
+        QVERIFY(style);
+        style->setBaseStyle(new StyleWithIcons);
+        const QDialogButtonBox box(QDialogButtonBox::Ok);
+        style->setBaseStyle(nullptr);
+        QVERIFY(box.button(QDialogButtonBox::Ok)->icon().isNull());
     }
 
     /// The same on a desktop with a decimal comma.
