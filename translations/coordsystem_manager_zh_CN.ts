@@ -371,11 +371,11 @@ in other directions off by up to %2&quot;</source>
     </message>
     <message>
         <source>From catalogue...</source>
-        <translation>从目录选取...</translation>
+        <translation>从目录...</translation>
     </message>
     <message>
         <source>From registry...</source>
-        <translation>从注册库选取...</translation>
+        <translation>从注册库...</translation>
     </message>
     <message>
         <source>With datum shifts</source>
@@ -423,7 +423,7 @@ in other directions off by up to %2&quot;</source>
     </message>
     <message>
         <source>Apart from it</source>
-        <translation>去除平均值后</translation>
+        <translation>其余</translation>
     </message>
     <message>
         <source>The point of the page &quot;Point&quot;.</source>
@@ -561,7 +561,7 @@ E %4 %6  N %5 %6</translation>
     </message>
     <message>
         <source>RMS, largest</source>
-        <translation>均方根，最大值</translation>
+        <translation>均方根/最大</translation>
     </message>
     <message>
         <source>Misfit before</source>

@@ -82,8 +82,7 @@ QSize DlgCoordParam::sizeHint() const {
     // window (a large font, long translations), the panel gets what the bar needs: scrolled away, a tab is not found.
     constexpr int widthOfATree = 256;
     constexpr int widthOfBoth = 770;
-    constexpr int widthOfFigures = 550; // of the pages, where the tabs' words are short
-    const int ofBar = std::clamp(tabBar()->sizeHint().width() + 10, widthOfFigures, widthOfBoth * 5 / 6);
+    const int ofBar = std::min(tabBar()->sizeHint().width() + 10, widthOfBoth * 5 / 6);
     const int width = widthOfATree * ofBar / (widthOfBoth - ofBar) / 2;
     // As high as the longest form, which may not be built yet: Qt lets a scroll area ask for this much at the most.
     const int page = header->sizeHint().height() + 24 * fontMetrics().height();

@@ -200,7 +200,7 @@ class Panel(tool.ToolTest):
 
         panel.find("text", "Latitude of origin").fill("47")
         press("Tab")
-        panel.find("text", "Latitude of origin").fill("45,5")
+        panel.find("text", "Latitude of origin").fill("45x5")
         self.tool.save()
         self.assert_shown("Projection", {"Latitude of origin": 47})
         saved = self.saved(first)

@@ -124,7 +124,6 @@ void FitBox::buildRow(QGridLayout* grid, Value value, const QString& title) {
     row = {new QCheckBox(title), new ResultLabel, new ResultLabel};
     row.box->setChecked(true);
     row.after->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    row.after->setMinimumWidth(row.after->fontMetrics().horizontalAdvance("1.123456789 ± 0.123456789"));
     grid->addWidget(row.box, value + 1, 0);
     grid->addWidget(row.before, value + 1, 1, Qt::AlignRight);
     grid->addWidget(row.after, value + 1, 2);
