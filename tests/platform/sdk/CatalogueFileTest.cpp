@@ -276,7 +276,7 @@ private Q_SLOTS:
     void manyUntouchedRecords() {
         const Folders folders;
         Session first(folders);
-        for (int i = 0; i < 1000; ++i)
+        for (int i = 0; i < 4000; ++i)
             first.add("g", QByteArray::number(i).constData());
         first.saveSystems();
         QByteArray expected = contentOf(folders.systems());
