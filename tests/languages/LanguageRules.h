@@ -20,7 +20,8 @@ inline bool hasLetters(const QString& text) {
 inline QStringList textsOf(QWidget& root) {
     QStringList texts{root.windowTitle()};
     for (QWidget* widget : PageRules::visible<QWidget>(root)) {
-        texts << widget->accessibleName() << widget->accessibleDescription() << widget->toolTip() << widget->whatsThis();
+        texts << widget->accessibleName() << widget->accessibleDescription() << widget->toolTip()
+              << widget->whatsThis();
         for (const char* property : {"text", "title", "placeholderText"})
             texts << widget->property(property).toString();
         if (const auto* box = qobject_cast<QComboBox*>(widget)) {
@@ -89,13 +90,13 @@ inline QStringList cutOff(const QWidget& root) {
         } else if (const auto* edit = qobject_cast<QLineEdit*>(widget)) {
             const int room = edit->contentsRect().width() - 2 * lineEditMargin;
             if (edit->text().isEmpty() && isWider(edit, edit->placeholderText(), room))
-                report(edit, edit->placeholderText(), edit->fontMetrics().horizontalAdvance(edit->placeholderText()), room);
+                report(edit, edit->placeholderText(), edit->fontMetrics().horizontalAdvance(edit->placeholderText()),
+                       room);
         } else if (const auto* list = qobject_cast<QComboBox*>(widget)) {
             QStyleOptionComboBox option;
             option.initFrom(list);
-            const int room = list->style()
-                                 ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, list)
-                                 .width();
+            const int room =
+                list->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, list).width();
             if (!list->isEditable() && isWider(list, list->currentText(), room))
                 report(list, list->currentText(), list->fontMetrics().horizontalAdvance(list->currentText()), room);
         } else if (const auto* header = qobject_cast<QHeaderView*>(widget)) {
@@ -152,8 +153,8 @@ public:
         QStringList found;
         for (const QString& text : texts) {
             const bool isWhole = alone.contains(text) && !translated.contains(text);
-            const bool hasPart = std::any_of(within.begin(), within.end(),
-                                             [&](const QString& source) { return text.contains(source); });
+            const bool hasPart =
+                std::any_of(within.begin(), within.end(), [&](const QString& source) { return text.contains(source); });
             const bool isFilled = std::any_of(patterns.begin(), patterns.end(), [&](const QRegularExpression& pattern) {
                 return pattern.match(text).hasMatch();
             });

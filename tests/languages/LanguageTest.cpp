@@ -3,8 +3,8 @@
 #include "support/Catalogue.h"
 #include "support/RoomTest.h"
 
-/// Every tab, page and dialog in the language that the tool was started in, in the window's own size and in its smallest:
-/// no text is cut off, none stayed in English.
+/// Every tab, page and dialog in the language that the tool was started in, in the window's own size and in its
+/// smallest: no text is cut off, none stayed in English.
 class LanguageTest : public QObject {
     Q_OBJECT
 

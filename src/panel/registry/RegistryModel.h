@@ -35,9 +35,9 @@ public:
     /// The row of the system `code`, or -1 when it is not listed.
     int rowOf(const QByteArray& code) const;
 
-    /// Whether the record can hold the system. Each is tried, once, which takes a tenth of a millisecond: its method alone
-    /// does not tell (the registry has six of the transverse Mercator with a scale in another unit, and two of Cassini's
-    /// with axes to the south and west).
+    /// Whether the record can hold the system. Each is tried, once, which takes a tenth of a millisecond: its method
+    /// alone does not tell (the registry has six of the transverse Mercator with a scale in another unit, and two of
+    /// Cassini's with axes to the south and west).
     bool isHeld(const RegistrySystem& system) const;
 
     /// Why it can't, translated, which takes some milliseconds; empty when it can.

@@ -160,7 +160,8 @@ void UserFile::keepGeneration(const QString& target, const QString& place) const
     const QString previous = previousGeneration(target);
     const QFileInfo older(previous);
     if (!older.isSymLink() && older.isFile()) {
-        // A save that failed later than here has kept it already, with its time. Any other of the size need not be read.
+        // A save that failed later than here has kept it already, with its time. Any other of the size need not be
+        // read.
         if (older.lastModified().toMSecsSinceEpoch() == known.changed() && known.matches(previous))
             return;
         Generations(target).take(previous);
