@@ -154,9 +154,9 @@ inline QStringList unread(QWidget& root) {
     appendInReadingOrder(&root, reading);
     QWidget* widget = &root;
     do {
-        if (reading.contains(widget))
-            chain << widget;
-        else if (isStop(widget) && root.isAncestorOf(widget) && !widget->parentWidget()->inherits("QAbstractSpinBox"))
+        const bool isOther =
+            isStop(widget) && root.isAncestorOf(widget) && !widget->parentWidget()->inherits("QAbstractSpinBox");
+        if (reading.contains(widget) || isOther)
             chain << widget;
         widget = widget->nextInFocusChain();
     } while (widget != &root);
