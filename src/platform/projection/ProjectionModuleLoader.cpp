@@ -12,10 +12,17 @@ QString modulePath() {
     return QString::fromLocal8Bit(path);
 }
 
-// The library stays loaded until the process ends: handles and texts that it gave out stay valid.
+using Entry = IProjectionModule* (*)();
+
+// The first thread that asks loads the library, others wait for it: two loads at once would count it as used twice. It
+// stays loaded until the process ends: handles and texts that it gave out stay valid.
+Entry entryOf(const QString& path) {
+    static const auto entry = reinterpret_cast<Entry>(QLibrary::resolve(path, "vorn_projection_module"));
+    return entry;
+}
+
 IProjectionModule* load() {
-    using Entry = IProjectionModule* (*)();
-    const auto entry = reinterpret_cast<Entry>(QLibrary::resolve(modulePath(), "vorn_projection_module"));
+    const Entry entry = entryOf(modulePath());
     return entry ? entry() : nullptr;
 }
 
@@ -29,6 +36,6 @@ IProjectionModule* projectionModule() {
 void prepareProjectionModule() {
     static bool isPrepared = false;
     if (!isPrepared)
-        QThreadPool::globalInstance()->start([path = modulePath()] { QLibrary(path).load(); });
+        QThreadPool::globalInstance()->start([path = modulePath()] { entryOf(path); });
     isPrepared = true;
 }
