@@ -83,6 +83,7 @@ private:
     }
 
     static void save(QWidget& window, const Catalogue& catalogue, const QString& path) {
+        QFile::remove(path); // of a run before: the dialog would ask
         for (QAbstractButton* button : PageRules::visible<QAbstractButton>(window)) {
             if (!catalogue.means(button->text(), "Report..."))
                 continue;
