@@ -107,7 +107,8 @@ inline QStringList cutOff(const QWidget& root) {
             }
         } else if (widget->inherits("MessageLine")) {
             if (isWider(widget, widget->accessibleName(), widget->width()))
-                report(widget, widget->accessibleName(), 0, widget->width());
+                report(widget, widget->accessibleName(),
+                       widget->fontMetrics().horizontalAdvance(widget->accessibleName()), widget->width());
         }
     }
     return found;

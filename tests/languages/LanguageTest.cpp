@@ -34,6 +34,10 @@ private Q_SLOTS:
         Tour(
             [&](const QString& page, QWidget& root) {
                 ++pages;
+                if (page == "Check, Points") {
+                    for (const QString& each : untranslated.in(report(root, catalogue, home.filePath("report.html"))))
+                        broken << "Report: " + each;
+                }
                 if (qobject_cast<VornCoordSysMainWindow*>(&root)) {
                     const QSize before = root.size();
                     root.resize(root.minimumSize());
@@ -62,6 +66,35 @@ private:
         const QString folder = qEnvironmentVariable("LANGUAGES_PICTURES");
         if (!folder.isEmpty() && QDir().mkpath(folder))
             root.grab().save(QString("%1/%2, %3.png").arg(folder, page, language));
+    }
+
+    /// The lines of the report on the points; as PDF it is kept beside the pictures.
+    QStringList report(QWidget& window, const Catalogue& catalogue, const QString& path) const {
+        save(window, catalogue, path);
+        const QString folder = qEnvironmentVariable("LANGUAGES_PICTURES");
+        if (!folder.isEmpty())
+            save(window, catalogue, QDir(folder).absoluteFilePath(QString("report, %1.pdf").arg(language)));
+        QFile file(path);
+        QTextDocument text;
+        if (file.open(QIODevice::ReadOnly))
+            text.setHtml(QString::fromUtf8(file.readAll()));
+        const QStringList lines = text.toPlainText().split('\n', Qt::SkipEmptyParts);
+        return lines.size() > 20 ? lines : QStringList("Report..."); // which is translated, so that it is told of
+    }
+
+    static void save(QWidget& window, const Catalogue& catalogue, const QString& path) {
+        QFile::remove(path); // of a run before: the dialog would ask
+        for (QAbstractButton* button : PageRules::visible<QAbstractButton>(window)) {
+            if (!catalogue.means(button->text(), "Report..."))
+                continue;
+            ModalDriver::onNextDialog([&](QDialog* dialog) {
+                dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+                QTest::keyClick(dialog->findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
+            });
+            button->click();
+            QTRY_VERIFY_WITH_TIMEOUT(button->isEnabled() && QFileInfo(path).size() > 0, 10000);
+            QTest::qWait(100);
+        }
     }
 
     QString language;

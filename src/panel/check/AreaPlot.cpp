@@ -206,14 +206,13 @@ void AreaPlot::describe(const AreaValues& values, const GridArea& area, const QS
     };
     const QwtInterval easting = interval(area.centre.easting, area.width);
     const QwtInterval northing = interval(area.centre.northing, area.height);
-    summary =
-        QStringList{extreme(PanelText::tr("Smallest value: %1 %2 at easting %3, northing %4."), values.smallest()),
-                    extreme(PanelText::tr("Largest value: %1 %2 at easting %3, northing %4."), values.largest()),
-                    PanelText::tr("The picture: easting %1 to %2, northing %3 to %4, in %5.")
-                        .arg(text(easting.minValue()), text(easting.maxValue()), text(northing.minValue()),
-                             text(northing.maxValue()), axisUnitText()),
-                    PanelText::tr("The arrow keys move a mark over it.")}
-            .join(' ');
+    summary = PanelText::joined(
+        {extreme(PanelText::tr("Smallest value: %1 %2 at easting %3, northing %4."), values.smallest()),
+         extreme(PanelText::tr("Largest value: %1 %2 at easting %3, northing %4."), values.largest()),
+         PanelText::tr("The picture: easting %1 to %2, northing %3 to %4, in %5.")
+             .arg(text(easting.minValue()), text(easting.maxValue()), text(northing.minValue()),
+                  text(northing.maxValue()), axisUnitText()),
+         PanelText::tr("The arrow keys move a mark over it.")});
     setAccessibleDescription(summary);
 }
 

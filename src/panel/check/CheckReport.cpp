@@ -227,13 +227,12 @@ QString CheckReport::resultPart() const {
     add(counted.problems, PanelText::tr("without a result; the list says why"));
     add(counted.duplicates, PanelText::tr("with a name that another has"));
     text += "</table>\n";
-    text +=
-        paragraph((check.datum == CheckPoint::Datum::Own
-                       ? PanelText::tr("Latitudes, longitudes and heights of the points are on the system's own datum.")
-                       : PanelText::tr("Latitudes, longitudes and heights of the points are on WGS 84, and brought to "
-                                       "the system's datum by its shift.")) +
-                      ' ' + unitSentence(),
-                  "small");
+    const QString datum =
+        check.datum == CheckPoint::Datum::Own
+            ? PanelText::tr("Latitudes, longitudes and heights of the points are on the system's own datum.")
+            : PanelText::tr("Latitudes, longitudes and heights of the points are on WGS 84, and brought to "
+                            "the system's datum by its shift.");
+    text += paragraph(PanelText::joined({datum, unitSentence()}), "small");
     return text;
 }
 
@@ -281,7 +280,7 @@ QString CheckReport::picturesPart(const Distortion& distortion) const {
         heightCount > 0 ? PanelText::tr("At the points' mean height of %1 above the ellipsoid.")
                               .arg(withUnit(QString::number(meanHeight() / LengthUnit::metres(), 'f', 0)))
                         : PanelText::tr("At the height 0, as the points have none: what the projection alone does.");
-    return text + paragraph(range + ' ' + height, "small");
+    return text + paragraph(PanelText::joined({range, height}), "small");
 }
 
 QString CheckReport::pointsPart() const {
@@ -353,6 +352,6 @@ QString CheckReport::pointRow(std::size_t row) const {
         remarks << shortened(points.remark(row));
     if (!remarks.isEmpty())
         text += QString("<tr><td></td><td colspan=\"10\" class=\"%1\" dir=\"auto\">↳ %2</td></tr>\n")
-                    .arg(points.hasProblem(row) ? "beyond" : look, remarks.join(' '));
+                    .arg(points.hasProblem(row) ? "beyond" : look, PanelText::joined(remarks));
     return text;
 }

@@ -255,7 +255,7 @@ void PointsPlot::describe() {
     if (item->factor > 0.0)
         sentences << PanelText::tr("Largest difference: %1 %2; differences are drawn %3.")
                          .arg(LengthUnit::text(longest), LengthUnit::symbol(), magnification(item->factor));
-    setAccessibleDescription(sentences.join(' '));
+    setAccessibleDescription(PanelText::joined(sentences));
 }
 
 void PointsPlot::setSelected(const GridPoint& place) {

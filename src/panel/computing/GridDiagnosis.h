@@ -1,6 +1,7 @@
 #pragma once
 
 #include "panel/computing/KnownPoint.h"
+#include "panel/record/PanelText.h"
 
 #include <QStringList>
 #include <QVector>
@@ -18,7 +19,7 @@ public:
                   const QVector<KnownPoint>& points);
 
     /// In sentences, translated; empty when nothing of that kind is seen, or there are fewer than three points.
-    QString text() const { return sentences.join(' '); }
+    QString text() const { return PanelText::joined(sentences); }
 
 private:
     void sayAxes();

@@ -347,7 +347,7 @@ QString PointTable::problem(std::size_t row) const {
         texts << PanelText::tr("The system defines no datum shift.");
     if (states[row] & NotReached)
         texts << PanelText::tr("The projection gives no result for this point.");
-    return texts.join(' ');
+    return PanelText::joined(texts);
 }
 
 QString PointTable::remark(std::size_t row) const {
@@ -359,7 +359,7 @@ QString PointTable::remark(std::size_t row) const {
     const std::string_view unreadLine = isSound(row) ? std::string_view() : line(row);
     if (!unreadLine.empty())
         texts << PanelText::tr("Line: %1").arg(QString::fromUtf8(unreadLine.data(), int(unreadLine.size())));
-    return texts.join(' ');
+    return PanelText::joined(texts);
 }
 
 std::size_t PointTable::bytes() const {

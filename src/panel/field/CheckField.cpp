@@ -3,6 +3,7 @@
 #include "panel/field/FieldEdit.h"
 #include "panel/field/MessageLine.h"
 #include "panel/record/LengthUnit.h"
+#include "panel/record/PanelText.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -80,7 +81,7 @@ std::optional<double> CheckField::read(const QString& text) {
     }
     double metres = 0.0;
     const bool isSound = LengthUnit::parse(text, &metres) && field.accepts(metres);
-    setError(isSound ? QString() : field.rangeText() + ' ' + LengthUnit::refusal());
+    setError(isSound ? QString() : PanelText::joined({field.rangeText(), LengthUnit::refusal()}));
     return isSound ? std::optional<double>(metres) : std::nullopt;
 }
 

@@ -63,7 +63,7 @@ QString FieldRow::recordError() const {
         return QString();
     const QString reason = shownField->parse(valueText).reason;
     // A comma that is understood where it is typed is no decimal mark of a record.
-    return reason.isEmpty() ? shownField->rangeText() + ' ' + NumberText::refusal(valueText) : reason;
+    return reason.isEmpty() ? PanelText::joined({shownField->rangeText(), NumberText::refusal(valueText)}) : reason;
 }
 
 void FieldRow::setWarning(const QString& text) {

@@ -5,7 +5,14 @@ QString PanelText::named(const QString& name, const QString& text) {
     return tr("%1: %2").arg(name, text);
 }
 
-QString PanelText::joined(const QString& first, const QString& second) {
-    //: Two sentences
-    return second.isEmpty() ? first : tr("%1 %2").arg(first, second);
+QString PanelText::joined(const QStringList& sentences) {
+    QString text;
+    for (const QString& sentence : sentences) {
+        if (text.isEmpty() || sentence.isEmpty())
+            text += sentence;
+        else
+            //: Two sentences
+            text = tr("%1 %2").arg(text, sentence);
+    }
+    return text;
 }

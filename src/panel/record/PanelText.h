@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QStringList>
 
 /// Translates in the panel's context, for classes that do not know the panel itself.
 class PanelText {
@@ -10,6 +11,6 @@ public:
     /// "Name: text", as the language has its colon.
     static QString named(const QString& name, const QString& text);
 
-    /// Two sentences, or parts of one text, one behind the other; the second may be empty.
-    static QString joined(const QString& first, const QString& second);
+    /// Sentences, one behind the other; empty ones are left out.
+    static QString joined(const QStringList& sentences);
 };

@@ -85,7 +85,7 @@ FieldInput ParamField::parse(const QString& text) const {
     if (text.trimmed().isEmpty()) {
         input.valid = optional;
         input.text = "0";
-        input.reason = optional ? QString() : PanelText::joined(rangeText(), tr("A value is needed."));
+        input.reason = optional ? QString() : PanelText::joined({rangeText(), tr("A value is needed.")});
         return input;
     }
     QString plain;
@@ -104,7 +104,7 @@ FieldInput ParamField::parse(const QString& text) const {
     if (input.valid && !accepts(input.value))
         input.valid = false;
     if (!input.valid)
-        input.reason = input.reason.isEmpty() ? rangeText() : rangeText() + ' ' + input.reason;
+        input.reason = PanelText::joined({rangeText(), input.reason});
     else if (quantity == Quantity::SmallRotation)
         input.text = NumberText::shortest(toDegrees(input.value)).toLatin1();
     else

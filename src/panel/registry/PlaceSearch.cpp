@@ -164,7 +164,7 @@ QString PlaceSearch::summary(bool isDone) const {
     if (model->system(0).fit.distance > SystemSearch::nearby)
         return PanelText::tr("No system gives these coordinates within 50 km of the place. The nearest %n:", nullptr,
                              count);
-    return PanelText::joined(PanelText::tr("Systems found: %1.").arg(count), distances);
+    return PanelText::joined({PanelText::tr("Systems found: %1.").arg(count), distances});
 }
 
 QString PlaceSearch::description(const RegistryShift* shift) const {

@@ -186,7 +186,7 @@ void GroupFiles::endWriting(Row& row) {
 
 void GroupFiles::addOlder(Row& row) {
     if (row.isThere)
-        row.remark = PanelText::joined(row.remark, PanelText::tr("The file there is an older one."));
+        row.remark = PanelText::joined({row.remark, PanelText::tr("The file there is an older one.")});
 }
 
 void GroupFiles::sortByResult() {

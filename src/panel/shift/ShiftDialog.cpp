@@ -203,7 +203,7 @@ QString ShiftDialog::summary() const {
     }
     if (const int unusable = points.unusableCount())
         parts << PanelText::tr("Lines that can't be used: %1.").arg(unusable);
-    return parts.join(' ');
+    return PanelText::joined(parts);
 }
 
 void ShiftDialog::_onPaste() {
