@@ -28,8 +28,8 @@ public:
     explicit Tour(const Look& look, const Catalogue& catalogue = {}) : look(look), catalogue(catalogue) {}
 
     void go() {
-        addOwnEntries();
         window = std::make_unique<VornCoordSysMainWindow>(nullptr);
+        addOwnEntries();
         tree = window->findChild<DlgCoordSysGroups*>();
         tree->setAnimated(false);
         window->resize(1000, 700);
@@ -155,23 +155,31 @@ private:
 
     // Where it leads
 
-    void addOwnEntries() {
-        ICoordSystem* const catalogue = get_instance_ICoordSystem("", 0);
-        const auto add = [&](bool (ICoordSystem::*function)(const IDictionary*),
-                             std::initializer_list<const char*> texts) {
-            const DictionaryGuard record;
-            for (auto text = texts.begin(); text != texts.end(); text += 2)
-                record->setText(text[0], text[1]);
-            (catalogue->*function)(record.get());
+    /// An ellipsoid and a geoid model of the user's own, which can be edited.
+    static void addOwnEntries() {
+        ICoordSystem* const entries = get_instance_ICoordSystem("", 0);
+        const auto record = [](std::initializer_list<std::pair<const char*, const char*>> values) {
+            DictionaryGuard made;
+            for (const auto& [key, value] : values)
+                made->setText(key, value);
+            return made;
         };
-        Q_UNUSED(add)
+        entries->addEllipsoid(record({{EllipsoidKey::name, own},
+                                      {EllipsoidKey::a, "6377000"},
+                                      {EllipsoidKey::f, "299.5"},
+                                      {EllipsoidKey::flag, "0"}})
+                                  .get());
+        entries->addGeoid(
+            record(
+                {{GeoidKey::name, own}, {GeoidKey::file, "own.ggf"}, {GeoidKey::ellipsoid, own}, {GeoidKey::flag, "0"}})
+                .get());
     }
 
     void tabs() {
         for (const char* tab : {"Ellipsoid", "Projection", "Datum shift", "Height", "Definition"}) {
             turnTo(tab);
             if (QByteArray(tab) == "Definition")
-                settle(1500);
+                QTRY_VERIFY_WITH_TIMEOUT(named<QWidget>("With identifier")->isEnabled(), 60000);
             look(tab, *window);
         }
         turnTo("Projection");
@@ -227,14 +235,21 @@ private:
         dialog("Save group", "Save group...");
     }
 
+    /// A list of entries, and the dialogs in which one is added and edited.
+    void entries(const QString& entry, const QString& page, const QString& kind) {
+        dialog(
+            page, [&] { command(entry); },
+            [&](QDialog* list) {
+                dialog("New " + kind, [&] { button("Add", list)->click(); });
+                list->findChild<QComboBox*>()->setCurrentText(own);
+                dialog("Edited " + kind, [&] { button("Edit", list)->click(); });
+            });
+    }
+
     void treeDialogs() {
         dialog("Name of a group", [this] { command("AddSysGroup"); });
-        dialog(
-            "Ellipsoids", [this] { command("Edit Ellipsoid"); },
-            [this](QDialog* list) { dialog("New ellipsoid", [&] { button("Add", list)->click(); }); });
-        dialog(
-            "Geoids", [this] { command("AddGeoid"); },
-            [this](QDialog* list) { dialog("New geoid", [&] { button("Add", list)->click(); }); });
+        entries("Edit Ellipsoid", "Ellipsoids", "ellipsoid");
+        entries("AddGeoid", "Geoids", "geoid");
         ImportProgress progress(window.get(), 10);
         for (int i = 0; i < 3; ++i)
             progress.showMessage([] {});
@@ -254,6 +269,8 @@ private:
                                            catalogue.translated("please input valid content!"));
         });
     }
+
+    static constexpr const char* own = "Own";
 
     Look look;
     Catalogue catalogue;
