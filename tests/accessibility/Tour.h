@@ -270,7 +270,7 @@ private:
         });
     }
 
-    static constexpr const char* own = "Own";
+    static constexpr const char* own = "Own 1"; // which is no text of the tool
 
     Look look;
     Catalogue catalogue;
