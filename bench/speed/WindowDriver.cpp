@@ -12,12 +12,18 @@ namespace {
 
 constexpr int lookAtWindow = 1500; // milliseconds
 
-template <typename Work> double milliseconds(const Work& work) {
+template <typename Work> double duration(const Work& work) {
     QElapsedTimer timer;
     timer.start();
     work();
-    QApplication::processEvents();
     return double(timer.nsecsElapsed()) / 1e6;
+}
+
+template <typename Work> double milliseconds(const Work& work) {
+    return duration([&] {
+        work();
+        QApplication::processEvents();
+    });
 }
 
 /// The visible button or the menu entry of that text.
@@ -74,7 +80,18 @@ double WindowDriver::selectSystem() {
     tree->scrollToItem(system);
     QTest::qWait(1);
     const QPoint place = tree->visualItemRect(system).center();
-    return milliseconds([&] { QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, place); });
+    return duration([&] {
+        QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, place);
+        QApplication::sendPostedEvents(); // paints, but lets no timer run
+    });
+}
+
+double WindowDriver::settle() {
+    double longest = 0.0;
+    QElapsedTimer timer;
+    for (timer.start(); timer.elapsed() < 200;)
+        longest = std::max(longest, milliseconds([] {}));
+    return longest;
 }
 
 WindowDriver::Registry WindowDriver::searchRegistry(const QString& text) {

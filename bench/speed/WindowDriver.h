@@ -25,8 +25,11 @@ public:
     /// Clicks the tab with that title.
     double showTab(const QString& title);
 
-    /// Clicks another system.
+    /// Clicks another system; what the tab finds out of it later does not count, see settle().
     double selectSystem();
+
+    /// What is left to do behind selectSystem(): the longest time in which the window does not answer.
+    double settle();
 
     /// Opens the registry's list from the tab that is shown, types `text` into its search, and cancels.
     struct Registry {

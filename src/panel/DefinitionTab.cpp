@@ -29,6 +29,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -75,6 +76,8 @@ void DefinitionTab::build() {
     wktText->setLineWrapMode(QPlainTextEdit::NoWrap);
     wktText->setMinimumHeight(wktText->fontMetrics().lineSpacing() * 2 + 12);
     remarkLine = new MessageLine;
+    remarkTimer = new QTimer(this);
+    remarkTimer->setSingleShot(true);
 
     auto* definitionRow = new QHBoxLayout;
     auto* definitionLabel = new QLabel(definitionText->accessibleName());
@@ -107,6 +110,7 @@ void DefinitionTab::build() {
     buildNotes(notes);
     layout->addLayout(notes);
     connect(dialectBox, SIGNAL(activated(int)), this, SLOT(_onDialectChosen()));
+    connect(remarkTimer, SIGNAL(timeout()), this, SLOT(_onRemarkTimeout()));
     connect(identityLine, SIGNAL(identified()), this, SLOT(_onIdentified()));
     connect(identifierBox, SIGNAL(toggled(bool)), this, SLOT(_onIdentifierToggled()));
     connect(copyDefinitionButton, SIGNAL(clicked()), this, SLOT(_onCopyDefinition()));
@@ -173,21 +177,26 @@ QByteArray DefinitionTab::identifier() const {
 }
 
 void DefinitionTab::showWkt() {
-    const QByteArray text = wkt(true);
-    wktText->setPlainText(QString::fromUtf8(text));
-    copyWktButton->setEnabled(!text.isEmpty());
-    saveButton->setEnabled(!text.isEmpty());
-    remarkLine->setMessage(definition.isEmpty() ? QString() : remark(text), MessageLine::Tone::Warning);
+    shownWkt = wkt(true);
+    wktText->setPlainText(QString::fromUtf8(shownWkt));
+    copyWktButton->setEnabled(!shownWkt.isEmpty());
+    saveButton->setEnabled(!shownWkt.isEmpty());
+    // An import takes longer than all else that a click in the tree costs: what is new is on the screen before.
+    remarkTimer->start();
+}
+
+void DefinitionTab::_onRemarkTimeout() {
+    remarkLine->setMessage(definition.isEmpty() ? QString() : remark(), MessageLine::Tone::Warning);
 }
 
 /// What the text does not hold of the record, found by importing it.
-QString DefinitionTab::remark(const QByteArray& text) const {
-    if (text.isEmpty())
+QString DefinitionTab::remark() const {
+    if (shownWkt.isEmpty())
         return PanelText::tr("This form can't express the system.");
     const QByteArray code = identifier();
-    if (!code.isEmpty() && !text.contains(code + ']') && !text.contains(code + "\"]"))
+    if (!code.isEmpty() && !shownWkt.contains(code + ']') && !shownWkt.contains(code + "\"]"))
         return PanelText::tr("This form can't carry the identifier.");
-    return wktRemark(record(), text);
+    return wktRemark(record(), shownWkt);
 }
 
 void DefinitionTab::_onDialectChosen() {

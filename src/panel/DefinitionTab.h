@@ -12,11 +12,12 @@ class QCheckBox;
 class QPlainTextEdit;
 class QGridLayout;
 class QPushButton;
+class QTimer;
 class TextField;
 
 /// The tab "Definition": the record as PROJ definition and as WKT, to copy and to save as a .prj file; which system of
-/// the registry it is; where it is from, and the ways to take another
-/// definition over, from the registry or from a text.
+/// the registry it is; where it is from, and the ways to take another definition over, from the registry or from a
+/// text.
 class DefinitionTab : public ParamTab {
     Q_OBJECT
 
@@ -32,6 +33,7 @@ protected:
 
 private Q_SLOTS:
     void _onDialectChosen();
+    void _onRemarkTimeout();
     void _onIdentified();
     void _onIdentifierToggled();
     void _onCopyDefinition();
@@ -48,10 +50,12 @@ private:
     QByteArray wkt(bool indented) const;
     QByteArray identifier() const;
     void showWkt();
-    QString remark(const QByteArray& text) const;
+    QString remark() const;
 
     ICoordSystem* catalogue;
     QByteArray definition; ///< of the record; empty when it defines no projection
+    QByteArray shownWkt;
+    QTimer* remarkTimer = nullptr;
     MessageLine* problemLine = nullptr;
     IdentityLine* identityLine = nullptr;
     QWidget* content = nullptr;

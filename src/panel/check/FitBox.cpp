@@ -101,6 +101,7 @@ FitBox::FitBox(bool readOnly, QWidget* parent)
     auto* misfitLabel = new QLabel(PanelText::tr("RMS, largest"));
     misfitLabel->setBuddy(misfitBefore);
     auto* before = new QHBoxLayout; // its two figures need more room than the one above them, its title less
+    before->setSpacing(grid->horizontalSpacing());
     before->addWidget(misfitLabel);
     before->addStretch(1);
     before->addWidget(misfitBefore);
