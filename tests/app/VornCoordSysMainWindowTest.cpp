@@ -13,10 +13,17 @@
 #include "support/Rows.h"
 #include "tree/DlgCoordSysGroups.h"
 
+#include <QDialog>
 #include <QDir>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRegExp>
 #include <QSignalSpy>
+#include <QSplitter>
 #include <QTemporaryDir>
-#include <QtWidgets>
+#include <QTest>
+#include <QTreeWidgetItem>
 
 namespace {
 

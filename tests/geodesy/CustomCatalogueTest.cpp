@@ -5,6 +5,7 @@
 #include "catalogue/Path.h"
 #include "geodesy/DlgEllipsoid.h"
 #include "geodesy/DlgGeoid.h"
+#include "support/Files.h"
 #include "support/LayoutText.h"
 #include "support/MarkingTranslator.h"
 #include "support/MessageBoxDouble.h"
@@ -14,8 +15,20 @@
 #include "support/Rows.h"
 #include "support/TextTable.h"
 
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QDir>
+#include <QDoubleValidator>
+#include <QFile>
+#include <QFileDialog>
+#include <QHash>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPushButton>
+#include <QRegExp>
 #include <QTemporaryDir>
-#include <QtWidgets>
+#include <QTest>
 
 #include <cstdarg>
 #include <cstdio>

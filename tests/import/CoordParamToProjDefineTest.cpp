@@ -7,6 +7,8 @@
 #include "support/RoomTest.h"
 #include "support/TextTable.h"
 
+#include <QTest>
+
 class CoordParamToProjDefineTest : public QObject {
     Q_OBJECT
 

@@ -7,6 +7,8 @@
 #include "support/RoomTest.h"
 #include "support/TextTable.h"
 
+#include <QTest>
+
 static QByteArray keysOf(const IDictionary& record) {
     QByteArrayList keys;
     for (int i = 0; i < record.count(); ++i)

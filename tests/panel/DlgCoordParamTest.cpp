@@ -1,7 +1,26 @@
+#include "panel/record/AngleText.h"
 #include "panel/record/ProjectionFields.h"
 #include "support/PanelOnScreen.h"
+#include "support/PanelRecords.h"
+#include "support/RecordText.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QFont>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QTabBar>
+#include <QTest>
+#include <QTranslator>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+#include <QWheelEvent>
 
 namespace Key = CoordParamKey;
 

@@ -1,3 +1,4 @@
+#include "catalogue/CoordParamKey.h"
 #include "import/WktToCoordParam.h"
 #include "panel/record/RecordDifferences.h"
 #include "panel/registry/IdentityLine.h"
@@ -8,7 +9,24 @@
 #include "support/PanelOnScreen.h"
 #include "support/RoomTest.h"
 
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTableView>
 #include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
 
 namespace {
 

@@ -1,7 +1,17 @@
+#include "panel/record/AngleText.h"
 #include "panel/record/ProjectionFields.h"
 #include "support/PanelOnScreen.h"
+#include "support/PanelRecords.h"
+#include "support/RecordText.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTest>
+
+#include <cmath>
 
 namespace Key = CoordParamKey;
 

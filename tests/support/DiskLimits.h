@@ -1,15 +1,7 @@
 #pragma once
 
-#include <QProcess>
 #include <QString>
 #include <QtGlobal>
-
-#ifdef Q_OS_LINUX
-#include <sys/resource.h>
-#include <unistd.h>
-
-#include <csignal>
-#endif
 
 /// A limit while it lives, where this process may set one here.
 class Limit {
@@ -23,56 +15,29 @@ public:
 
 /// No file of this process grows beyond `bytes`: the system refuses the rest, as a full disk does.
 class FileSizeLimit : public Limit {
-#ifdef Q_OS_LINUX
 public:
-    explicit FileSizeLimit(qint64 bytes) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit limit = {rlim_t(bytes), before.rlim_max};
-        works = setrlimit(RLIMIT_FSIZE, &limit) == 0;
-    }
-    ~FileSizeLimit() {
-        setrlimit(RLIMIT_FSIZE, &before);
-    }
+    explicit FileSizeLimit(qint64 bytes);
+    ~FileSizeLimit();
 
 private:
-    rlimit before{};
-#else
-public:
-    explicit FileSizeLimit(qint64) {
-    }
-#endif
+    quint64 before = 0;
 };
 
 /// An administrator's process is an ordinary user's: permissions stop it.
 class OrdinaryUser : public Limit {
-#ifdef Q_OS_LINUX
 public:
-    OrdinaryUser() {
-        works = !isAdministrator || setresuid(nobody, nobody, 0) == 0;
-    }
-    ~OrdinaryUser() {
-        if (isAdministrator && setresuid(0, 0, 0) != 0)
-            qFatal("The administrator's rights don't come back.");
-    }
+    OrdinaryUser();
+    ~OrdinaryUser();
 
 private:
-    static constexpr uid_t nobody = 65534;
-    const bool isAdministrator = geteuid() == 0;
-#endif
+    bool isAdministrator = false;
 };
 
 /// A small disk at the folder `path`.
 class SmallDisk : public Limit {
 public:
-    SmallDisk(const QString& folder, int kilobytes) : path(folder) {
-        works =
-            QProcess::execute("mount", {"-t", "tmpfs", "-o", QString("size=%1k").arg(kilobytes), "none", path}) == 0;
-    }
-    ~SmallDisk() {
-        if (works)
-            QProcess::execute("umount", {"-l", path});
-    }
+    SmallDisk(const QString& folder, int kilobytes);
+    ~SmallDisk();
 
 private:
     QString path;

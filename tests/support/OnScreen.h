@@ -1,10 +1,13 @@
 #pragma once
 
-#include "panel/field/MessageLine.h"
 #include "support/Script.h"
 
-#include <QtTest>
-#include <QtWidgets>
+#include <QList>
+#include <QStringList>
+#include <QWidget>
+
+class QLineEdit;
+class QPushButton;
 
 /// A window as its user sees it: what is visible, by its name on the screen, and a hand that types. Scripts know,
 /// beside the words that the window adds:
@@ -14,42 +17,10 @@
 ///   seen: "Name=text" is what it shows, "(missing)" without such a thing; "state:Name" is "grey" or not, ...
 class OnScreen : public Script {
 public:
-    void open(QWidget& opened) {
-        window = &opened;
-        window->show();
-        QApplication::setActiveWindow(window);
-        acts["open"] = [this](const QString& box) {
-            find<QComboBox>(box)->showPopup();
-            find<QComboBox>(box)->hidePopup();
-            QApplication::setActiveWindow(window);
-        };
-        acts["measure"] = [this](const QString& name) { measured = find<QWidget>(name)->width(); };
-        acts["wait for"] = [this](const QString& name) { QTRY_VERIFY(find<QWidget>(name)); };
-        sights["says"] = [this](const QString&) { return messages().join(" / "); };
-        sights["keyboard"] = [](const QString&) { return nameOf(QApplication::focusWidget()); };
-        sights["copied"] = [](const QString&) { return QApplication::clipboard()->text(); };
-        sights["red"] = [this](const QString&) { return isRed() ? "yes" : "no"; };
-        addSight<QWidget>("tip", [](const QWidget* widget) { return widget->toolTip(); });
-        addSight<QWidget>("description", [](const QWidget* widget) { return widget->accessibleDescription(); });
-        addSight<QWidget>("as wide",
-                          [this](const QWidget* widget) { return widget->width() == measured ? "yes" : "no"; });
-        addSight<QWidget>("state", [](const QWidget* widget) {
-            return !widget->isEnabled() ? "grey" : widget->property("readOnly").toBool() ? "read-only" : "enabled";
-        });
-        addSight<QComboBox>("listed", [](const QComboBox* box) { return QString::number(box->count()); });
-        addSight<QComboBox>("found", [](const QComboBox* box) -> QString {
-            const QCompleter* search = box->completer();
-            return search->popup()->isVisible() ? QString::number(search->completionModel()->rowCount()) : "closed";
-        });
-        addSight<QComboBox>("greyed", [](const QComboBox* box) {
-            QStringList items;
-            for (int i = 0; i < box->count(); ++i) {
-                if (!(box->model()->flags(box->model()->index(i, 0)) & Qt::ItemIsEnabled))
-                    items << box->itemText(i);
-            }
-            return items.join(", ");
-        });
-    }
+    OnScreen();
+    ~OnScreen() override;
+
+    void open(QWidget& opened);
 
     template <typename Widget> QList<Widget*> findAll() const {
         QList<Widget*> visible;
@@ -67,146 +38,39 @@ public:
             if (nameOf(widget) == name)
                 return widget;
         }
-        for (const QLabel* label : findAll<QLabel>()) {
-            if (label->text() == name)
-                return qobject_cast<Widget*>(label->buddy() ? label->buddy() : besideIt(label));
-        }
-        return nullptr;
+        return qobject_cast<Widget*>(labelled(name));
     }
 
-    QLineEdit* field(const QString& name) const { return find<QLineEdit>(name); }
-    QPushButton* button(const QString& text) const { return find<QPushButton>(text); }
+    QLineEdit* field(const QString& name) const;
+    QPushButton* button(const QString& text) const;
 
-    QString shown(const QString& name) const {
-        const auto* widget = find<QWidget>(name);
-        const auto* box = qobject_cast<const QComboBox*>(widget);
-        return box ? box->currentText()
-               : widget
-                   ? widget->property(qobject_cast<const QPlainTextEdit*>(widget) ? "plainText" : "text").toString()
-                   : "(missing)";
-    }
+    QString shown(const QString& name) const;
 
     /// Replaces the text of a field, or of a box, by typing.
-    void type(const QString& name, const QString& typed) const {
-        auto* widget = find<QWidget>(name);
-        QVERIFY2(widget && inputOf(widget), qPrintable("No field " + name));
-        widget->setFocus();
-        inputOf(widget)->selectAll();
-        if (typed.isEmpty())
-            QTest::keyClick(widget, Qt::Key_Delete);
-        QTest::keyClicks(widget, typed);
-    }
+    void type(const QString& name, const QString& typed) const;
 
-    void choose(const QString& box, int index) const {
-        auto* combo = find<QComboBox>(box);
-        combo->setCurrentIndex(index);
-        Q_EMIT combo->activated(index);
-    }
+    void choose(const QString& box, int index) const;
 
     /// Every message, the problem first; none that a greyed form does not show.
-    QStringList messages() const {
-        QStringList texts;
-        for (const MessageLine* line : findAll<MessageLine>()) {
-            if (!line->text().isEmpty() && line->isEnabled())
-                texts << line->text();
-        }
-        return texts;
-    }
+    QStringList messages() const;
 
-    bool isRed() const {
-        const QImage picture = window->grab().toImage();
-        for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x) {
-                const QColor colour = picture.pixelColor(x, y);
-                if (colour.red() > colour.green() + 20)
-                    return true;
-            }
-        }
-        return false;
-    }
+    bool isRed() const;
 
 protected:
-    void act(const QString& word, const QString& text) override {
-        QWidget* const keyboard = QApplication::focusWidget();
-        const QString rest = word.mid(1);
-        QVERIFY(keyboard || !QString("<+^").contains(word[0]));
-        auto* box = find<QComboBox>(word);
-        if (acts.contains(word)) {
-            acts[word](text);
-            QApplication::processEvents();
-            return;
-        }
-        if (word.startsWith('<')) {
-            QTest::keyClick(QApplication::activePopupWidget() ? QApplication::activePopupWidget() : keyboard,
-                            Qt::Key(QKeySequence(rest.chopped(1))[0]));
-        } else if (word.startsWith('@')) {
-            QVERIFY2(find<QWidget>(rest), qPrintable("No " + rest));
-            find<QWidget>(rest)->setFocus();
-        } else if (word.startsWith('+')) {
-            QTest::keyClicks(keyboard, rest);
-        } else if (word.startsWith('^')) {
-            QApplication::clipboard()->setText(rest);
-            inputOf(keyboard)->selectAll();
-            inputOf(keyboard)->paste();
-        } else if (text.isNull() && turnTo(word)) {
-        } else if (auto* spin = find<QDoubleSpinBox>(word)) {
-            spin->setValue(text.toDouble());
-        } else if (box && box->findText(text) >= 0) {
-            choose(word, box->findText(text));
-        } else if (auto* pressed = find<QAbstractButton>(word)) {
-            QTest::mouseClick(pressed, Qt::LeftButton, {}, {8, pressed->height() / 2}); // on a check mark, too
-        } else {
-            type(word, text);
-        }
-        QApplication::processEvents();
-        if (!QApplication::activePopupWidget())
-            QApplication::setActiveWindow(window); // a desktop does so when a popup is gone
-    }
+    void act(const QString& word, const QString& text) override;
+    QString see(const QString& what) override;
 
-    QString see(const QString& what) override {
-        return sights.contains(what.section(':', 0, 0)) ? Script::see(what) : shown(what);
-    }
-
-    bool turnTo(const QString& tab) const {
-        for (auto* bar : findAll<QTabBar>()) {
-            for (int i = 0; i < bar->count(); ++i) {
-                if (bar->tabText(i) == tab) {
-                    bar->setCurrentIndex(i);
-                    return true;
-                }
-            }
-        }
-        return false;
-    }
+    bool turnTo(const QString& tab) const;
 
     QWidget* window = nullptr;
 
 private:
-    template <typename Widget, typename Give> void addSight(const QString& word, Give give) {
-        sights[word] = [this, give](const QString& name) -> QString {
-            const auto* widget = find<Widget>(name);
-            return widget ? QString(give(widget)) : "(missing)";
-        };
-    }
+    template <typename Widget, typename Give> void addSight(const QString& word, Give give);
+
+    static QString nameOf(const QWidget* widget);
+
+    /// What the visible label with this text belongs to or stands beside; null when there is none.
+    QWidget* labelled(const QString& text) const;
 
     int measured = 0;
-
-    static QString nameOf(const QWidget* widget) {
-        const auto* button = qobject_cast<const QAbstractButton*>(widget);
-        return button ? button->text() : widget->accessibleName();
-    }
-
-    static QWidget* besideIt(const QLabel* label) {
-        auto* grid = qobject_cast<QGridLayout*>(label->parentWidget()->layout());
-        int row = 0, column = 0, rows = 0, columns = 0;
-        if (grid)
-            grid->getItemPosition(grid->indexOf(const_cast<QLabel*>(label)), &row, &column, &rows, &columns);
-        QLayoutItem* const item = grid ? grid->itemAtPosition(row, column + 1) : nullptr;
-        return item ? item->widget() : nullptr;
-    }
-
-    static QLineEdit* inputOf(QWidget* widget) {
-        auto* box = qobject_cast<QComboBox*>(widget);
-        return box ? box->lineEdit() : qobject_cast<QLineEdit*>(widget);
-    }
 };

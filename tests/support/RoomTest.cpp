@@ -19,12 +19,18 @@ static std::map<std::string, RoomTest::Create>& classes() {
     return all;
 }
 
-RoomTest::RoomTest(const char* name, Create create) {
+static QString& dataFolder() {
+    static QString folder;
+    return folder;
+}
+
+RoomTest::RoomTest(const char* name, const char* folder, Create create) {
     classes().emplace(name, create);
+    dataFolder() = folder;
 }
 
 QString RoomTest::dataPath(const QString& name) {
-    return QDir(TEST_DATA_DIR).filePath(name);
+    return QDir(dataFolder()).filePath(name);
 }
 
 int main(int argc, char** argv) {

@@ -11,7 +11,8 @@ class RoomTest {
 public:
     using Create = std::unique_ptr<QObject> (*)();
 
-    RoomTest(const char* name, Create create);
+    /// `folder` is the room's, the same for every class.
+    RoomTest(const char* name, const char* folder, Create create);
 
     /// The path of a file of the room's folder; an absolute path stays.
     static QString dataPath(const QString& name);
@@ -19,4 +20,4 @@ public:
 
 #define ROOM_TEST(TestClass)                                                                                           \
     static const RoomTest registered##TestClass(                                                                       \
-        #TestClass, []() -> std::unique_ptr<QObject> { return std::make_unique<TestClass>(); });
+        #TestClass, TEST_DATA_DIR, []() -> std::unique_ptr<QObject> { return std::make_unique<TestClass>(); });

@@ -7,7 +7,11 @@
 #include "support/RoomTest.h"
 #include "support/TextTable.h"
 
-#include <QtWidgets>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
 
 class DlgInputNameTest : public QObject {
     Q_OBJECT

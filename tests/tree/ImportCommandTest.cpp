@@ -9,9 +9,20 @@
 #include "support/TextTable.h"
 #include "tree/DlgCoordSysGroups.h"
 
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QRegExp>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QThread>
-#include <QtWidgets>
+#include <QTimer>
 
 namespace {
 

@@ -3,6 +3,9 @@
 #include "support/PanelOnScreen.h"
 #include "support/RoomTest.h"
 
+#include <QPlainTextEdit>
+#include <QTest>
+
 /// The page "Point" of the tab "Check", over the real projection module.
 class CheckPointPaneTest : public QObject {
     Q_OBJECT

@@ -5,6 +5,7 @@
 #include "panel/computing/DuplicateNames.h"
 #include "panel/computing/PointReader.h"
 #include "panel/computing/ShownSystem.h"
+#include "panel/record/AngleText.h"
 #include "support/DiskLimits.h"
 #include "support/Files.h"
 #include "support/PanelRecords.h"
@@ -14,6 +15,7 @@
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTextDocument>
 #include <QThreadPool>
 

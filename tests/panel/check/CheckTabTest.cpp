@@ -1,6 +1,20 @@
+#include "panel/record/AngleText.h"
 #include "support/PanelOnScreen.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
+#include "support/SampleRecords.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QFont>
+#include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionComboBox>
+#include <QTabWidget>
+#include <QTest>
 
 namespace {
 

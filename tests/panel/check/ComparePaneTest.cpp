@@ -1,11 +1,20 @@
 #include "panel/check/ComparePane.h"
 
+#include "catalogue/CoordParamKey.h"
 #include "panel/check/AreaPlot.h"
 #include "panel/field/SystemNameLine.h"
 #include "support/ModalDriver.h"
 #include "support/PanelOnScreen.h"
+#include "support/PanelRecords.h"
 #include "support/RoomTest.h"
+#include "support/SampleRecords.h"
 
+#include <QApplication>
+#include <QCoreApplication>
+#include <QDialog>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTest>
 #include <qwt_plot_spectrogram.h>
 
 namespace {

@@ -3,10 +3,22 @@
 #include "panel/check/AreaPlot.h"
 #include "panel/record/ParamField.h"
 #include "support/PanelOnScreen.h"
+#include "support/PanelRecords.h"
 #include "support/RoomTest.h"
+#include "support/SampleRecords.h"
 
+#include <QApplication>
+#include <QCoreApplication>
+#include <QFont>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QRegularExpression>
+#include <QTabWidget>
+#include <QTest>
 #include <qwt_plot_curve.h>
 #include <qwt_plot_marker.h>
+
+#include <cmath>
 
 namespace {
 

@@ -6,6 +6,11 @@
 #include "support/PanelRecords.h"
 #include "support/RoomTest.h"
 
+#include <QSignalSpy>
+#include <QTest>
+
+#include <cmath>
+
 namespace {
 
 /// The box on a record of PanelRecords::of(). A script starts with "record" or "read-only: record".

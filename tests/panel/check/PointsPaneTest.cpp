@@ -4,12 +4,38 @@
 #include "panel/check/PointsPlot.h"
 #include "panel/check/SlicedWork.h"
 #include "panel/record/LengthUnit.h"
+#include "support/Files.h"
 #include "support/MessageBoxDouble.h"
 #include "support/ModalDriver.h"
 #include "support/PanelOnScreen.h"
+#include "support/PanelRecords.h"
 #include "support/RoomTest.h"
 
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QDoubleSpinBox>
+#include <QFile>
+#include <QFileDialog>
+#include <QFont>
+#include <QKeySequence>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTableWidget>
 #include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+
+#include <cmath>
 
 namespace {
 

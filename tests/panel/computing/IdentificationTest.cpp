@@ -6,6 +6,8 @@
 #include "support/RoomTest.h"
 #include "support/TextTable.h"
 
+#include <QTest>
+
 namespace {
 
 /// The first of the matches, and what differs.

@@ -4,7 +4,12 @@
 #include "panel/computing/ShownSystem.h"
 #include "support/PanelRecords.h"
 #include "support/RoomTest.h"
+#include "support/SampleRecords.h"
 #include "support/TextTable.h"
+
+#include <QTest>
+
+#include <cmath>
 
 class SystemDifferenceTest : public QObject {
     Q_OBJECT

@@ -3,9 +3,14 @@
 #include "platform/projection/IEpsgRegistry.h"
 #include "platform/projection/IProjectionModule.h"
 #include "support/RecordingCatalogue.h"
+#include "support/RoomTest.h"
 #include "support/Rows.h"
 #include "support/SampleRecords.h"
 #include "support/TextTable.h"
+
+#include <QTest>
+
+#include <cmath>
 
 namespace {
 

@@ -1,15 +1,19 @@
 #include "panel/record/CoordParamEditor.h"
 
 #include "import/CoordParamToProjDefine.h"
+#include "panel/record/AngleText.h"
 #include "panel/record/DatumFields.h"
 #include "panel/record/ProjectionAdvice.h"
 #include "panel/record/ProjectionFields.h"
 #include "support/PanelRecords.h"
+#include "support/RecordText.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 #include "support/Script.h"
 
 #include <QTest>
+
+#include <cmath>
 
 namespace Key = CoordParamKey;
 

@@ -1,6 +1,9 @@
 #include "panel/record/FileNames.h"
 
+#include "support/RoomTest.h"
 #include "support/TextTable.h"
+
+#include <QTest>
 
 class FileNamesTest : public QObject {
     Q_OBJECT

@@ -5,6 +5,8 @@
 #include "support/RoomTest.h"
 #include "support/TextTable.h"
 
+#include <QTest>
+
 class PastedDefinitionTest : public QObject {
     Q_OBJECT
 

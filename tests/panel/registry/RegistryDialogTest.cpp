@@ -1,5 +1,6 @@
 #include "panel/registry/RegistryDialog.h"
 
+#include "catalogue/CoordParamKey.h"
 #include "panel/registry/FoundSystemsModel.h"
 #include "platform/projection/IProjectionModule.h"
 #include "support/OnScreen.h"
@@ -7,6 +8,16 @@
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 #include "support/SampleRecords.h"
+
+#include <QAbstractItemModel>
+#include <QApplication>
+#include <QClipboard>
+#include <QDialogButtonBox>
+#include <QKeySequence>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
 
 namespace {
 

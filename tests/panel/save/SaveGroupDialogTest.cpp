@@ -1,13 +1,23 @@
 #include "panel/save/SaveGroupDialog.h"
 
+#include "catalogue/CoordParamKey.h"
 #include "import/WktToCoordParam.h"
 #include "panel/record/RecordDifferences.h"
 #include "platform/projection/WktDialect.h"
+#include "support/Files.h"
 #include "support/OnScreen.h"
 #include "support/PanelRecords.h"
 #include "support/RecordingCatalogue.h"
+#include "support/RoomTest.h"
 
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProgressBar>
+#include <QTableView>
 #include <QTemporaryDir>
+#include <QTest>
 
 namespace {
 

@@ -5,6 +5,14 @@
 #include "support/OnScreen.h"
 #include "support/RoomTest.h"
 #include "support/SampleRecords.h"
+#include "support/TextTable.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QLineEdit>
+#include <QTableView>
+#include <QTest>
 
 namespace {
 

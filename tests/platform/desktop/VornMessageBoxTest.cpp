@@ -4,7 +4,11 @@
 #include "support/RoomTest.h"
 #include "support/TextTable.h"
 
-#include <QtWidgets>
+#include <QDialog>
+#include <QKeySequence>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
 
 /// The real boxes, in the hands of a user.
 class VornMessageBoxTest : public QObject {

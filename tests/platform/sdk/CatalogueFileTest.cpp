@@ -4,10 +4,13 @@
 #include "support/RoomTest.h"
 #include "support/TextTable.h"
 
+#include <QDir>
+#include <QFile>
 #include <QRandomGenerator>
+#include <QTest>
 #include <QTextCodec>
 #include <QXmlStreamReader>
-#include <QtTest>
+#include <QtNumeric>
 
 #include <cstring>
 #include <limits>

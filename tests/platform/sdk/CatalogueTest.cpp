@@ -2,8 +2,9 @@
 #include "support/RecordText.h"
 #include "support/RoomTest.h"
 
+#include <QFile>
+#include <QTest>
 #include <QTextCodec>
-#include <QtTest>
 
 class CatalogueTest : public QObject {
     Q_OBJECT

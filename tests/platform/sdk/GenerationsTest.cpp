@@ -4,7 +4,14 @@
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 
-#include <QtTest>
+#include <QDate>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTime>
 
 class GenerationsTest : public QObject {
     Q_OBJECT

@@ -2,8 +2,8 @@
 #include "support/RecordText.h"
 #include "support/RoomTest.h"
 
+#include <QTest>
 #include <QTextCodec>
-#include <QtTest>
 
 static void shipEllipsoids(const Folders& folders) {
     RecordFile file(ellipsoidFile);

@@ -5,7 +5,7 @@
 #include "catalogue/ISystemConfig.h"
 #include "support/RoomTest.h"
 
-#include <QtTest>
+#include <QTest>
 
 class SdkTest : public QObject {
     Q_OBJECT

@@ -4,8 +4,12 @@
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 #include <functional>

@@ -3,9 +3,11 @@
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 
+#include <QElapsedTimer>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
+#include <QtNumeric>
 
 #include <clocale>
 #include <cstring>

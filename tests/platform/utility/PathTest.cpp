@@ -4,7 +4,7 @@
 #include "support/Rows.h"
 
 #include <QCoreApplication>
-#include <QtTest>
+#include <QTest>
 
 static QByteArray resolvedPath() {
     char path[4096];

@@ -2,6 +2,8 @@
 #include "support/RoomTest.h"
 #include "support/TextTable.h"
 
+#include <QTest>
+
 #include <cmath>
 
 /// An ellipsoid's axes and its two names.

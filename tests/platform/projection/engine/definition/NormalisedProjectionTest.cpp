@@ -5,6 +5,7 @@
 #include "support/TextTable.h"
 
 #include <QRandomGenerator>
+#include <QTest>
 
 #include <cmath>
 

@@ -5,7 +5,9 @@
 #include "support/Rows.h"
 #include "support/TextTable.h"
 
-#include <QtTest>
+#include <QFile>
+#include <QTemporaryFile>
+#include <QTest>
 
 #include <cmath>
 #include <cstdio>
