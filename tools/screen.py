@@ -7,6 +7,7 @@ shows a program on a screen of its own, saves a picture of its window, and ends 
 """
 
 import os
+import random
 import subprocess
 import sys
 import tempfile
@@ -70,7 +71,8 @@ def window_picture(window, path, *options):
         def still():
             for shot in shots:
                 whole_picture(shot)
-                time.sleep(0.3)
+                # Never in step with a cursor that blinks.
+                time.sleep(random.uniform(0.1, 0.6))
             return (not subprocess.run(["cmp", "-s", *shots], check=False).returncode
                     and int(ask("identify", "-format", "%k", shots[1])) > 16)
 
