@@ -5,13 +5,17 @@
 #include "panel/record/PanelText.h"
 #include "panel/record/WithheldText.h"
 
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QPalette>
+#include <QTimer>
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
+
+constexpr qint64 patience = 2; // milliseconds that the window does nothing else
 
 bool covers(const RegistrySystem& system, double latitude, double longitude) {
     if (!system.hasExtent || latitude < system.south || latitude > system.north)
@@ -24,9 +28,11 @@ bool covers(const RegistrySystem& system, double latitude, double longitude) {
 } // namespace
 
 RegistryModel::RegistryModel(IEpsgRegistry& registry, QObject* parent)
-    : QAbstractTableModel(parent), registry(registry) {
+    : QAbstractTableModel(parent), registry(registry), idle(new QTimer(this)) {
+    connect(idle, SIGNAL(timeout()), this, SLOT(_onIdle()));
     for (const RegistrySystem& system : registry.projectedSystems())
         searchTexts.append(QString::fromUtf8(system.code + '\n' + system.name + '\n' + system.area).toCaseFolded());
+    shades.fill(Shade::Unknown, searchTexts.size());
     setSearch({});
 }
 
@@ -47,6 +53,10 @@ void RegistryModel::setSearch(const Search& search) {
             rows.append(index);
     }
     endResetModel();
+    // Those that were asked for are out of sight.
+    for (const int index : asked)
+        shades[index] = Shade::Unknown;
+    asked.clear();
 }
 
 const RegistrySystem& RegistryModel::system(int row) const {
@@ -96,12 +106,35 @@ QVariant RegistryModel::data(const QModelIndex& index, int role) const {
         return why.isEmpty() ? data(index, Qt::DisplayRole) : why;
     }
     case Qt::ForegroundRole:
-        if (!isHeld(shown))
-            return Colours::hint(QGuiApplication::palette());
-        return {};
+        return foreground(rows[index.row()]);
     default:
         return {};
     }
+}
+
+QVariant RegistryModel::foreground(int index) const {
+    if (shades[index] == Shade::Grey)
+        return Colours::hint(QGuiApplication::palette());
+    if (shades[index] == Shade::Unknown) {
+        shades[index] = Shade::Asked;
+        asked.append(index);
+        idle->start();
+    }
+    return {};
+}
+
+void RegistryModel::_onIdle() {
+    QElapsedTimer sinceStart;
+    for (sinceStart.start(); !asked.isEmpty() && sinceStart.elapsed() < patience;) {
+        const int found = asked.takeFirst();
+        const bool isPlain = isHeld(registry.projectedSystems()[std::size_t(found)]);
+        shades[found] = isPlain ? Shade::Plain : Shade::Grey;
+        const int row = int(std::lower_bound(rows.cbegin(), rows.cend(), found) - rows.cbegin());
+        if (!isPlain)
+            Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1), {Qt::ForegroundRole});
+    }
+    if (asked.isEmpty())
+        idle->stop();
 }
 
 QVariant RegistryModel::headerData(int section, Qt::Orientation orientation, int role) const {

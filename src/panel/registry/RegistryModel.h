@@ -9,8 +9,11 @@
 
 #include <optional>
 
+class QTimer;
+
 /// The registry's projected systems as a table that a search narrows down: code, name, area. A system that no method of
-/// the record holds is grey, and says so in its tooltip.
+/// the record holds is grey, and says so in its tooltip. A row turns grey once it has been shown: to find that out for
+/// all rows on the screen would take longer than someone who types should wait.
 class RegistryModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -48,9 +51,21 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+private Q_SLOTS:
+    /// Finds out of some of the rows that were shown whether they are grey.
+    void _onIdle();
+
 private:
+    enum class Shade : char { Unknown, Asked, Plain, Grey };
+
+    /// The colour of a listed system; asks for it where it is not known yet.
+    QVariant foreground(int index) const;
+
     IEpsgRegistry& registry;
     QStringList searchTexts;                    ///< by index in the registry's list
-    QVector<int> rows;                          ///< the listed systems, as indexes in the registry's list
+    QVector<int> rows;                          ///< the listed systems, as indexes in the registry's list, ascending
+    mutable QVector<Shade> shades;              ///< by index in the registry's list
+    mutable QVector<int> asked;                 ///< the indexes whose shade is Asked
+    QTimer* idle;                               ///< runs while there are any
     mutable QHash<QByteArray, QString> reasons; ///< by code, of those that are not held
 };

@@ -7,6 +7,7 @@
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 
+#include <QSignalSpy>
 #include <QTest>
 
 Q_DECLARE_METATYPE(RegistryModel::Search)
@@ -76,8 +77,25 @@ private Q_SLOTS:
         QVERIFY(reason("29873").startsWith("The grid is turned by 53.1301023611111°"));
         QVERIFY(reason("8045").endsWith("but: south, west."));
         QVERIFY(reason("3774").startsWith("A unit is missing")); // a scale in metres
-        QVERIFY(model.data(model.index(model.rowOf("5514"), 0), Qt::ForegroundRole).isValid());
-        QVERIFY(!model.data(model.index(model.rowOf("32633"), 0), Qt::ForegroundRole).isValid());
+    }
+
+    /// Rows turn grey behind their first look, and the view is told; those that a search took out of sight are left.
+    void whatIsNotHeldTurnsGrey() {
+        RegistryModel model(registry());
+        const auto cell = [&](const char* code) { return model.index(model.rowOf(code), RegistryModel::Name); };
+        const auto isGrey = [&](const char* code) { return cell(code).data(Qt::ForegroundRole).isValid(); };
+        QSignalSpy repainted(&model, &RegistryModel::dataChanged);
+        QVERIFY(!isGrey("5514") && !isGrey("32633"));
+        QTRY_COMPARE(repainted.size(), 1);
+        QVERIFY(repainted[0][0].value<QModelIndex>() == cell("5514").siblingAtColumn(0));
+        QVERIFY(repainted[0][1].value<QModelIndex>() == cell("5514").siblingAtColumn(RegistryModel::ColumnCount - 1));
+        QVERIFY(isGrey("5514") && !isGrey("32633"));
+        QVERIFY(!isGrey("29873"));
+        model.setSearch({"5514", std::nullopt, std::nullopt, false});
+        QVERIFY(isGrey("5514"));
+        model.setSearch({});
+        QVERIFY(!isGrey("29873"));
+        QTRY_VERIFY(isGrey("29873"));
     }
 };
 
