@@ -162,6 +162,12 @@ private Q_SLOTS:
             return screen.panel.findChild<IdentityLine*>()->findChild<QTimer*>()->isActive();
         };
         screen.acts["search"] = [&](const QString&) { QTRY_VERIFY_WITH_TIMEOUT(!isSearching(), 60000); };
+        screen.acts["look at a dialog"] = [&](const QString& milliseconds) {
+            QDialog dialog;
+            dialog.setModal(true);
+            dialog.show();
+            QTest::qWait(milliseconds.toInt());
+        };
         screen.sights["searching"] = [&](const QString&) { return isSearching() ? "yes" : "no"; };
         QString said;
         screen.acts["paste"] = [&](const QString& text) { said = pasteDefinition(screen, text); };

@@ -8,6 +8,7 @@
 #include "panel/record/ProjectionFields.h"
 #include "platform/projection/IProjectionModule.h"
 
+#include <QApplication>
 #include <QLocale>
 #include <QRegularExpression>
 #include <QStringList>
@@ -19,6 +20,7 @@
 namespace {
 
 constexpr int slice = 10; // milliseconds
+constexpr int wait = 200; // milliseconds, behind a dialog
 
 QString systemText(const RegistrySystem& system) {
     const QString text = PanelText::tr("EPSG:%1, %2").arg(QString(system.code), QString::fromUtf8(system.name));
@@ -96,6 +98,12 @@ void IdentityLine::hideEvent(QHideEvent* event) {
 void IdentityLine::_onTimeout() {
     if (!identification || subject.definition.isEmpty() || (isStarted && identification->isFinished()))
         return timer->stop();
+    // Nobody reads it behind a dialog, where what is typed must not wait for it.
+    const QWidget* const dialog = QApplication::activeModalWidget();
+    const bool isBehind = dialog && !dialog->isAncestorOf(this);
+    timer->setInterval(isBehind ? wait : 0);
+    if (isBehind)
+        return;
     if (!isStarted)
         identification->start(subject);
     isStarted = true;

@@ -10,7 +10,7 @@ class QTimer;
 struct ProjectionFields;
 
 /// Says which system of the EPSG registry the record is, or like which one but for what. It computes while it is
-/// visible and nothing else is to be done, some milliseconds at a time.
+/// visible with no dialog in front of it and nothing else is to be done, some milliseconds at a time.
 class IdentityLine : public ResultLabel {
     Q_OBJECT
 
