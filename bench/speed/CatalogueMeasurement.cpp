@@ -3,9 +3,8 @@
 //   bench_speed_catalogue load FOLDER           milliseconds
 //   bench_speed_catalogue parse FOLDER          milliseconds that pugixml needs for the file
 //   bench_speed_catalogue save FOLDER           milliseconds of a save after one edit
-//   bench_speed_catalogue write FOLDER          milliseconds to write the file's bytes to a new file and flush them to
-//   disk bench_speed_catalogue memory FOLDER         bytes of the file, of memory with it loaded, and of memory at most
-//   in a save
+//   bench_speed_catalogue write FOLDER          milliseconds to write the file's bytes to a new file, with fsync
+//   bench_speed_catalogue memory FOLDER         bytes: of the file, of memory with it loaded and at most in a save
 
 #include "catalogue/CoordParamKey.h"
 #include "catalogue/DictionaryGuard.h"
@@ -13,6 +12,7 @@
 #include "platform/sdk/Catalogue.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
@@ -20,6 +20,7 @@
 
 #include <pugixml.hpp>
 
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <functional>
@@ -50,13 +51,17 @@ struct Loaded {
         catalogue.saveCoordSystems(QFile::encodeName(fileIn(folder)).constData());
     }
 
-    /// As a person does before a save.
+    /// As a person does before a save: one system has another remark than ever before.
     void edit() {
-        ICoordSysGroup* const group = catalogue.getGroup(namesIn(catalogue.getGroupNames()).first().constData());
+        const QByteArrayList groups = namesIn(catalogue.getGroupNames());
+        const auto filled = std::find_if(groups.begin(), groups.end(), [this](const QByteArray& name) {
+            return *catalogue.getGroup(name.constData())->getCoordSystemNames() != '\0';
+        });
+        ICoordSysGroup* const group = catalogue.getGroup(filled->constData());
         const QByteArray system = namesIn(group->getCoordSystemNames()).first();
         const DictionaryGuard record;
         dictionary_assign(record.get(), group->getCoordSystem(system.constData()));
-        record->setText(CoordParamKey::remark, "edited");
+        record->setText(CoordParamKey::remark, QByteArray::number(QDateTime::currentMSecsSinceEpoch()).constData());
         group->setCoordSystem(system.constData(), record.get());
     }
 

@@ -23,14 +23,9 @@ private:
     void appendNumber(const IDictionary& values, const char* key, const QByteArray& text);
     void appendValue(const RecordContent& record, const char* key, const QByteArray& indent);
     void appendNodes(const QByteArrayList& nodes, const QByteArray& indent);
-    /// Takes a record's lines from the text of a file, which stays where it is until endCopy().
-    void copy(const QByteArray& lines);
-    /// Comes before anything else is written behind what was copied.
-    void endCopy();
     void flush();
 
     FileReplacement& file;
     QByteArray xml;           ///< what is still to be written
-    QByteArray copied;        ///< what comes behind it: neighbouring lines in a file's text
     bool isUnderstood = true; ///< nothing unknown so far
 };
