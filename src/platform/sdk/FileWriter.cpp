@@ -8,7 +8,7 @@
 
 #include <cstring>
 
-// Bytes of a file that are written at a time: with a tenth, a disk takes twice as long; with ten times as much, as long.
+// Bytes of a file that are written at a time: with a tenth, a disk takes twice as long; with ten times as much, no less.
 static constexpr int pieceSize = 1 << 18;
 
 // What is reserved stays when the text is emptied.
