@@ -10,7 +10,10 @@
 
 namespace {
 
-constexpr int lookAtWindow = 1500; // milliseconds
+// Milliseconds.
+constexpr int lookAtWindow = 1500;
+constexpr int aimAtTab = 100; // nobody hits one faster whose mouse was elsewhere
+constexpr int chooseFiles = 300;
 
 template <typename Work> double duration(const Work& work) {
     QElapsedTimer timer;
@@ -58,6 +61,9 @@ QString WindowDriver::tabTitle(int tab) const {
 
 double WindowDriver::showTab(int tab) {
     QTabBar* const bar = panel->tabBar();
+    QEvent reached(QEvent::Enter);
+    QApplication::sendEvent(bar, &reached);
+    QTest::qWait(aimAtTab);
     return milliseconds([&] { QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(tab).center()); });
 }
 
@@ -119,6 +125,7 @@ double WindowDriver::import(const QStringList& files) {
     ModalDriver::onNextDialog([&](QDialog* dialog) {
         dialog->findChild<QLineEdit*>("fileNameEdit")->setText('"' + files.join("\" \"") + '"');
         QObject::connect(dialog, &QDialog::accepted, [&] { sinceChosen.start(); });
+        QTest::qWait(chooseFiles);
         QMetaObject::invokeMethod(dialog, "accept");
     });
     find<QAction>(tree, "ImportCoordSys")->trigger();

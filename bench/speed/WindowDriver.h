@@ -20,7 +20,7 @@ public:
     int tabCount() const;
     QString tabTitle(int tab) const;
 
-    /// Clicks the tab.
+    /// Clicks the tab; the mouse came to the tabs shortly before.
     double showTab(int tab);
     /// Clicks the tab with that title.
     double showTab(const QString& title);

@@ -9,6 +9,7 @@
 #include "import/WktFile.h"
 #include "import/WktToCoordParam.h"
 #include "platform/desktop/VornMessageBox.h"
+#include "platform/projection/IProjectionModule.h"
 #include "tree/DlgInputName.h"
 #include "tree/ImportProgress.h"
 #include "tree/PlainToolTipDelegate.h"
@@ -314,6 +315,7 @@ void DlgCoordSysGroups::_onAddGeoidClicked() {
 }
 
 void DlgCoordSysGroups::_onImpCoordSystem() {
+    prepareProjectionModule(); // while the files are being chosen
     const QStringList paths =
         QFileDialog::getOpenFileNames(this, tr("Selecte WKT file"), QString(), QStringLiteral("*.txt;;*.prj"));
     if (paths.isEmpty())

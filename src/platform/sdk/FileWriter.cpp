@@ -8,7 +8,8 @@
 
 #include <cstring>
 
-// Bytes of a file that are written at a time: with a tenth, a disk takes twice as long; with ten times as much, no less.
+// Bytes of a file that are written at a time. A disk takes twice as long for a tenth, and no less time for ten times
+// as many.
 static constexpr int pieceSize = 1 << 18;
 
 // What is reserved stays when the text is emptied.
