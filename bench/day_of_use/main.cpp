@@ -5,9 +5,9 @@
 #include "Day.h"
 #include "PrivateMemory.h"
 #include "platform/desktop/Applicationx.h"
+#include "support/OwnHome.h"
 
 #include <QElapsedTimer>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
@@ -47,9 +47,7 @@ double measure(Day& day, const Work& work) {
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir home;
-    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
-        qputenv(name, home.path().toLocal8Bit());
+    const OwnHome home;
     const Applicationx application(argc, argv, "day", "day");
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
         if (!text.startsWith("This plugin does not support"))

@@ -10,8 +10,8 @@
 
 #include "WindowDriver.h"
 #include "platform/desktop/Applicationx.h"
+#include "support/OwnHome.h"
 
-#include <QTemporaryDir>
 #include <QVector>
 
 #include <algorithm>
@@ -63,9 +63,7 @@ int import(QStringList files) {
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir home;
-    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
-        qputenv(name, home.path().toLocal8Bit());
+    const OwnHome home;
     const Applicationx application(argc, argv, "speed", "speed");
     QStringList arguments = QCoreApplication::arguments().mid(1);
     const QString what = arguments.isEmpty() ? QString() : arguments.takeFirst();

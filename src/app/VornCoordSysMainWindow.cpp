@@ -4,6 +4,7 @@
 #include "catalogue/ICoordSystem.h"
 #include "catalogue/IDictionary.h"
 #include "catalogue/ISystemConfig.h"
+#include "catalogue/UserFolders.h"
 #include "panel/DlgCoordParam.h"
 #include "platform/desktop/VornMessageBox.h"
 #include "tree/DlgCoordSysGroups.h"
@@ -14,13 +15,12 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QSplitter>
-#include <QStandardPaths>
 #include <QVBoxLayout>
 
 namespace {
 
 QString inDocuments(const QString& path) {
-    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + path;
+    return UserFolders::documents() + path;
 }
 
 } // namespace

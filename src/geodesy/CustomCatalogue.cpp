@@ -3,6 +3,7 @@
 #include "catalogue/Dictionary.h"
 #include "catalogue/DictionaryGuard.h"
 #include "catalogue/ICoordSystem.h"
+#include "catalogue/UserFolders.h"
 #include "platform/desktop/VornMessageBox.h"
 
 #include <QComboBox>
@@ -12,7 +13,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QStandardPaths>
 
 #include <cstdlib>
 
@@ -24,8 +24,7 @@ void setText(IDictionary* record, const char* key, const QString& text) {
 
 /// Opens a save with an empty path, then writes the file.
 void save(ICoordSystem* coordSystem, const CustomCatalogue::Kind& kind) {
-    const QString path = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) +
-                         QStringLiteral("/ArvelaGnss/Data/") + kind.fileName;
+    const QString path = UserFolders::documents() + QStringLiteral("/ArvelaGnss/Data/") + kind.fileName;
     (coordSystem->*kind.save)("");
     (coordSystem->*kind.save)(path.toLocal8Bit().constData());
 }

@@ -1,5 +1,6 @@
 #include "import/WktFile.h"
 
+#include "catalogue/OlderEncoding.h"
 #include "import/WktToCoordParam.h"
 
 #include <QFile>
@@ -40,14 +41,14 @@ bool hasPairsOnly(const QByteArray& text) {
 /// Text without a byte-order mark, in UTF-8.
 QByteArray toUtf8(const QByteArray& text) {
     const QTextCodec* const local = QTextCodec::codecForLocale();
-    if (isUtf8(text)) {
-        if (!isDoubleByte(local) || !hasPairsOnly(text))
-            return text;
-        const QString pairs = local->toUnicode(text);
-        return pairs.contains(QChar::ReplacementCharacter) ? text : pairs.toUtf8();
-    }
     const bool isLocalUtf8 = local->mibEnum() == QTextCodec::codecForName("UTF-8")->mibEnum();
-    return (isLocalUtf8 ? QTextCodec::codecForName("Windows-1252") : local)->toUnicode(text).toUtf8();
+    const QTextCodec* const other = isLocalUtf8 ? olderEncoding() : local;
+    if (!isUtf8(text))
+        return other->toUnicode(text).toUtf8();
+    if (!isDoubleByte(other) || !hasPairsOnly(text))
+        return text;
+    const QString pairs = other->toUnicode(text);
+    return pairs.contains(QChar::ReplacementCharacter) ? text : pairs.toUtf8();
 }
 
 template <typename Text> Text upToNul(Text text) {

@@ -2,6 +2,7 @@
 #include "PageRules.h"
 #include "Tour.h"
 #include "panel/field/FieldEdit.h"
+#include "support/OwnHome.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 
@@ -99,9 +100,7 @@ private Q_SLOTS:
 
 private:
     static void tour(const Tour::Look& look) {
-        const QTemporaryDir home;
-        for (const char* place : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
-            qputenv(place, home.path().toLocal8Bit());
+        const OwnHome home;
         Tour(look).go();
     }
 

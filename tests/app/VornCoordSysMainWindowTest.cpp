@@ -8,6 +8,7 @@
 #include "support/MarkingTranslator.h"
 #include "support/MessageBoxDouble.h"
 #include "support/ModalDriver.h"
+#include "support/OwnHome.h"
 #include "support/RecordingCatalogue.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
@@ -21,7 +22,6 @@
 #include <QRegExp>
 #include <QSignalSpy>
 #include <QSplitter>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTreeWidgetItem>
 
@@ -60,9 +60,8 @@ class VornCoordSysMainWindowTest : public QObject {
 private Q_SLOTS:
     void init() {
         aliveAtStart = dictionary_alive_count();
-        home = std::make_unique<QTemporaryDir>();
-        qputenv("HOME", home->path().toLocal8Bit());
-        qputenv("XDG_CONFIG_HOME", home->path().toLocal8Bit());
+        home.reset(); // before the next, whose variable it would take away
+        home = std::make_unique<OwnHome>();
         MessageBoxDouble::reset();
         catalogue = std::make_unique<RecordingCatalogue>();
         config = std::make_unique<ConfigDouble>();
@@ -291,7 +290,7 @@ private:
 
     const MarkingTranslator translator;
     int aliveAtStart = 0;
-    std::unique_ptr<QTemporaryDir> home;
+    std::unique_ptr<OwnHome> home;
     std::unique_ptr<VornCoordSysMainWindow> window;
 };
 

@@ -10,6 +10,7 @@
 #include "support/MarkingTranslator.h"
 #include "support/MessageBoxDouble.h"
 #include "support/ModalDriver.h"
+#include "support/OwnHome.h"
 #include "support/RecordingCatalogue.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
@@ -178,11 +179,7 @@ class CustomCatalogueTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() {
-        qputenv("HOME", home.path().toLocal8Bit());
-        qunsetenv("XDG_CONFIG_HOME");
-        QLocale::setDefault(QLocale(QLocale::German));
-    }
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::German)); }
 
     void init() {
         MessageBoxDouble::reset();
@@ -509,7 +506,7 @@ private:
     }
 
     const MarkingTranslator translator;
-    QTemporaryDir home;
+    OwnHome home;
     int aliveAtStart = 0;
 };
 

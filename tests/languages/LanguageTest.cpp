@@ -1,6 +1,7 @@
 #include "LanguageRules.h"
 #include "accessibility/Tour.h"
 #include "support/Catalogue.h"
+#include "support/OwnHome.h"
 #include "support/RoomTest.h"
 
 /// Every tab, page and dialog in the language that the tool was started in, in the window's own size and in its
@@ -21,9 +22,7 @@ private Q_SLOTS:
         const LanguageRules::Untranslated untranslated(language == "en" ? Catalogue() : catalogue);
         QStringList broken;
         int pages = 0;
-        const QTemporaryDir home;
-        for (const char* place : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
-            qputenv(place, home.path().toLocal8Bit());
+        const OwnHome home;
         const auto look = [&](const QString& page, QWidget& root, const QString& size) {
             keep(root, page + size);
             const QStringList found = LanguageRules::cutOff(root) + LanguageRules::oversized(root) +
@@ -35,7 +34,7 @@ private Q_SLOTS:
             [&](const QString& page, QWidget& root) {
                 ++pages;
                 if (page == "Check, Points") {
-                    for (const QString& each : untranslated.in(report(root, catalogue, home.filePath("report.html"))))
+                    for (const QString& each : untranslated.in(report(root, catalogue, home.path() + "/report.html")))
                         broken << "Report: " + each;
                 }
                 if (qobject_cast<VornCoordSysMainWindow*>(&root)) {

@@ -1,6 +1,7 @@
 #include "RandomUser.h"
 #include "WalkRules.h"
 #include "catalogue/DictionaryGuard.h"
+#include "support/OwnHome.h"
 #include "support/RoomTest.h"
 #include "support/Rows.h"
 
@@ -49,10 +50,7 @@ private Q_SLOTS:
         messageHandler = qInstallMessageHandler(withoutPlatformMessages);
         qInfo("RANDOM_WALK_SEED=%u RANDOM_WALK_STEPS=%d", seed, steps);
         startAsNew();
-        const QTemporaryDir home;
-        qputenv("HOME", home.path().toLocal8Bit());
-        qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
-        qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
+        const OwnHome home;
         ToolOnScreen tool(home.path());
         writeCatalogue(tool.dataFolder);
         tool.start();

@@ -46,6 +46,8 @@ int main(int argc, char** argv) {
         --argc;
         ++argv;
     }
+    if (classes().empty())
+        qFatal("There are no tests in this program.");
     int failed = 0;
     for (const auto& [name, create] : classes()) {
         if (only.empty() || only == name)

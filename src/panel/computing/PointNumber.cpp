@@ -1,5 +1,6 @@
 #include "panel/computing/PointNumber.h"
 
+#include "catalogue/OlderEncoding.h"
 #include "panel/record/NumberText.h"
 
 #include <QTextCodec>
@@ -26,8 +27,9 @@ bool readPlain(std::string_view text, double* number) {
 QString toText(std::string_view text) {
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader); // a byte-order mark amid a text is one of its letters
     const QString utf8 = QTextCodec::codecForName("UTF-8")->toUnicode(text.data(), int(text.size()), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0 ? utf8
-                                                                : QString::fromLatin1(text.data(), int(text.size()));
+    return state.invalidChars == 0 && state.remainingChars == 0
+               ? utf8
+               : olderEncoding()->toUnicode(text.data(), int(text.size()));
 }
 
 /// With the point as decimal mark, and commas where points grouped digits.

@@ -17,7 +17,7 @@ public:
     PointReader(PointLayout layout, double metresPerUnit, PointTable& table);
     ~PointReader();
 
-    /// The next bytes of the text, in UTF-8, Latin-1, or UTF-16 with a byte-order mark.
+    /// The next bytes of the text, in UTF-8, UTF-16 with a byte-order mark, or the older encoding of the user's system.
     void add(const QByteArray& bytes);
 
     /// The text is at its end.

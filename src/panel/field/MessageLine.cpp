@@ -8,7 +8,10 @@
 
 MessageLine::MessageLine(QWidget* parent) : QWidget(parent) {
     QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * 0.9);
+    if (small.pixelSize() > 0) // and no size in points
+        small.setPixelSize(qRound(small.pixelSize() * 0.9));
+    else
+        small.setPointSizeF(small.pointSizeF() * 0.9);
     setFont(small);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }

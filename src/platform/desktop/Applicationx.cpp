@@ -46,13 +46,10 @@ int& prepared(int& argc) {
     return argc;
 }
 
-// A desktop whose locale is "C" has a local encoding of ASCII, which loses every other character of a name.
+// A desktop whose locale is "C" has a local encoding of ASCII, and Windows one of a few languages: each loses every
+// other character of a name.
 void useEncodingThatCarriesAnyName() {
-#if !defined(Q_OS_WIN)
-    const QTextCodec* codec = QTextCodec::codecForLocale();
-    if (!codec || codec->mibEnum() != QTextCodec::codecForName("UTF-8")->mibEnum())
-        QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-#endif
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 }
 
 /// Loads <name>_<language>.qm of the folder for the texts of the application; false when there is no such file.

@@ -1,8 +1,7 @@
 #include "platform/sdk/ToolFolder.h"
 
-#include <QStandardPaths>
+#include "catalogue/UserFolders.h"
 
 QString toolFolder() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-           QLatin1String("/ArvelaGnss/CoordSystemManager");
+    return UserFolders::programData() + QLatin1String("/ArvelaGnss/CoordSystemManager");
 }

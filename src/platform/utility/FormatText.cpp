@@ -4,9 +4,23 @@
 
 #include <clocale>
 #include <cstdio>
+#include <string>
 
 // The one place that must name its system: ISO C offers only setlocale(), which changes the locale under every thread.
-#ifdef Q_OS_WIN
+#if defined(__MINGW32__)
+
+// Its C library writes "1e+020" and "1.#QNAN"; the compiler's own function has no argument for the locale.
+static int printInCLocale(char* buffer, size_t size, const char* format, va_list arguments) {
+    const int scope = _configthreadlocale(_ENABLE_PER_THREAD_LOCALE);
+    const std::string current = std::setlocale(LC_NUMERIC, nullptr);
+    std::setlocale(LC_NUMERIC, "C");
+    const int length = __mingw_vsnprintf(buffer, size, format, arguments);
+    std::setlocale(LC_NUMERIC, current.c_str());
+    _configthreadlocale(scope);
+    return length;
+}
+
+#elif defined(Q_OS_WIN)
 
 static int printInCLocale(char* buffer, size_t size, const char* format, va_list arguments) {
     static const _locale_t cLocale = _create_locale(LC_ALL, "C");

@@ -23,7 +23,7 @@ static QString helperPath() {
 }
 
 static QDir dataFolder(const QTemporaryDir& home) {
-    return QDir(home.filePath(".local/share/ArvelaGnss/CoordSystemManager"));
+    return QDir(home.filePath("Data/ArvelaGnss/CoordSystemManager"));
 }
 
 /// A start of the tool by a user whose home is `home`; killed at the end.
@@ -31,8 +31,7 @@ class Instance {
 public:
     explicit Instance(const QString& home) {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("HOME", home);
-        environment.remove("XDG_DATA_HOME");
+        environment.insert("COORDSYSTEM_MANAGER_HOME", home);
         environment.insert("LANG", "C");
         environment.insert("QT_QPA_PLATFORM", "offscreen");
         process.setProcessEnvironment(environment);
