@@ -504,6 +504,21 @@ def take_all(build, folder):
             desktop.close()
 
 
+def use_one_family_of_fonts(folder):
+    """What is drawn must not depend on which other fonts this machine has."""
+    path = os.path.join(folder, "fonts.conf")
+    with open(path, "w", encoding="utf-8") as file:
+        file.write(f"""<?xml version="1.0"?>
+<!DOCTYPE fontconfig SYSTEM "fonts.dtd">
+<fontconfig>
+  <dir>/usr/share/fonts/truetype/dejavu</dir>
+  <cachedir>{folder}</cachedir>
+  <include ignore_missing="yes">/etc/fonts/conf.d</include>
+</fontconfig>
+""")
+    os.environ["FONTCONFIG_FILE"] = path
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__.split("\n", maxsplit=1)[0])
     parser.add_argument("--check", action="store_true", help="compare the pictures with those of docs/images")
@@ -511,7 +526,9 @@ def main():
     arguments = parser.parse_args()
     folder = os.path.join(ROOT, "build", "pictures") if arguments.check else IMAGES
     os.makedirs(folder, exist_ok=True)
-    taken = take_all(os.path.abspath(arguments.build), folder)
+    with tempfile.TemporaryDirectory() as settings:
+        use_one_family_of_fonts(settings)
+        taken = take_all(os.path.abspath(arguments.build), folder)
     complaints = complaints_of_documents(taken)
     if arguments.check:
         complaints += complaints_of_pictures(folder, taken)
