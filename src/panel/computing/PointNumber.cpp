@@ -29,7 +29,7 @@ QString toText(std::string_view text) {
     const QString utf8 = QTextCodec::codecForName("UTF-8")->toUnicode(text.data(), int(text.size()), &state);
     return state.invalidChars == 0 && state.remainingChars == 0
                ? utf8
-               : olderEncoding()->toUnicode(text.data(), int(text.size()));
+               : olderText(QByteArray::fromRawData(text.data(), int(text.size())));
 }
 
 /// With the point as decimal mark, and commas where points grouped digits.

@@ -6,7 +6,8 @@
 #include <string_view>
 
 /// Numbers in texts of points, as NumberText and AngleText read them, but a plain one twenty times as fast: a list may
-/// hold millions. Texts are UTF-8 (or, where they are no UTF-8, Latin-1) without blanks around them.
+/// hold millions. Texts are UTF-8 (or, where they are no UTF-8, in the older encoding of the user's system) without
+/// blanks around them.
 namespace PointNumber {
 
 /// False for a text that is no number; `number` is untouched then. With `decimalComma`, the decimal point is a comma

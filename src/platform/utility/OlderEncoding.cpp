@@ -61,3 +61,8 @@ const QTextCodec* olderEncoding(const QLocale& user) {
     const QTextCodec* const own = codecOf(codePage(user));
     return own ? own : codecOf(western);
 }
+
+QString olderText(const QByteArray& bytes, const QLocale& user) {
+    const QString text = olderEncoding(user)->toUnicode(bytes);
+    return text.contains(QChar::ReplacementCharacter) ? QString::fromLatin1(bytes) : text;
+}
