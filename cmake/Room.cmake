@@ -3,6 +3,8 @@
 # OBJECTS: all of it goes into the program that names it, wherever on the link line; for a room that stands behind an
 # interface, which the rooms that call it do not name.
 
+include(cmake/PrecompiledHeaders.cmake)
+
 # On in the presets: a packager's newer compiler warns of what this one does not.
 option(VORN_WERROR "Treat warnings in the tool's own code as errors" OFF)
 
@@ -30,6 +32,7 @@ function(add_room name)
   endif()
   add_library(${name} ${type} ${sources})
   target_link_libraries(${name} PUBLIC vorn_options ${ROOM_PUBLIC} PRIVATE ${ROOM_PRIVATE})
+  use_precompiled_headers(${name} room <QtWidgets>)
 endfunction()
 
 # The test program of a room: tests/<folder>/*.cpp, run offscreen by CTest under the name <name>; with the tool's application
@@ -43,6 +46,7 @@ function(add_room_test name)
     set(main test_main_gui)
   endif()
   target_link_libraries(${name} PRIVATE ${main} ${ARGN})
+  use_precompiled_headers(${name} room_test <QtWidgets> <QtTest>)
   target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_CURRENT_SOURCE_DIR}")
   # Beside bin/, so that $(APP_DIR)/../etc and ../lib are the build tree's own.
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)

@@ -36,12 +36,14 @@ run() {
     echo "$name: $inputs inputs, $(find "$corpus" -type f | wc -l) kept, nothing found"
 }
 
-status=0
-for name in "$@"; do
-    if ! run "$name"; then
-        status=1
-        echo "$name: found something; the whole output is in $logs/fuzz-$name.log"
-        grep -E '^Broken|^SUMMARY|Test unit written|runtime error' "$logs/fuzz-$name.log" || tail -n 5 "$logs/fuzz-$name.log"
-    fi
-done
-exit "$status"
+# judge NAME: runs it, and says what came of it.
+judge() {
+    run "$1" && return
+    echo "$1: found something; the whole output is in $logs/fuzz-$1.log"
+    grep -E '^Broken|^SUMMARY|Test unit written|runtime error' "$logs/fuzz-$1.log" || tail -n 5 "$logs/fuzz-$1.log"
+    return 1
+}
+
+export root logs found seconds
+export -f run judge
+printf '%s\n' "$@" | xargs -P "$(nproc)" -n 1 bash -euo pipefail -c 'judge "$1"' judge

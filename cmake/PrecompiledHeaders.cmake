@@ -1,0 +1,30 @@
+# The headers that most sources read, compiled once for each kind of target: a third of the sanitizers' build is saved. A source
+# that lacks an include compiles all the same, so they are for builds beside the release build, which has none.
+option(VORN_PRECOMPILED_HEADERS "Compile faster, hiding includes that are missing" OFF)
+
+# use_precompiled_headers(<target> <kind> <headers>...)      targets of one kind are all libraries, or all programs
+function(use_precompiled_headers target kind)
+  if(NOT VORN_PRECOMPILED_HEADERS)
+    return()
+  endif()
+  # With one Qt module's macro more or less, the compiler would refuse them.
+  set(modules Qt5::Widgets)
+  if(TARGET Qt5::Test)
+    list(APPEND modules Qt5::Test)
+  endif()
+  if(NOT TARGET ${kind}_headers)
+    set(source ${CMAKE_BINARY_DIR}/precompiled.cpp)
+    file(CONFIGURE OUTPUT ${source} CONTENT "int main() {}\n")
+    get_target_property(type ${target} TYPE)
+    if(type STREQUAL EXECUTABLE)
+      add_executable(${kind}_headers ${source})
+    else()
+      add_library(${kind}_headers OBJECT ${source})
+    endif()
+    set_target_properties(${kind}_headers PROPERTIES AUTOMOC OFF RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+    target_link_libraries(${kind}_headers PRIVATE vorn_options ${modules})
+    target_precompile_headers(${kind}_headers PRIVATE ${ARGN})
+  endif()
+  target_link_libraries(${target} PRIVATE ${modules})
+  target_precompile_headers(${target} REUSE_FROM ${kind}_headers)
+endfunction()
