@@ -2408,6 +2408,11 @@ E %4 %6  N %5 %6</translation>
         <source>Systems found: %1.</source>
         <translation>Gefundene Systeme: %1.</translation>
     </message>
+    <message>
+        <source>Height</source>
+        <comment>what a system says of heights</comment>
+        <translation>Höhe</translation>
+    </message>
 </context>
 <context>
     <name>DlgCoordSysGroups</name>

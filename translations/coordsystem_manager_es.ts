@@ -2408,6 +2408,11 @@ E %4 %6  N %5 %6</translation>
         <source>Systems found: %1.</source>
         <translation>Sistemas encontrados: %1.</translation>
     </message>
+    <message>
+        <source>Height</source>
+        <comment>what a system says of heights</comment>
+        <translation>Altura</translation>
+    </message>
 </context>
 <context>
     <name>DlgCoordSysGroups</name>

@@ -363,7 +363,7 @@ in other directions off by up to %2&quot;</source>
     </message>
     <message>
         <source>Height</source>
-        <translation>高程</translation>
+        <translation>大地高</translation>
     </message>
     <message>
         <source>Left out of the figures.</source>
@@ -2392,6 +2392,11 @@ E %4 %6  N %5 %6</translation>
     <message>
         <source>Systems found: %1.</source>
         <translation>找到的系统：%1。</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <comment>what a system says of heights</comment>
+        <translation>高程</translation>
     </message>
 </context>
 <context>

@@ -32,7 +32,7 @@ HeightTab::HeightTab(ICoordSystem* coordSystem, CoordParamEditor& editor, bool r
 }
 
 QString HeightTab::title() const {
-    return PanelText::tr("Height");
+    return PanelText::tr("Height", "what a system says of heights");
 }
 
 void HeightTab::build() {
