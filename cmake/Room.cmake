@@ -16,9 +16,9 @@ else()
   target_compile_options(vorn_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion
                                                 $<$<BOOL:${VORN_WERROR}>:-Werror>)
   # What is tested is what is packaged, so every release build is hardened as a distribution's is.
-  target_compile_options(vorn_options INTERFACE
-    $<$<CONFIG:Release>:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -fstack-protector-strong>)
   if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+    target_compile_options(vorn_options INTERFACE
+      $<$<CONFIG:Release>:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -fstack-protector-strong>)
     target_link_options(vorn_options INTERFACE $<$<CONFIG:Release>:LINKER:-z,relro,-z,now>)
   endif()
 endif()

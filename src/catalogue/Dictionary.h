@@ -2,7 +2,9 @@
 
 #include "catalogue/IDictionary.h"
 
-#if defined(__GNUC__)
+#if defined(__MINGW32__) // where "printf" stands for the system's own, which does not print for these functions
+#define VORN_PRINTF_CHECK(formatIndex, firstArgument) __attribute__((format(gnu_printf, formatIndex, firstArgument)))
+#elif defined(__GNUC__)
 #define VORN_PRINTF_CHECK(formatIndex, firstArgument) __attribute__((format(printf, formatIndex, firstArgument)))
 #else
 #define VORN_PRINTF_CHECK(formatIndex, firstArgument)

@@ -64,7 +64,7 @@ private Q_SLOTS:
             {"commas.prj", projected("A,B,C")},
             {"hyphens.prj", projected("A-B-C")},
             {"umlaut.prj", projected("Österreich")},
-            {"nul.prj", projected("Nul") + QByteArray(1, '\0') + "PROJCS[garbage"},
+            {"up to nul.prj", projected("Nul") + QByteArray(1, '\0') + "PROJCS[garbage"},
             {"nul first.prj", QByteArray(1, '\0') + projected("Hidden")},
             {"geographic.prj", geographic},
             {"rubbish.txt", "PROJCS[\"x\",\x01\x02\xff"},

@@ -4,9 +4,13 @@
 #include <QFileInfo>
 
 #ifdef Q_OS_WIN
+#include "platform/utility/LongPath.h"
+
 #include <qt_windows.h>
 
 #include <io.h>
+
+#include <string>
 #else
 #include <fcntl.h>
 #include <unistd.h>
@@ -28,8 +32,34 @@ bool fails(const char* call, const QString& path) {
 // The calls that Qt lacks, or that do something else there: its rename() replaces nothing.
 #ifdef Q_OS_WIN
 
-const wchar_t* wide(const QString& path) {
-    return reinterpret_cast<const wchar_t*>(path.utf16());
+bool moveOver(const std::wstring& from, const std::wstring& to) {
+    constexpr int attempts = 6; // an indexer or a virus scanner holds a new file for some milliseconds
+    for (int i = 0;; ++i) {
+        if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            return true;
+        const DWORD error = GetLastError();
+        if (i == attempts || (error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED))
+            return false;
+        Sleep(10);
+        SetLastError(error);
+    }
+}
+
+/// Lets `change` do what the file's being read-only forbids here; elsewhere the folder's rights decide. Where it fails,
+/// the file stays read-only.
+template <class Change> bool unlocked(const std::wstring& path, Change change) {
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    const bool isLocked = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0 &&
+                          (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+    if (!isLocked)
+        return change();
+    SetFileAttributesW(path.c_str(), attributes & ~DWORD(FILE_ATTRIBUTE_READONLY));
+    if (change())
+        return true;
+    const DWORD error = GetLastError();
+    SetFileAttributesW(path.c_str(), attributes);
+    SetLastError(error);
+    return false;
 }
 
 bool syncHandle(int handle) {
@@ -41,12 +71,15 @@ void syncNames(const QString&) {
 }
 
 bool replace(const QString& from, const QString& to) {
-    return MoveFileExW(wide(QDir::toNativeSeparators(from)), wide(QDir::toNativeSeparators(to)),
-                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+    return unlocked(longPath(to), [&] { return moveOver(longPath(from), longPath(to)); });
+}
+
+bool removeFile(const QString& path) {
+    return unlocked(longPath(path), [&] { return DeleteFileW(longPath(path).c_str()) != 0; });
 }
 
 bool makeLink(const QString& from, const QString& to) {
-    return CreateHardLinkW(wide(QDir::toNativeSeparators(to)), wide(QDir::toNativeSeparators(from)), nullptr) != 0;
+    return CreateHardLinkW(longPath(to).c_str(), longPath(from).c_str(), nullptr) != 0;
 }
 
 #else
@@ -65,6 +98,10 @@ void syncNames(const QString& path) {
 
 bool replace(const QString& from, const QString& to) {
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+}
+
+bool removeFile(const QString& path) {
+    return QFile::remove(path);
 }
 
 bool makeLink(const QString& from, const QString& to) {
@@ -119,7 +156,7 @@ bool DiskCalls::link(const QString& from, const QString& to) {
 }
 
 bool DiskCalls::remove(const QString& path) {
-    return !fails("remove", path) && QFile::remove(path);
+    return !fails("remove", path) && removeFile(path);
 }
 
 bool DiskCalls::makeFolder(const QString& path) {

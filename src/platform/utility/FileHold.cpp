@@ -2,7 +2,11 @@
 
 #include <QFileInfo>
 
-#ifndef Q_OS_WIN
+#ifdef Q_OS_WIN
+#include "platform/utility/LongPath.h"
+
+#include <qt_windows.h>
+#else
 #include <sys/file.h>
 
 #include <cerrno>
@@ -10,13 +14,17 @@
 
 #ifdef Q_OS_WIN
 
-// An open file can't be removed there, so whoever tries to need not ask.
+// An open file is held there: nobody gets it for himself alone.
 bool FileHold::take(QFile&) {
     return true;
 }
 
-FileHold::State FileHold::of(const QString&) {
-    return State::Unknown;
+FileHold::State FileHold::of(const QString& path) {
+    const HANDLE file = CreateFileW(longPath(path).c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return GetLastError() == ERROR_SHARING_VIOLATION ? State::Held : State::Unknown;
+    CloseHandle(file);
+    return State::Free;
 }
 
 #else

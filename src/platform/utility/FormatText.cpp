@@ -4,20 +4,40 @@
 
 #include <clocale>
 #include <cstdio>
+#include <cstring>
 #include <string>
 
 // The one place that must name its system: ISO C offers only setlocale(), which changes the locale under every thread.
 #if defined(__MINGW32__)
 
-// Its C library writes "1e+020" and "1.#QNAN"; the compiler's own function has no argument for the locale.
+namespace {
+
+/// The C locale for the numbers of this thread, while it lives.
+class CLocale {
+public:
+    CLocale() : mode(_configthreadlocale(_ENABLE_PER_THREAD_LOCALE)), before(std::setlocale(LC_NUMERIC, nullptr)) {
+        std::setlocale(LC_NUMERIC, "C");
+    }
+    ~CLocale() {
+        std::setlocale(LC_NUMERIC, before.c_str());
+        _configthreadlocale(mode);
+    }
+    CLocale(const CLocale&) = delete;
+    CLocale& operator=(const CLocale&) = delete;
+
+private:
+    int mode;
+    std::string before;
+};
+
+} // namespace
+
+// Microsoft's own writes 1e+020 and 1.#QNAN, and knows no long double.
 static int printInCLocale(char* buffer, size_t size, const char* format, va_list arguments) {
-    const int scope = _configthreadlocale(_ENABLE_PER_THREAD_LOCALE);
-    const std::string current = std::setlocale(LC_NUMERIC, nullptr);
-    std::setlocale(LC_NUMERIC, "C");
-    const int length = __mingw_vsnprintf(buffer, size, format, arguments);
-    std::setlocale(LC_NUMERIC, current.c_str());
-    _configthreadlocale(scope);
-    return length;
+    if (std::strcmp(std::setlocale(LC_NUMERIC, nullptr), "C") == 0)
+        return __mingw_vsnprintf(buffer, size, format, arguments);
+    const CLocale numbers;
+    return __mingw_vsnprintf(buffer, size, format, arguments);
 }
 
 #elif defined(Q_OS_WIN)

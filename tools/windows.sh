@@ -1,0 +1,62 @@
+#!/usr/bin/env bash
+# Makes the Windows program, cross-built: a ZIP to be unpacked anywhere and an installer, in build/windows/new.
+#   tools/windows.sh [--check]      --check: then runs every test program under Wine (tests/windows)
+source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+source "$root/packaging/windows/libraries.sh"
+
+check=${1:-}
+build=$root/build/windows
+new=$build/new
+version=$(sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' "$root/CMakeLists.txt")
+
+# The program and all that it needs, as it lies on a user's disk.
+gather() {
+    rm -rf "$new"
+    mkdir -p "$new"
+    cmake --install "$build" --strip --prefix "$new/$name"
+    cmake --install "$build" --component geoid_models --prefix "$new/$name"
+    local licences=$new/$name/share/licences package
+    mkdir -p "$licences"
+    cp "$root/packaging/debian/copyright" "$licences/coordinate-system-manager.txt"
+    # Debian's libraries and the cross-built ones have the same sources.
+    for package in libqt5core5a libqwt-qt5-6 libgdal32 libproj25 libsqlite3-0 libpugixml1v5 libeigen3-dev libxxhash-dev \
+        mingw-w64-common g++-mingw-w64-x86-64-posix; do
+        cp "/usr/share/doc/$package/copyright" "$licences/$package.txt"
+    done
+}
+
+# What the uninstaller takes away: each file, then each folder that is empty then.
+list_files() {
+    cd "$new/$name"
+    find . -type f -printf '%P\n' | LC_ALL=C sort | sed 's|/|\\|g; s|.*|Delete "$INSTDIR\\&"|'
+    find . -mindepth 1 -depth -type d -printf '%P\n' | sed 's|/|\\|g; s|.*|RMDir "$INSTDIR\\&"|'
+}
+
+pack() {
+    (cd "$new" && cmake -E tar cf "$name-win64.zip" --format=zip "$name")
+    (list_files) >"$build/files.nsh"
+    makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DFOLDER="$new/$name" -DFILES="$build/files.nsh" \
+        -DICON="$root/src/platform/desktop/icons/coordsystem_manager.ico" -DOUTPUT="$new/$name-setup.exe" \
+        "$root/packaging/windows/installer.nsi"
+}
+
+install_packages build windows
+echo "Libraries for Windows, built once (about 40 minutes on two cores), in $cache"
+build_libraries
+# The shipped data are the same bytes on every system; Debian's generator makes them sooner than Wine would.
+build release shipped_data
+prefixes=
+for library in "${!at[@]}"; do
+    prefixes+="${at[$library]};"
+done
+options=(-DCMAKE_PREFIX_PATH="$prefixes" -DVORN_SHIPPED_DATA="$release_data"
+    -DVORN_QT_TRANSLATIONS=/usr/share/qt5/translations)
+step "Configuring (windows)" configure-windows.log cmake --preset windows "${options[@]}"
+targets=(coordsystem_manager)
+[ "$check" != --check ] || targets=(all)
+build windows "${targets[@]}"
+name=coordinate-system-manager-$version
+step "Gathering what the program needs" windows-gather.log gather
+step "Packing" windows-pack.log pack
+du -h "$new"/*.zip "$new"/*.exe
+[ "$check" != --check ] || exec "$root/tests/windows/run_tests.py"
