@@ -3,8 +3,9 @@
 #include <QtGlobal>
 
 #if defined(Q_OS_WIN)
+#include <qt_windows.h>
+
 #include <psapi.h>
-#include <windows.h>
 #elif defined(__GLIBC__)
 #include <malloc.h>
 

@@ -2,6 +2,8 @@
 
 #include "catalogue/Angle.h"
 
+#include <QtMath>
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
