@@ -50,10 +50,14 @@ install_packages() {
         as_root=(sudo)
     fi
     as_root+=(env DEBIAN_FRONTEND=noninteractive apt-get -q -o DPkg::Lock::Timeout=300)
+    local lock
+    exec {lock}>"$logs/install.lock"
+    flock "$lock" # apt would not wait for another script's update
     step "Reading the package lists" apt-update.log "${as_root[@]}" update
     # shellcheck disable=SC2086
     step "Installing $(echo $missing | wc -w) packages" apt-install.log \
         "${as_root[@]}" install -y --no-install-recommends $missing
+    exec {lock}>&-
 }
 
 # build PRESET [TARGETS...]: configures build/PRESET the first time and builds it.
