@@ -34,8 +34,7 @@ void KillDriver::check(bool holds, const QString& complaint) {
 int KillDriver::runVictim(Victim::Work work, int lastCall) {
     QProcess victim;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("HOME"), folder.path());
-    environment.remove(QStringLiteral("XDG_DATA_HOME"));
+    environment.insert(QStringLiteral("COORDSYSTEM_MANAGER_HOME"), folder.path());
     victim.setProcessEnvironment(environment);
     victim.start(QCoreApplication::applicationFilePath(),
                  {QStringLiteral("victim"), QString::number(int(work)), folder.path(), QString::number(lastCall)});
@@ -66,8 +65,7 @@ void KillDriver::checkStart() {
     timer.start();
     QProcess next;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("HOME"), folder.path());
-    environment.remove(QStringLiteral("XDG_DATA_HOME"));
+    environment.insert(QStringLiteral("COORDSYSTEM_MANAGER_HOME"), folder.path());
     next.setProcessEnvironment(environment);
     next.start(
         QCoreApplication::applicationFilePath(),

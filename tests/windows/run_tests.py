@@ -57,8 +57,9 @@ def run(test):
     totals = re.findall(r"^Totals: (\d+) passed, (\d+) failed, (\d+) skipped", text, re.MULTILINE)
     failed = sorted({f"{name} {test}" for test in re.findall(r"^(?:FAIL!|XPASS) *: (.*?\))", text, re.MULTILINE)})
     passed = sum(int(total[0]) for total in totals) if totals else int(code == 0)
-    if code != 0 and not failed:
-        failed = [f"{name} ended with {code}"]
+    crashed = text.count("Start testing of") != len(totals)
+    if crashed or (code != 0 and not failed):
+        failed.append(f"{name} ended with {code}")
     skipped = sum(int(total[2]) for total in totals)
     print(f"{name}: {passed} passed, {len(failed)} failed, {skipped} skipped, {time.monotonic() - begun:.0f} s", flush=True)
     return passed, failed
