@@ -5,6 +5,8 @@
 
 #include <QtWidgets>
 
+#include <qwt_scale_widget.h>
+
 /// What every page keeps in every language. Each function gives what breaks its rule.
 namespace LanguageRules {
 
@@ -105,6 +107,11 @@ inline QStringList cutOff(const QWidget& root) {
                     report(header, header->model()->headerData(i, header->orientation()).toString(),
                            header->sectionSizeHint(i), header->sectionSize(i));
             }
+        } else if (const auto* axis = qobject_cast<QwtScaleWidget*>(widget)) {
+            const int needed = int(axis->title().textSize(axis->font()).width());
+            const int room = qMax(axis->width(), axis->height());
+            if (needed > room)
+                report(axis, axis->title().text(), needed, room);
         } else if (widget->inherits("MessageLine")) {
             if (isWider(widget, widget->accessibleName(), widget->width()))
                 report(widget, widget->accessibleName(),

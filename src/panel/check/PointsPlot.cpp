@@ -223,6 +223,9 @@ void PointsPlot::finish() {
         const QString title = axis == xBottom ? PanelText::tr("Easting, %1") : PanelText::tr("Northing, %1");
         QwtText small(title.arg(LengthUnit::symbol()));
         small.setFont(font());
+        // Beside a small picture the unit alone has room.
+        if (small.textSize().width() > (axis == xBottom ? size.width() : size.height()))
+            small.setText(LengthUnit::symbol());
         setAxisTitle(axis, small);
     }
     replot();
