@@ -29,7 +29,7 @@ from screen import whole_picture, window_picture  # noqa: E402
 IMAGES = os.path.join(ROOT, "docs", "images")
 DRAWN = {"rooms.svg"}  # by tools/draw_rooms.py
 FEW_COLOURS = ("-strip", "+dither", "-colors", "255")
-LARGEST_DIFFERENCE = 0.03  # of a picture's area; another tab is more, a date, a folder's name or a scrolled table less
+LARGEST_DIFFERENCE = 0.01  # of a picture's area; another tab is more, a date, a folder's name or a scrolled table less
 
 COUNTRY = "United Kingdom"
 GRID = "OSGB36 / British National Grid"

@@ -4,7 +4,6 @@
 #include "support/Catalogue.h"
 
 #include <QtWidgets>
-
 #include <qwt_scale_widget.h>
 
 /// What every page keeps in every language. Each function gives what breaks its rule.
