@@ -49,7 +49,7 @@ if [ "$check" = --quick ]; then
         exit 0
     fi
 fi
-install_packages build windows
+install_packages build windows ${check:+display test}
 echo "Libraries for Windows, built once (about 40 minutes on two cores), in $cache"
 build_libraries
 # The shipped data are the same bytes on every system; Debian's generator makes them sooner than Wine would.
@@ -58,9 +58,8 @@ prefixes=
 for library in "${!at[@]}"; do
     prefixes+="${at[$library]};"
 done
-options=(-DCMAKE_PREFIX_PATH="$prefixes" -DVORN_SHIPPED_DATA="$release_data"
-    -DVORN_QT_TRANSLATIONS=/usr/share/qt5/translations)
-step "Configuring (windows)" configure-windows.log cmake --preset windows "${options[@]}"
+step "Configuring (windows)" configure-windows.log \
+    cmake --preset windows -DCMAKE_PREFIX_PATH="$prefixes" -DVORN_SHIPPED_DATA="$release_data"
 targets=(coordsystem_manager)
 quick_tests=(test_utility test_sdk test_desktop)
 case $check in
