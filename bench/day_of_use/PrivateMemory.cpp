@@ -5,6 +5,7 @@
 #if defined(Q_OS_WIN)
 #include <qt_windows.h>
 
+#define PSAPI_VERSION 2 // in a library that is linked anyway
 #include <psapi.h>
 #elif defined(__GLIBC__)
 #include <malloc.h>

@@ -1,6 +1,6 @@
 ; The installer, made by tools/windows.sh, which defines VERSION, FOLDER (what is installed), FILES (the list of it) and OUTPUT.
 ; For the user alone, without an administrator's rights: so the folder of the geoid models is his to write to.
-Unicode true
+Target amd64-unicode ; as the program: on a 32-bit Windows neither starts
 SetCompressor /SOLID lzma
 RequestExecutionLevel user
 

@@ -90,12 +90,17 @@ class Wine:
         self.drive = os.path.join(prefix, "drive_c")
         self.environment = {name: value for name, value in os.environ.items()
                             if not name.startswith(("LC_", "LANGUAGE", "QT_", "WINE"))}
-        self.environment.update(WINEPREFIX=prefix, WINEDEBUG="-all", LANG="C.UTF-8",
+        home = os.path.join(prefix, "home")
+        for name in ("Desktop", "Documents"):  # which are the user's in Wine as well
+            os.makedirs(os.path.join(home, name))
+        self.environment.update(HOME=home, WINEPREFIX=prefix, WINEDEBUG="-all", LANG="C.UTF-8",
                                 WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe=")
         self.run("wineboot", "--init")
         fonts = os.path.join(self.drive, "windows", "Fonts")
         for folder in ("dejavu", "wqy"):
             shutil.copytree(os.path.join("/usr/share/fonts/truetype", folder), fonts, dirs_exist_ok=True)
+        for font in ("MS Shell Dlg", "MS Shell Dlg 2", "Segoe UI", "Tahoma"):  # else Wine takes the first that it finds
+            self.run("reg", "add", r"HKCU\Software\Wine\Fonts\Replacements", "/v", font, "/d", "DejaVu Sans", "/f")
         self.wait_for_all()
 
     def path(self, windows):
@@ -206,8 +211,11 @@ class Story:
 
     def take_from_registry(self):
         """The registry's dialog: British National Grid in the first system's place"""
+        self.click_row(1)
+        press("Right")  # the tree is folded after an import
         self.click_row(2)
-        self.turn_to_last_tab()
+        press("Tab")
+        press("ctrl+shift+Tab")  # to the last tab
         self.window.click(-60, -94)
         dialog = Window("From registry")
         type_text("27700")
@@ -222,6 +230,7 @@ class Story:
     def draw_map(self):
         """The map of the distortion"""
         press("ctrl+shift+Tab")
+        time.sleep(2)
         self.picture(self.window, "check")
 
     def uninstall(self):
@@ -259,7 +268,7 @@ class Story:
         assert code == 0, f"the tool ended with {code}"
 
     def click_row(self, row):
-        self.window.click(120, 40 + 15 * row)
+        self.window.click(120, 21 + 15 * row)
 
     def tab_to(self, figure):
         """Goes from field to field until one shows the figure, and selects it."""
@@ -285,9 +294,6 @@ class Story:
 
         await_true(is_saved, f"{text!r} in the catalogue", PATIENCE)
         xml.parse(self.catalogue)
-
-    def turn_to_last_tab(self):
-        pass
 
     def picture(self, window, name):
         window_picture(window.id, os.path.join(self.pictures, f"{name}.png"))
