@@ -30,7 +30,7 @@ esac
     flock 9 # several programs may find that there is none yet
     if [ ! -d "$build/fonts" ]; then
         mkdir -p "$build/fonts"
-        cp /usr/share/fonts/truetype/dejavu/*.ttf /usr/share/fonts/truetype/wqy/*.ttc "$build/fonts"
+        cp /usr/share/fonts/truetype/dejavu/DejaVuSans*.ttf /usr/share/fonts/truetype/wqy/*.ttc "$build/fonts"
     fi
     if [ ! -f "$WINEPREFIX/system.reg" ]; then
         DISPLAY='' LC_ALL=C /usr/lib/wine/wine64 wineboot --init

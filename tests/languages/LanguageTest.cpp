@@ -17,6 +17,10 @@ private Q_SLOTS:
         QApplication::setStyle("fusion");
     }
 
+    void textsOfQt() {
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel") == "Cancel", language == "en");
+    }
+
     void pages() {
         const Catalogue catalogue(QString(CATALOGUES "/coordsystem_manager_%1.ts").arg(language));
         const LanguageRules::Untranslated untranslated(language == "en" ? Catalogue() : catalogue);

@@ -30,6 +30,10 @@ AUSTRIA = ('PROJCS["MGI / Austria M31",GEOGCS["MGI",DATUM["Militar-Geographische
            'PROJECTION["Transverse_Mercator"],PARAMETER["latitude_of_origin",0],PARAMETER["central_meridian",13.3333333333333],'
            'PARAMETER["scale_factor",1],PARAMETER["false_easting",450000],PARAMETER["false_northing",-5000000],UNIT["metre",1]]')
 
+# What Windows has, and Wine would replace by the first that it finds.
+FONTS = {"MS Shell Dlg": "DejaVu Sans", "MS Shell Dlg 2": "DejaVu Sans", "Segoe UI": "DejaVu Sans", "Tahoma": "DejaVu Sans",
+         "Courier New": "DejaVu Sans Mono"}
+
 
 def hands(*arguments):
     subprocess.run(["xdotool", *map(str, arguments)], check=True, stdout=subprocess.DEVNULL)
@@ -99,8 +103,8 @@ class Wine:
         fonts = os.path.join(self.drive, "windows", "Fonts")
         for folder in ("dejavu", "wqy"):
             shutil.copytree(os.path.join("/usr/share/fonts/truetype", folder), fonts, dirs_exist_ok=True)
-        for font in ("MS Shell Dlg", "MS Shell Dlg 2", "Segoe UI", "Tahoma"):  # else Wine takes the first that it finds
-            self.run("reg", "add", r"HKCU\Software\Wine\Fonts\Replacements", "/v", font, "/d", "DejaVu Sans", "/f")
+        for font, other in FONTS.items():
+            self.run("reg", "add", r"HKCU\Software\Wine\Fonts\Replacements", "/v", font, "/d", other, "/f")
         self.wait_for_all()
 
     def path(self, windows):
@@ -146,6 +150,7 @@ class Story:
         self.documents = wine.path(wine.asked("USERPROFILE") + r"\Documents")
         self.catalogue = os.path.join(self.documents, "ArvelaGnss", "Data", "CoordinateSystem_custom.vcs")
         self.start_menu = wine.path(wine.asked("APPDATA") + r"\Microsoft\Windows\Start Menu\Programs")
+        self.installed = {}
         self.process = None
         self.window = None
 
@@ -167,6 +172,7 @@ class Story:
         assert os.path.exists(self.file("bin", "coordsystem_manager.exe")), os.listdir(self.wine.drive)
         assert os.path.exists(self.shortcut()), "no entry in the start menu"
         assert self.wine.registered(UNINSTALL_KEY), "nothing to uninstall it by"
+        self.installed = self.installed_files()
 
     def edit(self):
         """Start, click, edit, save, close"""
@@ -230,20 +236,25 @@ class Story:
     def draw_map(self):
         """The map of the distortion"""
         press("ctrl+shift+Tab")
-        time.sleep(2)
         self.picture(self.window, "check")
+        self.window.click(379, 98)
+        time.sleep(2)
+        self.picture(self.window, "map")
+        before, after = (int(ask("identify", "-format", "%k", self.path_of(name))) for name in ("check", "map"))
+        assert after > before + 100, f"{after} colours, {before} without a map"
 
     def uninstall(self):
         """The uninstaller: a geoid model and the catalogue stay"""
         self.leave()
+        assert self.installed_files() == self.installed, "the program has written into its own folder"
         model = self.file("etc", "Vornhalde", "data", "GeoidData", self.MODEL)
         with open(model, "w", encoding="utf-8") as file:
             file.write("a model")
         code = self.wine.run(PLACE + r"\uninstall.exe", "/S")
         assert code == 0, f"the uninstaller ended with {code}"
         self.wine.wait_for_all()
-        left = [os.path.join(folder, name) for folder, _, names in os.walk(self.wine.path(PLACE)) for name in names]
-        assert left == [model], left
+        left = self.installed_files()
+        assert set(left) == {model}, left
         assert os.path.exists(self.catalogue)
         assert not os.path.exists(self.shortcut()) and not self.wine.registered(UNINSTALL_KEY)
 
@@ -251,6 +262,11 @@ class Story:
 
     def file(self, *names):
         return os.path.join(self.wine.path(PLACE), *names)
+
+    def installed_files(self):
+        """Each with the time of its last change."""
+        return {path: os.path.getmtime(path) for folder, _, names in os.walk(self.wine.path(PLACE))
+                for path in (os.path.join(folder, name) for name in names)}
 
     def shortcut(self):
         return os.path.join(self.start_menu, TITLE + ".lnk")
@@ -295,8 +311,11 @@ class Story:
         await_true(is_saved, f"{text!r} in the catalogue", PATIENCE)
         xml.parse(self.catalogue)
 
+    def path_of(self, picture):
+        return os.path.join(self.pictures, f"{picture}.png")
+
     def picture(self, window, name):
-        window_picture(window.id, os.path.join(self.pictures, f"{name}.png"))
+        window_picture(window.id, self.path_of(name))
 
 
 def main(pictures):

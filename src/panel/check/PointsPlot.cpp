@@ -224,7 +224,7 @@ void PointsPlot::finish() {
         QwtText small(title.arg(LengthUnit::symbol()));
         small.setFont(font());
         // Beside a small picture the unit alone has room.
-        if (small.textSize().width() > (axis == xBottom ? size.width() : size.height()))
+        if (small.textSize().width() + fontMetrics().height() > (axis == xBottom ? size.width() : size.height()))
             small.setText(LengthUnit::symbol());
         setAxisTitle(axis, small);
     }

@@ -8,7 +8,9 @@
 #include <QTest>
 #include <qwt_scale_div.h>
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace {
 
@@ -51,11 +53,20 @@ public:
         image = plot.canvas()->grab().toImage();
     }
 
-    /// That part of the way from the western end to the eastern one, away from labels and the frame.
+    /// That part of the way from the western end to the eastern one, away from labels and the frame; of the seven
+    /// pixels around it the one in the middle of lightness, as a contour line may lead through there.
     QColor colour(double part) const {
         const QRect inside = plot.canvas()->contentsRect();
         const QPointF place(inside.left() + part * (inside.width() - 1), inside.top() + 5);
-        return image.pixelColor((place * image.devicePixelRatio()).toPoint());
+        std::vector<QColor> around;
+        for (int offset = -3; offset <= 3; ++offset) {
+            const QPointF beside = place + QPointF(offset, 0.0);
+            if (inside.contains(beside.toPoint()))
+                around.push_back(image.pixelColor((beside * image.devicePixelRatio()).toPoint()));
+        }
+        std::sort(around.begin(), around.end(),
+                  [](const QColor& one, const QColor& other) { return one.lightness() < other.lightness(); });
+        return around[around.size() / 2];
     }
 
     AreaPlot plot{QString()};

@@ -68,6 +68,8 @@ private Q_SLOTS:
     /// Qt's own texts follow the tool's, whose catalogues are fewer.
     void language_data() { textRows("languages.txt"); }
     void language() {
+        if (QSysInfo::kernelType() == "winnt")
+            QSKIP("a user's languages are in no variable here");
         const auto row = textRow<4>();
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.remove("LC_ALL");
