@@ -7,41 +7,6 @@ source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 source "$root/packaging/windows/libraries.sh"
 
 check=${1:-}
-build=$root/build/windows
-new=$build/new
-version=$(sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' "$root/CMakeLists.txt")
-
-# The program and all that it needs, as it lies on a user's disk.
-gather() {
-    rm -rf "$new"
-    mkdir -p "$new"
-    cmake --install "$build" --strip --prefix "$new/$name"
-    cmake --install "$build" --component geoid_models --prefix "$new/$name"
-    local licences=$new/$name/share/licences package
-    mkdir -p "$licences"
-    cp "$root/packaging/debian/copyright" "$licences/coordinate-system-manager.txt"
-    # Debian's libraries and the cross-built ones have the same sources.
-    for package in libqt5core5a libqwt-qt5-6 libgdal32 libproj25 libsqlite3-0 libpugixml1v5 libeigen3-dev libxxhash-dev \
-        mingw-w64-common g++-mingw-w64-x86-64-posix; do
-        cp "/usr/share/doc/$package/copyright" "$licences/$package.txt"
-    done
-}
-
-# What the uninstaller takes away: each file, then each folder that is empty then.
-list_files() {
-    cd "$new/$name"
-    find . -type f -printf '%P\n' | LC_ALL=C sort | sed 's|/|\\|g; s|.*|Delete "$INSTDIR\\&"|'
-    find . -mindepth 1 -depth -type d -printf '%P\n' | sed 's|/|\\|g; s|.*|RMDir "$INSTDIR\\&"|'
-}
-
-pack() {
-    (cd "$new" && cmake -E tar cf "$name-win64.zip" --format=zip "$name")
-    (list_files) >"$build/files.nsh"
-    makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DFOLDER="$new/$name" -DFILES="$build/files.nsh" \
-        -DICON="$root/src/platform/desktop/icons/coordsystem_manager.ico" -DOUTPUT="$new/$name-setup.exe" \
-        "$root/packaging/windows/installer.nsi"
-}
-
 if [ "$check" = --quick ]; then
     missing_libraries=listed build_libraries
     if [ -n "$missing" ]; then
@@ -58,6 +23,8 @@ prefixes=
 for library in "${!at[@]}"; do
     prefixes+="${at[$library]};"
 done
+# CMake would go on with the libraries that it found before.
+grep -qs "^CMAKE_PREFIX_PATH:.*=$prefixes\$" "$root/build/windows/CMakeCache.txt" || rm -f "$root/build/windows/CMakeCache.txt"
 step "Configuring (windows)" configure-windows.log \
     cmake --preset windows -DCMAKE_PREFIX_PATH="$prefixes" -DVORN_SHIPPED_DATA="$release_data"
 targets=(coordsystem_manager)
@@ -67,10 +34,8 @@ case $check in
 --quick) targets+=("${quick_tests[@]}") ;;
 esac
 build windows "${targets[@]}"
-name=coordinate-system-manager-$version
-step "Gathering what the program needs" windows-gather.log gather
-step "Packing" windows-pack.log pack
-du -h "$new"/*.zip "$new"/*.exe
+step "Packing" windows-pack.log "$root/packaging/windows/pack.sh" "$cache"
+du -h "$root"/build/windows/new/*.{zip,exe}
 case $check in
 --check)
     "$root/tests/windows/run_tests.py"

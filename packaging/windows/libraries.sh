@@ -47,11 +47,14 @@ build_sqlite() {
     cp source/sqlite3.h "$1/include"
 }
 
+# Where a library would look for its data and plugins is a folder that can't be made on Windows, rather than one that a
+# stranger could make; nor do the names of its sources tell where it was built.
 cmake_library() {
     cmake -S source -B build -G Ninja -DCMAKE_TOOLCHAIN_FILE="$toolchain" -DCMAKE_BUILD_TYPE=Release \
-        -DCMAKE_INSTALL_PREFIX="$1" -DBUILD_SHARED_LIBS=OFF "${@:2}"
+        -DCMAKE_C_FLAGS="-ffile-prefix-map=$PWD/=" -DCMAKE_CXX_FLAGS="-ffile-prefix-map=$PWD/=" \
+        -DCMAKE_INSTALL_PREFIX=/nul -DBUILD_SHARED_LIBS=OFF "${@:2}"
     cmake --build build -j "$(nproc)"
-    cmake --install build
+    cmake --install build --prefix "$1"
 }
 
 build_proj() {

@@ -130,7 +130,8 @@ class Wine:
         return said.decode().strip()
 
     def end(self):
-        subprocess.run(["/usr/lib/wine/wineserver64", "--kill"], env=self.environment, check=False)
+        subprocess.run(["/usr/lib/wine/wineserver64", "--kill"], env=self.environment, stderr=subprocess.DEVNULL,
+                       check=False)
         self.wait_for_all()
 
     def tool(self):
