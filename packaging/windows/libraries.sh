@@ -54,7 +54,9 @@ cmake_library() {
         -DCMAKE_C_FLAGS="-ffile-prefix-map=$PWD/=" -DCMAKE_CXX_FLAGS="-ffile-prefix-map=$PWD/=" \
         -DCMAKE_INSTALL_PREFIX=/nul -DBUILD_SHARED_LIBS=OFF "${@:2}"
     cmake --build build -j "$(nproc)"
-    cmake --install build --prefix "$1"
+    DESTDIR=$PWD/installed cmake --install build # PROJ's data would go to the prefix itself, whatever --prefix says
+    mkdir -p "$1"
+    cp -r installed/nul/. "$1"
 }
 
 build_proj() {
