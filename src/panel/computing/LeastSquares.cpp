@@ -25,7 +25,8 @@ LeastSquares LeastSquares::solve(const Eigen::MatrixXd& design, const Eigen::Vec
         return result;
     const Eigen::HouseholderQR<Eigen::MatrixXd> qr(design * lengths.cwiseInverse().asDiagonal());
     const Eigen::MatrixXd r = qr.matrixQR().topRows(count).triangularView<Eigen::Upper>();
-    const Eigen::JacobiSVD<Eigen::MatrixXd> singular(r, Eigen::ComputeFullU | Eigen::ComputeFullV);
+    Eigen::JacobiSVD<Eigen::MatrixXd, Eigen::NoQRPreconditioner> singular; // for a square matrix
+    singular.compute(r, Eigen::ComputeFullU | Eigen::ComputeFullV);
     const Eigen::VectorXd& sizes = singular.singularValues();
     const double condition = sizes(count - 1) / sizes(0);
     // Below this the values would be the rounding of the observations.
