@@ -166,7 +166,8 @@ void process_resolve_path(char* buffer, int size, const char* format, ...) {
     va_list values, again;
     va_start(values, format);
     va_copy(again, values);
-    resolvedPaths << QString(format) + '|' + QString::fromLocal8Bit(va_arg(again, const char*));
+    const bool hasValue = resolved.contains("%s");
+    resolvedPaths << QString(format) + '|' + QString::fromLocal8Bit(hasValue ? va_arg(again, const char*) : "");
     va_end(again);
     const int length = std::vsnprintf(buffer, static_cast<size_t>(size), resolved.constData(), values);
     va_end(values);
